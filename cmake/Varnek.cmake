@@ -1,0 +1,28 @@
+# Settings and helper functions that every folder shares.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+# Program, driver and data-file tool lie side by side in one folder that can be moved as a whole.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+
+add_compile_options(-Wall -Wextra -Wpedantic -Werror)
+add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
+
+if(VARNEK_DENETIM)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+# varnek_kitaplik(name SOURCES ... [LINK ...]): the static library of one folder. Its include path is that folder
+# alone, so that a file can include only what its folder is linked with.
+function(varnek_kitaplik ad)
+    cmake_parse_arguments(A "" "" "SOURCES;LINK" ${ARGN})
+    add_library(${ad} STATIC ${A_SOURCES})
+    target_include_directories(${ad} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_link_libraries(${ad} PUBLIC ${A_LINK})
+endfunction()

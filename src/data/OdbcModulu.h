@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+
+// The program's only way to its data: one environment, one connection and one statement handle, and values that
+// travel as text. All calls come from the user-interface thread.
+//
+// Reading a query:
+//     SQLMetni = Deyimler::...;
+//     if (SorguÇalıştır()) {
+//         DeyimKoruması koruma;                       // drops the statement on every path
+//         while (SatırGetir()) { ... SütunOku(1) ... }
+//     }
+// Running INSERT, UPDATE, DELETE:
+//     SQLMetni = ...; bool tamam = SorguÇalıştır(); DeyimiBırak();
+
+inline QString SQLMetni;                  // text of the next statement
+inline std::int16_t SonDönüşKodu = 0;     // result of the last ODBC call; everything but 0 is failure or end
+inline std::int32_t YüklenenKayıt = 0;    // rows that the running loader has read so far
+
+// The driver, and "DSN=" + the product's name once ODBCBağlan has run.
+QString SürücüAdı();
+QString VeriKaynağıTanımı();
+
+// Registers the user data source and connects to the data file in UygulamaYolu. On failure the message boxes have been
+// shown, everything taken is freed, and the result is false: the program is to end.
+bool ODBCBağlan();
+
+// Removes the data source, disconnects and frees everything; results are ignored.
+void ODBCBağlantısınıKapat();
+
+// SQLConfigDataSource for the program's data source: 1 adds it, 3 removes it. The result is ignored.
+enum class VeriKaynağıİsteği : std::uint16_t { Ekle = 1, Kaldır = 3 };
+void VeriKaynağıKaydet(VeriKaynağıİsteği istek);
+
+// Asks the driver to write a compacted copy of one data file to another place (both in the form of KısaYolAl).
+// 1 = success.
+std::int16_t VeritabanınıSıkıştır(const QString& kaynak, const QString& hedef);
+
+// Whether the driver can open this data file; shows nothing.
+bool VeriDosyasıAçılıyor(const QString& yol);
+
+// Runs SQLMetni. False: the statement's and the connection's errors have been shown and the statement is dropped.
+bool SorguÇalıştır();
+
+// The next row; false at the end, and also after a row in which a column's read gave anything but success.
+bool SatırGetir();
+
+// A column of the current row, numbered from 1, at most 254 characters; a longer one is cut there and counts as
+// truncated, so that the row is the last one read. NULL gives "".
+QString SütunOku(int sütun);
+
+// Drops the statement; harmless when there is none.
+void DeyimiBırak();
+
+// Runs the one-value count query in SQLMetni; never 0 (1 stands in), as the result is a progress bar's maximum.
+std::int32_t KayıtSayısıAl();
+
+// Every pending error of the connection, a box each.
+void ODBCHatasıGöster();
+
+// Drops the statement when it goes out of scope.
+struct DeyimKoruması {
+    DeyimKoruması() = default;
+    DeyimKoruması(const DeyimKoruması&) = delete;
+    DeyimKoruması& operator=(const DeyimKoruması&) = delete;
+    ~DeyimKoruması() { DeyimiBırak(); }
+};

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+#include <optional>
+
+#include "Para.h"
+
+// Numbers as the user reads and writes them: "," before the decimals, "." between the thousands, "-" as the sign.
+// These three signs hold whatever the system's locale: of the users' regional settings only those are followed that
+// have just these signs, all others give way to the Turkish ones; so "12,5" can never be read as 125.
+
+// Where a "." may stand before the comma.
+enum class NoktaKuralı {
+    Yerinde,  // only between groups of three digits, as in 1.250.000 ("12.5" is no number)
+    Serbest   // anywhere between digits: the text of a box while the user edits it (1.25,00 after a Backspace)
+};
+
+// The numeric test: blanks around, an optional sign, digits with dots as the rule allows, at most one comma ("12,"
+// and ",5" count). At least one digit: "", "," and "-" are no numbers.
+bool SayıMı(QStringView metin, NoktaKuralı kural = NoktaKuralı::Yerinde);
+
+// The text as money, read on its exact decimals; more than four are rounded half to even.
+// nullopt: no number, or out of range.
+std::optional<Para> ParaOku(QStringView metin, NoktaKuralı kural = NoktaKuralı::Serbest);
+
+// The text as the nearest double. nullopt: no number, or not finite.
+std::optional<double> DoubleOku(QStringView metin, NoktaKuralı kural = NoktaKuralı::Serbest);
+
+// FormatNumber: exactly `basamak` decimals (0 and up), thousands grouped, leading zero, "-" in front; halves are
+// rounded away from zero on the decimal value; a value that rounds to zero never bears a sign.
+QString SayıBiçimle(Para değer, int basamak);
+// A double is taken at its 15 significant digits (2,675 with two decimals gives 2,68). Not finite: nullopt.
+std::optional<QString> SayıBiçimle(double değer, int basamak);
+// A text is taken at its exact decimals, however long. No number: nullopt.
+std::optional<QString> SayıMetniBiçimle(QStringView metin, int basamak, NoktaKuralı kural = NoktaKuralı::Serbest);
+
+// Money as plain text, without grouping and without needless decimals (1250 -> "1250", 12,5 -> "12,5").
+QString DüzMetin(Para değer);
+
+// From the data file's decimal mark to the user's: the first "." becomes ",", the rest stays.
+QString NoktayıVirgüleÇevir(const QString& metin);

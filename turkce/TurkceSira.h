@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QStringView>
+#include <string_view>
+
+// The one table of Turkish letter order and case that the data engine, the sorted lists and the prefix searches share.
+// Case does not count (ı/I, i/İ); c ç, g ğ, ı i, o ö, s ş and u ü are letters of their own, in that order; letters with
+// a circumflex stand right after their plain letter. The order is fixed here, not taken from the platform: indexes are
+// stored in it, and a data file must read the same on every machine and after every update.
+namespace Türkçe {
+
+// Below 0, 0 or above 0 as a stands before, beside or after b.
+int Karşılaştır(QStringView a, QStringView b) noexcept;
+
+// The same for UTF-8 texts, without conversion or allocation; bytes that are no UTF-8 are ordered after all letters.
+int Karşılaştır(std::string_view a, std::string_view b) noexcept;
+
+// True when `metin` begins with `ön` by the same rules; an empty `ön` begins every text.
+bool İleBaşlar(QStringView metin, QStringView ön) noexcept;
+
+// One code unit's upper and lower case: the four I letters by our own rule, everything else as Unicode has it.
+char16_t Büyük(char16_t harf) noexcept;
+char16_t Küçük(char16_t harf) noexcept;
+
+}  // namespace Türkçe
