@@ -26,3 +26,10 @@ function(varnek_kitaplik ad)
     target_include_directories(${ad} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${ad} PUBLIC ${A_LINK})
 endfunction()
+
+# While the house is being built: a folder joins once the named file is there.
+macro(varnek_varsa klasor dosya)
+    if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${klasor}/${dosya}")
+        add_subdirectory(${klasor})
+    endif()
+endmacro()
