@@ -15,9 +15,9 @@
 // Running INSERT, UPDATE, DELETE:
 //     SQLMetni = ...; bool tamam = SorguÇalıştır(); DeyimiBırak();
 
-inline QString SQLMetni;                  // text of the next statement
-inline std::int16_t SonDönüşKodu = 0;     // result of the last ODBC call; everything but 0 is failure or end
-inline std::int32_t YüklenenKayıt = 0;    // rows that the running loader has read so far
+inline QString SQLMetni;                // text of the next statement
+inline std::int16_t SonDönüşKodu = 0;   // result of the last ODBC call; everything but 0 is failure or end
+inline std::int32_t YüklenenKayıt = 0;  // rows that the running loader has read so far
 
 // The driver, and "DSN=" + the product's name once ODBCBağlan has run.
 QString SürücüAdı();

@@ -2,6 +2,8 @@
 
 #include <QDialog>
 #include <QElapsedTimer>
+#include <cstdint>
+#include <exception>
 #include <functional>
 
 class QProgressBar;

@@ -13,10 +13,10 @@ enum class Yanıt { Tamam, Evet, Hayır };
 struct İstek {
     Simge simge;
     Düğmeler düğmeler;
-    QString metin;         // plain text, never markup; may hold line breaks
-    QString başlık;        // empty: the application's title
-    Yanıt varsayılan;      // the default button
-    bool ortala;           // MesajKutusuOrtala was called for this box
+    QString metin;     // plain text, never markup; may hold line breaks
+    QString başlık;    // empty: the application's title
+    Yanıt varsayılan;  // the default button
+    bool ortala;       // MesajKutusuOrtala was called for this box
 };
 
 // Shows a box and waits for the answer. Closing the box without a choice counts as Hayır (or Tamam).
