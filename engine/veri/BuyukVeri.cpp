@@ -1,0 +1,58 @@
+#include "BuyukVeri.h"
+
+#include <algorithm>
+
+#include "VeriDeyimleri.h"
+#include "VeriBaglantisi.h"
+#include "VeriDosyasi.h"
+
+namespace {
+
+constexpr int GÜN_SAYISI = 250;
+
+QString Numaralı(const QString& ad, int sıra) {
+    return ad.arg(sıra + 1, 6, 10, QChar(u'0'));
+}
+
+QString Fiyat(int sıra) {
+    return u"%1,%2"_qs.arg(sıra * 7 % 2500).arg(sıra * 13 % 10000, 4, 10, QChar(u'0'));
+}
+
+}  // namespace
+
+QString BüyükGrupAdı(int sıra) {
+    return Numaralı(u"ÜRÜN GRUBU %1"_qs, sıra);
+}
+QString BüyükÜrünAdı(int sıra) {
+    return Numaralı(u"Ölçme Ürünü %1"_qs, sıra);
+}
+QString BüyükMalzemeAdı(int sıra) {
+    return Numaralı(u"Çeşitli Malzeme %1"_qs, sıra);
+}
+
+void BüyükVeriYaz(VeriBağlantısı& bağlantı, int satırSayısı, QDate bugün) {
+    const int malzemeSayısı = std::max(satırSayısı / 10, BÜYÜK_ÜRÜNÜN_MALZEMESİ);
+    for (int i = 0; i < malzemeSayısı; ++i) {
+        YarıdaKesildiMi();
+        bağlantı.Çalıştır(VeriDeyimleri::MalzemeEkle(BüyükMalzemeAdı(i), Fiyat(i)));
+    }
+    QString grup;
+    QString ürün;
+    QString tarih;
+    for (int satır = 0; satır < satırSayısı; ++satır) {
+        YarıdaKesildiMi();
+        const int ürünSırası = satır / BÜYÜK_ÜRÜNÜN_MALZEMESİ;
+        if (satır % BÜYÜK_ÜRÜNÜN_MALZEMESİ == 0) {
+            grup = BüyükGrupAdı(ürünSırası / BÜYÜK_GRUBUN_ÜRÜNÜ);
+            ürün = BüyükÜrünAdı(ürünSırası);
+            tarih = VeriDeyimleri::Tarih(bugün.addDays(-(ürünSırası % GÜN_SAYISI)));
+            bağlantı.Çalıştır(VeriDeyimleri::ÜrünEkle(grup, ürün));
+            bağlantı.Çalıştır(VeriDeyimleri::YüzdeleriYaz(grup, ürün, u"12,50", u"20,00", u"-3,25", u"4,75"));
+        }
+        // A step without a common divisor with the catalogue's size keeps a product's materials apart.
+        const int malzeme = int(qint64(satır) * 7919 % malzemeSayısı);
+        const QString miktar = u"%1,%2 Adet"_qs.arg(satır % 90 + 1).arg(satır % 100, 2, 10, QChar(u'0'));
+        bağlantı.Çalıştır(
+            VeriDeyimleri::KullanılanMalzemeEkle(tarih, grup, ürün, BüyükMalzemeAdı(malzeme), miktar, Fiyat(malzeme)));
+    }
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+class VeriBağlantısı;
+
+// A large, regular file for measuring: products of 20 materials each, 50 products to a group, and a catalogue of a
+// tenth as many materials as there are rows (at least 20).
+constexpr int BÜYÜK_ÜRÜNÜN_MALZEMESİ = 20;
+constexpr int BÜYÜK_GRUBUN_ÜRÜNÜ = 50;
+
+QString BüyükGrupAdı(int sıra);
+QString BüyükÜrünAdı(int sıra);
+QString BüyükMalzemeAdı(int sıra);
+
+// Writes `satırSayısı` used-material rows and what they refer to. Throws VeriHatası.
+void BüyükVeriYaz(VeriBağlantısı& bağlantı, int satırSayısı, QDate bugün);

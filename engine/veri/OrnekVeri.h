@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QDate>
+#include <QList>
+#include <QStringView>
+
+class VeriBağlantısı;
+
+// The sample: a small furniture workshop. Numbers are written as a user types them.
+
+struct ÖrnekMalzeme {
+    QStringView ad;
+    QStringView fiyat;
+};
+
+struct ÖrnekMiktar {
+    QStringView malzeme;
+    QStringView miktar;  // number, one blank, unit
+};
+
+struct ÖrnekYüzdeler {
+    QStringView işçilik;
+    QStringView kâr;
+    QStringView diğer;
+    QStringView vade;
+};
+
+struct ÖrnekÜrün {
+    QStringView grup;
+    QStringView ad;
+    ÖrnekYüzdeler yüzdeler;
+    int günÖnce;  // days before today on which the materials were used
+    QList<ÖrnekMiktar> malzemeler;
+};
+
+const QList<ÖrnekMalzeme>& ÖrnekMalzemeler();
+const QList<ÖrnekÜrün>& ÖrnekÜrünler();
+
+// Writes the sample into a data file that has the tables. Throws VeriHatası.
+void ÖrnekVeriYaz(VeriBağlantısı& bağlantı, QDate bugün);

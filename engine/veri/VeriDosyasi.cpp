@@ -1,0 +1,92 @@
+#include "VeriDosyasi.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "VeriBaglantisi.h"
+
+namespace {
+
+volatile std::sig_atomic_t yarıdaKesildi = 0;
+
+// Percentages have a default, because the program's INSERT does not name them.
+constexpr const char16_t* TABLOLAR[] = {
+    u"CREATE TABLE UrunTablosu (UrunGrubu TEXT(255) NOT NULL, UrunAdi TEXT(255) NOT NULL, "
+    u"IscilikYuzdesi DOUBLE DEFAULT 0 NOT NULL, KarYuzdesi DOUBLE DEFAULT 0 NOT NULL, "
+    u"DigerVarnekYuzdesi DOUBLE DEFAULT 0 NOT NULL, VadeFarkiYuzdesi DOUBLE DEFAULT 0 NOT NULL)",
+    u"CREATE TABLE MalzemeTablosu (MalzemeAdi TEXT(255) NOT NULL, MalzemeFiyati CURRENCY NOT NULL)",
+    u"CREATE TABLE UrunMalzemeTablosu (KullanimTarihi DATETIME NOT NULL, UrunGrubu TEXT(255) NOT NULL, "
+    u"UrunAdi TEXT(255) NOT NULL, KullanilanMalzemeAdi TEXT(255) NOT NULL, "
+    u"KullanilanMalzemeMiktari TEXT(255) NOT NULL, KullanilanMalzemeFiyati CURRENCY NOT NULL)",
+};
+
+// One index for each way in which the program looks rows up or orders them. Only material names are unique: merged
+// groups may hold the same product twice, and a product the same material twice.
+constexpr const char16_t* DİZİNLER[] = {
+    u"CREATE INDEX UrunSirasi ON UrunTablosu (UrunGrubu, UrunAdi)",
+    u"CREATE UNIQUE INDEX MalzemeSirasi ON MalzemeTablosu (MalzemeAdi)",
+    u"CREATE INDEX UrununMalzemeleri ON UrunMalzemeTablosu (UrunGrubu, UrunAdi, KullanilanMalzemeAdi)",
+    u"CREATE INDEX MalzemeninUrunleri ON UrunMalzemeTablosu (KullanilanMalzemeAdi)",
+    u"CREATE INDEX GununHareketleri ON UrunMalzemeTablosu (KullanimTarihi, UrunAdi)",
+};
+
+// QFile::rename would copy over a file that appears in the last moment.
+void ÜzerineYazmadanTaşı(const QString& kaynak, const QString& hedef) {
+    if (renameat2(AT_FDCWD, QFile::encodeName(kaynak), AT_FDCWD, QFile::encodeName(hedef), RENAME_NOREPLACE) != 0) {
+        throw VeriHatası(u"%1 adı verilemedi: %2"_qs.arg(hedef, QString::fromLocal8Bit(std::strerror(errno))));
+    }
+}
+
+// Puts the new name itself on disk.
+void KlasörüDiskeYaz(const QString& klasör) {
+    const int tanıtıcı = open(QFile::encodeName(klasör), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (tanıtıcı < 0) return;
+    fsync(tanıtıcı);
+    close(tanıtıcı);
+}
+
+}  // namespace
+
+void YarıdaKes() noexcept {
+    yarıdaKesildi = 1;
+}
+
+void YarıdaKesildiMi() {
+    if (yarıdaKesildi) throw VeriHatası(u"İşlem yarıda kesildi."_qs);
+}
+
+void VeriDosyasıYap(const QString& hedef, const std::function<void(VeriBağlantısı&)>& doldur) {
+    const QFileInfo bilgi(hedef);
+    const QString yol = bilgi.absoluteFilePath();
+    if (bilgi.exists() || bilgi.isSymLink()) {
+        throw VeriHatası(u"%1 zaten var; var olan bir dosyanın üzerine yazılmaz."_qs.arg(yol));
+    }
+    const QTemporaryDir klasör(yol + u".yapiliyor-XXXXXX"_qs);
+    if (!klasör.isValid()) {
+        throw VeriHatası(u"%1 klasörüne yazılamıyor: %2"_qs.arg(bilgi.absolutePath(), klasör.errorString()));
+    }
+    const QString geçici = klasör.filePath(u"Yeni.vtb"_qs);
+    BoşVeriDosyasıOluştur(geçici);
+    {
+        VeriBağlantısı bağlantı(geçici);
+        for (const char16_t* tablo : TABLOLAR) bağlantı.Çalıştır(QString::fromUtf16(tablo));
+        bağlantı.Toplucaya();
+        doldur(bağlantı);
+        bağlantı.Onayla();
+        for (const char16_t* dizin : DİZİNLER) {
+            YarıdaKesildiMi();
+            bağlantı.Çalıştır(QString::fromUtf16(dizin));
+        }
+    }
+    YarıdaKesildiMi();
+    ÜzerineYazmadanTaşı(geçici, yol);
+    KlasörüDiskeYaz(bilgi.absolutePath());
+}

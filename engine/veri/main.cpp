@@ -1,0 +1,67 @@
+#include <QCoreApplication>
+#include <QDate>
+#include <QStringList>
+#include <csignal>
+#include <cstdio>
+
+#include "BuyukVeri.h"
+#include "OrnekVeri.h"
+#include "VeriBaglantisi.h"
+#include "VeriDosyasi.h"
+
+namespace {
+
+enum ÇıkışKodu { Tamam = 0, Başarısız = 1, YanlışKullanım = 2 };
+
+constexpr int EN_ÇOK_SATIR = 100'000'000;
+
+void Yaz(std::FILE* nereye, const QString& metin) {
+    std::fprintf(nereye, "%s\n", metin.toUtf8().constData());
+}
+
+int KullanımıGöster() {
+    Yaz(stderr,
+        u"Varnek veri dosyası aracı\n\n"
+        u"  varnek-veri yeni DOSYA      boş bir veri dosyası oluşturur\n"
+        u"  varnek-veri ornek DOSYA     örnek bir mobilya atölyesinin verileriyle oluşturur\n"
+        u"  varnek-veri buyuk DOSYA N   ölçme için N kullanılan malzeme satırıyla oluşturur\n\n"
+        u"Var olan bir dosyanın üzerine yazılmaz.\n"
+        u"Çıkış kodu: 0 başarılı, 1 dosya oluşturulamadı, 2 yanlış kullanım"_qs);
+    return YanlışKullanım;
+}
+
+int Oluştur(const QString& dosya, const std::function<void(VeriBağlantısı&)>& doldur) {
+    for (int sinyal : {SIGINT, SIGTERM, SIGHUP}) std::signal(sinyal, [](int) { YarıdaKes(); });
+    try {
+        SürücüKlasörünüAyarla(QCoreApplication::applicationDirPath());
+        VeriDosyasıYap(dosya, doldur);
+    } catch (const VeriHatası& hata) {
+        Yaz(stderr, hata.Metin());
+        return Başarısız;
+    }
+    Yaz(stdout, u"%1 oluşturuldu."_qs.arg(dosya));
+    return Tamam;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication uygulama(argc, argv);
+    const QStringList sözler = uygulama.arguments().mid(1);
+    const QDate bugün = QDate::currentDate();
+    const QString komut = sözler.value(0);
+    if (sözler.size() == 2 && komut == u"yeni") {
+        return Oluştur(sözler[1], [](VeriBağlantısı&) {});
+    }
+    if (sözler.size() == 2 && komut == u"ornek") {
+        return Oluştur(sözler[1], [&](VeriBağlantısı& bağlantı) { ÖrnekVeriYaz(bağlantı, bugün); });
+    }
+    if (sözler.size() == 3 && komut == u"buyuk") {
+        bool sayı = false;
+        const int satır = sözler[2].toInt(&sayı);
+        if (sayı && satır > 0 && satır <= EN_ÇOK_SATIR) {
+            return Oluştur(sözler[1], [&](VeriBağlantısı& bağlantı) { BüyükVeriYaz(bağlantı, satır, bugün); });
+        }
+    }
+    return KullanımıGöster();
+}

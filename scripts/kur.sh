@@ -1,0 +1,37 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that are missing, and nothing else.
+#   scripts/kur.sh [test] [olcum] [bicim]
+# Without arguments: what building and running need. test: running the tests and the tour without a display as well;
+# olcum: the benchmarks; bicim: checking the formatting.
+set -euo pipefail
+. "$(dirname "$0")/ortak.sh"
+
+paketler=(build-essential cmake ninja-build pkg-config qt6-base-dev libqt6gui6 libgl-dev libodbc2 libodbcinst2
+    unixodbc-dev libsqlite3-dev libgtest-dev libbenchmark-dev fonts-dejavu-core)
+for kume in "$@"; do
+    case $kume in
+        test) paketler+=(xvfb xauth locales) ;;
+        olcum) paketler+=(libsqliteodbc) ;;
+        bicim) paketler+=(clang-format git) ;;
+        *) vazgec "kur.sh: unknown set '$kume' (test, olcum, bicim)" ;;
+    esac
+done
+
+eksikler=()
+for paket in "${paketler[@]}"; do
+    durum=$(dpkg-query -W -f='${db:Status-Status}' "$paket" 2>/dev/null || true)
+    [ "$durum" = installed ] || eksikler+=("$paket")
+done
+[ ${#eksikler[@]} -gt 0 ] || exit 0
+
+elle="Please install these packages and try again: apt-get install ${eksikler[*]}"
+command -v apt-get >/dev/null || vazgec "This system has no apt-get. $elle"
+yonetici=()
+if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || vazgec "Packages are missing, and there is neither root nor sudo. $elle"
+    yonetici=(sudo)
+fi
+bildir "Installing ${eksikler[*]}"
+apt_get() { "${yonetici[@]}" env DEBIAN_FRONTEND=noninteractive apt-get "$@"; }
+apt_get update || vazgec "The package lists could not be read. $elle"
+apt_get install -y --no-install-recommends "${eksikler[@]}" || vazgec "Installing failed. $elle"

@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# Opens every form on a fresh sample data file in a real window and writes a picture of each into build/tour/.
+# With a display the windows appear there; without one, or with --sanal, on a virtual screen.
+set -euo pipefail
+. "$(dirname "$0")/ortak.sh"
+
+sanal=()
+if [ -z "${DISPLAY:-}" ] || [ "${1:-}" = --sanal ]; then
+    scripts/kur.sh test
+    sanal=(xvfb-run -a -s "-screen 0 1280x1024x24")
+else
+    scripts/kur.sh
+fi
+derle release varnek-tur varnek-motor varnek-veri
+
+rm -rf build/tour build/tur-ortami
+mkdir -p build/tour
+kendi_ortami tur-ortami
+export QT_QPA_PLATFORM=xcb
+"${sanal[@]}" build/release/bin/varnek-tur "$kok/build/tour"
+bildir "The pictures are in $kok/build/tour"
