@@ -1,0 +1,42 @@
+#include "Para.h"
+
+#include <limits>
+
+#include "Ondalik.h"
+
+namespace {
+
+__extension__ using GenişSayı = __int128;
+
+std::optional<Para> Sığdır(GenişSayı onBindeBir) {
+    if (onBindeBir < std::numeric_limits<std::int64_t>::min() || onBindeBir > std::numeric_limits<std::int64_t>::max())
+        return std::nullopt;
+    return Para::OnBindeBirden(static_cast<std::int64_t>(onBindeBir));
+}
+
+}  // namespace
+
+std::optional<Para> Para::Doubledan(double değer) {
+    const auto sayı = OnBeşHaneyle(değer);
+    if (!sayı) return std::nullopt;
+    const auto onBindeBir = Ölçeğe(Yuvarla(*sayı, 4, Yarım::Çifte), 4);
+    if (!onBindeBir) return std::nullopt;
+    return Para(*onBindeBir);
+}
+
+double Para::Double() const noexcept {
+    return EnYakınDouble(Ölçekten(m_onBindeBir, 4)).value_or(0);
+}
+
+std::optional<Para> Topla(Para a, Para b) noexcept {
+    return Sığdır(GenişSayı{a.OnBindeBir()} + b.OnBindeBir());
+}
+
+std::optional<Para> Çarp(Para a, Para b) noexcept {
+    const GenişSayı çarpım = GenişSayı{a.OnBindeBir()} * b.OnBindeBir();
+    const GenişSayı kalan = çarpım % Para::Ölçek;
+    const GenişSayı ikiKatı = 2 * (kalan < 0 ? -kalan : kalan);
+    GenişSayı bölüm = çarpım / Para::Ölçek;
+    if (ikiKatı > Para::Ölçek || (ikiKatı == Para::Ölçek && bölüm % 2 != 0)) bölüm += çarpım < 0 ? -1 : 1;
+    return Sığdır(bölüm);
+}

@@ -1,0 +1,25 @@
+#include "Saat.h"
+
+#include <QLocale>
+#include <utility>
+
+namespace {
+
+std::function<QDate()>& Saat() {
+    static std::function<QDate()> saat;
+    return saat;
+}
+
+}  // namespace
+
+QDate Bugün() {
+    return Saat() ? Saat()() : QDate::currentDate();
+}
+
+void SaatiAyarla(std::function<QDate()> bugün) {
+    Saat() = std::move(bugün);
+}
+
+QString TürkçeUzunTarih(QDate tarih) {
+    return QLocale(QLocale::Turkish, QLocale::Turkey).toString(tarih, QStringLiteral("dd MMMM yyyy dddd"));
+}

@@ -1,0 +1,116 @@
+#include "SayiMetni.h"
+
+#include "Ondalik.h"
+
+namespace {
+
+bool RakamMı(QChar harf) {
+    return harf >= u'0' && harf <= u'9';
+}
+
+// The dots before the comma: every group behind a dot has three digits, the first one to three.
+bool NoktalarYerinde(QStringView tam) {
+    qsizetype sağdan = 0;
+    bool noktaVar = false;
+    for (qsizetype yer = tam.size() - 1; yer >= 0; --yer, ++sağdan) {
+        const bool noktaYeri = sağdan % 4 == 3;
+        if (tam[yer] == u'.') {
+            if (!noktaYeri || yer == 0) return false;
+            noktaVar = true;
+        } else if (noktaYeri && noktaVar) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// The digits of `metin`; false when it holds anything else.
+bool RakamlarıAl(QStringView metin, bool noktaOlur, std::string& rakamlar) {
+    for (const QChar harf : metin) {
+        if (RakamMı(harf))
+            rakamlar += static_cast<char>(harf.unicode());
+        else if (harf != u'.' || !noktaOlur)
+            return false;
+    }
+    return true;
+}
+
+std::optional<Ondalık> OndalıkOku(QStringView metin, NoktaKuralı kural) {
+    metin = metin.trimmed();
+    Ondalık sayı;
+    if (metin.startsWith(u'-') || metin.startsWith(u'+')) {
+        sayı.Eksi = metin.front() == u'-';
+        metin = metin.mid(1).trimmed();
+    }
+    const qsizetype virgül = metin.indexOf(u',');
+    const QStringView tam = virgül < 0 ? metin : metin.first(virgül);
+    const QStringView kesir = virgül < 0 ? QStringView() : metin.sliced(virgül + 1);
+    if (kural == NoktaKuralı::Yerinde && !NoktalarYerinde(tam)) return std::nullopt;
+    if (!RakamlarıAl(tam, true, sayı.Tam) || !RakamlarıAl(kesir, false, sayı.Kesir)) return std::nullopt;
+    if (sayı.Tam.empty() && sayı.Kesir.empty()) return std::nullopt;
+
+    sayı.Tam.erase(0, sayı.Tam.find_first_not_of('0'));
+    if (sayı.Tam.empty()) sayı.Tam += '0';
+    const int basamak = static_cast<int>(sayı.Kesir.size());
+    return Yuvarla(std::move(sayı), basamak, Yarım::Çifte);  // takes the sign from a zero
+}
+
+QString Biçimle(const Ondalık& sayı, int basamak) {
+    const Ondalık yuvarlanmış = Yuvarla(sayı, basamak, Yarım::SıfırdanUzağa);
+    QString metin = QString::fromLatin1(yuvarlanmış.Tam);
+    for (qsizetype yer = metin.size() - 3; yer > 0; yer -= 3) metin.insert(yer, QChar(u'.'));
+    if (yuvarlanmış.Eksi) metin.prepend(QChar(u'-'));
+    if (basamak > 0) metin += QChar(u',') + QString::fromLatin1(yuvarlanmış.Kesir);
+    return metin;
+}
+
+}  // namespace
+
+bool SayıMı(QStringView metin, NoktaKuralı kural) {
+    return OndalıkOku(metin, kural).has_value();
+}
+
+std::optional<Para> ParaOku(QStringView metin, NoktaKuralı kural) {
+    const auto sayı = OndalıkOku(metin, kural);
+    if (!sayı) return std::nullopt;
+    const auto onBindeBir = Ölçeğe(Yuvarla(*sayı, 4, Yarım::Çifte), 4);
+    if (!onBindeBir) return std::nullopt;
+    return Para::OnBindeBirden(*onBindeBir);
+}
+
+std::optional<double> DoubleOku(QStringView metin, NoktaKuralı kural) {
+    const auto sayı = OndalıkOku(metin, kural);
+    return sayı ? EnYakınDouble(*sayı) : std::nullopt;
+}
+
+QString SayıBiçimle(Para değer, int basamak) {
+    return Biçimle(Ölçekten(değer.OnBindeBir(), 4), basamak);
+}
+
+std::optional<QString> SayıBiçimle(double değer, int basamak) {
+    const auto sayı = OnBeşHaneyle(değer);
+    if (!sayı) return std::nullopt;
+    return Biçimle(*sayı, basamak);
+}
+
+std::optional<QString> SayıMetniBiçimle(QStringView metin, int basamak, NoktaKuralı kural) {
+    const auto sayı = OndalıkOku(metin, kural);
+    if (!sayı) return std::nullopt;
+    return Biçimle(*sayı, basamak);
+}
+
+QString DüzMetin(Para değer) {
+    Ondalık sayı = Ölçekten(değer.OnBindeBir(), 4);
+    sayı.Kesir.erase(sayı.Kesir.find_last_not_of('0') + 1);
+    QString metin = QString::fromLatin1(sayı.Tam);
+    if (sayı.Eksi) metin.prepend(QChar(u'-'));
+    if (!sayı.Kesir.empty()) metin += QChar(u',') + QString::fromLatin1(sayı.Kesir);
+    return metin;
+}
+
+QString NoktayıVirgüleÇevir(const QString& metin) {
+    QString sonuç = metin;
+    const qsizetype nokta = sonuç.indexOf(QChar(u'.'));
+    if (nokta >= 0) sonuç[nokta] = QChar(u',');
+    return sonuç;
+}
