@@ -1,0 +1,59 @@
+#include "VarnekTesti.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QSettings>
+
+#include "DegiskenModulu.h"
+#include "OdbcModulu.h"
+#include "Saat.h"
+#include "SurumKaydi.h"
+#include "TestVerisi.h"
+
+namespace {
+
+void PaylaşılanlarıKur(const QString& programKlasörü) {
+    UygulamaBaşlığı = Sürüm().Başlık();
+    UygulamaYolu = programKlasörü;
+    AyarUygulamaAdı = QStringLiteral("Tovrek\\") + Sürüm().ÜrünAdı;
+    EtkinEtiketRengi = 0x00C00000;
+    OndalıkBasamak = 2;
+    YazıcıVar = false;
+    NTTabanlı = false;
+    SeçiliÜrünSırası = -1;
+    YüklemeTürü = YüklemeTürleri::Yok;
+    HareketTarihi = QDate();
+    HareketTarihiSQL.clear();
+    SQLMetni.clear();
+    SonDönüşKodu = 0;
+    YüklenenKayıt = 0;
+}
+
+}  // namespace
+
+VarnekTesti::VarnekTesti() : m_klasör(QStringLiteral(VARNEK_BIN "/test-XXXXXX")) {
+    const QDir klasör(m_klasör.path());
+    for (const char* ad : {"program", "kullanici", "ayarlar", "calisma"}) klasör.mkdir(QLatin1String(ad));
+    qputenv("XDG_DATA_HOME", QFile::encodeName(klasör.filePath(QStringLiteral("kullanici"))));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(klasör.filePath(QStringLiteral("ayarlar"))));
+    qputenv("ODBCINI", QFile::encodeName(OdbcDosyası()));
+    // The toolkit reads XDG_CONFIG_HOME once for the whole run.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, klasör.filePath(QStringLiteral("ayarlar")));
+    PaylaşılanlarıKur(ProgramKlasörü());
+    SaatiAyarla(nullptr);
+}
+
+VarnekTesti::~VarnekTesti() {
+    ODBCBağlantısınıKapat();
+}
+
+void VarnekTesti::TearDown() {
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "a modal form was left open";
+    m_kutular.Bitir();
+    SaatiAyarla(nullptr);
+}
+
+void VarnekTesti::VeriyeBağlan(const QString& tür) {
+    VeriDosyasıOluştur(VeriDosyası(), tür);
+    ASSERT_TRUE(ODBCBağlan());
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QString>
+#include <QTemporaryDir>
+
+#include "KutuKuyrugu.h"
+
+// The base of tests that touch files, settings, the data source or message boxes: each test has a fresh folder with its
+// own program folder, per-user data, settings and ODBC data sources, shared variables as after a start, and the
+// system's clock. Queued message boxes are checked at the end.
+class VarnekTesti : public ::testing::Test {
+  protected:
+    VarnekTesti();
+    ~VarnekTesti() override;
+    void TearDown() override;
+
+    // All end in the path separator.
+    QString Klasör() const { return m_klasör.path() + QLatin1Char('/'); }
+    QString ProgramKlasörü() const { return Klasör() + QStringLiteral("program/"); }
+    QString KullanıcıKlasörü() const { return Klasör() + QStringLiteral("kullanici/"); }
+
+    QString VeriDosyası() const { return ProgramKlasörü() + QStringLiteral("Varnek.vtb"); }
+    QString OdbcDosyası() const { return Klasör() + QStringLiteral("odbc.ini"); }
+
+    // Makes the data file ("yeni": empty, "ornek": the sample) and connects the program to it.
+    void VeriyeBağlan(const QString& tür = QStringLiteral("yeni"));
+
+    KutuKuyruğu& Kutular() { return m_kutular; }
+
+  private:
+    QTemporaryDir m_klasör;
+    KutuKuyruğu m_kutular;
+};
