@@ -6,6 +6,8 @@
 #include "VeriBaglantisi.h"
 #include "VeriDosyasi.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int GÜN_SAYISI = 250;
@@ -15,19 +17,19 @@ QString Numaralı(const QString& ad, int sıra) {
 }
 
 QString Fiyat(int sıra) {
-    return u"%1,%2"_qs.arg(sıra * 7 % 2500).arg(sıra * 13 % 10000, 4, 10, QChar(u'0'));
+    return u"%1,%2"_s.arg(sıra * 7 % 2500).arg(sıra * 13 % 10000, 4, 10, QChar(u'0'));
 }
 
 }  // namespace
 
 QString BüyükGrupAdı(int sıra) {
-    return Numaralı(u"ÜRÜN GRUBU %1"_qs, sıra);
+    return Numaralı(u"ÜRÜN GRUBU %1"_s, sıra);
 }
 QString BüyükÜrünAdı(int sıra) {
-    return Numaralı(u"Ölçme Ürünü %1"_qs, sıra);
+    return Numaralı(u"Ölçme Ürünü %1"_s, sıra);
 }
 QString BüyükMalzemeAdı(int sıra) {
-    return Numaralı(u"Çeşitli Malzeme %1"_qs, sıra);
+    return Numaralı(u"Çeşitli Malzeme %1"_s, sıra);
 }
 
 void BüyükVeriYaz(VeriBağlantısı& bağlantı, int satırSayısı, QDate bugün) {
@@ -51,7 +53,7 @@ void BüyükVeriYaz(VeriBağlantısı& bağlantı, int satırSayısı, QDate bug
         }
         // A step without a common divisor with the catalogue's size keeps a product's materials apart.
         const int malzeme = int(qint64(satır) * 7919 % malzemeSayısı);
-        const QString miktar = u"%1,%2 Adet"_qs.arg(satır % 90 + 1).arg(satır % 100, 2, 10, QChar(u'0'));
+        const QString miktar = u"%1,%2 Adet"_s.arg(satır % 90 + 1).arg(satır % 100, 2, 10, QChar(u'0'));
         bağlantı.Çalıştır(
             VeriDeyimleri::KullanılanMalzemeEkle(tarih, grup, ürün, BüyükMalzemeAdı(malzeme), miktar, Fiyat(malzeme)));
     }

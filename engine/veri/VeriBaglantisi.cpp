@@ -6,6 +6,8 @@
 #include <sql.h>
 #include <sqlext.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr char SÜRÜCÜ[] = "Microsoft Access Driver (*.mdb)";
@@ -55,7 +57,7 @@ void BoşVeriDosyasıOluştur(const QString& yol) {
     }
     nitelikler += '\0';  // the array's own closing zero ends the list
     if (!SQLConfigDataSource(nullptr, ODBC_ADD_DSN, SÜRÜCÜ, nitelikler.constData())) {
-        throw VeriHatası(u"Veri dosyası oluşturulamadı: "_qs + KurulumHatası());
+        throw VeriHatası(u"Veri dosyası oluşturulamadı: "_s + KurulumHatası());
     }
 }
 
@@ -65,14 +67,14 @@ VeriBağlantısı::VeriBağlantısı(const QString& yol) {
     if (m_ortam) SQLAllocConnect(m_ortam, &m_bağlantı);
     if (!m_bağlantı) {
         Kapat();
-        throw VeriHatası(u"ODBC sürücülerine erişilemiyor."_qs);
+        throw VeriHatası(u"ODBC sürücülerine erişilemiyor."_s);
     }
     const SQLRETURN sonuç = SQLDriverConnect(m_bağlantı, nullptr, Odbc(tanım), SQLSMALLINT(tanım.size()), nullptr, 0,
                                              nullptr, SQL_DRIVER_NOPROMPT);
     if (!Başarılı(sonuç) || !Başarılı(SQLAllocStmt(m_bağlantı, &m_deyim))) {
         const QString neden = Tanı(nullptr);
         Kapat();
-        throw VeriHatası(u"Veri dosyası açılamadı: "_qs + neden);
+        throw VeriHatası(u"Veri dosyası açılamadı: "_s + neden);
     }
 }
 
@@ -100,20 +102,20 @@ QString VeriBağlantısı::Tanı(void* deyim) const {
 void VeriBağlantısı::Çalıştır(const QString& deyim) {
     QByteArray metin = deyim.toUtf8();
     if (!Başarılı(SQLExecDirect(m_deyim, Odbc(metin), SQLINTEGER(metin.size())))) {
-        throw VeriHatası(u"Deyim çalıştırılamadı: %1\n%2"_qs.arg(Tanı(m_deyim), deyim));
+        throw VeriHatası(u"Deyim çalıştırılamadı: %1\n%2"_s.arg(Tanı(m_deyim), deyim));
     }
 }
 
 void VeriBağlantısı::Toplucaya() {
     if (!Başarılı(SQLSetConnectOption(m_bağlantı, SQL_AUTOCOMMIT, SQL_AUTOCOMMIT_OFF))) {
-        throw VeriHatası(u"Toplu yazma açılamadı: "_qs + Tanı(nullptr));
+        throw VeriHatası(u"Toplu yazma açılamadı: "_s + Tanı(nullptr));
     }
 }
 
 void VeriBağlantısı::Onayla() {
     if (!Başarılı(SQLTransact(SQL_NULL_HENV, m_bağlantı, SQL_COMMIT)) ||
         !Başarılı(SQLSetConnectOption(m_bağlantı, SQL_AUTOCOMMIT, SQL_AUTOCOMMIT_ON))) {
-        throw VeriHatası(u"Yazılanlar onaylanamadı: "_qs + Tanı(nullptr));
+        throw VeriHatası(u"Yazılanlar onaylanamadı: "_s + Tanı(nullptr));
     }
 }
 

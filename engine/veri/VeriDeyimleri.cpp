@@ -3,10 +3,12 @@
 #include <QString>
 #include <QStringBuilder>
 
+using namespace Qt::StringLiterals;
+
 namespace VeriDeyimleri {
 
 QString Tarih(QDate tarih) {
-    return u"#%1/%2/%3#"_qs.arg(tarih.month()).arg(tarih.day()).arg(tarih.year());
+    return u"#%1/%2/%3#"_s.arg(tarih.month()).arg(tarih.day()).arg(tarih.year());
 }
 
 QString MalzemeEkle(QStringView malzeme, QStringView fiyat) {

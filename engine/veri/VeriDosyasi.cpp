@@ -13,6 +13,8 @@
 
 #include "VeriBaglantisi.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 volatile std::sig_atomic_t yarıdaKesildi = 0;
@@ -41,7 +43,7 @@ constexpr const char16_t* DİZİNLER[] = {
 // QFile::rename would copy over a file that appears in the last moment.
 void ÜzerineYazmadanTaşı(const QString& kaynak, const QString& hedef) {
     if (renameat2(AT_FDCWD, QFile::encodeName(kaynak), AT_FDCWD, QFile::encodeName(hedef), RENAME_NOREPLACE) != 0) {
-        throw VeriHatası(u"%1 adı verilemedi: %2"_qs.arg(hedef, QString::fromLocal8Bit(std::strerror(errno))));
+        throw VeriHatası(u"%1 adı verilemedi: %2"_s.arg(hedef, QString::fromLocal8Bit(std::strerror(errno))));
     }
 }
 
@@ -60,20 +62,20 @@ void YarıdaKes() noexcept {
 }
 
 void YarıdaKesildiMi() {
-    if (yarıdaKesildi) throw VeriHatası(u"İşlem yarıda kesildi."_qs);
+    if (yarıdaKesildi) throw VeriHatası(u"İşlem yarıda kesildi."_s);
 }
 
 void VeriDosyasıYap(const QString& hedef, const std::function<void(VeriBağlantısı&)>& doldur) {
     const QFileInfo bilgi(hedef);
     const QString yol = bilgi.absoluteFilePath();
     if (bilgi.exists() || bilgi.isSymLink()) {
-        throw VeriHatası(u"%1 zaten var; var olan bir dosyanın üzerine yazılmaz."_qs.arg(yol));
+        throw VeriHatası(u"%1 zaten var; var olan bir dosyanın üzerine yazılmaz."_s.arg(yol));
     }
-    const QTemporaryDir klasör(yol + u".yapiliyor-XXXXXX"_qs);
+    const QTemporaryDir klasör(yol + u".yapiliyor-XXXXXX"_s);
     if (!klasör.isValid()) {
-        throw VeriHatası(u"%1 klasörüne yazılamıyor: %2"_qs.arg(bilgi.absolutePath(), klasör.errorString()));
+        throw VeriHatası(u"%1 klasörüne yazılamıyor: %2"_s.arg(bilgi.absolutePath(), klasör.errorString()));
     }
-    const QString geçici = klasör.filePath(u"Yeni.vtb"_qs);
+    const QString geçici = klasör.filePath(u"Yeni.vtb"_s);
     BoşVeriDosyasıOluştur(geçici);
     {
         VeriBağlantısı bağlantı(geçici);

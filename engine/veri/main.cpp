@@ -9,6 +9,8 @@
 #include "VeriBaglantisi.h"
 #include "VeriDosyasi.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 enum ÇıkışKodu { Tamam = 0, Başarısız = 1, YanlışKullanım = 2 };
@@ -26,7 +28,7 @@ int KullanımıGöster() {
         u"  varnek-veri ornek DOSYA     örnek bir mobilya atölyesinin verileriyle oluşturur\n"
         u"  varnek-veri buyuk DOSYA N   ölçme için N kullanılan malzeme satırıyla oluşturur\n\n"
         u"Var olan bir dosyanın üzerine yazılmaz.\n"
-        u"Çıkış kodu: 0 başarılı, 1 dosya oluşturulamadı, 2 yanlış kullanım"_qs);
+        u"Çıkış kodu: 0 başarılı, 1 dosya oluşturulamadı, 2 yanlış kullanım"_s);
     return YanlışKullanım;
 }
 
@@ -39,7 +41,7 @@ int Oluştur(const QString& dosya, const std::function<void(VeriBağlantısı&)>
         Yaz(stderr, hata.Metin());
         return Başarısız;
     }
-    Yaz(stdout, u"%1 oluşturuldu."_qs.arg(dosya));
+    Yaz(stdout, u"%1 oluşturuldu."_s.arg(dosya));
     return Tamam;
 }
 
