@@ -85,6 +85,7 @@ VeriBağlantısı::~VeriBağlantısı() {
 void VeriBağlantısı::Kapat() noexcept {
     if (m_deyim) SQLFreeStmt(m_deyim, SQL_DROP);
     if (m_bağlantı) {
+        SQLTransact(SQL_NULL_HENV, m_bağlantı, SQL_ROLLBACK);  // an open transaction would keep it connected
         SQLDisconnect(m_bağlantı);
         SQLFreeConnect(m_bağlantı);
     }
