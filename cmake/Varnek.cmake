@@ -27,6 +27,18 @@ function(varnek_kitaplik ad)
     target_link_libraries(${ad} PUBLIC ${A_LINK})
 endfunction()
 
+# varnek_motoru_bulur(target): an executable that reaches the data engine through the driver manager. odbcinst.ini names
+# the driver by its bare file name, so that the folder can be moved as a whole. It is the driver manager that opens the
+# driver, so the program's own folder must be in its DT_RPATH: unlike DT_RUNPATH, that holds for libraries opened by
+# libraries.
+function(varnek_motoru_bulur hedef)
+    if(UNIX)
+        set_target_properties(${hedef} PROPERTIES BUILD_RPATH "$ORIGIN" INSTALL_RPATH "$ORIGIN")
+        target_link_options(${hedef} PRIVATE -Wl,--disable-new-dtags)
+    endif()
+    add_dependencies(${hedef} varnek-motor)
+endfunction()
+
 # While the house is being built: a folder joins once the named file is there.
 macro(varnek_varsa klasor dosya)
     if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${klasor}/${dosya}")

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace Motor {
+
+// Creates an empty data file with this password. An existing file is never overwritten. Throws Hata; nothing is left
+// behind then.
+void VeriDosyasıOluştur(const std::string& yol, std::string_view parola);
+
+// Writes a compacted copy of `kaynak` to `hedef`: same password, tables, indexes and order of rows. The source is
+// checked first, so that a damaged one never replaces a good target; an existing target stays until the copy is
+// complete. Throws Hata; the target is then as it was.
+void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hedef, std::string_view parola);
+
+}  // namespace Motor

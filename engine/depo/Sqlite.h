@@ -1,0 +1,62 @@
+#pragma once
+
+#include <sqlite3.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace Motor {
+
+using Değer = std::variant<std::int64_t, double, std::string>;
+
+struct SqliteKapatıcı {
+    void operator()(sqlite3* vt) const noexcept { sqlite3_close_v2(vt); }
+};
+using SqliteBağlantısı = std::unique_ptr<sqlite3, SqliteKapatıcı>;
+
+// Opens an existing file (never creates one) with the engine's settings: every transaction on disk before it is
+// confirmed, Turkish order known, two seconds of patience with a locked file. Nothing is read from the file yet.
+SqliteBağlantısı SqliteAç(const std::string& yol);
+
+// Turns SQLite's result code into a diagnostic for the user.
+[[noreturn]] void SqliteHatasıFırlat(sqlite3* vt, int kod);
+
+// Runs SQL that gives no rows.
+void SqliteYürüt(sqlite3* vt, const char* sql);
+
+// One prepared statement. Every failure throws Hata.
+class SqliteDeyimi {
+  public:
+    SqliteDeyimi(sqlite3* vt, std::string_view sql);
+
+    void Bağla(int sıra, const Değer& değer);  // from 1
+    void BağlaBayt(int sıra, std::string_view baytlar);
+
+    // The next row; at the end false, and the file's lock is given back.
+    bool Adım() {
+        const int sonuç = sqlite3_step(m_deyim.get());
+        return sonuç == SQLITE_ROW || Bitti(sonuç);
+    }
+
+    bool Boş(int sütun) const { return sqlite3_column_type(m_deyim.get(), sütun) == SQLITE_NULL; }
+    std::int64_t TamSayı(int sütun) const { return sqlite3_column_int64(m_deyim.get(), sütun); }
+    double Ondalık(int sütun) const { return sqlite3_column_double(m_deyim.get(), sütun); }
+    std::string_view Metin(int sütun) const {
+        const auto* metin = reinterpret_cast<const char*>(sqlite3_column_text(m_deyim.get(), sütun));
+        return {metin, static_cast<std::size_t>(sqlite3_column_bytes(m_deyim.get(), sütun))};
+    }
+    std::string_view Bayt(int sütun) const;
+
+  private:
+    bool Bitti(int sonuç);
+
+    struct Bitirici {
+        void operator()(sqlite3_stmt* deyim) const noexcept { sqlite3_finalize(deyim); }
+    };
+    std::unique_ptr<sqlite3_stmt, Bitirici> m_deyim;
+};
+
+}  // namespace Motor

@@ -1,0 +1,85 @@
+#include "Baglanti.h"
+
+#include <cstring>
+
+namespace Motor {
+
+void Bağlantı::Aç(const Öznitelikler& öznitelikler) {
+    m_veriKaynağı = öznitelikler.Değer("DSN");
+    const auto değer = [&](const char* anahtar) {
+        const std::string* verilen = öznitelikler.Bul(anahtar);
+        return verilen ? *verilen : VeriKaynağıDeğeri(m_veriKaynağı, anahtar);
+    };
+    m_yol = değer("DBQ");
+    if (m_yol.empty()) throw Hata(Durum::Bağlanamadı, "Veri dosyasının yolu (DBQ) belirtilmemiş.");
+    m_veri = std::make_unique<Veritabanı>(m_yol, değer("PWD"));
+}
+
+SQLRETURN Bağlantı::Bağlan(std::string_view veriKaynağı, std::string_view parola) {
+    Öznitelikler öznitelikler;
+    öznitelikler.Ekle("DSN", std::string(veriKaynağı));
+    if (!parola.empty()) öznitelikler.Ekle("PWD", std::string(parola));
+    Aç(öznitelikler);
+    return SQL_SUCCESS;
+}
+
+SQLRETURN Bağlantı::MetinleBağlan(std::string_view metin, SQLCHAR* çıkış, SQLSMALLINT boy, SQLSMALLINT* uzunluk) {
+    Aç(Öznitelikler::BağlantıMetninden(metin));
+    return MetinVer(Tanı, metin, çıkış, boy, uzunluk);
+}
+
+SQLRETURN Bağlantı::Ayrıl() {
+    if (m_veri && m_veri->HareketAçık())
+        throw Hata(Durum::AçıkHareket, "Onaylanmamış değişiklikler var; bağlantı kapatılamaz.");
+    m_veri.reset();
+    return SQL_SUCCESS;
+}
+
+Veritabanı& Bağlantı::Veri() {
+    if (!m_veri) throw Hata(Durum::SıraHatası, "Veri dosyasına bağlanılmamış.");
+    return *m_veri;
+}
+
+SQLRETURN Bağlantı::HareketiBitir(SQLUSMALLINT tür) {
+    if (tür == SQL_COMMIT)
+        Veri().Onayla();
+    else
+        Veri().GeriAl();
+    return SQL_SUCCESS;
+}
+
+SQLRETURN Bağlantı::AyarYaz(SQLUSMALLINT ayar, SQLULEN değer) {
+    switch (ayar) {
+        case SQL_AUTOCOMMIT:
+            Veri().ElleOnayla(değer == SQL_AUTOCOMMIT_OFF);
+            return SQL_SUCCESS;
+        case SQL_ACCESS_MODE:
+        case SQL_LOGIN_TIMEOUT:
+        case SQL_QUIET_MODE:
+            return SQL_SUCCESS;
+        default:
+            throw Hata(Durum::Desteklenmiyor, "Bu bağlantı ayarı desteklenmiyor.");
+    }
+}
+
+SQLRETURN Bağlantı::AyarOku(SQLUSMALLINT ayar, SQLPOINTER değer) {
+    if (!değer) throw Hata(Durum::BoşGösterge, "Değer için yer verilmemiş.");
+    const auto yaz = [değer](SQLUINTEGER sayı) {
+        std::memcpy(değer, &sayı, sizeof sayı);
+        return SQL_SUCCESS;
+    };
+    switch (ayar) {
+        case SQL_AUTOCOMMIT:
+            return yaz(m_veri && m_veri->ElleOnaylanıyor() ? SQL_AUTOCOMMIT_OFF : SQL_AUTOCOMMIT_ON);
+        case SQL_ACCESS_MODE:
+            return yaz(SQL_MODE_READ_WRITE);
+        case SQL_LOGIN_TIMEOUT:
+            return yaz(0);
+        case SQL_TXN_ISOLATION:
+            return yaz(SQL_TXN_SERIALIZABLE);
+        default:
+            throw Hata(Durum::Desteklenmiyor, "Bu bağlantı ayarı desteklenmiyor.");
+    }
+}
+
+}  // namespace Motor

@@ -1,0 +1,64 @@
+// What the installer calls: registering the data source, creating and compacting data files.
+#include "Bakim.h"
+#include "BaglantiMetni.h"
+#include "Hata.h"
+
+#include <odbcinst.h>
+
+#include <exception>
+
+namespace {
+
+using namespace Motor;
+
+// Paths in a COMPACT_DB pair are separated by a blank; a blank within a path is written %20 and a percent sign %25.
+std::string YoluÇöz(std::string_view yol) {
+    std::string çözülen;
+    while (!yol.empty()) {
+        const bool boşluk = yol.starts_with("%20");
+        const bool yüzde = yol.starts_with("%25");
+        çözülen += boşluk ? ' ' : yüzde ? '%' : yol.front();
+        yol.remove_prefix(boşluk || yüzde ? 3 : 1);
+    }
+    return çözülen;
+}
+
+bool Sıkıştır(const std::string& yollar, const std::string& parola) {
+    const std::size_t boşluk = yollar.find(' ');
+    if (boşluk == 0 || boşluk == std::string::npos || yollar.find(' ', boşluk + 1) != std::string::npos)
+        throw Hata(Durum::Genel, "COMPACT_DB için araları boşluklu iki dosya yolu gerekiyor.");
+    const std::string_view görünüm(yollar);
+    VeriDosyasıSıkıştır(YoluÇöz(görünüm.substr(0, boşluk)), YoluÇöz(görünüm.substr(boşluk + 1)), parola);
+    return true;
+}
+
+bool VeriKaynağınıYaz(const Öznitelikler& öznitelikler, const char* sürücü) {
+    const std::string kaynak = öznitelikler.Değer("DSN");
+    if (kaynak.empty()) throw Hata(Durum::Genel, "Veri kaynağının adı (DSN) belirtilmemiş.");
+    if (!SQLWriteDSNToIni(kaynak.c_str(), sürücü)) return false;
+    for (const char* anahtar : {"DBQ", "Description"})
+        if (const std::string* değer = öznitelikler.Bul(anahtar))
+            if (!SQLWritePrivateProfileString(kaynak.c_str(), anahtar, değer->c_str(), "odbc.ini")) return false;
+    return true;
+}
+
+bool İsteğiYürüt(WORD istek, const char* sürücü, const Öznitelikler& öznitelikler) {
+    if (istek == ODBC_REMOVE_DSN) return SQLRemoveDSNFromIni(öznitelikler.Değer("DSN").c_str());
+    if (const std::string* yollar = öznitelikler.Bul("COMPACT_DB")) return Sıkıştır(*yollar, öznitelikler.Değer("PWD"));
+    if (const std::string* yol = öznitelikler.Bul("CREATE_DB")) {
+        VeriDosyasıOluştur(*yol, öznitelikler.Değer("PWD"));
+        return true;
+    }
+    return VeriKaynağınıYaz(öznitelikler, sürücü);
+}
+
+}  // namespace
+
+extern "C" BOOL INSTAPI ConfigDSN(HWND, WORD istek, LPCSTR sürücü, LPCSTR liste) {
+    try {
+        return İsteğiYürüt(istek, sürücü, Öznitelikler::Listeden(liste));
+    } catch (const std::exception& hata) {
+        SQLPostInstallerError(ODBC_ERROR_REQUEST_FAILED, hata.what());
+    }
+    return false;
+}

@@ -1,0 +1,133 @@
+#include "DeyimNesnesi.h"
+
+#include "SqlTurleri.h"
+#include "Utf8.h"
+
+#include <cstring>
+
+namespace Motor {
+
+SQLRETURN DeyimNesnesi::Hazırla(std::string_view metin) {
+    İmleciKapat();
+    m_komut.reset();
+    m_komut = m_bağlantı.Veri().Çevir(metin);
+    return SQL_SUCCESS;
+}
+
+SQLRETURN DeyimNesnesi::HazırıÇalıştır() {
+    if (!m_komut) throw Hata(Durum::SıraHatası, "Hazırlanmış bir deyim yok.");
+    return Başlat(*m_komut);
+}
+
+SQLRETURN DeyimNesnesi::Çalıştır(std::string_view metin) {
+    return Başlat(m_bağlantı.Veri().Çevir(metin));
+}
+
+SQLRETURN DeyimNesnesi::TablolarıListele(std::string_view tablo, std::string_view türler) {
+    return Başlat(TablolarKomutu(tablo, türler));
+}
+
+SQLRETURN DeyimNesnesi::SütunlarıListele(std::string_view tablo, std::string_view sütun) {
+    return Başlat(SütunlarKomutu(tablo, sütun));
+}
+
+// A query's first row is fetched at once: a locked or damaged file shows while the statement is executed, where clients
+// look for errors. A query without rows gives the file's lock back at once.
+SQLRETURN DeyimNesnesi::Başlat(SqliteKomutu komut) {
+    İmleciKapat();
+    m_komut = std::move(komut);
+    if (m_komut->Tür != SqliteKomutu::Sınıf::Sorgu) {
+        m_etkilenen = m_bağlantı.Veri().Uygula(*m_komut);
+        return SQL_SUCCESS;
+    }
+    Sorgu sorgu = m_bağlantı.Veri().Sorgula(*m_komut);
+    m_ilkSatırBekliyor = sorgu.Adım();
+    m_sorgu = std::move(sorgu);
+    m_bitti = !m_ilkSatırBekliyor;
+    return SQL_SUCCESS;
+}
+
+void DeyimNesnesi::İmleciKapat() {
+    m_sorgu.reset();
+    m_etkilenen = -1;
+    m_ilkSatırBekliyor = m_satırda = m_bitti = false;
+    m_okunanSütun = 0;
+}
+
+SQLRETURN DeyimNesnesi::Kapat(SQLUSMALLINT seçenek) {
+    if (seçenek == SQL_CLOSE) İmleciKapat();
+    return SQL_SUCCESS;
+}
+
+SQLRETURN DeyimNesnesi::Kes() {
+    m_bağlantı.Veri().Kes();
+    return SQL_SUCCESS;
+}
+
+SQLRETURN DeyimNesnesi::Getir() {
+    if (!m_sorgu) throw Hata(Durum::İmleçDurumu, "Okunacak bir sorgu sonucu yok.");
+    m_okunanSütun = 0;
+    m_satırda = false;
+    if (m_bitti) return SQL_NO_DATA;
+    if (m_ilkSatırBekliyor)
+        m_ilkSatırBekliyor = false;
+    else
+        m_bitti = !m_sorgu->Adım();
+    m_satırda = !m_bitti;
+    return m_satırda ? SQL_SUCCESS : SQL_NO_DATA;
+}
+
+SQLRETURN DeyimNesnesi::VeriAl(SQLUSMALLINT sütun, SQLSMALLINT hedefTürü, SQLPOINTER tampon, SQLLEN boy,
+                               SQLLEN* uzunluk) {
+    if (!m_satırda) throw Hata(Durum::İmleçDurumu, "Okunacak bir satır yok.");
+    const SütunTürü tür = Sütun(sütun).Tür;
+    const bool metinOlarak =
+        hedefTürü == SQL_C_CHAR || (hedefTürü == SQL_C_DEFAULT && (tür == SütunTürü::Metin || tür == SütunTürü::Para));
+    if (!metinOlarak) throw Hata(Durum::Desteklenmiyor, "Değerler yalnızca metin (SQL_C_CHAR) olarak okunabilir.");
+    if (boy < 0) throw Hata(Durum::TamponUzunluğu, "Tamponun boyu geçersiz.");
+
+    const std::size_t sıra = sütun - 1u;
+    if (m_sorgu->Boş(sıra)) {
+        if (!uzunluk) throw Hata(Durum::BoşGösterge, "Boş (NULL) değer için uzunluk göstergesi verilmemiş.");
+        *uzunluk = SQL_NULL_DATA;
+        return SQL_SUCCESS;
+    }
+    char yer[DeğerMetniBoyu];
+    std::string_view metin = m_sorgu->Metin(sıra, yer);
+    if (m_okunanSütun == sütun) {
+        if (m_okunanBayt == metin.size()) return SQL_NO_DATA;
+        metin.remove_prefix(m_okunanBayt);
+    } else {
+        m_okunanSütun = sütun;
+        m_okunanBayt = 0;
+    }
+    return ParçaVer(metin, tampon, boy, uzunluk);
+}
+
+SQLRETURN DeyimNesnesi::ParçaVer(std::string_view metin, SQLPOINTER tampon, SQLLEN boy, SQLLEN* uzunluk) {
+    if (uzunluk) *uzunluk = static_cast<SQLLEN>(metin.size());
+    const std::size_t yer = tampon && boy > 0 ? static_cast<std::size_t>(boy) - 1 : 0;
+    std::string_view parça = BütünKarakterlerleKes(metin, yer);
+    // A buffer too small for even one character gets its bytes, so that a reading loop comes to an end.
+    if (parça.empty()) parça = metin.substr(0, yer);
+    if (tampon && boy > 0) {
+        std::memcpy(tampon, parça.data(), parça.size());
+        static_cast<char*>(tampon)[parça.size()] = '\0';
+    }
+    m_okunanBayt += parça.size();
+    if (parça.size() == metin.size()) return SQL_SUCCESS;
+    Tanı.Ekle(Hata(Durum::Kesildi, "Değer tampona sığmadığı için kesildi."));
+    return SQL_SUCCESS_WITH_INFO;
+}
+
+SQLRETURN DeyimNesnesi::SütunSayısı(SQLSMALLINT* sayı) {
+    if (sayı) *sayı = m_komut ? static_cast<SQLSMALLINT>(m_komut->Sütunlar.size()) : 0;
+    return SQL_SUCCESS;
+}
+
+SQLRETURN DeyimNesnesi::EtkilenenSatır(SQLLEN* sayı) {
+    if (sayı) *sayı = static_cast<SQLLEN>(m_etkilenen);
+    return SQL_SUCCESS;
+}
+
+}  // namespace Motor

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Baglanti.h"
+
+#include <optional>
+
+namespace Motor {
+
+// An ODBC statement: at most one running query or one finished change.
+class DeyimNesnesi {
+  public:
+    explicit DeyimNesnesi(Bağlantı& bağlantı) : m_bağlantı(bağlantı) {}
+
+    Tanılar Tanı;
+
+    SQLRETURN Hazırla(std::string_view metin);
+    SQLRETURN HazırıÇalıştır();
+    SQLRETURN Çalıştır(std::string_view metin);
+    SQLRETURN TablolarıListele(std::string_view tablo, std::string_view türler);
+    SQLRETURN SütunlarıListele(std::string_view tablo, std::string_view sütun);
+    SQLRETURN Kapat(SQLUSMALLINT seçenek);
+    SQLRETURN Kes();
+
+    SQLRETURN Getir();
+
+    // A column of the current row (from 1) as text; repeated calls for one column hand out the rest of a text that did
+    // not fit, always whole characters. `uzunluk` receives the bytes that were left before the call.
+    SQLRETURN VeriAl(SQLUSMALLINT sütun, SQLSMALLINT hedefTürü, SQLPOINTER tampon, SQLLEN boy, SQLLEN* uzunluk);
+
+    SQLRETURN SütunSayısı(SQLSMALLINT* sayı);
+    SQLRETURN EtkilenenSatır(SQLLEN* sayı);
+    SQLRETURN SütunuAnlat(SQLUSMALLINT sütun, SQLCHAR* ad, SQLSMALLINT boy, SQLSMALLINT* adUzunluğu, SQLSMALLINT* tür,
+                          SQLULEN* genişlik, SQLSMALLINT* ondalık, SQLSMALLINT* boşOlur);
+    SQLRETURN SütunÖzelliği(SQLUSMALLINT sütun, SQLUSMALLINT özellik, SQLPOINTER metin, SQLSMALLINT boy,
+                            SQLSMALLINT* uzunluk, SQLLEN* sayı);
+    SQLRETURN AyarYaz(SQLUSMALLINT ayar, SQLULEN değer);
+    SQLRETURN AyarOku(SQLUSMALLINT ayar, SQLPOINTER değer);
+
+  private:
+    const SütunTanımı& Sütun(SQLUSMALLINT sıra) const;
+    SQLRETURN Başlat(SqliteKomutu komut);
+    void İmleciKapat();
+    SQLRETURN ParçaVer(std::string_view metin, SQLPOINTER tampon, SQLLEN boy, SQLLEN* uzunluk);
+
+    Bağlantı& m_bağlantı;
+    std::optional<SqliteKomutu> m_komut;  // prepared or running
+    std::optional<Sorgu> m_sorgu;         // open cursor
+    std::int64_t m_etkilenen = -1;
+    bool m_ilkSatırBekliyor = false;  // fetched while executing, so that errors show there
+    bool m_satırda = false;
+    bool m_bitti = false;
+    SQLUSMALLINT m_okunanSütun = 0;  // of the running piecewise read, 0 for none
+    std::size_t m_okunanBayt = 0;
+};
+
+}  // namespace Motor
