@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QPushButton>
+
+// A button that runs a command. A click or its mnemonic moves the focus to it first, so that the box which the user was
+// in is left and formatted before the command runs; if that fails, the command does not run. Enter presses the button
+// that has the focus and no other: there are no default buttons.
+class KomutDüğmesi : public QPushButton {
+  public:
+    explicit KomutDüğmesi(const QString& metin, QWidget* sahip = nullptr);
+    explicit KomutDüğmesi(QWidget* sahip = nullptr) : KomutDüğmesi(QString(), sahip) {}
+
+  protected:
+    bool event(QEvent* olay) override;
+    void keyPressEvent(QKeyEvent* olay) override;
+    void mousePressEvent(QMouseEvent* olay) override;
+};
