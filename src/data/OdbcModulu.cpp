@@ -113,6 +113,13 @@ bool SorguÇalıştır() {
     return false;
 }
 
+bool DeyimiYürüt(const QString& deyim) {
+    SQLMetni = deyim;
+    const bool tamam = SorguÇalıştır();
+    DeyimiBırak();
+    return tamam;
+}
+
 bool SatırGetir() {
     // Besides the end of the rows, a column of the row before that could not be read whole ends the loop.
     if (SonDönüşKodu != Başarı) return false;

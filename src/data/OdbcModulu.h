@@ -12,8 +12,7 @@
 //         DeyimKoruması koruma;                       // drops the statement on every path
 //         while (SatırGetir()) { ... SütunOku(1) ... }
 //     }
-// Running INSERT, UPDATE, DELETE:
-//     SQLMetni = ...; bool tamam = SorguÇalıştır(); DeyimiBırak();
+// Running INSERT, UPDATE, DELETE: bool tamam = DeyimiYürüt(Deyimler::...);
 
 inline QString SQLMetni;                // text of the next statement
 inline std::int16_t SonDönüşKodu = 0;   // result of the last ODBC call; everything but 0 is failure or end
@@ -43,6 +42,9 @@ bool VeriDosyasıAçılıyor(const QString& yol);
 
 // Runs SQLMetni. False: the statement's and the connection's errors have been shown and the statement is dropped.
 bool SorguÇalıştır();
+
+// Runs an INSERT, UPDATE or DELETE and drops its statement. False: its errors have been shown.
+bool DeyimiYürüt(const QString& deyim);
 
 // The next row; false at the end, and also after a row in which a column's read gave anything but success.
 bool SatırGetir();

@@ -1,0 +1,116 @@
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+#include "DegiskenModulu.h"
+#include "Deyimler.h"
+#include "OdbcModulu.h"
+#include "TestVerisi.h"
+#include "VarnekTesti.h"
+
+using MesajKutusu::Simge;
+using MesajKutusu::Yanıt;
+
+namespace {
+
+class Odbc : public VarnekTesti {
+  protected:
+    Odbc() { VeriyeBağlan(); }
+    ~Odbc() override { ODBCBağlantısınıKapat(); }
+
+    // Every row of a one-column query; the loop ends as the program's own loops do.
+    static QStringList TekSütun(const QString& sql) {
+        QStringList satırlar;
+        SQLMetni = sql;
+        if (!SorguÇalıştır()) return satırlar;
+        const DeyimKoruması koruma;
+        while (SatırGetir()) satırlar.append(SütunOku(1));
+        return satırlar;
+    }
+};
+
+TEST_F(Odbc, VeriKaynağıVarolurVeÇıkıştaKalkar) {
+    const auto içerik = [this] {
+        QFile dosya(OdbcDosyası());
+        return dosya.open(QIODevice::ReadOnly) ? dosya.readAll() : QByteArray();
+    };
+    EXPECT_TRUE(içerik().contains("[Varnek]")) << içerik().constData();
+    ODBCBağlantısınıKapat();
+    EXPECT_FALSE(içerik().contains("[Varnek]")) << içerik().constData();
+    EXPECT_FALSE(SorguÇalıştır()) << "a statement after the connection was closed must fail, not crash";
+}
+
+TEST_F(Odbc, İkiYüzElliDörtTürkçeHarfBütünOkunur) {
+    const QString tam(254, QChar(u'ğ'));
+    ASSERT_TRUE(DeyimiYürüt(Deyimler::MalzemeEkle(tam, QStringLiteral("1"))));
+    EXPECT_EQ(TekSütun(Deyimler::MalzemeListesi()), QStringList(tam));
+    EXPECT_EQ(SonDönüşKodu, 100);
+}
+
+TEST_F(Odbc, UzunMetinKesilirVeSonSatırOlur) {
+    const QString uzun(255, QChar(u'ğ'));
+    ASSERT_TRUE(DeyimiYürüt(Deyimler::MalzemeEkle(QStringLiteral("A"), QStringLiteral("1"))));
+    ASSERT_TRUE(DeyimiYürüt(Deyimler::MalzemeEkle(uzun, QStringLiteral("1"))));
+    ASSERT_TRUE(DeyimiYürüt(Deyimler::MalzemeEkle(QStringLiteral("Z"), QStringLiteral("1"))));
+    EXPECT_EQ(TekSütun(Deyimler::MalzemeListesi()), QStringList({QStringLiteral("A"), uzun.left(254)}));
+    EXPECT_EQ(SonDönüşKodu, 1);
+}
+
+TEST_F(Odbc, HataKutusuDeyiminHatasınıGösterirVeBağlantıSürer) {
+    Kutular().Yanıtla(Yanıt::Tamam);
+    EXPECT_FALSE(DeyimiYürüt(Deyimler::MalzemeEkle(QStringLiteral("O'Neil"), QStringLiteral("1"))));
+    const auto kutular = Kutular().Al();
+    ASSERT_EQ(kutular.size(), 1u);
+    EXPECT_EQ(kutular[0].simge, Simge::Kritik);
+    EXPECT_EQ(kutular[0].başlık, QStringLiteral("ODBC Hatası"));
+    EXPECT_GT(kutular[0].metin.size(), 10);
+    EXPECT_TRUE(kutular[0].ortala);
+    EXPECT_TRUE(DeyimiYürüt(Deyimler::MalzemeEkle(QStringLiteral("Tutkal"), QStringLiteral("12,5"))));
+    EXPECT_EQ(TekSütun(Deyimler::MalzemeListesi()), QStringList(QStringLiteral("Tutkal")));
+}
+
+TEST_F(Odbc, TırnaklıAdSilmeyiGenişletmez) {
+    for (const char* ad : {"Ahşap", "Cam"}) {
+        ASSERT_TRUE(DeyimiYürüt(Deyimler::MalzemeEkle(QString::fromUtf8(ad), QStringLiteral("1"))));
+    }
+    Kutular().Yanıtla(Yanıt::Tamam);
+    EXPECT_FALSE(DeyimiYürüt(Deyimler::MalzemeSil(QStringLiteral("a' OR '1'='1"))));
+    Kutular().Al();
+    EXPECT_EQ(TekSütun(Deyimler::MalzemeListesi()).size(), 2);
+}
+
+TEST_F(Odbc, KayıtSayısıHiçSıfırOlmaz) {
+    SQLMetni = Deyimler::ÜrünSayısı();
+    EXPECT_EQ(KayıtSayısıAl(), 1);
+    for (const char* ad : {"A", "B", "C"}) {
+        ASSERT_TRUE(DeyimiYürüt(Deyimler::ÜrünEkle(QStringLiteral("G"), QString::fromUtf8(ad))));
+    }
+    SQLMetni = Deyimler::ÜrünSayısı();
+    EXPECT_EQ(KayıtSayısıAl(), 3);
+    Kutular().Yanıtla(Yanıt::Tamam);
+    SQLMetni = QStringLiteral("SELECT Count(Yok) AS KayitSayisi FROM YokTablo");
+    EXPECT_EQ(KayıtSayısıAl(), 1);
+    Kutular().Al();
+}
+
+TEST_F(Odbc, HiçbirSatıraDeğmeyenDeyimBaşarılıdır) {
+    EXPECT_TRUE(DeyimiYürüt(Deyimler::MalzemeSil(QStringLiteral("Yok"))));
+    EXPECT_TRUE(DeyimiYürüt(Deyimler::FiyatDeğiştir(QStringLiteral("Yok"), QStringLiteral("1"))));
+    EXPECT_EQ(SonDönüşKodu, 0);
+}
+
+TEST_F(Odbc, AçılamayanDosyaHatayıGösterirVeYanlışDöner) {
+    ODBCBağlantısınıKapat();
+    QFile dosya(VeriDosyası());
+    ASSERT_TRUE(dosya.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    dosya.write("bu bir veri dosyası değil");
+    dosya.close();
+    EXPECT_FALSE(VeriDosyasıAçılıyor(VeriDosyası()));
+    Kutular().Yanıtla(Yanıt::Tamam);
+    EXPECT_FALSE(ODBCBağlan());
+    const auto kutular = Kutular().Al();
+    ASSERT_EQ(kutular.size(), 1u);
+    EXPECT_EQ(kutular[0].başlık, QStringLiteral("ODBC Hatası"));
+}
+
+}  // namespace
