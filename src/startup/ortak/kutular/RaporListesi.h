@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QList>
+#include <QTreeWidget>
+
+// A list of rows with columns. Each column's width is the list's own width divided by the column's divisor, also after
+// resizing; figures stand at the right; the first row is current once rows are put in.
+class RaporListesi : public QTreeWidget {
+  public:
+    struct Sütun {
+        int Başlık;    // number of the header's text
+        double Bölen;  // list width / Bölen = column width
+        bool Sayı;     // figures: right-aligned
+    };
+
+    explicit RaporListesi(const QList<Sütun>& sütunlar, QWidget* sahip = nullptr);
+
+    bool Boş() const { return topLevelItemCount() == 0; }
+
+    // Replaces the rows; takes ownership of them.
+    void SatırlarıKoy(const QList<QTreeWidgetItem*>& satırlar);
+
+    // A text of the current row; empty when there is no row.
+    QString SeçiliMetin(int sütun) const;
+
+  protected:
+    void resizeEvent(QResizeEvent* olay) override;
+
+  private:
+    QList<double> m_bölenler;
+};
