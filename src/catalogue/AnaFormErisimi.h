@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+#include <optional>
+
+// What the catalogue forms need of the main form. The main form supplies it; a test may supply its own.
+class AnaFormErişimi {
+  public:
+    struct Ürün {
+        QString Grup;
+        QString Ad;
+    };
+
+    AnaFormErişimi() = default;
+    AnaFormErişimi(const AnaFormErişimi&) = delete;
+    AnaFormErişimi& operator=(const AnaFormErişimi&) = delete;
+    virtual ~AnaFormErişimi() = default;
+
+    // Fills the main form's tree anew from the data file, then selects its first node and reacts to that selection;
+    // without a product the main form goes into its empty state.
+    virtual void ÜrünAğacınıYenile() = 0;
+
+    // Selects the node at this position over all nodes (from 0), scrolls it into view and reloads it. A position that
+    // no node has changes nothing.
+    virtual void DüğümüSeç(std::int32_t sıra) = 0;
+
+    // The selected product; nothing while a group or no node is selected.
+    virtual std::optional<Ürün> SeçiliÜrün() const = 0;
+
+    // Names in the selected product's list of used materials, as shown.
+    virtual QStringList KullanılanMalzemeAdları() const = 0;
+
+    // Reloads the selected product's used materials and percentages and recomputes its cost.
+    virtual void MalzemeTablosuYükle() = 0;
+};

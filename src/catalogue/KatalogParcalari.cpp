@@ -1,0 +1,73 @@
+#include "KatalogParcalari.h"
+
+#include <QDialog>
+#include <QLabel>
+#include <QListWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "EnterTusu.h"
+#include "EtiketVurgusu.h"
+#include "HataYakala.h"
+#include "KomutDugmesi.h"
+#include "MesajKutusu.h"
+#include "MetinTablosu.h"
+
+using MesajKutusu::Düğmeler;
+using MesajKutusu::Simge;
+using MesajKutusu::Yanıt;
+
+KomutDüğmesi* KatalogDüğmesi(const QString& ad, const QList<int>& başlıklar, std::function<void()> komut) {
+    auto* düğme = new KomutDüğmesi;
+    düğme->setObjectName(ad);
+    int genişlik = 0;
+    for (const int başlık : başlıklar) {
+        düğme->setText(Metin(başlık));
+        genişlik = std::max(genişlik, düğme->sizeHint().width());
+    }
+    düğme->setMinimumWidth(genişlik);
+    düğme->setText(Metin(başlıklar.first()));
+    QObject::connect(düğme, &QPushButton::clicked, düğme, [komut = std::move(komut)] { HataYakala(komut); });
+    return düğme;
+}
+
+QLabel* KatalogEtiketi(int sıra, int metin, QWidget* kutu) {
+    auto* etiket = new QLabel(Metin(metin));
+    etiket->setTextFormat(Qt::PlainText);
+    etiket->setObjectName(QStringLiteral("Etiket(%1)").arg(sıra));
+    EtiketEşle(etiket, kutu);
+    return etiket;
+}
+
+QListWidget* KatalogListesi(const QString& ad) {
+    auto* liste = new QListWidget;
+    liste->setObjectName(ad);
+    liste->setUniformItemSizes(true);
+    liste->setTextElideMode(Qt::ElideRight);
+    liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    Enterİleİlerlesin(liste);
+    return liste;
+}
+
+QWidget* KatalogAltlığı(QDialog* form) {
+    auto* altlık = new QWidget;
+    altlık->setObjectName(QStringLiteral("Altlık"));
+    altlık->setBackgroundRole(QPalette::Window);
+    altlık->setAutoFillBackground(true);
+    auto* düzen = new QVBoxLayout(form);
+    düzen->setContentsMargins(0, 0, 0, 0);
+    düzen->addWidget(altlık);
+    return altlık;
+}
+
+bool Uyar(int metin, QWidget& kutu) {
+    MesajKutusuOrtala();
+    MesajKutusu::Göster(Simge::Bilgi, Düğmeler::Tamam, Metin(metin));
+    kutu.setFocus();
+    return false;
+}
+
+bool Sor(const QString& soru) {
+    MesajKutusuOrtala();
+    return MesajKutusu::Göster(Simge::Soru, Düğmeler::EvetHayır, soru) == Yanıt::Evet;
+}

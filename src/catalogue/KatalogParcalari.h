@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <functional>
+
+class KomutDüğmesi;
+class QDialog;
+class QLabel;
+class QListWidget;
+class QWidget;
+
+// Pieces that the catalogue forms have in common.
+
+// A button that is as wide as the widest of its captions (numbers of texts), so that it keeps its place when its role
+// changes; it bears the first. An error that nobody foresaw in `komut` is shown, and the form stays as it is.
+KomutDüğmesi* KatalogDüğmesi(const QString& ad, const QList<int>& başlıklar, std::function<void()> komut);
+
+// The caption Etiket(sıra) of a box, list or tree, highlighted while the user is in it.
+QLabel* KatalogEtiketi(int sıra, int metin, QWidget* kutu);
+
+// A list of names for tens of thousands of rows, in which Enter moves on.
+QListWidget* KatalogListesi(const QString& ad);
+
+// The form's background panel, which holds everything on it.
+QWidget* KatalogAltlığı(QDialog* form);
+
+// Shows an information box and puts the focus on the control that it is about; always false.
+bool Uyar(int metin, QWidget& kutu);
+
+// A Yes/No box with the question mark; true for Yes.
+bool Sor(const QString& soru);

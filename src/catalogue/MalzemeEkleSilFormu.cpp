@@ -1,0 +1,282 @@
+#include "MalzemeEkleSilFormu.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include "AnaFormErisimi.h"
+#include "DegiskenModulu.h"
+#include "Deyimler.h"
+#include "GirisKutusu.h"
+#include "KatalogParcalari.h"
+#include "KomutDugmesi.h"
+#include "MesajKutusu.h"
+#include "MetinTablosu.h"
+#include "OdbcModulu.h"
+#include "OnekArama.h"
+#include "SayiKutusu.h"
+#include "SayiMetni.h"
+#include "Yukleyiciler.h"
+
+using MesajKutusu::Düğmeler;
+using MesajKutusu::Simge;
+using MesajKutusu::Yanıt;
+
+MalzemeEkleSilFormu::MalzemeEkleSilFormu(AnaFormErişimi& anaForm, QWidget* sahip) : QDialog(sahip), m_anaForm(anaForm) {
+    setObjectName(QStringLiteral("MalzemeEkleSilFormu"));
+    setWindowTitle(Metin(600));
+    KontrolleriKur();
+    Yerleştir();
+}
+
+void MalzemeEkleSilFormu::KontrolleriKur() {
+    m_bul = new GirişKutusu;
+    m_bul->setObjectName(QStringLiteral("MalzemeBulKutusu"));
+    m_bul->setMaxLength(EnUzunAd);
+    connect(m_bul, &QLineEdit::textChanged, this, [this] { MalzemeBulKutusu_Change(); });
+    m_liste = KatalogListesi(QStringLiteral("MalzemeListesi"));
+    connect(m_liste, &QListWidget::currentRowChanged, this, [this] { SeçileniGöster(); });
+
+    m_çerçeve = new QFrame;
+    m_çerçeve->setObjectName(QStringLiteral("Çerçeve"));
+    m_çerçeve->setFrameShape(QFrame::StyledPanel);
+    m_çerçeve->setEnabled(false);
+    m_ad = new AdKutusu;
+    m_ad->setObjectName(QStringLiteral("MalzemeAdıKutusu"));
+    m_fiyat = new SayıKutusu(SayıKutusu::Tür::Tutar);
+    m_fiyat->setObjectName(QStringLiteral("MalzemeFiyatıKutusu"));
+
+    m_ekleKaydet = KatalogDüğmesi(QStringLiteral("MalzemeEkleKaydetButonu"), {650, 520},
+                                  [this] { MalzemeEkleKaydetButonu_Click(); });
+    m_sil = KatalogDüğmesi(QStringLiteral("MalzemeSilButonu"), {660}, [this] { MalzemeSilButonu_Click(); });
+    m_fiyatDeğiştir = KatalogDüğmesi(QStringLiteral("MalzemeFiyatıDeğiştirButonu"), {670, 520},
+                                     [this] { MalzemeFiyatıDeğiştirButonu_Click(); });
+    m_kapatİptal = KatalogDüğmesi(QStringLiteral("KapatİptalButonu"), {510, 530}, [this] { KapatİptalButonu_Click(); });
+}
+
+void MalzemeEkleSilFormu::Yerleştir() {
+    auto* sol = new QVBoxLayout;
+    sol->addWidget(KatalogEtiketi(1, 620, m_bul));
+    sol->addWidget(m_bul);
+    sol->addWidget(KatalogEtiketi(0, 610, m_liste));
+    sol->addWidget(m_liste);
+
+    auto* kutular = new QVBoxLayout(m_çerçeve);
+    kutular->addWidget(KatalogEtiketi(2, 630, m_ad));
+    kutular->addWidget(m_ad);
+    kutular->addWidget(KatalogEtiketi(3, 640, m_fiyat));
+    kutular->addWidget(m_fiyat);
+
+    auto* düğmeler = new QHBoxLayout;
+    düğmeler->addWidget(m_ekleKaydet);
+    düğmeler->addWidget(m_sil);
+    düğmeler->addWidget(m_fiyatDeğiştir);
+    auto* sağ = new QVBoxLayout;
+    sağ->addWidget(m_çerçeve);
+    sağ->addLayout(düğmeler);
+    sağ->addStretch();
+    sağ->addWidget(m_kapatİptal, 0, Qt::AlignRight);
+
+    auto* düzen = new QHBoxLayout(KatalogAltlığı(this));
+    düzen->addLayout(sol, 1);
+    düzen->addLayout(sağ);
+    resize(720, 460);
+    m_bul->setFocus();
+}
+
+void MalzemeEkleSilFormu::Yükle() {
+    MalzemeListesiniYükle(*m_liste);
+    ListeyiEtkinleştir(m_liste->count() > 0);
+    SatırıSeç(m_liste->count() > 0 ? 0 : -1);
+}
+
+MalzemeEkleSilFormu::Kip MalzemeEkleSilFormu::GeçerliKip() const {
+    if (!m_çerçeve->isEnabledTo(this)) return Kip::Gözatma;
+    return m_ekleKaydet->isEnabledTo(this) ? Kip::Ekleme : Kip::FiyatDeğişimi;
+}
+
+void MalzemeEkleSilFormu::ListeyiEtkinleştir(bool etkin) {
+    m_liste->setEnabled(etkin);
+    m_bul->setEnabled(etkin);
+    m_sil->setEnabled(etkin);
+    m_fiyatDeğiştir->setEnabled(etkin);
+}
+
+void MalzemeEkleSilFormu::SatırıSeç(int satır) {
+    const QSignalBlocker sessiz(m_liste);
+    m_liste->setCurrentRow(satır);
+    if (satır >= 0) m_liste->scrollToItem(m_liste->item(satır));
+    SeçileniGöster();
+}
+
+void MalzemeEkleSilFormu::SeçileniGöster() {
+    m_ad->clear();
+    m_fiyat->clear();
+    const QListWidgetItem* seçili = m_liste->currentItem();
+    if (!seçili) return;
+    SQLMetni = Deyimler::MalzemeVeFiyatı(seçili->text());
+    if (!SorguÇalıştır()) return;
+    const DeyimKoruması koruma;
+    if (!SatırGetir()) return;
+    m_ad->setText(SütunOku(1));
+    const QString fiyat = NoktayıVirgüleÇevir(SütunOku(2));
+    m_fiyat->setText(SayıMetniBiçimle(fiyat, OndalıkBasamak).value_or(fiyat));
+}
+
+void MalzemeEkleSilFormu::MalzemeBulKutusu_Change() {
+    SatırıSeç(ÖnekAra(*m_liste, m_bul->text()));
+}
+
+void MalzemeEkleSilFormu::EklemeKipineGeç() {
+    m_ad->clear();
+    m_fiyat->clear();
+    m_çerçeve->setEnabled(true);
+    ListeyiEtkinleştir(false);
+    m_ekleKaydet->setText(Metin(520));
+    m_kapatİptal->setText(Metin(530));
+    m_ad->setFocus();
+}
+
+void MalzemeEkleSilFormu::EklemedenDön() {
+    m_ekleKaydet->setText(Metin(650));
+    m_kapatİptal->setText(Metin(510));
+    m_ad->clear();
+    m_fiyat->clear();
+    m_çerçeve->setEnabled(false);
+}
+
+void MalzemeEkleSilFormu::FiyatKipineGeç() {
+    m_liste->setEnabled(false);
+    m_bul->setEnabled(false);
+    m_çerçeve->setEnabled(true);
+    m_ad->setEnabled(false);
+    m_ekleKaydet->setEnabled(false);
+    m_sil->setEnabled(false);
+    m_fiyatDeğiştir->setText(Metin(520));
+    m_kapatİptal->setText(Metin(530));
+    m_fiyat->setFocus();
+}
+
+void MalzemeEkleSilFormu::FiyattanDön() {
+    m_liste->setEnabled(true);
+    m_bul->setEnabled(true);
+    m_çerçeve->setEnabled(false);
+    m_ad->setEnabled(true);
+    m_ekleKaydet->setEnabled(true);
+    m_sil->setEnabled(true);
+    m_fiyatDeğiştir->setText(Metin(670));
+    m_kapatİptal->setText(Metin(510));
+}
+
+bool MalzemeEkleSilFormu::GirilenlerUygun() {
+    if (m_ad->text().isEmpty()) return Uyar(680, *m_ad);
+    if (m_fiyat->text().isEmpty()) return Uyar(690, *m_fiyat);
+    SQLMetni = Deyimler::MalzemeVarMı(m_ad->text());
+    if (!SorguÇalıştır()) return false;
+    const bool var = SatırGetir();
+    DeyimiBırak();
+    return var ? Uyar(700, *m_ad) : true;
+}
+
+void MalzemeEkleSilFormu::MalzemeEkleKaydetButonu_Click() {
+    if (GeçerliKip() != Kip::Ekleme) {
+        EklemeKipineGeç();
+        return;
+    }
+    if (!GirilenlerUygun()) return;
+    const QString ad = m_ad->text();
+    if (!DeyimiYürüt(Deyimler::MalzemeEkle(ad, m_fiyat->text()))) return;
+    EklemedenDön();
+    const int yer = SıralıYer(
+        m_liste->count(), [this](int satır) { return m_liste->item(satır)->text(); }, ad);
+    {
+        const QSignalBlocker sessiz(m_liste);
+        m_liste->insertItem(yer, ad);
+    }
+    SatırıSeç(yer);
+    ListeyiEtkinleştir(true);
+    m_ekleKaydet->setFocus();
+}
+
+void MalzemeEkleSilFormu::MalzemeSilButonu_Click() {
+    const QListWidgetItem* seçili = m_liste->currentItem();
+    if (!seçili) {
+        Uyar(710, *m_liste);
+        return;
+    }
+    const QString ad = seçili->text();
+    MesajKutusuOrtala();
+    if (MesajKutusu::Göster(Simge::Ünlem, Düğmeler::EvetHayır, Metin(550)) == Yanıt::Hayır) return;
+    if (!DeyimiYürüt(Deyimler::MalzemeSil(ad))) return;
+    MesajKutusuOrtala();
+    // Products keep the material's name, quantity and price unless the user agrees; No is the safe default.
+    if (MesajKutusu::Göster(Simge::Soru, Düğmeler::EvetHayır, Metin(720), {}, Yanıt::Hayır) == Yanıt::Evet) {
+        DeyimiYürüt(Deyimler::MalzemeyiÜrünlerdenSil(ad));
+        SeçiliÜrünüYenile();
+    }
+    ListedenKaldır(m_liste->currentRow());
+}
+
+void MalzemeEkleSilFormu::ListedenKaldır(int satır) {
+    {
+        const QSignalBlocker sessiz(m_liste);
+        delete m_liste->takeItem(satır);
+    }
+    if (m_liste->count() > 0) {
+        SatırıSeç(satır == 0 ? 0 : satır - 1);
+        return;
+    }
+    ListeyiEtkinleştir(false);
+    m_bul->clear();
+    SatırıSeç(-1);
+    m_ekleKaydet->setFocus();
+}
+
+void MalzemeEkleSilFormu::SeçiliÜrünüYenile() {
+    if (SeçiliÜrünSırası >= 0) m_anaForm.DüğümüSeç(SeçiliÜrünSırası);
+}
+
+void MalzemeEkleSilFormu::MalzemeFiyatıDeğiştirButonu_Click() {
+    if (GeçerliKip() == Kip::Gözatma) {
+        if (!m_liste->currentItem()) {
+            Uyar(710, *m_liste);
+            return;
+        }
+        SeçileniGöster();
+        FiyatKipineGeç();
+        return;
+    }
+    if (m_fiyat->text().isEmpty()) {
+        Uyar(690, *m_fiyat);
+        return;
+    }
+    const QString ad = m_liste->currentItem()->text();
+    // The second statement runs whatever became of the first.
+    DeyimiYürüt(Deyimler::FiyatDeğiştir(ad, m_fiyat->text()));
+    DeyimiYürüt(Deyimler::ÜrünlerdeFiyatDeğiştir(ad, m_fiyat->text()));
+    SeçiliÜrünüYenile();
+    FiyattanDön();
+    m_fiyatDeğiştir->setFocus();
+}
+
+void MalzemeEkleSilFormu::KapatİptalButonu_Click() {
+    switch (GeçerliKip()) {
+        case Kip::FiyatDeğişimi:
+            // The price box keeps what was typed until the next selection.
+            FiyattanDön();
+            m_fiyatDeğiştir->setFocus();
+            break;
+        case Kip::Gözatma:
+            QDialog::reject();
+            break;
+        case Kip::Ekleme:
+            EklemedenDön();
+            if (m_liste->count() > 0) ListeyiEtkinleştir(true);
+            m_ekleKaydet->setFocus();
+            break;
+    }
+}

@@ -1,0 +1,232 @@
+#include "MalzemeListesiOlusturFormu.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QVBoxLayout>
+#include <set>
+
+#include "AcilirGirisKutusu.h"
+#include "AnaFormErisimi.h"
+#include "DegiskenModulu.h"
+#include "Deyimler.h"
+#include "EnterTusu.h"
+#include "GirisKutusu.h"
+#include "HataYakala.h"
+#include "KatalogParcalari.h"
+#include "KomutDugmesi.h"
+#include "MesajKutusu.h"
+#include "MetinTablosu.h"
+#include "MiktarTurleri.h"
+#include "OdbcModulu.h"
+#include "OnekArama.h"
+#include "OrtakFonksiyonlarModulu.h"
+#include "Saat.h"
+#include "RaporListesi.h"
+#include "SayiKutusu.h"
+#include "SayiMetni.h"
+#include "TurkceSira.h"
+#include "Yukleyiciler.h"
+
+namespace {
+
+// Columns of the list that is to be transferred.
+enum Sütun { MiktarSütunu, AdSütunu, FiyatSütunu, TutarSütunu };
+
+// Quantity, blank and type together fit a stored text: a quantity of 40 characters has at most 60 once it is formatted.
+constexpr int EnUzunMiktar = 40;
+constexpr int EnUzunTür = EnUzunAd - 1 - 60;
+
+struct TürkçeKüçük {
+    bool operator()(const QString& a, const QString& b) const {
+        return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) < 0;
+    }
+};
+
+}  // namespace
+
+MalzemeListesiOluşturFormu::MalzemeListesiOluşturFormu(AnaFormErişimi& anaForm, QWidget* sahip)
+    : QDialog(sahip), m_anaForm(anaForm) {
+    setObjectName(QStringLiteral("MalzemeListesiOluşturFormu"));
+    setWindowTitle(Metin(750));
+    KontrolleriKur();
+    Yerleştir();
+}
+
+void MalzemeListesiOluşturFormu::KontrolleriKur() {
+    m_bul = new GirişKutusu;
+    m_bul->setObjectName(QStringLiteral("MalzemeBulKutusu"));
+    m_bul->setMaxLength(EnUzunAd);
+    connect(m_bul, &QLineEdit::textChanged, this, [this] { MalzemeBulKutusu_Change(); });
+    m_katalog = KatalogListesi(QStringLiteral("MalzemeListesi"));
+    connect(m_katalog, &QListWidget::itemDoubleClicked, this,
+            [this] { HataYakala([this] { ListeyeEkleButonu_Click(); }); });
+    m_miktar = new SayıKutusu(SayıKutusu::Tür::Tutar);
+    m_miktar->setObjectName(QStringLiteral("MalzemeMiktarıKutusu"));
+    m_miktar->Düzenlenince([this] {
+        if (m_miktar->text().size() > EnUzunMiktar) m_miktar->setText(m_miktar->text().left(EnUzunMiktar));
+    });
+    m_tür = new MiktarTürüKutusu;
+    m_tür->setObjectName(QStringLiteral("MiktarTürüListesi"));
+    m_tür->lineEdit()->setMaxLength(EnUzunTür);
+    m_eklenecek = new RaporListesi({{412, 5.2, false}, {414, 3.0, false}, {416, 5.0, true}, {418, 4.6, true}});
+    m_eklenecek->setObjectName(QStringLiteral("EklenecekMalzemeListesi"));
+    Enterİleİlerlesin(m_eklenecek);
+    connect(m_eklenecek, &QTreeWidget::itemDoubleClicked, this,
+            [this] { HataYakala([this] { ListedenÇıkarButonu_Click(); }); });
+
+    m_ekle = KatalogDüğmesi(QStringLiteral("ListeyeEkleButonu"), {780}, [this] { ListeyeEkleButonu_Click(); });
+    m_çıkar = KatalogDüğmesi(QStringLiteral("ListedenÇıkarButonu"), {790}, [this] { ListedenÇıkarButonu_Click(); });
+    m_temizle = KatalogDüğmesi(QStringLiteral("ListeyiTemizleButonu"), {800}, [this] { ListeyiTemizleButonu_Click(); });
+    m_aktar = KatalogDüğmesi(QStringLiteral("ListeyiAktarButonu"), {810}, [this] { ListeyiAktarButonu_Click(); });
+    m_iptal = KatalogDüğmesi(QStringLiteral("İptalButonu"), {530}, [this] { reject(); });
+}
+
+void MalzemeListesiOluşturFormu::Yerleştir() {
+    auto* katalog = new QVBoxLayout;
+    katalog->addWidget(KatalogEtiketi(3, 620, m_bul));
+    katalog->addWidget(m_bul);
+    katalog->addWidget(KatalogEtiketi(2, 610, m_katalog));
+    katalog->addWidget(m_katalog);
+    auto* miktar = new QGridLayout;
+    miktar->addWidget(KatalogEtiketi(0, 760, m_miktar), 0, 0);
+    miktar->addWidget(m_miktar, 1, 0);
+    miktar->addWidget(KatalogEtiketi(1, 765, m_tür), 0, 1);
+    miktar->addWidget(m_tür, 1, 1);
+    auto* giriş = new QVBoxLayout;
+    giriş->addLayout(miktar);
+    giriş->addWidget(m_ekle, 0, Qt::AlignRight);
+    giriş->addStretch();
+    auto* üst = new QHBoxLayout;
+    üst->addLayout(katalog, 3);
+    üst->addLayout(giriş, 2);
+
+    auto* düğmeler = new QHBoxLayout;
+    for (KomutDüğmesi* düğme : {m_çıkar, m_temizle, m_aktar}) düğmeler->addWidget(düğme);
+    düğmeler->addStretch();
+    düğmeler->addWidget(m_iptal);
+    auto* düzen = new QVBoxLayout(KatalogAltlığı(this));
+    düzen->addLayout(üst, 1);
+    düzen->addWidget(KatalogEtiketi(4, 770, m_eklenecek));
+    düzen->addWidget(m_eklenecek, 1);
+    düzen->addLayout(düğmeler);
+    resize(740, 540);
+    m_bul->setFocus();
+}
+
+void MalzemeListesiOluşturFormu::Yükle() {
+    const QStringList türler = MiktarTürleri::Oku();
+    m_tür->Doldur(türler);
+    MalzemeListesiniYükle(*m_katalog);
+    if (m_katalog->count() > 0) m_katalog->setCurrentRow(0);
+    m_tür->setCurrentIndex(türler.isEmpty() ? -1 : 0);
+    ListeDüğmeleriniAyarla();
+}
+
+bool MalzemeListesiOluşturFormu::KatalogBoş() const {
+    return m_katalog->count() == 0;
+}
+
+void MalzemeListesiOluşturFormu::MalzemeBulKutusu_Change() {
+    const int satır = ÖnekAra(*m_katalog, m_bul->text());
+    m_katalog->setCurrentRow(satır);
+    if (satır >= 0) m_katalog->scrollToItem(m_katalog->item(satır));
+}
+
+void MalzemeListesiOluşturFormu::ListeDüğmeleriniAyarla() {
+    const bool dolu = m_eklenecek->topLevelItemCount() > 0;
+    m_çıkar->setEnabled(dolu);
+    m_temizle->setEnabled(dolu);
+    m_aktar->setEnabled(dolu);
+}
+
+bool MalzemeListesiOluşturFormu::GirilenlerUygun() {
+    if (!m_katalog->currentItem()) return Uyar(710, *m_katalog);
+    if (m_miktar->text().isEmpty()) return Uyar(820, *m_miktar);
+    const QString tür = m_tür->currentText().trimmed();
+    if (tür.isEmpty()) return Uyar(830, *m_tür);
+    // The type is remembered before the quantity is judged.
+    QStringList türler;
+    for (int sıra = 0; sıra < m_tür->count(); ++sıra) türler.append(m_tür->itemText(sıra));
+    MiktarTürleri::Hatırla(türler, tür);
+    m_tür->Doldur(türler);
+    m_tür->setEditText(tür);
+    // Only zero is refused, though the message speaks of 1.
+    if (DoubleOku(m_miktar->text()).value_or(0) == 0) return Uyar(840, *m_miktar);
+    return true;
+}
+
+bool MalzemeListesiOluşturFormu::ZatenEklenmiş(const QString& malzeme) const {
+    for (int sıra = 0; sıra < m_eklenecek->topLevelItemCount(); ++sıra) {
+        const QString ad = m_eklenecek->topLevelItem(sıra)->text(AdSütunu);
+        if (Türkçe::Karşılaştır(QStringView(ad), QStringView(malzeme)) == 0) return true;
+    }
+    return false;
+}
+
+std::optional<Para> MalzemeListesiOluşturFormu::BirimFiyat(const QString& malzeme) const {
+    SQLMetni = Deyimler::MalzemeFiyatı(malzeme);
+    if (!SorguÇalıştır()) return std::nullopt;
+    const DeyimKoruması koruma;
+    if (!SatırGetir()) return Para::OnBindeBirden(Para::Ölçek);  // no longer in the catalogue: 1
+    // Rounded to the decimals on display before use.
+    const auto metin = SayıMetniBiçimle(NoktayıVirgüleÇevir(SütunOku(1)), OndalıkBasamak);
+    const auto fiyat = metin ? ParaOku(*metin) : std::nullopt;
+    if (!fiyat) BeklenmeyenHataGöster(malzeme);
+    return fiyat;
+}
+
+void MalzemeListesiOluşturFormu::ListeyeEkleButonu_Click() {
+    if (!GirilenlerUygun()) return;
+    const QString malzeme = m_katalog->currentItem()->text();
+    if (ZatenEklenmiş(malzeme) && !Sor(Metin(850))) return;
+    const std::optional<Para> fiyat = BirimFiyat(malzeme);
+    if (!fiyat) return;
+    const double miktar = DoubleOku(m_miktar->text()).value_or(0);
+    const std::optional<QString> tutar = SayıBiçimle(fiyat->Double() * miktar, OndalıkBasamak);
+    auto* satır = new QTreeWidgetItem({m_miktar->text() + QLatin1Char(' ') + m_tür->currentText().trimmed(), malzeme,
+                                       SayıBiçimle(*fiyat, OndalıkBasamak), tutar.value_or(QString())});
+    m_eklenecek->addTopLevelItem(satır);
+    m_eklenecek->setCurrentItem(satır);
+    ListeDüğmeleriniAyarla();
+}
+
+void MalzemeListesiOluşturFormu::ListedenÇıkarButonu_Click() {
+    QTreeWidgetItem* satır = m_eklenecek->currentItem();
+    if (!satır) return;
+    if (!Sor(Metin(440) + QLatin1Char(' ') + satır->text(MiktarSütunu) + QLatin1Char(' ') + satır->text(AdSütunu)))
+        return;
+    delete satır;
+    ListeDüğmeleriniAyarla();
+}
+
+void MalzemeListesiOluşturFormu::ListeyiTemizleButonu_Click() {
+    m_eklenecek->clear();
+    ListeDüğmeleriniAyarla();
+}
+
+void MalzemeListesiOluşturFormu::ListeyiAktarButonu_Click() {
+    if (m_eklenecek->topLevelItemCount() == 0) return;
+    HareketTarihiSQL = TarihDeğişmezi(Bugün());
+    if (Sor(Metin(860))) Aktar();
+    accept();
+}
+
+void MalzemeListesiOluşturFormu::Aktar() {
+    const auto ürün = m_anaForm.SeçiliÜrün();
+    if (!ürün) return;
+    // What the product already uses is rewritten, the rest is new; names compare as the data file compares them.
+    const QStringList adlar = m_anaForm.KullanılanMalzemeAdları();
+    const std::set<QString, TürkçeKüçük> kullanılan(adlar.cbegin(), adlar.cend());
+    for (int sıra = 0; sıra < m_eklenecek->topLevelItemCount(); ++sıra) {
+        const QTreeWidgetItem& satır = *m_eklenecek->topLevelItem(sıra);
+        const Deyimler::KullanılanMalzeme kayıt{
+            ürün->Grup,      ürün->Ad, satır.text(AdSütunu), satır.text(MiktarSütunu), satır.text(FiyatSütunu),
+            HareketTarihiSQL};
+        // A failing statement has been reported; the others still go.
+        DeyimiYürüt(kullanılan.count(kayıt.Malzeme) ? Deyimler::KullanılanMalzemeDeğiştir(kayıt)
+                                                    : Deyimler::KullanılanMalzemeEkle(kayıt));
+    }
+    m_anaForm.MalzemeTablosuYükle();
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QDialog>
+#include <optional>
+
+#include "Para.h"
+
+class AnaFormErişimi;
+class GirişKutusu;
+class KomutDüğmesi;
+class MiktarTürüKutusu;
+class QListWidget;
+class RaporListesi;
+class SayıKutusu;
+
+// Collects materials with their quantities in a list, then transfers the whole list into the product that is selected
+// on the main form, each row stamped with today's date. The list lives only while the form is open.
+class MalzemeListesiOluşturFormu : public QDialog {
+  public:
+    explicit MalzemeListesiOluşturFormu(AnaFormErişimi& anaForm, QWidget* sahip = nullptr);
+
+    // Fills the catalogue list and the remembered quantity types; once, before the form is shown.
+    void Yükle();
+
+    // Whether there is a catalogue to choose from.
+    bool KatalogBoş() const;
+
+  private:
+    void KontrolleriKur();
+    void Yerleştir();
+    void MalzemeBulKutusu_Change();
+    void ListeyeEkleButonu_Click();
+    void ListedenÇıkarButonu_Click();
+    void ListeyiTemizleButonu_Click();
+    void ListeyiAktarButonu_Click();
+
+    bool GirilenlerUygun();
+    bool ZatenEklenmiş(const QString& malzeme) const;
+    std::optional<Para> BirimFiyat(const QString& malzeme) const;
+    void Aktar();
+    void ListeDüğmeleriniAyarla();
+
+    AnaFormErişimi& m_anaForm;
+    MiktarTürüKutusu* m_tür;
+    SayıKutusu* m_miktar;
+    GirişKutusu* m_bul;
+    QListWidget* m_katalog;
+    RaporListesi* m_eklenecek;
+    KomutDüğmesi* m_ekle;
+    KomutDüğmesi* m_çıkar;
+    KomutDüğmesi* m_temizle;
+    KomutDüğmesi* m_aktar;
+    KomutDüğmesi* m_iptal;
+};

@@ -1,0 +1,250 @@
+#include "UrunEkleSilFormu.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "AcilirGirisKutusu.h"
+#include "AnaFormErisimi.h"
+#include "Deyimler.h"
+#include "EnterTusu.h"
+#include "GirisKutusu.h"
+#include "KatalogParcalari.h"
+#include "KomutDugmesi.h"
+#include "MesajKutusu.h"
+#include "MetinTablosu.h"
+#include "MetinTemsilcisi.h"
+#include "OdbcModulu.h"
+#include "OnekArama.h"
+#include "SayiMetni.h"
+#include "TurkceSira.h"
+#include "Yukleyiciler.h"
+
+using MesajKutusu::Düğmeler;
+using MesajKutusu::Simge;
+using MesajKutusu::Yanıt;
+
+namespace {
+
+bool Aynı(const QString& a, const QString& b) {
+    return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) == 0;
+}
+
+}  // namespace
+
+ÜrünEkleSilFormu::ÜrünEkleSilFormu(AnaFormErişimi& anaForm, QWidget* sahip) : QDialog(sahip), m_anaForm(anaForm) {
+    setObjectName(QStringLiteral("ÜrünEkleSilFormu"));
+    setWindowTitle(Metin(450));
+    KontrolleriKur();
+    Yerleştir();
+}
+
+void ÜrünEkleSilFormu::KontrolleriKur() {
+    m_ağaç = new QTreeWidget;
+    m_ağaç->setObjectName(QStringLiteral("ÜrünListesi"));
+    m_ağaç->setHeaderHidden(true);
+    m_ağaç->setUniformRowHeights(true);
+    m_ağaç->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_ağaç->setItemDelegate(new MetinTemsilcisi(m_ağaç));
+    Enterİleİlerlesin(m_ağaç);
+    connect(m_ağaç, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* düğüm) {
+        // Coming by Tab makes a node current without selecting it; what is current is what is deleted.
+        if (düğüm) düğüm->setSelected(true);
+        SilDüğmesiniAdlandır();
+    });
+    connect(m_ağaç, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* grup) { m_ağaç->setCurrentItem(grup); });
+
+    m_çerçeve = new QFrame;
+    m_çerçeve->setObjectName(QStringLiteral("Çerçeve"));
+    m_çerçeve->setFrameShape(QFrame::StyledPanel);
+    m_çerçeve->setEnabled(false);
+    m_grup = new GrupKutusu;
+    m_grup->setObjectName(QStringLiteral("ÜrünGrubuListesi"));
+    m_ad = new AdKutusu;
+    m_ad->setObjectName(QStringLiteral("ÜrünAdıKutusu"));
+
+    m_ekleKaydet =
+        KatalogDüğmesi(QStringLiteral("ÜrünEkleKaydetButonu"), {500, 520}, [this] { ÜrünEkleKaydetButonu_Click(); });
+    m_sil = KatalogDüğmesi(QStringLiteral("ÜrünSilButonu"), {460, 470}, [this] { ÜrünSilButonu_Click(); });
+    m_kapatİptal = KatalogDüğmesi(QStringLiteral("KapatİptalButonu"), {510, 530}, [this] { KapatİptalButonu_Click(); });
+}
+
+void ÜrünEkleSilFormu::Yerleştir() {
+    auto* kutular = new QVBoxLayout(m_çerçeve);
+    kutular->addWidget(KatalogEtiketi(1, 480, m_grup));
+    kutular->addWidget(m_grup);
+    kutular->addWidget(KatalogEtiketi(2, 490, m_ad));
+    kutular->addWidget(m_ad);
+    m_çerçeve->setMinimumWidth(300);
+
+    auto* düğmeler = new QHBoxLayout;
+    düğmeler->addWidget(m_ekleKaydet);
+    düğmeler->addWidget(m_sil);
+    düğmeler->addStretch();
+    düğmeler->addWidget(m_kapatİptal);
+
+    auto* sağ = new QVBoxLayout;
+    sağ->addWidget(m_çerçeve);
+    sağ->addStretch();
+    sağ->addLayout(düğmeler);
+    auto* sol = new QVBoxLayout;
+    sol->addWidget(KatalogEtiketi(0, 300, m_ağaç));
+    sol->addWidget(m_ağaç);
+    auto* düzen = new QHBoxLayout(KatalogAltlığı(this));
+    düzen->addLayout(sol, 1);
+    düzen->addLayout(sağ);
+    resize(680, 440);
+    m_ağaç->setFocus();
+}
+
+void ÜrünEkleSilFormu::Yükle() {
+    QStringList gruplar;
+    SQLMetni = Deyimler::ÜrünGrupları();
+    if (SorguÇalıştır()) {
+        const DeyimKoruması koruma;
+        while (SatırGetir()) gruplar.append(SütunOku(1));
+    }
+    m_grup->Doldur(gruplar);
+    ÜrünAğacınıYükle(*m_ağaç);
+    SilDüğmesiniAdlandır();
+    ListeDurumunuAyarla();
+}
+
+bool ÜrünEkleSilFormu::EklemeKipinde() const {
+    return m_çerçeve->isEnabledTo(this);
+}
+
+void ÜrünEkleSilFormu::EklemeKipineGeç() {
+    m_çerçeve->setEnabled(true);
+    m_ağaç->setEnabled(false);
+    m_sil->setEnabled(false);
+    m_ekleKaydet->setText(Metin(520));
+    m_kapatİptal->setText(Metin(530));
+    m_grup->setFocus();
+}
+
+void ÜrünEkleSilFormu::GözatmaKipineDön() {
+    m_ekleKaydet->setText(Metin(500));
+    m_kapatİptal->setText(Metin(510));
+    m_grup->setEditText(QString());
+    m_ad->clear();
+    m_çerçeve->setEnabled(false);
+    ListeDurumunuAyarla();
+}
+
+void ÜrünEkleSilFormu::ListeDurumunuAyarla() {
+    const bool dolu = m_ağaç->topLevelItemCount() > 0;
+    m_ağaç->setEnabled(dolu);
+    m_sil->setEnabled(dolu);
+}
+
+void ÜrünEkleSilFormu::SilDüğmesiniAdlandır() {
+    const QTreeWidgetItem* düğüm = m_ağaç->currentItem();
+    m_sil->setText(Metin(düğüm && düğüm->parent() ? 470 : 460));
+}
+
+void ÜrünEkleSilFormu::ÜrünEkleKaydetButonu_Click() {
+    if (!EklemeKipinde()) {
+        EklemeKipineGeç();
+        return;
+    }
+    if (!GirilenlerUygun()) return;
+    const QString grup = m_grup->currentText();
+    const QString ürün = m_ad->text();
+    if (!DeyimiYürüt(Deyimler::ÜrünEkle(grup, ürün))) return;
+    EkleneniYerleştir(grup, ürün);
+    m_anaForm.ÜrünAğacınıYenile();
+    GözatmaKipineDön();
+    m_ekleKaydet->setFocus();
+}
+
+bool ÜrünEkleSilFormu::GirilenlerUygun() {
+    const QString grup = m_grup->currentText();
+    const QString ürün = m_ad->text();
+    if (grup.isEmpty()) return Uyar(560, *m_grup);
+    if (SayıMı(grup)) return Uyar(565, *m_grup);
+    if (ürün.isEmpty()) return Uyar(570, *m_ad);
+    SQLMetni = Deyimler::ÜrünVarMı(grup, ürün);
+    if (!SorguÇalıştır()) return false;
+    const bool var = SatırGetir();
+    DeyimiBırak();
+    return var ? Uyar(580, *m_ad) : true;
+}
+
+QTreeWidgetItem* ÜrünEkleSilFormu::GrupDüğümü(const QString& grup) const {
+    for (int sıra = 0; sıra < m_ağaç->topLevelItemCount(); ++sıra) {
+        if (m_ağaç->topLevelItem(sıra)->text(0) == grup) return m_ağaç->topLevelItem(sıra);
+    }
+    return nullptr;
+}
+
+void ÜrünEkleSilFormu::EkleneniYerleştir(const QString& grup, const QString& ürün) {
+    // A new group whose text begins an existing group's name counts as existing: it gets no entry and no node here.
+    if (m_grup->ÖnEkleBul(grup) < 0) {
+        m_grup->ÖğeEkle(SıralıYer(
+                            m_grup->count(), [this](int sıra) { return m_grup->itemText(sıra); }, grup),
+                        grup);
+        const auto düğümAdı = [this](int sıra) { return m_ağaç->topLevelItem(sıra)->text(0); };
+        m_ağaç->insertTopLevelItem(SıralıYer(m_ağaç->topLevelItemCount(), düğümAdı, grup),
+                                   new QTreeWidgetItem(QStringList(grup)));
+    }
+    // Without its group's node the product is not shown here; the main form's tree, read anew, shows it.
+    QTreeWidgetItem* düğüm = GrupDüğümü(grup);
+    if (!düğüm) return;
+    const auto ürünAdı = [düğüm](int sıra) { return düğüm->child(sıra)->text(0); };
+    düğüm->insertChild(SıralıYer(düğüm->childCount(), ürünAdı, ürün), new QTreeWidgetItem(QStringList(ürün)));
+}
+
+bool ÜrünEkleSilFormu::SilmeOnayı(bool grupMu) {
+    if (grupMu && !Sor(Metin(540))) return false;
+    MesajKutusuOrtala();
+    return MesajKutusu::Göster(Simge::Ünlem, Düğmeler::EvetHayır, Metin(550)) == Yanıt::Evet;
+}
+
+void ÜrünEkleSilFormu::ÜrünSilButonu_Click() {
+    const QTreeWidgetItem* düğüm = m_ağaç->currentItem();
+    if (!düğüm) {
+        Uyar(538, *m_ağaç);
+        return;
+    }
+    const bool grupMu = !düğüm->parent();
+    const QString grup = (grupMu ? düğüm : düğüm->parent())->text(0);
+    const QString ürün = grupMu ? QString() : düğüm->text(0);
+    if (!SilmeOnayı(grupMu)) return;
+    if (!DeyimiYürüt(grupMu ? Deyimler::GrubuSil(grup) : Deyimler::ÜrünüSil(grup, ürün))) return;
+    DeyimiYürüt(grupMu ? Deyimler::GrubunMalzemeleriniSil(grup) : Deyimler::ÜrününMalzemeleriniSil(grup, ürün));
+    SilineniKaldır(grup, ürün, grupMu);
+    m_anaForm.ÜrünAğacınıYenile();
+    SilDüğmesiniAdlandır();
+    ListeDurumunuAyarla();
+}
+
+void ÜrünEkleSilFormu::SilineniKaldır(const QString& grup, const QString& ürün, bool grupMu) {
+    // The statements met every letter case of the names, so every such node goes.
+    bool grupGitti = false;
+    for (int sıra = m_ağaç->topLevelItemCount() - 1; sıra >= 0; --sıra) {
+        QTreeWidgetItem* düğüm = m_ağaç->topLevelItem(sıra);
+        if (!Aynı(düğüm->text(0), grup)) continue;
+        for (int çocuk = düğüm->childCount() - 1; çocuk >= 0; --çocuk) {
+            if (grupMu || Aynı(düğüm->child(çocuk)->text(0), ürün)) delete düğüm->takeChild(çocuk);
+        }
+        if (düğüm->childCount() > 0) continue;
+        delete m_ağaç->takeTopLevelItem(sıra);
+        grupGitti = true;
+    }
+    const int kayıt = grupGitti ? m_grup->ÖnEkleBul(grup) : -1;
+    if (kayıt >= 0) m_grup->ÖğeÇıkar(kayıt);
+}
+
+void ÜrünEkleSilFormu::KapatİptalButonu_Click() {
+    if (EklemeKipinde()) {
+        GözatmaKipineDön();
+        m_ekleKaydet->setFocus();
+    } else {
+        QDialog::reject();
+    }
+}

@@ -1,0 +1,61 @@
+#include "MiktarGosterFormu.h"
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "MetinTablosu.h"
+
+namespace {
+
+struct Satır {
+    const char* Ad;
+    int Etiket;
+    QString MiktarGösterFormu::Tutarlar::*Metin;
+};
+
+constexpr Satır Satırlar[] = {
+    {"MalzemeMaliyetiKutusu", 1351, &MiktarGösterFormu::Tutarlar::MalzemeMaliyeti},
+    {"İşçilikMaliyetiKutusu", 1352, &MiktarGösterFormu::Tutarlar::İşçilik},
+    {"KarMaliyetiKutusu", 1353, &MiktarGösterFormu::Tutarlar::Kâr},
+    {"VadeMaliyetiKutusu", 1354, &MiktarGösterFormu::Tutarlar::Vade},
+    {"DiğerVarnekKutusu", 1355, &MiktarGösterFormu::Tutarlar::Diğer},
+    {"ToplamMaliyetKutusu", 1356, &MiktarGösterFormu::Tutarlar::Toplam},
+};
+
+}  // namespace
+
+MiktarGösterFormu::MiktarGösterFormu(const Tutarlar& tutarlar, QWidget* sahip) : QDialog(sahip) {
+    setObjectName(QStringLiteral("MiktarGösterFormu"));
+    setWindowTitle(Metin(1350));
+    auto* altlık = new QWidget;
+    altlık->setObjectName(QStringLiteral("Altlik"));
+    auto* çerçeve = new QGroupBox(Metin(1357));
+    çerçeve->setObjectName(QStringLiteral("Çerçeve"));
+    auto* kutular = new QFormLayout(çerçeve);
+    int sıra = 0;
+    for (const Satır& satır : Satırlar) {
+        auto* kutu = new QLineEdit(tutarlar.*satır.Metin);
+        kutu->setObjectName(QString::fromUtf8(satır.Ad));
+        kutu->setReadOnly(true);
+        kutu->setAlignment(Qt::AlignRight);
+        auto* etiket = new QLabel(Metin(satır.Etiket));
+        etiket->setObjectName(QStringLiteral("Etiket(%1)").arg(sıra++));
+        etiket->setBuddy(kutu);
+        kutu->setAccessibleName(etiket->text());
+        kutular->addRow(etiket, kutu);
+    }
+    auto* kapat = new QPushButton(Metin(510));
+    kapat->setObjectName(QStringLiteral("KapatDüğmesi"));
+    connect(kapat, &QPushButton::clicked, this, &QDialog::reject);
+    auto* düzen = new QVBoxLayout(altlık);
+    düzen->addWidget(çerçeve);
+    düzen->addWidget(kapat, 0, Qt::AlignRight);
+    auto* form = new QVBoxLayout(this);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->addWidget(altlık);
+    kapat->setFocus();
+}
