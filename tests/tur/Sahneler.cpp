@@ -1,0 +1,124 @@
+#include <QAction>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include "Tur.h"
+#include "YuklemeGosterFormu.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QTreeWidget& Ağaç(QWidget& anaForm) {
+    return Tur::Bul<QTreeWidget>(anaForm, u"ÜrünListesi"_s);
+}
+
+QTreeWidgetItem& Düğüm(QTreeWidget& ağaç, const QString& ad) {
+    const auto bulunan = ağaç.findItems(ad, Qt::MatchExactly | Qt::MatchRecursive);
+    if (bulunan.isEmpty()) throw TurHatası(u"not in the tree: "_s + ad);
+    return *bulunan.first();
+}
+
+// Opens the group and clicks the node, as a user does.
+void Seç(QWidget& anaForm, const QString& ad) {
+    QTreeWidget& ağaç = Ağaç(anaForm);
+    QTreeWidgetItem& düğüm = Düğüm(ağaç, ad);
+    if (düğüm.parent()) ağaç.expandItem(düğüm.parent());
+    Tur::Durul();
+    Tur::Tıkla(ağaç, ağaç.indexFromItem(&düğüm));
+    Tur::Bekle(u"selected: "_s + ad, [&] { return ağaç.currentItem() == &düğüm; });
+}
+
+Sahne ÜrünSahnesi(const QString& resim, const QString& ürün) {
+    return {resim, [=](Tur& tur, QWidget& anaForm) {
+                Seç(anaForm, ürün);
+                tur.Çek(resim, anaForm);
+            }};
+}
+
+void MenüSahnesi(Tur& tur, QWidget& anaForm, const QString& menü, const QString& resim) {
+    QMenu& açılan = Tur::Bul<QMenu>(anaForm, menü);
+    açılan.popup(anaForm.mapToGlobal(QPoint(8, 24)));
+    tur.Çek(resim, anaForm, açılan);
+    açılan.close();
+    Tur::Durul();
+}
+
+void YüzdeDüzenleme(Tur& tur, QWidget& anaForm) {
+    Seç(anaForm, u"Çalışma Masası"_s);
+    auto& kutu = Tur::Bul<QLineEdit>(anaForm, u"İşçilikYüzdesiKutusu"_s);
+    Tur::Tıkla(kutu);
+    Tur::Yaz(kutu, u"27,5"_s);
+    tur.Çek(u"yuzde-duzenleme"_s, anaForm);
+    Tur::Tıkla(Ağaç(anaForm));
+}
+
+void Adlandırma(Tur& tur, QWidget& anaForm) {
+    Seç(anaForm, u"Orta Sehpa"_s);
+    QTreeWidget& ağaç = Ağaç(anaForm);
+    QTest::keyClick(&ağaç, Qt::Key_F2);
+    Tur::Bekle(u"the label editor"_s, [&] { return ağaç.findChild<QLineEdit*>(); });
+    tur.Çek(u"adlandirma"_s, anaForm);
+    QTest::keyClick(ağaç.findChild<QLineEdit*>(), Qt::Key_Escape);
+    Tur::Bekle(u"the label editor's end"_s, [&] { return !ağaç.findChild<QLineEdit*>(); });
+}
+
+void KüçükEkran(Tur& tur, QWidget& anaForm) {
+    const QSize boy = anaForm.size();
+    Seç(anaForm, u"Üç Kapılı Gardırop"_s);
+    anaForm.resize(800, 560);
+    tur.Çek(u"ana-form-kucuk"_s, anaForm);
+    anaForm.resize(boy);
+    Tur::Durul();
+}
+
+void ÇıkışSorusu(Tur& tur, QWidget& anaForm) {
+    Tur::Kipli([&] { Tur::Tıkla(Tur::Bul<QPushButton>(anaForm, u"ÇıkışButonu"_s)); },
+               [&](QWidget& kutu) {
+                   tur.Çek(u"cikis-sorusu"_s, anaForm, kutu);
+                   QTest::keyClick(&kutu, Qt::Key_Escape);
+               });
+    if (!anaForm.isVisible()) throw TurHatası(u"the main form has closed"_s);
+}
+
+void Yükleme(Tur& tur, QWidget& anaForm) {
+    YüklemeGösterFormu::Çalıştır(
+        [&] {
+            Yüklemeİlerlemesi ilerleme(100);
+            for (int i = 0; i < 60; ++i) ilerleme.Arttır();
+            for (QWidget* pencere : QApplication::topLevelWidgets()) {
+                if (pencere->objectName() == u"YüklemeGösterFormu") tur.Çek(u"yukleme"_s, *pencere);
+            }
+        },
+        &anaForm);
+}
+
+}  // namespace
+
+std::vector<Sahne> Sahneler() {
+    return {
+        {u"grup"_s,
+         [](Tur& tur, QWidget& anaForm) {
+             Seç(anaForm, u"SANDALYE"_s);
+             tur.Çek(u"grup"_s, anaForm);
+         }},
+        ÜrünSahnesi(u"ana-form"_s, u"Yemek Masası"_s),
+        ÜrünSahnesi(u"kalabalik-urun"_s, u"Üç Kapılı Gardırop"_s),
+        ÜrünSahnesi(u"eksi-yuzde"_s, u"Işıklı Vitrin"_s),
+        ÜrünSahnesi(u"malzemesiz-urun"_s, u"Öğrenci Sırası"_s),
+        {u"yuzde-duzenleme"_s, YüzdeDüzenleme},
+        {u"adlandirma"_s, Adlandırma},
+        {u"program-menusu"_s,
+         [](Tur& tur, QWidget& anaForm) { MenüSahnesi(tur, anaForm, u"ProgramMenüsü"_s, u"program-menusu"_s); }},
+        {u"yardim-menusu"_s,
+         [](Tur& tur, QWidget& anaForm) { MenüSahnesi(tur, anaForm, u"YardımMenüsü"_s, u"yardim-menusu"_s); }},
+        {u"kucuk-ekran"_s, KüçükEkran},
+        {u"yukleme"_s, Yükleme},
+        {u"cikis-sorusu"_s, ÇıkışSorusu},
+    };
+}
