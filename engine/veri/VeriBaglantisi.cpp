@@ -63,8 +63,8 @@ void BoşVeriDosyasıOluştur(const QString& yol) {
 
 VeriBağlantısı::VeriBağlantısı(const QString& yol) {
     // In braces a path may hold ";" and blanks at its ends; a closing brace is doubled.
-    QByteArray tanım = QByteArray("DRIVER={") + SÜRÜCÜ + "};DBQ={" + yol.toUtf8().replace("}", "}}") +
-                       "};UID=Admin;PWD=" + PAROLA;
+    QByteArray tanım =
+        QByteArray("DRIVER={") + SÜRÜCÜ + "};DBQ={" + yol.toUtf8().replace("}", "}}") + "};UID=Admin;PWD=" + PAROLA;
     SQLAllocEnv(&m_ortam);
     if (m_ortam) SQLAllocConnect(m_ortam, &m_bağlantı);
     if (!m_bağlantı) {

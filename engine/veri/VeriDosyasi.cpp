@@ -19,22 +19,23 @@ namespace {
 
 volatile std::sig_atomic_t yarıdaKesildi = 0;
 
-// Percentages have a default, because the program's INSERT does not name them.
+// Percentages have a default, because the program's INSERT does not name them. Only material names are unique: merged
+// groups may hold the same product twice, and a product the same material twice.
 constexpr const char16_t* TABLOLAR[] = {
     u"CREATE TABLE UrunTablosu (UrunGrubu TEXT(255) NOT NULL, UrunAdi TEXT(255) NOT NULL, "
     u"IscilikYuzdesi DOUBLE DEFAULT 0 NOT NULL, KarYuzdesi DOUBLE DEFAULT 0 NOT NULL, "
     u"DigerVarnekYuzdesi DOUBLE DEFAULT 0 NOT NULL, VadeFarkiYuzdesi DOUBLE DEFAULT 0 NOT NULL)",
+    u"CREATE INDEX UrunSirasi ON UrunTablosu (UrunGrubu, UrunAdi)",
     u"CREATE TABLE MalzemeTablosu (MalzemeAdi TEXT(255) NOT NULL, MalzemeFiyati CURRENCY NOT NULL)",
+    u"CREATE UNIQUE INDEX MalzemeSirasi ON MalzemeTablosu (MalzemeAdi)",
     u"CREATE TABLE UrunMalzemeTablosu (KullanimTarihi DATETIME NOT NULL, UrunGrubu TEXT(255) NOT NULL, "
     u"UrunAdi TEXT(255) NOT NULL, KullanilanMalzemeAdi TEXT(255) NOT NULL, "
     u"KullanilanMalzemeMiktari TEXT(255) NOT NULL, KullanilanMalzemeFiyati CURRENCY NOT NULL)",
 };
 
-// One index for each way in which the program looks rows up or orders them. Only material names are unique: merged
-// groups may hold the same product twice, and a product the same material twice.
-constexpr const char16_t* DİZİNLER[] = {
-    u"CREATE INDEX UrunSirasi ON UrunTablosu (UrunGrubu, UrunAdi)",
-    u"CREATE UNIQUE INDEX MalzemeSirasi ON MalzemeTablosu (MalzemeAdi)",
+// The ways in which the program looks used materials up or orders them. They are made once the rows are there, which is
+// much faster for many rows.
+constexpr const char16_t* KULLANIM_DİZİNLERİ[] = {
     u"CREATE INDEX UrununMalzemeleri ON UrunMalzemeTablosu (UrunGrubu, UrunAdi, KullanilanMalzemeAdi)",
     u"CREATE INDEX MalzemeninUrunleri ON UrunMalzemeTablosu (KullanilanMalzemeAdi)",
     u"CREATE INDEX GununHareketleri ON UrunMalzemeTablosu (KullanimTarihi, UrunAdi)",
@@ -83,7 +84,7 @@ void VeriDosyasıYap(const QString& hedef, const std::function<void(VeriBağlant
         bağlantı.Toplucaya();
         doldur(bağlantı);
         bağlantı.Onayla();
-        for (const char16_t* dizin : DİZİNLER) {
+        for (const char16_t* dizin : KULLANIM_DİZİNLERİ) {
             YarıdaKesildiMi();
             bağlantı.Çalıştır(QString::fromUtf16(dizin));
         }
