@@ -4,8 +4,14 @@
 
 #include <QString>
 #include <QTemporaryDir>
+#include <ostream>
 
 #include "KutuKuyrugu.h"
+
+// How a failed comparison shows a text.
+inline void PrintTo(const QString& metin, std::ostream* akış) {
+    *akış << '"' << metin.toStdString() << '"';
+}
 
 // The base of tests that touch files, settings, the data source or message boxes: each test has a fresh folder with its
 // own program folder, per-user data, settings and ODBC data sources, shared variables as after a start, and the
