@@ -27,9 +27,8 @@ bool Odakİzleyici::eventFilter(QObject*, QEvent* olay) {
     if (olay->type() == QEvent::FocusIn) {
         Gir(static_cast<QFocusEvent*>(olay)->reason());
     } else if (olay->type() == QEvent::FocusOut) {
-        const bool kapanıyor = !m_kutu->window()->isVisible();
-        if (!kapanıyor && !GeçiciMi(static_cast<QFocusEvent*>(olay)->reason()) &&
-            DışarıdaMı(QApplication::focusWidget()))
+        // A closing window is deactivated first, so its controls are not left but hidden.
+        if (!GeçiciMi(static_cast<QFocusEvent*>(olay)->reason()) && DışarıdaMı(QApplication::focusWidget()))
             Çık(Çıkış::Ayrıldı);
     } else if (olay->type() == QEvent::Hide) {
         Çık(Çıkış::FormKapanıyor);

@@ -56,7 +56,7 @@ bool SayıKutusu::KabulEdilir(int ekinBaşı, bool geriAlma) const {
     if (geriAlma) return true;
     const QString ek = metin.mid(ekinBaşı, std::max(0, cursorPosition() - ekinBaşı));
     if (m_tür != Tür::EksiliYüzde && (ek.contains(QChar(u'-')) || ek.contains(QChar(u'+')))) return false;
-    return !ek.contains(QChar(u'.')) || SayıMı(metin) || SayıMı(ek);
+    return !ek.contains(QChar(u'.')) || SayıMı(metin);
 }
 
 void SayıKutusu::ÇıkıştaBiçimle() {
