@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Utf8.h"
+
 #include <exception>
 #include <string>
 #include <string_view>
@@ -35,13 +37,15 @@ inline constexpr std::string_view YetkiYok = "28000";
 inline constexpr std::string_view Bağlanamadı = "08001";
 }  // namespace Durum
 
-// What went wrong, as it reaches the user: a state code and a message (UTF-8, kept below 240 bytes, so that it fits the
-// usual 256-byte buffer together with the driver manager's prefix). `yerel` is SQLite's extended code, 0 when the
-// engine itself refuses.
+// What went wrong, as it reaches the user: a state code and a message. `yerel` is SQLite's extended code or the
+// system's error number, 0 when the engine itself refuses.
 class Hata : public std::exception {
   public:
-    Hata(std::string_view durum, std::string mesaj, int yerel = 0)
-        : m_durum(durum), m_mesaj(std::move(mesaj)), m_yerel(yerel) {}
+    // Messages end within this many bytes, so that they fit a client's usual buffer of 256 bytes whatever they quote.
+    static constexpr std::size_t AzamiMesaj = 240;
+
+    Hata(std::string_view durum, std::string_view mesaj, int yerel = 0)
+        : m_durum(durum), m_mesaj(BütünKarakterlerleKes(mesaj, AzamiMesaj)), m_yerel(yerel) {}
 
     const char* what() const noexcept override { return m_mesaj.c_str(); }
     const std::string& Durum() const noexcept { return m_durum; }

@@ -45,7 +45,7 @@ void VeriDosyasıOluştur(const std::string& yol, std::string_view parola) {
         ParolayıYaz(vt.get(), parola);
         SqliteYürüt(vt.get(), "COMMIT");
     }
-    GünlükleriSil(hedef);
+    if (!YolVar(hedef)) GünlükleriSil(hedef);  // left by a file that is gone
     geçici.Yerleştir(GeçiciDosya::Yerleştirme::Yeni);
 }
 

@@ -36,7 +36,8 @@ Hata TemelHata(int kod, sqlite3* vt) {
         case SQLITE_CANTOPEN:
         case SQLITE_PERM:
         case SQLITE_AUTH:
-            return {Durum::Bağlanamadı, "Veri dosyası açılamıyor; dosyanın ve klasörünün izinlerini denetleyin.", kod};
+            return {Durum::Bağlanamadı,
+                    "Veri dosyası ya da günlüğü açılamıyor; dosyanın ve klasörünün izinlerini denetleyin.", kod};
         case SQLITE_CONSTRAINT:
             if (kod == SQLITE_CONSTRAINT_NOTNULL)
                 return {Durum::Kısıt, "Boş bırakılamayan bir sütuna değer verilmemiş; kayıt yapılmadı.", kod};

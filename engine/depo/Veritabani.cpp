@@ -4,6 +4,8 @@
 #include "Hata.h"
 #include "Parola.h"
 
+#include <new>
+
 namespace Motor {
 
 namespace {
@@ -26,21 +28,25 @@ SqliteBağlantısı VeriDosyasıAç(const std::string& yol, std::string_view par
     return vt;
 }
 
-std::string_view Sorgu::Metin(std::size_t sütun, DeğerTamponu tampon) const {
-    const int sıra = static_cast<int>(sütun);
+std::optional<std::string_view> Sorgu::Metin(std::size_t sütun, DeğerTamponu tampon) const {
+    sqlite3_value* değer = m_deyim.SütunDeğeri(static_cast<int>(sütun));
+    if (sqlite3_value_type(değer) == SQLITE_NULL) return std::nullopt;
     switch (m_sütunlar[sütun].Tür) {
-        case SütunTürü::Metin:
-            return m_deyim.Metin(sıra);
+        case SütunTürü::Metin: {
+            const auto* metin = reinterpret_cast<const char*>(sqlite3_value_text(değer));
+            if (!metin) throw std::bad_alloc();
+            return std::string_view(metin, static_cast<std::size_t>(sqlite3_value_bytes(değer)));
+        }
         case SütunTürü::Para:
-            return ParaYaz(m_deyim.TamSayı(sıra), tampon);
+            return ParaYaz(sqlite3_value_int64(değer), tampon);
         case SütunTürü::Ondalık:
-            return OndalıkYaz(m_deyim.Ondalık(sıra), tampon);
+            return OndalıkYaz(sqlite3_value_double(değer), tampon);
         case SütunTürü::Tarih:
-            return TarihYaz(m_deyim.TamSayı(sıra), tampon);
+            return TarihYaz(sqlite3_value_int64(değer), tampon);
         case SütunTürü::TamSayı:
             break;
     }
-    return TamSayıYaz(m_deyim.TamSayı(sıra), tampon);
+    return TamSayıYaz(sqlite3_value_int64(değer), tampon);
 }
 
 Veritabanı::Veritabanı(const std::string& yol, std::string_view parola) : m_vt(VeriDosyasıAç(yol, parola)) {

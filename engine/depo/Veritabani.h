@@ -28,10 +28,9 @@ class Sorgu {
     bool Adım() { return m_deyim.Adım(); }
     const std::vector<SütunTanımı>& Sütunlar() const { return m_sütunlar; }
 
-    bool Boş(std::size_t sütun) const { return m_deyim.Boş(static_cast<int>(sütun)); }
-
-    // A column of the current row as text; in `tampon` or in SQLite's memory, good until the next step.
-    std::string_view Metin(std::size_t sütun, DeğerTamponu tampon) const;
+    // A column of the current row as text, nothing for NULL. It lies in `tampon` or in SQLite's memory and is good
+    // until the next step.
+    std::optional<std::string_view> Metin(std::size_t sütun, DeğerTamponu tampon) const;
 
   private:
     SqliteDeyimi m_deyim;

@@ -31,8 +31,13 @@ SQLRETURN Bağlantı::MetinleBağlan(std::string_view metin, SQLCHAR* çıkış,
 SQLRETURN Bağlantı::Ayrıl() {
     if (m_veri && m_veri->HareketAçık())
         throw Hata(Durum::AçıkHareket, "Onaylanmamış değişiklikler var; bağlantı kapatılamaz.");
+    m_bağlılar.clear();
     m_veri.reset();
     return SQL_SUCCESS;
+}
+
+void Bağlantı::Bırak(const BağlıNesne* nesne) noexcept {
+    std::erase_if(m_bağlılar, [nesne](const auto& bağlı) { return bağlı.get() == nesne; });
 }
 
 Veritabanı& Bağlantı::Veri() {

@@ -7,7 +7,9 @@ extern "C" {
 
 SQLRETURN SQL_API SQLAllocStmt(SQLHDBC bağlantı, SQLHSTMT* deyim) {
     return Koru<Bağlantı>(bağlantı, [&](Bağlantı& nesne) {
-        *deyim = new DeyimNesnesi(nesne);
+        auto yeni = std::make_unique<DeyimNesnesi>(nesne);
+        *deyim = yeni.get();
+        nesne.Sahiplen(std::move(yeni));
         return SQL_SUCCESS;
     });
 }
@@ -16,7 +18,7 @@ SQLRETURN SQL_API SQLFreeStmt(SQLHSTMT deyim, SQLUSMALLINT seçenek) {
     if (seçenek != SQL_DROP)
         return Koru<DeyimNesnesi>(deyim, [&](DeyimNesnesi& nesne) { return nesne.Kapat(seçenek); });
     if (!deyim) return SQL_INVALID_HANDLE;
-    delete static_cast<DeyimNesnesi*>(deyim);
+    static_cast<DeyimNesnesi*>(deyim)->Bırak();
     return SQL_SUCCESS;
 }
 

@@ -86,14 +86,14 @@ SQLRETURN DeyimNesnesi::VeriAl(SQLUSMALLINT sütun, SQLSMALLINT hedefTürü, SQL
     if (!metinOlarak) throw Hata(Durum::Desteklenmiyor, "Değerler yalnızca metin (SQL_C_CHAR) olarak okunabilir.");
     if (boy < 0) throw Hata(Durum::TamponUzunluğu, "Tamponun boyu geçersiz.");
 
-    const std::size_t sıra = sütun - 1u;
-    if (m_sorgu->Boş(sıra)) {
+    char yer[DeğerMetniBoyu];
+    const std::optional<std::string_view> değer = m_sorgu->Metin(sütun - 1u, yer);
+    if (!değer) {
         if (!uzunluk) throw Hata(Durum::BoşGösterge, "Boş (NULL) değer için uzunluk göstergesi verilmemiş.");
         *uzunluk = SQL_NULL_DATA;
         return SQL_SUCCESS;
     }
-    char yer[DeğerMetniBoyu];
-    std::string_view metin = m_sorgu->Metin(sıra, yer);
+    std::string_view metin = *değer;
     if (m_okunanSütun == sütun) {
         if (m_okunanBayt == metin.size()) return SQL_NO_DATA;
         metin.remove_prefix(m_okunanBayt);

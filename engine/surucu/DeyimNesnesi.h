@@ -7,7 +7,7 @@
 namespace Motor {
 
 // An ODBC statement: at most one running query or one finished change.
-class DeyimNesnesi {
+class DeyimNesnesi : public BağlıNesne {
   public:
     explicit DeyimNesnesi(Bağlantı& bağlantı) : m_bağlantı(bağlantı) {}
 
@@ -20,6 +20,7 @@ class DeyimNesnesi {
     SQLRETURN SütunlarıListele(std::string_view tablo, std::string_view sütun);
     SQLRETURN Kapat(SQLUSMALLINT seçenek);
     SQLRETURN Kes();
+    void Bırak() noexcept { m_bağlantı.Bırak(this); }  // ends the object
 
     SQLRETURN Getir();
 

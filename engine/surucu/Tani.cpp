@@ -27,7 +27,7 @@ SQLRETURN Tanılar::Al(SQLCHAR* durum, SQLINTEGER* yerel, SQLCHAR* mesaj, SQLSMA
     if (yerel) *yerel = hata.Yerel();
     const bool kesildi = MetinKopyala(hata.Mesaj(), mesaj, boy);
     if (uzunluk) *uzunluk = static_cast<SQLSMALLINT>(hata.Mesaj().size());
-    m_kayıtlar.pop_front();
+    m_kayıtlar.erase(m_kayıtlar.begin());
     return kesildi ? SQL_SUCCESS_WITH_INFO : SQL_SUCCESS;
 }
 

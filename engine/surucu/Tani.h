@@ -5,9 +5,9 @@
 #include <sql.h>
 #include <sqlext.h>
 
-#include <deque>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Motor {
 
@@ -22,7 +22,7 @@ class Tanılar {
     SQLRETURN Al(SQLCHAR* durum, SQLINTEGER* yerel, SQLCHAR* mesaj, SQLSMALLINT boy, SQLSMALLINT* uzunluk) noexcept;
 
   private:
-    std::deque<Hata> m_kayıtlar;
+    std::vector<Hata> m_kayıtlar;
 };
 
 // Writes a text with its closing NUL into a client's buffer of `boy` bytes, cut at a whole character when it does not
