@@ -91,6 +91,12 @@ std::int16_t VeritabanınıSıkıştır(const QString& kaynak, const QString& he
     return SürücüKurulumu(static_cast<std::uint16_t>(VeriKaynağıİsteği::Ekle), nitelikler);
 }
 
+bool SürücüKayıtlı() {
+    char yol[2] = "";
+    return SQLGetPrivateProfileString(SürücüAdı().toUtf8().constData(), "Driver", "", yol, sizeof yol,
+                                      "odbcinst.ini") > 0;
+}
+
 bool VeriDosyasıAçılıyor(const QString& yol) {
     OdbcBağlantısı deneme;
     return deneme.OrtamAç() == Başarı && deneme.BağlantıAç() == Başarı &&

@@ -37,6 +37,9 @@ void VeriKaynağıKaydet(VeriKaynağıİsteği istek);
 // 1 = success.
 std::int16_t VeritabanınıSıkıştır(const QString& kaynak, const QString& hedef);
 
+// Whether the driver manager knows the driver.
+bool SürücüKayıtlı();
+
 // Whether the driver can open this data file; shows nothing.
 bool VeriDosyasıAçılıyor(const QString& yol);
 

@@ -7,6 +7,7 @@
 #include <QScreen>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/utsname.h>
 #include <unistd.h>
@@ -45,8 +46,9 @@ bool HepsiniYaz(int no, const char* veri, ssize_t boy) {
 
 // The source's bytes and modification time in a new file, on disk when it returns true.
 bool EşiniYaz(const QByteArray& kaynak, const QByteArray& eş) {
+    ::unlink(eş.constData());
     const Tanıtıcı oku(::open(kaynak.constData(), O_RDONLY | O_CLOEXEC));
-    const Tanıtıcı yaz(::open(eş.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
+    const Tanıtıcı yaz(::open(eş.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     if (!oku.Açık() || !yaz.Açık()) return false;
     std::array<char, 1 << 16> tampon;
     for (;;) {
@@ -67,23 +69,75 @@ void KlasörüDiskeYaz(const QString& klasör) {
     if (no.Açık()) ::fsync(no.No());
 }
 
+// Where a chain of links ends, whether or not there is a file.
+QString BağınUcu(const QString& yol) {
+    constexpr int enUzunZincir = 40;
+    QFileInfo bilgi(yol);
+    for (int i = 0; i < enUzunZincir && bilgi.isSymLink(); ++i) bilgi.setFile(bilgi.symLinkTarget());
+    return bilgi.filePath();
+}
+
+QByteArray YarımKopya(const QString& hedef) {
+    return QFile::encodeName(hedef) + ".yeni";
+}
+
+// What lies beside a data file that is about to be replaced must not be taken for the new one's. It is gone from the
+// disk before the new file comes, in whatever order the system writes.
+bool GünlükleriSil(const QString& dosya, const QString& klasör) {
+    bool silindi = false;
+    for (const char* ek : {"-journal", "-wal", "-shm"}) {
+        if (::unlink((QFile::encodeName(dosya) + ek).constData()) == 0) {
+            silindi = true;
+        } else if (errno != ENOENT) {
+            return false;
+        }
+    }
+    if (silindi) KlasörüDiskeYaz(klasör);
+    return true;
+}
+
 }  // namespace
 
 bool DosyaKopyala(const QString& kaynak, const QString& hedef) {
-    const QByteArray hedefAdı = QFile::encodeName(hedef);
-    const QByteArray yeni = hedefAdı + ".yeni";
-    bool tamam = EşiniYaz(QFile::encodeName(kaynak), yeni);
-    if (tamam) {
-        const QByteArray günlük = hedefAdı + "-journal";
-        tamam = ::unlink(günlük.constData()) == 0 || errno == ENOENT;
-    }
-    tamam = tamam && ::rename(yeni.constData(), hedefAdı.constData()) == 0;
+    const QString asıl = BağınUcu(hedef);
+    const QString klasör = QFileInfo(asıl).absolutePath();
+    const QByteArray yeni = YarımKopya(asıl);
+    const bool tamam = EşiniYaz(QFile::encodeName(kaynak), yeni) && GünlükleriSil(asıl, klasör) &&
+                       ::rename(yeni.constData(), QFile::encodeName(asıl).constData()) == 0;
     if (!tamam) {
         ::unlink(yeni.constData());
         return false;
     }
-    KlasörüDiskeYaz(QFileInfo(hedef).absolutePath());
+    KlasörüDiskeYaz(klasör);
     return true;
+}
+
+void YarımKopyayıSil(const QString& hedef) {
+    ::unlink(YarımKopya(BağınUcu(hedef)).constData());
+}
+
+bool KlasöreYazılabilir(const QString& klasör) {
+    return ::faccessat(AT_FDCWD, QFile::encodeName(klasör).constData(), W_OK | X_OK, AT_EACCESS) == 0;
+}
+
+DosyaKilidi::~DosyaKilidi() {
+    if (m_no >= 0) ::close(m_no);
+}
+
+bool DosyaKilidi::Al(const QString& yol) {
+    if (m_no >= 0) return true;
+    const int no = ::open(QFile::encodeName(yol).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    if (no < 0) return false;
+    if (::flock(no, LOCK_EX | LOCK_NB) != 0) {
+        ::close(no);
+        return false;
+    }
+    m_no = no;
+    return true;
+}
+
+QString KullanıcıKimliği() {
+    return QString::number(::geteuid());
 }
 
 bool SistemSürümünüAl(SistemSürümü& sürüm) {

@@ -1,0 +1,35 @@
+// Puts the pieces together and nothing else.
+
+#include <QApplication>
+#include <memory>
+
+#include "AnaForm.h"
+#include "BaslatModulu.h"
+#include "KapanisModulu.h"
+#include "SurumKaydi.h"
+#include "TekKopya.h"
+
+int main(int argc, char** argv) {
+    QApplication uygulama(argc, argv);
+    QApplication::setApplicationName(Sürüm().ÜrünAdı);
+    // A message box of the start is not the last window.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    TekKopya kopya;
+    std::unique_ptr<AnaForm> anaForm;
+    BaşlatmaBağları bağlar;
+    bağlar.ProgramKlasörü = QApplication::applicationDirPath();
+    bağlar.AnaFormuYükle = [&anaForm](std::function<void()> karşılamayıKapat) {
+        anaForm = std::make_unique<AnaForm>(AnaFormBağları{std::move(karşılamayıKapat), KapanışıOnayla});
+    };
+    switch (Main(kopya, bağlar)) {
+        case BaşlatmaSonucu::Başladı:
+            QApplication::setQuitOnLastWindowClosed(true);
+            return QApplication::exec();
+        case BaşlatmaSonucu::BaşkaKopyaVar:
+            return 0;
+        case BaşlatmaSonucu::Başlayamadı:
+            break;
+    }
+    return 1;
+}

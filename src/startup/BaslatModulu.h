@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "ApilerModulu.h"
+
+class TekKopya;
+
+// What the start routine takes from outside.
+struct BaşlatmaBağları {
+    QString ProgramKlasörü;                                                     // where the program's file lies
+    std::function<void(std::function<void()> karşılamayıKapat)> AnaFormuYükle;  // shows the main form
+    std::function<int()> EkranGenişliğiAl = EkranGenişliği;                     // pixels
+    std::function<bool(SistemSürümü&)> SürümAl = SistemSürümünüAl;
+};
+
+enum class BaşlatmaSonucu {
+    Başladı,        // the main form is loaded; the program runs on its events
+    BaşkaKopyaVar,  // the running copy has been brought to the front
+    Başlayamadı     // the reason has been shown
+};
+
+// The start routine: checks the machine, shows the welcome form, sets the shared variables, prepares the data file and
+// loads the main form, which closes the welcome form. Until the data file's turn comes it writes nothing. The copy
+// guard has to live as long as the program.
+BaşlatmaSonucu Main(TekKopya& kopya, const BaşlatmaBağları& bağlar);

@@ -1,0 +1,75 @@
+#include "TekKopya.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLocalSocket>
+#include <QStandardPaths>
+#include <QDir>
+#include <QThread>
+#include <QWidget>
+
+namespace {
+
+// How long the first copy may take from its lock to its socket, or from its socket's end to its own (milliseconds).
+constexpr int EN_UZUN_BEKLEME = 10000;
+constexpr int BAĞLANMA_SÜRESİ = 1000;
+constexpr int ARA = 20;
+
+// The path of lock and socket, without their endings.
+QString OrtakYol(const QString& başlık) {
+    QString klasör = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (klasör.isEmpty()) klasör = QDir::tempPath();
+    return klasör + QLatin1Char('/') + başlık + QLatin1Char('-') + KullanıcıKimliği();
+}
+
+// The connection alone is the request. It waits in the first copy's queue while that one is busy.
+bool ÖneÇağır(const QString& yol) {
+    QLocalSocket soket;
+    soket.connectToServer(yol);
+    return soket.waitForConnected(BAĞLANMA_SÜRESİ);
+}
+
+}  // namespace
+
+bool TekKopya::Başla(const QString& başlık) {
+    const QString yol = OrtakYol(başlık);
+    QElapsedTimer geçen;
+    geçen.start();
+    do {
+        if (m_kilit.Al(yol + QStringLiteral(".kilit"))) {
+            Dinle(yol + QStringLiteral(".soket"));
+            return true;
+        }
+        if (ÖneÇağır(yol + QStringLiteral(".soket"))) return false;
+        QThread::msleep(ARA);
+    } while (geçen.elapsed() < EN_UZUN_BEKLEME);
+    return false;
+}
+
+void TekKopya::Dinle(const QString& yol) {
+    // What lies there is left from a copy that was killed: the lock is ours.
+    QLocalServer::removeServer(yol);
+    m_sunucu.setSocketOptions(QLocalServer::UserAccessOption);
+    QObject::connect(&m_sunucu, &QLocalServer::newConnection, &m_sunucu, [this] {
+        while (QLocalSocket* soket = m_sunucu.nextPendingConnection()) soket->deleteLater();
+        PencereleriÖneGetir();
+    });
+    // Without a socket later copies still find the lock taken.
+    m_sunucu.listen(yol);
+}
+
+void PencereleriÖneGetir() {
+    for (QWidget* pencere : QApplication::topLevelWidgets()) {
+        const bool ana = pencere->isVisible() && !pencere->isModal() &&
+                         (pencere->windowType() == Qt::Window || pencere->windowType() == Qt::SplashScreen);
+        if (!ana) continue;
+        pencere->showNormal();
+        pencere->raise();
+        pencere->activateWindow();
+    }
+    QWidget* modal = QApplication::activeModalWidget();
+    if (!modal) return;
+    if (modal->isMinimized()) modal->showNormal();
+    modal->raise();
+    modal->activateWindow();
+}
