@@ -56,7 +56,11 @@ bool SıkıştırmaGünü(const Yollar& yollar) {
 // silent: the next start tries again.
 void Sıkıştır(const Yollar& yollar) {
     SonDönüşKodu = VeritabanınıSıkıştır(KısaYolAl(yollar.Dosya), KısaYolAl(yollar.YedekKlasörü) + YEDEK_ADI);
-    if (SonDönüşKodu == SIKIŞTIRILDI) DosyaKopyala(yollar.Yedek, yollar.Dosya);
+    if (SonDönüşKodu != SIKIŞTIRILDI) return;
+    // A crash's journal has been played back by now: this one is that of another client, which is writing just now and
+    // whose change the copy would swallow.
+    if (DosyaVar(yollar.Dosya + QStringLiteral("-journal"))) return;
+    DosyaKopyala(yollar.Yedek, yollar.Dosya);
 }
 
 }  // namespace

@@ -33,9 +33,10 @@ void PaylaşılanlarıKur(const QString& programKlasörü) {
 
 VarnekTesti::VarnekTesti() : m_klasör(QStringLiteral(VARNEK_BIN "/test-XXXXXX")) {
     const QDir klasör(m_klasör.path());
-    for (const char* ad : {"program", "kullanici", "ayarlar", "calisma"}) klasör.mkdir(QLatin1String(ad));
+    for (const char* ad : {"program", "kullanici", "ayarlar"}) klasör.mkdir(QLatin1String(ad));
     qputenv("XDG_DATA_HOME", QFile::encodeName(klasör.filePath(QStringLiteral("kullanici"))));
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(klasör.filePath(QStringLiteral("ayarlar"))));
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_çalışmaKlasörü.path()));
     qputenv("ODBCINI", QFile::encodeName(OdbcDosyası()));
     // The toolkit reads XDG_CONFIG_HOME once for the whole run.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, klasör.filePath(QStringLiteral("ayarlar")));

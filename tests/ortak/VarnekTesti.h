@@ -37,5 +37,6 @@ class VarnekTesti : public ::testing::Test {
 
   private:
     QTemporaryDir m_klasör;
+    QTemporaryDir m_çalışmaKlasörü;  // in the system's place: the path of a socket has to be short
     KutuKuyruğu m_kutular;
 };

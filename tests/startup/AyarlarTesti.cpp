@@ -1,0 +1,98 @@
+#include <QFile>
+#include <QSettings>
+
+#include "Ayarlar.h"
+#include "DegiskenModulu.h"
+#include "KapanisModulu.h"
+#include "MetinTablosu.h"
+#include "OdbcModulu.h"
+#include "VarnekTesti.h"
+
+namespace {
+
+class AyarlarTesti : public VarnekTesti {};
+
+QString Kayıtlı(const char* anahtar) {
+    return AyarOku(QStringLiteral("Ayarlar"), QLatin1String(anahtar), QStringLiteral("yok"));
+}
+
+TEST_F(AyarlarTesti, DeğerlerOkunuyorÇöplerVarsayılanaDönüyor) {
+    const std::pair<const char*, int> ondalıklar[] = {{"1", 1}, {"6", 6},  {" 3 ", 3}, {"0", 2},           {"7", 2},
+                                                      {"", 2},  {"-1", 2}, {"iki", 2}, {"99999999999", 2}, {"3,5", 2}};
+    for (const auto& [metin, beklenen] : ondalıklar) {
+        AyarYaz(QStringLiteral("Ayarlar"), QStringLiteral("Ondalik"), QLatin1String(metin));
+        EXPECT_EQ(KayıtlıOndalık(), beklenen) << metin;
+    }
+    const std::pair<const char*, std::optional<int>> kenarlar[] = {{"1500", 100},
+                                                                   {"-225", -15},
+                                                                   {"1507,5", 101},
+                                                                   {"0", 0},
+                                                                   {"", std::nullopt},
+                                                                   {"sol", std::nullopt},
+                                                                   {"1e999", std::nullopt},
+                                                                   {"nan", std::nullopt},
+                                                                   {"999999999999", std::nullopt}};
+    for (const auto& [metin, beklenen] : kenarlar) {
+        AyarYaz(QStringLiteral("Ayarlar"), QStringLiteral("Sol"), QLatin1String(metin));
+        EXPECT_EQ(KayıtlıSol(), beklenen) << metin;
+        EXPECT_EQ(KayıtlıÜst(), std::nullopt);
+    }
+}
+
+TEST_F(AyarlarTesti, BozukDosyaYokGibidir) {
+    const QString yol = QSettings(QStringLiteral("Tovrek"), QStringLiteral("Varnek")).fileName();
+    ASSERT_TRUE(yol.startsWith(Klasör()));
+    AyarYaz(QStringLiteral("Ayarlar"), QStringLiteral("Ondalik"), QStringLiteral("4"));
+    QFile dosya(yol);
+    ASSERT_TRUE(dosya.open(QIODevice::WriteOnly));
+    dosya.write("\x00\xff[[[Ayarlar\nOndalik==\"4\nSol\\x", 30);
+    dosya.close();
+    EXPECT_EQ(KayıtlıOndalık(), 2);
+    EXPECT_EQ(KayıtlıSol(), std::nullopt);
+    OndalığıKaydet(5);
+    EXPECT_EQ(KayıtlıOndalık(), 5);
+}
+
+TEST_F(AyarlarTesti, KonumTwipOlarakSaklanıyor) {
+    KonumuKaydet({-7, 140});
+    EXPECT_EQ(Kayıtlı("Sol"), QStringLiteral("-105"));
+    EXPECT_EQ(Kayıtlı("Ust"), QStringLiteral("2100"));
+    EXPECT_EQ(KayıtlıSol(), -7);
+    EXPECT_EQ(KayıtlıÜst(), 140);
+}
+
+TEST_F(AyarlarTesti, HayırDenirseHiçbirŞeyDeğişmez) {
+    VeriyeBağlan();
+    Kutular().Yanıtla(MesajKutusu::Yanıt::Hayır);
+    EXPECT_FALSE(KapanışıOnayla(false, {10, 20}));
+    Kutular().TekKutu(MesajKutusu::Simge::Soru, Metin(60));
+    EXPECT_EQ(Kayıtlı("Ondalik"), QStringLiteral("yok"));
+    SQLMetni = QStringLiteral("SELECT Count(UrunAdi) AS KayitSayisi FROM UrunTablosu");
+    EXPECT_TRUE(SorguÇalıştır());
+}
+
+TEST_F(AyarlarTesti, EvetDenirseBağlantıKapanırAyarlarKaydedilir) {
+    const auto veriKaynağıVar = [this] {
+        QFile dosya(OdbcDosyası());
+        return dosya.open(QIODevice::ReadOnly) && dosya.readAll().contains("[Varnek]");
+    };
+    for (const bool simgeDurumunda : {false, true}) {
+        QFile::remove(VeriDosyası());
+        VeriyeBağlan();
+        EXPECT_TRUE(veriKaynağıVar());
+        OndalıkBasamak = simgeDurumunda ? 4 : 3;
+        Kutular().Yanıtla(MesajKutusu::Yanıt::Evet, [&](const MesajKutusu::İstek& kutu) {
+            EXPECT_EQ(kutu.ortala, !simgeDurumunda);
+            EXPECT_EQ(kutu.düğmeler, MesajKutusu::Düğmeler::EvetHayır);
+            EXPECT_TRUE(veriKaynağıVar());
+        });
+        EXPECT_TRUE(KapanışıOnayla(simgeDurumunda, simgeDurumunda ? QPoint(50, 60) : QPoint(10, 20)));
+        EXPECT_FALSE(veriKaynağıVar());
+        EXPECT_EQ(KayıtlıOndalık(), OndalıkBasamak);
+        // Minimised, the place from before stays.
+        EXPECT_EQ(KayıtlıSol(), 10);
+        EXPECT_EQ(KayıtlıÜst(), 20);
+    }
+}
+
+}  // namespace

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QDate>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include "TestVerisi.h"
+#include "VarnekTesti.h"
+
+// Tests of the data file's way to the start: what lies where, and since when.
+class HazırlıkTesti : public VarnekTesti {
+  protected:
+    using Satırlar = QList<QStringList>;
+
+    QString YedekKlasörü() const { return KullanıcıKlasörü() + QStringLiteral("Tovrek/Vtb Yedekleri/"); }
+    QString Yedek() const { return YedekKlasörü() + QStringLiteral("Varnek.ydk"); }
+    const QDate Gün = QDate::currentDate();
+    const QDateTime ÖncekiGün = QDateTime(Gün.addDays(-1), QTime(23, 59));
+
+    // A file with the sample and one material more, last changed at that time.
+    void DosyaYap(const QString& yol, const QString& malzeme, const QDateTime& değişme) {
+        QDir().mkpath(QFileInfo(yol).path());
+        QFile::remove(yol);
+        VeriDosyasıOluştur(yol, QStringLiteral("ornek"));
+        TestVerisi(yol).Çalıştır(QStringLiteral("INSERT INTO MalzemeTablosu (MalzemeAdi, MalzemeFiyati) VALUES ('") +
+                                 malzeme + QStringLiteral("', '1,25')"));
+        ZamanVer(yol, değişme);
+    }
+    static void ZamanVer(const QString& yol, const QDateTime& değişme) {
+        QFile dosya(yol);
+        ASSERT_TRUE(dosya.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(dosya.setFileTime(değişme, QFileDevice::FileModificationTime));
+    }
+    static Satırlar Oku(const QString& yol) { return TestVerisi(yol).HerSatır(); }
+    static QByteArray Baytlar(const QString& yol) {
+        QFile dosya(yol);
+        return dosya.open(QIODevice::ReadOnly) ? dosya.readAll() : QByteArray("yok");
+    }
+    static void Yaz(const QString& yol, const QByteArray& baytlar) {
+        QDir().mkpath(QFileInfo(yol).path());
+        QFile dosya(yol);
+        ASSERT_TRUE(dosya.open(QIODevice::WriteOnly));
+        dosya.write(baytlar);
+    }
+    static QDateTime DeğişmeZamanı(const QString& yol) { return QFileInfo(yol).lastModified(); }
+};

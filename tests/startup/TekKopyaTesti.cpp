@@ -1,0 +1,78 @@
+#include "TekKopya.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <csignal>
+#include <memory>
+
+#include "CocukSureci.h"
+#include "ModalBekleyici.h"
+#include "SurumKaydi.h"
+#include "TestVerisi.h"
+#include "VarnekTesti.h"
+
+namespace {
+
+class TekKopyaTesti : public VarnekTesti {
+  protected:
+    void SetUp() override { VeriDosyasıOluştur(VeriDosyası()); }
+    QStringList Başla() const { return {QStringLiteral("basla"), ProgramKlasörü()}; }
+};
+
+TEST_F(TekKopyaTesti, İkinciBaşlatmaPencereleriÖneGetirir) {
+    TekKopya kopya;
+    ASSERT_TRUE(kopya.Başla(Sürüm().Başlık()));
+    TekKopya başkaSürüm;
+    EXPECT_TRUE(başkaSürüm.Başla(QStringLiteral("Tovrek - Varnek 2.25")));
+
+    QWidget pencere;
+    QWidget gizli;
+    pencere.showMinimized();
+    ÇocukSüreci ikinci(Başla());
+    EXPECT_TRUE(Bekle([&] { return !pencere.isMinimized() && pencere.isActiveWindow(); }));
+    EXPECT_FALSE(gizli.isVisible());
+    EXPECT_EQ(ikinci.Sonuç(), ÇocukSüreci::BAŞKA_KOPYA);
+    EXPECT_FALSE(QFile::exists(OdbcDosyası())) << "the second copy went on";
+
+    // The modal form comes above the window that it blocks.
+    QDialog form(&pencere);
+    ModalAç([&form] { form.exec(); }, {},
+            [&pencere, this](QWidget& açık) {
+                pencere.showMinimized();
+                ÇocukSüreci üçüncü(Başla());
+                EXPECT_TRUE(Bekle([&] { return !pencere.isMinimized() && açık.isActiveWindow(); }));
+                EXPECT_EQ(üçüncü.Sonuç(), ÇocukSüreci::BAŞKA_KOPYA);
+                açık.close();
+            });
+}
+
+TEST_F(TekKopyaTesti, ÖldürülenKopyaYoluKapatmaz) {
+    for (int i = 0; i < 3; ++i) {
+        ÇocukSüreci kopya(Başla());
+        EXPECT_TRUE(kopya.BaşladıMı());
+        kopya.Öldür();
+    }
+    // A copy that hangs still counts as running, and the second start does not wait for it.
+    ÇocukSüreci asılı(Başla());
+    ASSERT_TRUE(asılı.BaşladıMı());
+    ::kill(static_cast<pid_t>(asılı.Süreç().processId()), SIGSTOP);
+    EXPECT_EQ(ÇocukSüreci(Başla()).Sonuç(), ÇocukSüreci::BAŞKA_KOPYA);
+}
+
+TEST_F(TekKopyaTesti, AynıAndaBaşlayanlardanBiriÇalışır) {
+    for (int tur = 0; tur < 5; ++tur) {
+        std::vector<std::unique_ptr<ÇocukSüreci>> süreçler;
+        for (int i = 0; i < 4; ++i) süreçler.push_back(std::make_unique<ÇocukSüreci>(Başla()));
+        int çalışan = 0;
+        for (auto& süreç : süreçler) {
+            if (süreç->BaşladıMı()) {
+                ++çalışan;
+            } else {
+                EXPECT_EQ(süreç->Sonuç(), ÇocukSüreci::BAŞKA_KOPYA);
+            }
+        }
+        EXPECT_EQ(çalışan, 1);
+    }
+}
+
+}  // namespace
