@@ -92,9 +92,9 @@ std::int16_t VeritabanınıSıkıştır(const QString& kaynak, const QString& he
 }
 
 bool SürücüKayıtlı() {
-    char yol[2] = "";
-    return SQLGetPrivateProfileString(SürücüAdı().toUtf8().constData(), "Driver", "", yol, sizeof yol,
-                                      "odbcinst.ini") > 0;
+    char yol[512] = "";
+    return SQLGetPrivateProfileString(SürücüAdı().toUtf8().constData(), "Driver", "", yol, sizeof yol, "odbcinst.ini") >
+           0;
 }
 
 bool VeriDosyasıAçılıyor(const QString& yol) {

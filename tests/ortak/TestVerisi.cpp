@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sql.h>
+#include <sqlext.h>
 
 #include <QFile>
 #include <QHash>
@@ -50,6 +51,14 @@ void TestVerisi::Çalıştır(const QString& sql) {
     OdbcDeyimi deyim;
     ASSERT_EQ(deyim.Aç(m_bağlantı), 0);
     EXPECT_EQ(deyim.Çalıştır(sql), 0) << sql.toStdString() << ": " << Hatalar(nullptr, deyim.Tanıtıcı());
+}
+
+void TestVerisi::ElleOnayla() {
+    EXPECT_EQ(SQLSetConnectOption(m_bağlantı.Tanıtıcı(), SQL_AUTOCOMMIT, SQL_AUTOCOMMIT_OFF), 0);
+}
+
+void TestVerisi::Onayla() {
+    EXPECT_EQ(SQLTransact(SQL_NULL_HENV, m_bağlantı.Tanıtıcı(), SQL_COMMIT), 0);
 }
 
 QList<QStringList> TestVerisi::Oku(const QString& sql) {

@@ -20,6 +20,9 @@ class TestVerisi {
     explicit TestVerisi(const QString& yol);
 
     void Çalıştır(const QString& sql);
+    // From here on changes are under way until Onayla.
+    void ElleOnayla();
+    void Onayla();
     QList<QStringList> Oku(const QString& sql);
     // Every row of every table, each row headed by its table's name: for comparing files.
     QList<QStringList> HerSatır();

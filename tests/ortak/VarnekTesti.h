@@ -3,14 +3,21 @@
 #include <gtest/gtest.h>
 
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 #include <ostream>
 
 #include "KutuKuyrugu.h"
 
-// How a failed comparison shows a text.
-inline void PrintTo(const QString& metin, std::ostream* akış) {
-    *akış << '"' << metin.toStdString() << '"';
+// How failures show the toolkit's texts; of many rows only their number.
+inline void PrintTo(const QString& metin, std::ostream* çıktı) {
+    *çıktı << '"' << metin.toStdString() << '"';
+}
+inline void PrintTo(const QStringList& metinler, std::ostream* çıktı) {
+    PrintTo(metinler.join(QStringLiteral("\", \"")), çıktı);
+}
+inline void PrintTo(const QList<QStringList>& satırlar, std::ostream* çıktı) {
+    *çıktı << satırlar.size() << " rows";
 }
 
 // The base of tests that touch files, settings, the data source or message boxes: each test has a fresh folder with its

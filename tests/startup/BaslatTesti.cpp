@@ -66,7 +66,7 @@ TEST(SistemDenetimiTesti, NTKuralı) {
         {{4, 0, 2, QString()}, true},
         {{4, 0, 2, QStringLiteral("Service Pack 1")}, false},
         {{4, 0, 2, QStringLiteral("Service Pack 2")}, false},
-        {{4, 0, 2, QStringLiteral("Service Pack 2\0 artik", 21)}, false},
+        {{4, 0, 2, QStringLiteral("Service Pack 2\0 artik")}, false},
         {{4, 0, 2, QStringLiteral("Service Pack 2a")}, true},
         {{4, 0, 2, QStringLiteral("service pack 2")}, true},
         {{4, 0, 2, QStringLiteral("Service Pack 3")}, true},
