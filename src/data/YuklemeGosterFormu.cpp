@@ -5,7 +5,6 @@
 #include <QEventLoop>
 #include <QLabel>
 #include <QProgressBar>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include "MetinTablosu.h"
@@ -13,13 +12,14 @@
 
 namespace {
 
-YüklemeGösterFormu* Ekrandaki = nullptr;
-constexpr qint64 ÇizimAralığı = 16;  // milliseconds
+YüklemeGösterFormu* Geçerli = nullptr;
+constexpr qint64 GörünmeSüresi = 200;  // milliseconds that a load lasts before the form appears
+constexpr qint64 ÇizimAralığı = 16;    // milliseconds between two paintings
 
 }  // namespace
 
-YüklemeGösterFormu::YüklemeGösterFormu(std::function<void()> yükleyici, QWidget* sahip)
-    : QDialog(sahip, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint), m_yükleyici(std::move(yükleyici)) {
+YüklemeGösterFormu::YüklemeGösterFormu(QWidget* sahip)
+    : QDialog(sahip, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint) {
     setObjectName(QStringLiteral("YüklemeGösterFormu"));
     setModal(true);
     auto* altlık = new QWidget(this);
@@ -36,54 +36,37 @@ YüklemeGösterFormu::YüklemeGösterFormu(std::function<void()> yükleyici, QWi
     auto* düzen = new QVBoxLayout(this);
     düzen->setContentsMargins(0, 0, 0, 0);
     düzen->addWidget(altlık);
+    m_sonÇizim.start();
+    Geçerli = this;
 }
 
 YüklemeGösterFormu::~YüklemeGösterFormu() {
-    if (Ekrandaki == this) Ekrandaki = nullptr;
+    Geçerli = nullptr;
 }
 
-void YüklemeGösterFormu::Çalıştır(std::function<void()> yükleyici, QWidget* sahip) {
-    YüklemeGösterFormu form(std::move(yükleyici), sahip);
-    form.exec();
-    if (form.m_hata) std::rethrow_exception(form.m_hata);
-}
-
-void YüklemeGösterFormu::showEvent(QShowEvent* olay) {
-    QDialog::showEvent(olay);
-    if (m_başladı) return;
-    m_başladı = true;
-    Ekrandaki = this;
-    QTimer::singleShot(0, this, [this] { Yükle(); });
+void YüklemeGösterFormu::Çalıştır(const std::function<void()>& yükleyici, QWidget* sahip) {
+    const YüklemeGösterFormu form(sahip);
+    yükleyici();
 }
 
 void YüklemeGösterFormu::closeEvent(QCloseEvent* olay) {
     olay->ignore();
 }
 
-void YüklemeGösterFormu::Yükle() {
+void YüklemeGösterFormu::İlerle() {
+    if (!m_sonÇizim.hasExpired(isVisible() ? ÇizimAralığı : GörünmeSüresi)) return;
+    m_ilerlemeÇubuğu->setValue(YüklenenKayıt);
+    show();
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    m_sonÇizim.start();
-    try {
-        m_yükleyici();
-    } catch (...) {
-        // An exception must not cross the event loop; the caller gets it once the form has ended.
-        m_hata = std::current_exception();
-    }
-    Ekrandaki = nullptr;
-    done(QDialog::Accepted);
+    m_sonÇizim.restart();
 }
 
 Yüklemeİlerlemesi::Yüklemeİlerlemesi(std::int32_t azami) {
     YüklenenKayıt = 0;
-    if (!Ekrandaki) return;
-    Ekrandaki->m_ilerlemeÇubuğu->setRange(0, azami);
-    Ekrandaki->m_ilerlemeÇubuğu->setValue(0);
+    if (Geçerli) Geçerli->m_ilerlemeÇubuğu->setRange(0, azami);
 }
 
 void Yüklemeİlerlemesi::Arttır() {
     ++YüklenenKayıt;
-    if (!Ekrandaki || !Ekrandaki->m_sonÇizim.hasExpired(ÇizimAralığı)) return;
-    Ekrandaki->m_ilerlemeÇubuğu->setValue(YüklenenKayıt);
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    Ekrandaki->m_sonÇizim.restart();
+    if (Geçerli) Geçerli->İlerle();
 }

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QListWidget>
 #include <QProgressBar>
@@ -52,35 +53,59 @@ TEST_F(Yükleme, AğaçTürkçeSıradaVeGruplarTamAdlarıylaAyrılır) {
     ODBCBağlantısınıKapat();
 }
 
-TEST_F(Yükleme, FormYükleyiciyiBirKezÇalıştırırVeİlerlemeyiGösterir) {
+QWidget* YüklemeFormu() {
+    QWidget* form = QApplication::activeModalWidget();
+    return form && form->objectName() == QStringLiteral("YüklemeGösterFormu") ? form : nullptr;
+}
+
+TEST_F(Yükleme, KısaYüklemedeFormHiçGörünmez) {
     VeriyeBağlan();
     for (const char* ad : {"Zımpara", "Çivi", "Ağaç"}) {
         ASSERT_TRUE(DeyimiYürüt(Deyimler::MalzemeEkle(QString::fromUtf8(ad), QStringLiteral("1"))));
     }
     QListWidget liste;
-    int kez = 0;
     YüklemeGösterFormu::Çalıştır([&] {
-        ++kez;
-        QWidget* form = QApplication::activeModalWidget();
-        ASSERT_TRUE(form && form->isVisible());
-        EXPECT_EQ(form->findChild<QLabel*>(QStringLiteral("Etiket"))->text(),
-                  QStringLiteral("Veriler yüklenirken lütfen bekleyiniz!"));
-        // Neither Esc nor the close box ends it.
-        QTest::keyClick(form, Qt::Key_Escape);
-        form->close();
-        EXPECT_TRUE(form->isVisible());
         MalzemeListesiniYükle(liste);
-        EXPECT_EQ(form->findChild<QProgressBar*>(QStringLiteral("İlerlemeÇubuğu"))->maximum(), 3);
+        EXPECT_EQ(YüklemeFormu(), nullptr);
     });
-    EXPECT_EQ(kez, 1);
     ASSERT_EQ(liste.count(), 3);
     EXPECT_EQ(liste.item(0)->text(), QStringLiteral("Ağaç"));
     EXPECT_EQ(liste.item(1)->text(), QStringLiteral("Çivi"));
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    ODBCBağlantısınıKapat();
 }
 
-TEST_F(Yükleme, YükleyicininHatasıFormKapandıktanSonraGelir) {
+TEST_F(Yükleme, UzunYüklemedeFormİlerlerVeKapatılamaz) {
+    int çizimler = 0;
+    int enÇok = 0;
+    qint64 süre = 0;
+    YüklemeGösterFormu::Çalıştır([&] {
+        constexpr int Azami = 1 << 30;
+        Yüklemeİlerlemesi ilerleme(Azami);
+        QElapsedTimer geçen;
+        geçen.start();
+        while (!YüklemeFormu() && geçen.elapsed() < 5000) ilerleme.Arttır();
+        QWidget* form = YüklemeFormu();
+        ASSERT_TRUE(form);
+        EXPECT_EQ(form->findChild<QLabel*>(QStringLiteral("Etiket"))->text(),
+                  QStringLiteral("Veriler yüklenirken lütfen bekleyiniz!"));
+        QTest::keyClick(form, Qt::Key_Escape);
+        form->close();
+        EXPECT_TRUE(form->isVisible());
+        auto* çubuk = form->findChild<QProgressBar*>(QStringLiteral("İlerlemeÇubuğu"));
+        EXPECT_EQ(çubuk->maximum(), Azami);
+        const auto sayaç =
+            QObject::connect(çubuk, &QProgressBar::valueChanged, çubuk, [&](int değer) { ++çizimler, enÇok = değer; });
+        geçen.restart();
+        while (geçen.elapsed() < 200) ilerleme.Arttır();
+        süre = geçen.elapsed();
+        QObject::disconnect(sayaç);
+    });
+    EXPECT_GE(çizimler, 2) << "the bar moves";
+    EXPECT_LE(çizimler, süre / 16 + 1) << "at most one painting in 16 ms";
+    EXPECT_LE(enÇok, YüklenenKayıt);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(Yükleme, YükleyicininHatasıFormuKapatır) {
     EXPECT_THROW(YüklemeGösterFormu::Çalıştır([] { throw std::runtime_error("x"); }), std::runtime_error);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }

@@ -21,7 +21,6 @@ void PaylaşılanlarıKur(const QString& programKlasörü) {
     YazıcıVar = false;
     NTTabanlı = false;
     SeçiliÜrünSırası = -1;
-    YüklemeTürü = YüklemeTürleri::Yok;
     HareketTarihi = QDate();
     HareketTarihiSQL.clear();
     SQLMetni.clear();

@@ -18,17 +18,6 @@ inline bool NTTabanlı = false;                       // the system is of the NT
 // Position of the main form's selected node over all nodes of the tree, from 0; -1 when none is selected.
 inline std::int32_t SeçiliÜrünSırası = -1;
 
-// Which form the loading form prepares: the loading kind.
-enum class YüklemeTürleri : std::int32_t {
-    Yok = 0,
-    Ürünler = 1,
-    MalzemeKataloğu = 2,
-    MalzemeListesiOluşturma = 3,
-    MalzemeListesi = 4,
-    ÜrünListesi = 5
-};
-inline YüklemeTürleri YüklemeTürü = YüklemeTürleri::Yok;
-
 // The day whose material movements are shown, and the same day as the statements' date literal (#11/22/2026#).
 inline QDate HareketTarihi;
 inline QString HareketTarihiSQL;
