@@ -203,6 +203,10 @@ constexpr Satır Tablo[] = {
     {2123,
      "Yedek klasörü oluşturulamadı; bu yüzden yedek alınamayacak! \n"
      "Lütfen, bu klasöre yazma izniniz olup olmadığını kontrol ediniz:"},
+
+    // Later additions: main form
+    {2130, "Bu malzemelerin miktarı veya fiyatı okunamadığı için maliyete katılmadılar:"},
+    {2131, "Ürünün malzemelerinin hepsi okunamadı; listedekiler ve maliyet eksik!"},
 };
 
 }  // namespace

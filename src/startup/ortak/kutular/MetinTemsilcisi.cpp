@@ -5,6 +5,12 @@
 #include <QTextDocument>
 #include <QToolTip>
 
+namespace {
+
+constexpr int SatırPayı = 6;  // pixels between the lines of text
+
+}  // namespace
+
 MetinTemsilcisi::MetinTemsilcisi(QObject* sahip, QList<int> sayıSütunları)
     : QStyledItemDelegate(sahip), m_sayıSütunları(std::move(sayıSütunları)) {}
 
@@ -13,6 +19,10 @@ void MetinTemsilcisi::initStyleOption(QStyleOptionViewItem* seçenek, const QMod
     if (m_sayıSütunları.contains(yer.column())) {
         seçenek->displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
     }
+}
+
+QSize MetinTemsilcisi::sizeHint(const QStyleOptionViewItem& seçenek, const QModelIndex& yer) const {
+    return QStyledItemDelegate::sizeHint(seçenek, yer) + QSize(0, SatırPayı);
 }
 
 bool MetinTemsilcisi::helpEvent(QHelpEvent* olay, QAbstractItemView* görünüm, const QStyleOptionViewItem& seçenek,

@@ -9,6 +9,7 @@ class MetinTemsilcisi : public QStyledItemDelegate {
   public:
     explicit MetinTemsilcisi(QObject* sahip, QList<int> sayıSütunları = {});
 
+    QSize sizeHint(const QStyleOptionViewItem& seçenek, const QModelIndex& yer) const override;
     bool helpEvent(QHelpEvent* olay, QAbstractItemView* görünüm, const QStyleOptionViewItem& seçenek,
                    const QModelIndex& yer) override;
 

@@ -1,0 +1,180 @@
+#include "AnaForm.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QKeyEvent>
+
+#include "DegiskenModulu.h"
+#include "Deyimler.h"
+#include "HataYakala.h"
+#include "KullanilanMalzemeler.h"
+#include "MaliyetAlani.h"
+#include "MesajKutusu.h"
+#include "MetinTablosu.h"
+#include "MiktarAlani.h"
+#include "OdbcModulu.h"
+#include "UrunAgaci.h"
+
+namespace {
+
+constexpr qsizetype EnÇokSayılanSatır = 10;  // rows that a message box names
+
+std::optional<Komut> TuşKomutu(int tuş) {
+    switch (tuş) {
+        case Qt::Key_F4:
+            return Komut::GünlükMalzemeHareketleri;
+        case Qt::Key_F5:
+            return Komut::MalzemeListesi;
+        case Qt::Key_F6:
+            return Komut::ÜrünListesi;
+        default:
+            return std::nullopt;
+    }
+}
+
+bool Sor(const QString& soru) {
+    MesajKutusuOrtala();
+    return MesajKutusu::Göster(MesajKutusu::Simge::Soru, MesajKutusu::Düğmeler::EvetHayır, soru) ==
+           MesajKutusu::Yanıt::Evet;
+}
+
+}  // namespace
+
+AnaForm::~AnaForm() {
+    m_ağaç->Sustur();
+}
+
+void AnaForm::Yükle() {
+    HataYakala([this] {
+        m_haneSayısı->setCurrentIndex(OndalıkBasamak - 1);
+        m_ağaç->Yükle();
+        ÜrünListesiTıkla();
+        Yerleş();
+        // The welcome form may be the only window so far; its going is not the program's end.
+        const bool kapanıncaBiter = QApplication::quitOnLastWindowClosed();
+        QApplication::setQuitOnLastWindowClosed(false);
+        m_bağlar.KarşılamayıKapat();
+        QApplication::processEvents();
+        show();
+        QApplication::setQuitOnLastWindowClosed(kapanıncaBiter);
+        GirişDenetimi();
+    });
+}
+
+void AnaForm::GirişDenetimi() {
+    if (m_ağaç->Boş()) {
+        Sor(Metin(420));
+        return;
+    }
+    m_miktar->SeçimiKaldır();
+}
+
+void AnaForm::DüğümTıklandı() {
+    ÜrünListesiTıkla();
+    m_miktar->SeçimiKaldır();
+}
+
+void AnaForm::ÜrünListesiTıkla() {
+    HataYakala([this] {
+        m_miktar->Boşalt();
+        m_miktar->MiktarıAyarla(0, false);
+        if (!m_ağaç->ÜrünSeçili()) {
+            GrubuGöster();
+            return;
+        }
+        MalzemeTablosuYükle();
+        m_komutlar.İzinVer(Komut::ListeyeMalzemeEkle, true);
+        m_komutlar.İzinVer(Komut::MiktarlarıGöster, true);
+        m_miktar->SeçeneğeİzinVer(true);
+    });
+}
+
+void AnaForm::GrubuGöster() {
+    m_maliyet->setEnabled(false);
+    for (const Komut komut : {Komut::ListeyeMalzemeEkle, Komut::ListedenMalzemeSil, Komut::Yazdır,
+                              Komut::MiktarlarıGöster, Komut::DeğişiklikleriKaydet}) {
+        m_komutlar.İzinVer(komut, false);
+    }
+    m_miktar->SeçeneğeİzinVer(false);
+    m_maliyet->Boşalt();
+    m_liste->clear();
+}
+
+void AnaForm::MalzemeTablosuYükle() {
+    if (m_ağaç->ÜrünSeçili()) HataYakala([this] { SeçiliÜrünüYükle(); });
+}
+
+void AnaForm::SeçiliÜrünüYükle() {
+    const QString grup = m_ağaç->SeçiliGrup();
+    const QString ürün = m_ağaç->SeçiliÜrün();
+    m_miktar->MiktarıAyarla(0, false);
+    const KullanılanMalzemeListesi::Yüklenen yüklenen = m_liste->Yükle(grup, ürün, OndalıkBasamak);
+    m_miktar->MiktarıAyarla(yüklenen.Toplam.ToplamMiktar(), yüklenen.Toplam.BirimlerFarklı());
+    m_maliyet->MalzemeMaliyetiniGöster(yüklenen.Toplam.Tutar());
+    const bool malzemeVar = !m_liste->Boş();
+    m_komutlar.İzinVer(Komut::ListedenMalzemeSil, malzemeVar);
+    m_komutlar.İzinVer(Komut::Yazdır, malzemeVar);
+    m_maliyet->setEnabled(malzemeVar);
+    m_maliyet->YüzdeleriYükle(grup, ürün);
+    ToplamMaliyetHesapla();
+    m_komutlar.İzinVer(Komut::DeğişiklikleriKaydet, false);
+    if (m_miktar->Seçili()) m_miktar->SeçeneğiUygula();
+    if (!yüklenen.Tamam) BeklenmeyenHataGöster(Metin(2131));
+    if (!yüklenen.Sayılmayanlar.isEmpty()) SayılmayanlarıGöster(yüklenen.Sayılmayanlar);
+}
+
+void AnaForm::SayılmayanlarıGöster(const QStringList& satırlar) {
+    QStringList metin{Metin(2130)};
+    metin += satırlar.mid(0, EnÇokSayılanSatır);
+    if (satırlar.size() > EnÇokSayılanSatır) metin += QStringLiteral("...");
+    MesajKutusuOrtala();
+    MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam, metin.join(QLatin1Char('\n')));
+}
+
+void AnaForm::ToplamMaliyetHesapla() {
+    m_maliyet->ToplamMaliyetHesapla();
+}
+
+void AnaForm::ListedenMalzemeSil() {
+    if (m_liste->Boş()) return;
+    const QString malzeme = m_liste->SeçiliMalzeme();
+    if (!Sor(Metin(440) + QLatin1Char(' ') + m_liste->SeçiliMiktar() + QLatin1Char(' ') + malzeme)) return;
+    if (DeyimiYürüt(Deyimler::KullanılanMalzemeÇıkar(m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün(), malzeme))) {
+        MalzemeTablosuYükle();
+    }
+}
+
+void AnaForm::DeğişiklikleriKaydet() {
+    const MaliyetGirdisi yüzdeler = m_maliyet->Girdi();
+    if (DeyimiYürüt(Deyimler::YüzdeleriKaydet(yüzdeler.İşçilik, yüzdeler.Kâr, yüzdeler.Diğer, yüzdeler.Vade,
+                                                m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()))) {
+        m_komutlar.İzinVer(Komut::DeğişiklikleriKaydet, false);
+    }
+}
+
+bool AnaForm::eventFilter(QObject* hedef, QEvent* olay) {
+    if (olay->type() != QEvent::KeyPress && olay->type() != QEvent::KeyRelease) return false;
+    const auto* tuş = static_cast<QKeyEvent*>(olay);
+    const std::optional<Komut> komut = TuşKomutu(tuş->key());
+    if (!komut || tuş->modifiers() != Qt::NoModifier) return false;
+    const auto* denetim = qobject_cast<QWidget*>(hedef);
+    if (!denetim || denetim->window() != this) return false;
+    // The press is kept from the controls: F4 would open a drop-down list.
+    if (olay->type() == QEvent::KeyRelease && !tuş->isAutoRepeat()) m_komutlar.Çalıştır(*komut);
+    return true;
+}
+
+void AnaForm::closeEvent(QCloseEvent* olay) {
+    if (!m_kapandı && !m_bağlar.Kapanış(isMinimized(), pos())) {
+        olay->ignore();
+        return;
+    }
+    m_kapandı = true;
+    m_ağaç->Sustur();  // the data connection is closed
+    const QWidgetList formlar = QApplication::topLevelWidgets();
+    for (QWidget* form : formlar) {
+        if (form != this && form->isVisible()) form->close();
+    }
+    olay->accept();
+}

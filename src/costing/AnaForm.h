@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QPoint>
+#include <functional>
+
+#include "Komutlar.h"
+
+class KullanılanMalzemeListesi;
+class MaliyetAlanı;
+class MiktarAlanı;
+class QComboBox;
+class ÜrünAğacı;
+
+// What the form needs of the program around it.
+struct AnaFormBağları {
+    std::function<void()> KarşılamayıKapat;  // the welcome form goes as the form comes
+    // Asks whether to end; on yes closes the data connection, saves the settings and gives true.
+    std::function<bool(bool simgeDurumunda, QPoint solÜst)> Kapanış;
+};
+
+// The program's main window: the product tree, and for the selected product its used materials, percentages and cost.
+class AnaForm : public QMainWindow {
+  public:
+    explicit AnaForm(AnaFormBağları bağlar);
+    ~AnaForm() override;
+
+    // Fills the tree, places and shows the form; an empty product list is met by a question.
+    void Yükle();
+
+    // Shows what the tree's current node stands for; for other forms too, after they changed the data.
+    void ÜrünListesiTıkla();
+    // Loads used materials and percentages of the selected product anew; does nothing while a group is selected.
+    void MalzemeTablosuYükle();
+    void ToplamMaliyetHesapla();
+
+  protected:
+    bool eventFilter(QObject* hedef, QEvent* olay) override;
+    void closeEvent(QCloseEvent* olay) override;
+
+  private:
+    void MenüleriKur();
+    void AlanlarıKur();
+    void DüzeniKur();
+    QWidget* AğaçAltlığı();
+    QWidget* ListeAltlığı();
+    QWidget* MaliyetAltlığı();
+    QWidget* DüğmeAltlığı();
+    QWidget* DüğmeOluştur(Komut komut, int metin, const char* ad);
+    void DurumÇubuğunuKur();
+    void KomutlarıKur();
+    void Yerleş();
+
+    void GirişDenetimi();
+    void DüğümTıklandı();
+    void GrubuGöster();
+    void SeçiliÜrünüYükle();
+    void SayılmayanlarıGöster(const QStringList& satırlar);
+
+    void ListedenMalzemeSil();
+    void DeğişiklikleriKaydet();
+
+    AnaFormBağları m_bağlar;
+    Komutlar m_komutlar;
+    bool m_kapandı = false;
+
+    ÜrünAğacı* m_ağaç;
+    KullanılanMalzemeListesi* m_liste;
+    QComboBox* m_haneSayısı;
+    MaliyetAlanı* m_maliyet;
+    MiktarAlanı* m_miktar;
+};

@@ -1,0 +1,218 @@
+// How the main form is put together: menus, controls, layout.
+
+#include <QApplication>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenuBar>
+#include <QScreen>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+#include "AnaForm.h"
+#include "Ayarlar.h"
+#include "DegiskenModulu.h"
+#include "Denetimler.h"
+#include "EkranKonumu.h"
+#include "KomutDugmesi.h"
+#include "KullanilanMalzemeler.h"
+#include "MaliyetAlani.h"
+#include "MetinTablosu.h"
+#include "MiktarAlani.h"
+#include "OyukCizgi.h"
+#include "Saat.h"
+#include "UrunAgaci.h"
+
+namespace {
+
+constexpr int AğaçGenişliği = 240;      // pixels
+constexpr int NoktaGenişliği = 48;
+constexpr QSize İstenenBoy(1000, 700);  // pixels
+constexpr int BaşlıkPayı = 40;          // room for the window's title bar
+constexpr int EnÇokOndalık = 6;
+
+}  // namespace
+
+AnaForm::AnaForm(AnaFormBağları bağlar) : m_bağlar(std::move(bağlar)) {
+    setObjectName(QStringLiteral("AnaForm"));
+    setWindowTitle(UygulamaBaşlığı);
+    AlanlarıKur();
+    MenüleriKur();
+    DüzeniKur();
+    DurumÇubuğunuKur();
+    KomutlarıKur();
+    qApp->installEventFilter(this);
+}
+
+void AnaForm::AlanlarıKur() {
+    m_ağaç = new ÜrünAğacı;
+    m_ağaç->OlaylarıBağla({[this] { DüğümTıklandı(); }, [this] { ÜrünListesiTıkla(); }, [this] { GirişDenetimi(); }});
+    m_liste = new KullanılanMalzemeListesi;
+    connect(m_liste, &QTreeWidget::itemDoubleClicked, this, [this] { m_komutlar.Çalıştır(Komut::ListedenMalzemeSil); });
+
+    m_haneSayısı = new QComboBox;
+    m_haneSayısı->setObjectName(QStringLiteral("HaneSayısıKutusu"));
+    for (int basamak = 1; basamak <= EnÇokOndalık; ++basamak) m_haneSayısı->addItem(QString::number(basamak));
+    m_haneSayısı->setCurrentIndex(OndalıkBasamak - 1);
+    // What is on screen stays as it is; the next load, edit or focus change shows the new number of decimals.
+    connect(m_haneSayısı, &QComboBox::currentTextChanged, this,
+            [](const QString& basamak) { OndalıkBasamak = basamak.toInt(); });
+
+    m_maliyet = new MaliyetAlanı({[this] {
+                                      m_komutlar.İzinVer(Komut::DeğişiklikleriKaydet, true);
+                                      ToplamMaliyetHesapla();
+                                  },
+                                  [this] { m_miktar->ToplamDeğişti(); }});
+    m_miktar = new MiktarAlanı({[this] { return m_maliyet->Girdi().MalzemeMaliyeti; },
+                                [this] { return m_maliyet->ToplamMaliyet(); }, [this] { m_ağaç->setFocus(); }});
+}
+
+void AnaForm::MenüleriKur() {
+    const auto girişEkle = [this](QMenu* menü, Komut komut, int metin, const char* ad) {
+        QAction* giriş = menü->addAction(Metin(metin));
+        giriş->setObjectName(QString::fromUtf8(ad));
+        m_komutlar.Bağla(komut, giriş);
+    };
+    const auto çizgiEkle = [](QMenu* menü, int sıra) {
+        menü->addSeparator()->setObjectName(QStringLiteral("MenüÇizgisi%1").arg(sıra));
+    };
+    QMenu* program = menuBar()->addMenu(Metin(200));
+    program->setObjectName(QStringLiteral("ProgramMenüsü"));
+    girişEkle(program, Komut::ÜrünEkleSil, 210, "ÜrünEkleSilMenüsü");
+    girişEkle(program, Komut::MalzemeEkleSil, 220, "MalzemeEkleSilMenüsü");
+    çizgiEkle(program, 1);
+    girişEkle(program, Komut::Çıkış, 240, "ÇıkışMenüsü");
+    QMenu* yardım = menuBar()->addMenu(Metin(250));
+    yardım->setObjectName(QStringLiteral("YardımMenüsü"));
+    girişEkle(yardım, Komut::İçindekiler, 260, "İçindekilerMenüsü");
+    çizgiEkle(yardım, 2);
+    girişEkle(yardım, Komut::HataBildirme, 270, "HataBildirmeMenüsü");
+    çizgiEkle(yardım, 3);
+    girişEkle(yardım, Komut::Hakkında, 280, "HakkındaMenüsü");
+}
+
+// Controls are added as one reads, left to right and top to bottom: that is the order of Tab too.
+void AnaForm::DüzeniKur() {
+    auto* maliyetSatırı = new QHBoxLayout;
+    maliyetSatırı->addWidget(MaliyetAltlığı(), 1);
+    maliyetSatırı->addWidget(m_miktar, 1);
+    auto* sağ = new QWidget;
+    auto* sağDüzen = new QVBoxLayout(sağ);
+    sağDüzen->setContentsMargins(0, 0, 0, 0);
+    sağDüzen->addWidget(ListeAltlığı(), 1);
+    sağDüzen->addLayout(maliyetSatırı);
+
+    auto* bölücü = new QSplitter;
+    bölücü->setObjectName(QStringLiteral("Bölücü"));
+    bölücü->setChildrenCollapsible(false);
+    bölücü->addWidget(AğaçAltlığı());
+    bölücü->addWidget(sağ);
+    bölücü->setStretchFactor(0, 1);
+    bölücü->setStretchFactor(1, 3);
+    bölücü->setSizes({AğaçGenişliği, İstenenBoy.width() - AğaçGenişliği});
+    bölücü->setHandleWidth(9);
+
+    auto* içerik = new QVBoxLayout;
+    içerik->setContentsMargins(9, 4, 9, 4);
+    içerik->setSpacing(9);
+    içerik->addWidget(bölücü, 1);
+    içerik->addWidget(DüğmeAltlığı());
+    auto* orta = new QWidget;
+    auto* düzen = new QVBoxLayout(orta);
+    düzen->setContentsMargins(0, 0, 0, 0);
+    düzen->setSpacing(0);
+    düzen->addWidget(new OyukÇizgi);
+    düzen->addLayout(içerik, 1);
+    setCentralWidget(orta);
+}
+
+QWidget* AnaForm::AğaçAltlığı() {
+    QWidget* altlık = AltlıkOluştur(0);
+    auto* düzen = new QVBoxLayout(altlık);
+    düzen->setContentsMargins(0, 0, 0, 0);
+    düzen->addWidget(VurgulananEtiket(0, m_ağaç));
+    düzen->addWidget(m_ağaç, 1);
+    return altlık;
+}
+
+QWidget* AnaForm::ListeAltlığı() {
+    QWidget* altlık = AltlıkOluştur(1);
+    auto* düğmeler = new QHBoxLayout;
+    düğmeler->addWidget(DüğmeOluştur(Komut::ListeyeMalzemeEkle, 320, "ListeyeMalzemeEkleButonu"));
+    düğmeler->addWidget(DüğmeOluştur(Komut::ListedenMalzemeSil, 330, "ListedenMalzemeSilButonu"));
+    düğmeler->addWidget(DüğmeOluştur(Komut::Yazdır, 335, "YazdırButonu"));
+    düğmeler->addStretch();
+    düğmeler->addWidget(EtiketOluştur(10, m_haneSayısı));
+    düğmeler->addWidget(m_haneSayısı);
+    düğmeler->addWidget(EtiketOluştur(11));
+    auto* düzen = new QVBoxLayout(altlık);
+    düzen->setContentsMargins(0, 0, 0, 0);
+    düzen->addWidget(VurgulananEtiket(1, m_liste));
+    düzen->addWidget(m_liste, 1);
+    düzen->addLayout(düğmeler);
+    return altlık;
+}
+
+QWidget* AnaForm::MaliyetAltlığı() {
+    QWidget* altlık = AltlıkOluştur(2);
+    auto* düğmeler = new QHBoxLayout;
+    düğmeler->addWidget(DüğmeOluştur(Komut::DeğişiklikleriKaydet, 400, "DeğişiklikleriKaydetButonu"));
+    düğmeler->addStretch();
+    QWidget* miktarlar = DüğmeOluştur(Komut::MiktarlarıGöster, 1358, "MiktarlarıGösterDüğmesi");
+    miktarlar->setAccessibleName(Metin(1359));
+    miktarlar->setToolTip(Metin(1359));
+    miktarlar->setMaximumWidth(NoktaGenişliği);
+    düğmeler->addWidget(miktarlar);
+    auto* düzen = new QVBoxLayout(altlık);
+    düzen->setContentsMargins(0, 0, 0, 0);
+    düzen->addWidget(m_maliyet);
+    düzen->addLayout(düğmeler);
+    return altlık;
+}
+
+QWidget* AnaForm::DüğmeAltlığı() {
+    QWidget* altlık = AltlıkOluştur(3);
+    auto* düzen = new QHBoxLayout(altlık);
+    düzen->setContentsMargins(0, 0, 0, 0);
+    düzen->addWidget(DüğmeOluştur(Komut::GünlükMalzemeHareketleri, 402, "GünlükMalzemeHareketleriGösterButonu"));
+    düzen->addWidget(DüğmeOluştur(Komut::MalzemeListesi, 404, "MalzemeListesiGösterButonu"));
+    düzen->addWidget(DüğmeOluştur(Komut::ÜrünListesi, 406, "ÜrünListesiGösterButonu"));
+    düzen->addStretch();
+    düzen->addWidget(DüğmeOluştur(Komut::Çıkış, 410, "ÇıkışButonu"));
+    return altlık;
+}
+
+QWidget* AnaForm::DüğmeOluştur(Komut komut, int metin, const char* ad) {
+    auto* düğme = new KomutDüğmesi(Metin(metin));
+    düğme->setObjectName(QString::fromUtf8(ad));
+    m_komutlar.Bağla(komut, düğme);
+    return düğme;
+}
+
+void AnaForm::DurumÇubuğunuKur() {
+    statusBar()->setObjectName(QStringLiteral("DurumÇubuğu"));
+    auto* tarih = new QLabel(TürkçeUzunTarih(Bugün()) + QStringLiteral("   "));
+    tarih->setObjectName(QStringLiteral("TarihBölmesi"));
+    tarih->setIndent(6);
+    statusBar()->addWidget(tarih);
+}
+
+void AnaForm::KomutlarıKur() {
+    m_komutlar.Tanımla(Komut::Çıkış, [this] { close(); });
+    m_komutlar.Tanımla(Komut::ListedenMalzemeSil, [this] { ListedenMalzemeSil(); });
+    m_komutlar.Tanımla(Komut::DeğişiklikleriKaydet, [this] { DeğişiklikleriKaydet(); });
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,
+            [this] { m_komutlar.Çalıştır(Komut::Çıkış); });
+}
+
+void AnaForm::Yerleş() {
+    const QRect ekran = QGuiApplication::primaryScreen()->geometry();
+    resize(İstenenBoy.boundedTo(QGuiApplication::primaryScreen()->availableSize() - QSize(0, BaşlıkPayı)));
+    const QPoint konum(KayıtlıSol().value_or((ekran.width() - width()) / 2),
+                       KayıtlıÜst().value_or((ekran.height() - height()) / 2));
+    QList<QRect> ekranlar;
+    for (const QScreen* s : QGuiApplication::screens()) ekranlar.append(s->availableGeometry());
+    move(EkranaGetir(QRect(konum, size()), ekranlar));
+}

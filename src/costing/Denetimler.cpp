@@ -1,0 +1,56 @@
+#include "Denetimler.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <array>
+
+#include "EtiketVurgusu.h"
+#include "MetinTablosu.h"
+
+namespace {
+
+constexpr std::array EtiketMetinleri = {300,  310,  340,  350,  360,  370,  380, 390,
+                                        1270, 1280, 1295, 1300, 1315, 1320, 1325};
+
+QString Sıralı(QLatin1String ad, int sıra) {
+    return ad + QLatin1Char('(') + QString::number(sıra) + QLatin1Char(')');
+}
+
+}  // namespace
+
+QLabel* EtiketOluştur(int sıra, QWidget* denetim) {
+    const QString metin = Metin(EtiketMetinleri.at(static_cast<std::size_t>(sıra)));
+    auto* etiket = new QLabel(metin);
+    etiket->setTextFormat(Qt::PlainText);
+    etiket->setObjectName(Sıralı(QLatin1String("Etiket"), sıra));
+    if (denetim) denetim->setAccessibleName(metin);
+    return etiket;
+}
+
+QLabel* VurgulananEtiket(int sıra, QWidget* denetim) {
+    QLabel* etiket = EtiketOluştur(sıra);
+    EtiketEşle(etiket, denetim);
+    return etiket;
+}
+
+QWidget* AltlıkOluştur(int sıra, QWidget* sahip) {
+    auto* altlık = new QWidget(sahip);
+    altlık->setObjectName(QStringLiteral("Altlık(%1)").arg(sıra));
+    altlık->setBackgroundRole(QPalette::Window);
+    altlık->setAutoFillBackground(true);
+    return altlık;
+}
+
+QLineEdit* GösterimKutusu(const QString& ad) {
+    auto* kutu = new QLineEdit;
+    kutu->setObjectName(ad);
+    kutu->setReadOnly(true);
+    kutu->setFocusPolicy(Qt::ClickFocus);
+    kutu->setAlignment(Qt::AlignRight);
+    // Shaded, so that one sees which boxes can be typed into.
+    QPalette renkler = kutu->palette();
+    renkler.setColor(QPalette::Active, QPalette::Base, renkler.color(QPalette::Active, QPalette::Window));
+    renkler.setColor(QPalette::Inactive, QPalette::Base, renkler.color(QPalette::Inactive, QPalette::Window));
+    kutu->setPalette(renkler);
+    return kutu;
+}

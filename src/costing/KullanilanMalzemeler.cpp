@@ -1,0 +1,48 @@
+#include "KullanilanMalzemeler.h"
+
+#include "Deyimler.h"
+#include "OdbcModulu.h"
+#include "SayiMetni.h"
+
+namespace {
+
+enum Sütunlar { MiktarSütunu, AdSütunu };
+
+}  // namespace
+
+KullanılanMalzemeListesi::KullanılanMalzemeListesi(QWidget* sahip)
+    : RaporListesi({{412, 5, false}, {414, 3, false}, {416, 5, true}, {418, 4.6, true}}, sahip) {
+    setObjectName(QStringLiteral("KullanılanMalzemeListesi"));
+    setMinimumHeight(120);
+}
+
+KullanılanMalzemeListesi::Yüklenen KullanılanMalzemeListesi::Yükle(const QString& grup, const QString& ürün,
+                                                                   int basamak) {
+    clear();
+    Yüklenen sonuç;
+    SQLMetni = Deyimler::KullanılanMalzemeler(grup, ürün);
+    if (!SorguÇalıştır()) return sonuç;
+    QList<QTreeWidgetItem*> satırlar;
+    {
+        const DeyimKoruması koruma;
+        while (SatırGetir()) {
+            const QString miktar = SütunOku(1);
+            const QString ad = SütunOku(2);
+            const QString fiyat = NoktayıVirgüleÇevir(SütunOku(3));
+            const MalzemeSatırı satır = sonuç.Toplam.Ekle(miktar, fiyat, basamak);
+            if (!satır.Sayıldı) sonuç.Sayılmayanlar.append(miktar + QLatin1Char(' ') + ad);
+            satırlar.append(new QTreeWidgetItem(QStringList{satır.Miktar, ad, satır.Fiyat, satır.Tutar}));
+        }
+        sonuç.Tamam = SonDönüşKodu >= 0;
+    }
+    SatırlarıKoy(satırlar);
+    return sonuç;
+}
+
+QString KullanılanMalzemeListesi::SeçiliMiktar() const {
+    return SeçiliMetin(MiktarSütunu);
+}
+
+QString KullanılanMalzemeListesi::SeçiliMalzeme() const {
+    return SeçiliMetin(AdSütunu);
+}

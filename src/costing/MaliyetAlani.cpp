@@ -1,0 +1,117 @@
+#include "MaliyetAlani.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include "DegiskenModulu.h"
+#include "Denetimler.h"
+#include "Deyimler.h"
+#include "OdbcModulu.h"
+#include "SayiKutusu.h"
+#include "SayiMetni.h"
+
+namespace {
+
+enum Yüzdeler { İşçilik, Kâr, Diğer, Vade };
+
+QString YüzdeMetni(const QString& saklanan) {
+    if (saklanan.isEmpty()) return QStringLiteral("0");
+    const QString metin = NoktayıVirgüleÇevir(saklanan);
+    return SayıMetniBiçimle(metin, OndalıkBasamak, NoktaKuralı::Yerinde).value_or(metin);
+}
+
+}  // namespace
+
+MaliyetAlanı::MaliyetAlanı(Olaylar olaylar, QWidget* sahip) : QFrame(sahip), m_olaylar(std::move(olaylar)) {
+    setObjectName(QStringLiteral("Çerçeve"));
+    setFrameShape(QFrame::StyledPanel);
+    Yerleştir();
+    connect(m_malzeme, &QLineEdit::textChanged, this, [this](const QString& metin) { MalzemeMaliyetiDeğişti(metin); });
+    connect(m_toplam, &QLineEdit::textChanged, this, [this] { m_olaylar.ToplamDeğişti(); });
+}
+
+void MaliyetAlanı::Yerleştir() {
+    m_malzeme = GösterimKutusu(QStringLiteral("MalzemeMaliyetiToplamıKutusu"));
+    m_toplam = GösterimKutusu(QStringLiteral("ToplamMaliyetKutusu"));
+    QFont büyük = m_toplam->font();
+    büyük.setBold(true);
+    büyük.setPointSizeF(büyük.pointSizeF() * 1.6);
+    m_toplam->setFont(büyük);
+
+    m_toplam->setMinimumWidth(m_toplam->fontMetrics().horizontalAdvance(QStringLiteral("888.888.888,88")));
+
+    auto* malzemeSatırı = new QHBoxLayout;
+    malzemeSatırı->addWidget(EtiketOluştur(2, m_malzeme));
+    malzemeSatırı->addWidget(m_malzeme, 1);
+    auto* toplamSatırı = new QHBoxLayout;
+    QLabel* toplamEtiketi = EtiketOluştur(7, m_toplam);
+    QFont kalın = toplamEtiketi->font();
+    kalın.setBold(true);
+    toplamEtiketi->setFont(kalın);
+    toplamSatırı->addWidget(toplamEtiketi);
+    toplamSatırı->addWidget(m_toplam, 1);
+
+    auto* düzen = new QVBoxLayout(this);
+    düzen->addLayout(malzemeSatırı);
+    düzen->addLayout(YüzdeleriYerleştir());
+    düzen->addLayout(toplamSatırı);
+}
+
+QLayout* MaliyetAlanı::YüzdeleriYerleştir() {
+    const std::array adlar = {"İşçilikYüzdesiKutusu", "KarYüzdesiKutusu", "DiğerMaliyetYüzdesiKutusu",
+                              "VadeFarkıYüzdesiKutusu"};
+    auto* düzen = new QGridLayout;
+    for (int i = İşçilik; i <= Vade; ++i) {
+        // Only other costs may be negative (a discount).
+        auto* kutu = new SayıKutusu(i == Diğer ? SayıKutusu::Tür::EksiliYüzde : SayıKutusu::Tür::Yüzde);
+        kutu->setObjectName(QString::fromUtf8(adlar[i]));
+        kutu->Düzenlenince([this] { m_olaylar.YüzdeDüzenlendi(); });
+        m_yüzdeler[i] = kutu;
+        const int satır = i / 2;
+        const int sütun = i % 2 * 2;
+        düzen->addWidget(VurgulananEtiket(3 + i, kutu), satır, sütun);
+        düzen->addWidget(kutu, satır, sütun + 1);
+    }
+    return düzen;
+}
+
+void MaliyetAlanı::MalzemeMaliyetiniGöster(Para maliyet) {
+    m_malzeme->setText(SayıBiçimle(maliyet, OndalıkBasamak));
+}
+
+void MaliyetAlanı::MalzemeMaliyetiDeğişti(const QString& metin) {
+    const std::optional<QString> biçimli = SayıMetniBiçimle(metin, OndalıkBasamak);
+    if (biçimli) m_malzeme->setText(*biçimli);
+}
+
+void MaliyetAlanı::YüzdeleriYükle(const QString& grup, const QString& ürün) {
+    // No percentage of the product before may stay in a box.
+    for (SayıKutusu* kutu : m_yüzdeler) kutu->clear();
+    SQLMetni = Deyimler::Yüzdeler(grup, ürün);
+    if (!SorguÇalıştır()) return;
+    const DeyimKoruması koruma;
+    if (!SatırGetir()) return;
+    for (int i = İşçilik; i <= Vade; ++i) m_yüzdeler[i]->setText(YüzdeMetni(SütunOku(i + 1)));
+}
+
+void MaliyetAlanı::ToplamMaliyetHesapla() {
+    m_toplam->setText(SayıBiçimle(MaliyetHesapla(Girdi()).Toplam, OndalıkBasamak));
+}
+
+void MaliyetAlanı::Boşalt() {
+    m_malzeme->clear();
+    for (SayıKutusu* kutu : m_yüzdeler) kutu->clear();
+    m_toplam->clear();
+}
+
+MaliyetGirdisi MaliyetAlanı::Girdi() const {
+    return {m_malzeme->text(), m_yüzdeler[İşçilik]->text(), m_yüzdeler[Kâr]->text(), m_yüzdeler[Diğer]->text(),
+            m_yüzdeler[Vade]->text()};
+}
+
+QString MaliyetAlanı::ToplamMaliyet() const {
+    return m_toplam->text();
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QFrame>
+#include <array>
+#include <functional>
+
+#include "MaliyetHesabi.h"
+
+class QLineEdit;
+class SayıKutusu;
+
+// The frame of the cost boxes: material cost, the four percentages, total cost.
+class MaliyetAlanı : public QFrame {
+  public:
+    struct Olaylar {
+        std::function<void()> YüzdeDüzenlendi;  // by the user
+        std::function<void()> ToplamDeğişti;
+    };
+    MaliyetAlanı(Olaylar olaylar, QWidget* sahip = nullptr);
+
+    // The box shows it with the decimal places in force, and the calculation reads what it shows.
+    void MalzemeMaliyetiniGöster(Para maliyet);
+
+    // Reads the product's stored percentages into the boxes.
+    void YüzdeleriYükle(const QString& grup, const QString& ürün);
+
+    void ToplamMaliyetHesapla();
+    void Boşalt();
+
+    MaliyetGirdisi Girdi() const;  // the boxes' texts
+    QString ToplamMaliyet() const;
+
+  private:
+    void Yerleştir();
+    QLayout* YüzdeleriYerleştir();
+    void MalzemeMaliyetiDeğişti(const QString& metin);
+
+    Olaylar m_olaylar;
+    QLineEdit* m_malzeme;
+    std::array<SayıKutusu*, 4> m_yüzdeler;  // labour, profit, other, maturity
+    QLineEdit* m_toplam;
+};

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+#include "Para.h"
+
+// The cost calculation: plain functions of the texts that the boxes show, no window needed.
+
+// The boxes' texts.
+struct MaliyetGirdisi {
+    QString MalzemeMaliyeti;
+    QString İşçilik;  // percentages
+    QString Kâr;
+    QString Diğer;
+    QString Vade;
+};
+
+struct MaliyetTutarları {
+    Para İşçilik;
+    Para Kâr;
+    Para Diğer;
+    Para Vade;
+    Para Toplam;
+};
+
+// Each percentage's amount on the material cost, and the total, in money steps of four decimals. A step that cannot be
+// done is skipped: an unreadable percentage counts 0; where the material cost is unreadable or the product overflows,
+// an amount keeps its percentage's value; where the total cannot be formed, it stays 0.
+MaliyetTutarları MaliyetHesapla(const MaliyetGirdisi& girdi);
+
+// A percentage's amount as the amounts form and the cost sheet show it: computed in floating point, not rounded to
+// money. nullopt: a text is no number, or the result is not finite.
+std::optional<double> YüzdeTutarı(const QString& malzemeMaliyeti, const QString& yüzde);
+
+// The total cost for one unit of quantity. nullopt: the text is no number, the quantity is not above 0.
+std::optional<double> BirimMaliyet(const QString& toplamMaliyet, double toplamMiktar);
+
+// The usable quantity that a waste rate (%) leaves. nullopt: a text is no number.
+std::optional<double> FireliMiktar(const QString& toplamMiktar, const QString& fireOranı);
+
+// The material cost for one usable unit. nullopt: a text is no number, the quantity is 0.
+std::optional<double> FireliBirimMaliyet(const QString& malzemeMaliyeti, const QString& fireliMiktar);

@@ -1,0 +1,40 @@
+#include "MalzemeToplami.h"
+
+#include "SayiMetni.h"
+
+MiktarParçaları MiktarıAyır(QStringView miktar) {
+    const qsizetype ilk = miktar.indexOf(u' ');
+    if (ilk < 0) return {miktar, {}, {}};
+    return {miktar.left(ilk), miktar.mid(ilk), miktar.mid(miktar.lastIndexOf(u' ') + 1)};
+}
+
+MalzemeSatırı MalzemeToplamı::Ekle(const QString& miktar, const QString& fiyat, int basamak) {
+    MalzemeSatırı satır{miktar, fiyat, SayıBiçimle(Para(), basamak)};
+    const MiktarParçaları parçalar = MiktarıAyır(miktar);
+    BirimeBak(parçalar.Birim);
+
+    // In a stored number a dot can only part thousands: "12.5" must not count as 125.
+    const std::optional<double> sayı = DoubleOku(parçalar.Sayı, NoktaKuralı::Yerinde);
+    if (sayı) satır.Miktar = *SayıMetniBiçimle(parçalar.Sayı, basamak) + parçalar.Kalan.toString();
+    const std::optional<Para> birimFiyat = ParaOku(fiyat, NoktaKuralı::Yerinde);
+    if (birimFiyat) satır.Fiyat = SayıBiçimle(*birimFiyat, basamak);
+
+    std::optional<Para> toplam;
+    if (sayı && birimFiyat) {
+        const double tutar = birimFiyat->Double() * *sayı;
+        satır.Tutar = SayıBiçimle(tutar, basamak).value_or(satır.Tutar);
+        if (const std::optional<Para> para = Para::Doubledan(tutar)) toplam = Topla(m_tutar, *para);
+    }
+    satır.Sayıldı = toplam.has_value();
+    m_tutar = toplam.value_or(m_tutar);
+    if (sayı && !m_birimlerFarklı) m_miktar += *sayı;
+    return satır;
+}
+
+void MalzemeToplamı::BirimeBak(QStringView birim) {
+    if (!m_birim) {
+        m_birim = birim.toString();
+    } else if (birim != *m_birim) {
+        m_birimlerFarklı = true;
+    }
+}

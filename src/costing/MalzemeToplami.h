@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+#include <optional>
+
+#include "Para.h"
+
+// The stored quantity "2,5 Kilogram" in its parts: "2,5", " Kilogram" and "Kilogram". The unit is what stands after the
+// last blank; a text without a blank has none.
+struct MiktarParçaları {
+    QStringView Sayı;
+    QStringView Kalan;  // from the first blank on
+    QStringView Birim;
+};
+MiktarParçaları MiktarıAyır(QStringView miktar);
+
+// A used material as the list shows it.
+struct MalzemeSatırı {
+    QString Miktar;
+    QString Fiyat;
+    QString Tutar;
+    bool Sayıldı = true;  // false: quantity or price is unreadable or too large; the row's stored texts are shown
+};
+
+// Adds up the used materials of one product.
+class MalzemeToplamı {
+  public:
+    // miktar as stored; fiyat with "," as its decimal mark; the row's figures get `basamak` decimals.
+    MalzemeSatırı Ekle(const QString& miktar, const QString& fiyat, int basamak);
+
+    Para Tutar() const { return m_tutar; }            // unrounded amounts, added as money
+    double ToplamMiktar() const { return m_miktar; }  // of the rows before the first with another unit
+    bool BirimlerFarklı() const { return m_birimlerFarklı; }
+
+  private:
+    void BirimeBak(QStringView birim);
+
+    Para m_tutar;
+    double m_miktar = 0;
+    bool m_birimlerFarklı = false;
+    std::optional<QString> m_birim;  // the first row's
+};

@@ -1,0 +1,204 @@
+#include "UrunAgaci.h"
+
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPersistentModelIndex>
+#include <QSet>
+#include <QSignalBlocker>
+#include <QTimer>
+
+#include "GirisKutusu.h"
+#include "MesajKutusu.h"
+#include "MetinTablosu.h"
+#include "MetinTemsilcisi.h"
+#include "TurkceSira.h"
+#include "UrunAdlandirma.h"
+#include "Yukleyiciler.h"
+
+namespace {
+
+// The name editor. It hands the typed name over instead of writing it into the node: the data file decides.
+class AdTemsilcisi : public MetinTemsilcisi {
+  public:
+    AdTemsilcisi(QObject* sahip, std::function<void(const QModelIndex&, const QString&)> adVerildi)
+        : MetinTemsilcisi(sahip), m_adVerildi(std::move(adVerildi)) {}
+
+    QWidget* createEditor(QWidget* sahip, const QStyleOptionViewItem& seçenek, const QModelIndex& yer) const override {
+        QWidget* düzenleyici = QStyledItemDelegate::createEditor(sahip, seçenek, yer);
+        if (auto* kutu = qobject_cast<QLineEdit*>(düzenleyici)) {
+            kutu->setMaxLength(EnUzunAd);
+            kutu->setObjectName(QStringLiteral("AdDüzenleyici"));
+        }
+        return düzenleyici;
+    }
+
+    void setModelData(QWidget* düzenleyici, QAbstractItemModel*, const QModelIndex& yer) const override {
+        if (const auto* kutu = qobject_cast<QLineEdit*>(düzenleyici)) m_adVerildi(yer, kutu->text());
+    }
+
+  private:
+    std::function<void(const QModelIndex&, const QString&)> m_adVerildi;
+};
+
+bool Aynı(const QString& a, const QString& b) {
+    return Türkçe::Karşılaştır(a, b) == 0;
+}
+
+}  // namespace
+
+ÜrünAğacı::ÜrünAğacı(QWidget* sahip) : QTreeWidget(sahip) {
+    setObjectName(QStringLiteral("ÜrünListesi"));
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed);
+    setItemDelegate(new AdTemsilcisi(this, [this](const QModelIndex& yer, const QString& ad) { AdıSıraya(yer, ad); }));
+
+    connect(this, &QTreeWidget::currentItemChanged, this, [this] { m_olaylar.DüğümTıklandı(); });
+    connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* düğüm) {
+        // A click that changed the current node has been answered already.
+        if (düğüm == m_basılmadanÖnce) m_olaylar.DüğümTıklandı();
+    });
+    connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* grup) {
+        SessizceSeç(grup);
+        m_olaylar.SeçimiYükle();
+    });
+}
+
+void ÜrünAğacı::Yükle() {
+    ÜrünAğacınıYükle(*this);
+    SessizceSeç(topLevelItem(0));
+}
+
+bool ÜrünAğacı::ÜrünSeçili() const {
+    return currentItem() && currentItem()->parent();
+}
+
+QString ÜrünAğacı::SeçiliGrup() const {
+    return ŞimdikiSeçim().Grup;
+}
+
+QString ÜrünAğacı::SeçiliÜrün() const {
+    return ŞimdikiSeçim().Ürün;
+}
+
+void ÜrünAğacı::Sustur() {
+    m_sustu = true;
+    blockSignals(true);
+}
+
+bool ÜrünAğacı::edit(const QModelIndex& yer, EditTrigger neden, QEvent* olay) {
+    // Nodes are made editable as they are needed: marking each of a large tree's would cost its filling dear.
+    QTreeWidgetItem* düğüm = itemFromIndex(yer);
+    if (düğüm && !(düğüm->flags() & Qt::ItemIsEditable)) {
+        const QSignalBlocker sessiz(this);
+        düğüm->setFlags(düğüm->flags() | Qt::ItemIsEditable);
+    }
+    return QTreeWidget::edit(yer, neden, olay);
+}
+
+QItemSelectionModel::SelectionFlags ÜrünAğacı::selectionCommand(const QModelIndex& yer, const QEvent*) const {
+    // The current node is the selected one, with Ctrl held down too.
+    return yer.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+}
+
+void ÜrünAğacı::mousePressEvent(QMouseEvent* olay) {
+    m_basılmadanÖnce = currentItem();
+    QTreeWidget::mousePressEvent(olay);
+}
+
+void ÜrünAğacı::mouseReleaseEvent(QMouseEvent* olay) {
+    QTreeWidget::mouseReleaseEvent(olay);
+    if (olay->button() == Qt::LeftButton && !indexAt(olay->position().toPoint()).isValid() && !m_sustu) {
+        m_olaylar.BoşlukTıklandı();
+    }
+}
+
+ÜrünAğacı::Seçim ÜrünAğacı::ŞimdikiSeçim() const {
+    const QTreeWidgetItem* düğüm = currentItem();
+    if (!düğüm) return {};
+    if (!düğüm->parent()) return {düğüm->text(0), {}};
+    return {düğüm->parent()->text(0), düğüm->text(0)};
+}
+
+void ÜrünAğacı::Seç(const Seçim& seçim) {
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        QTreeWidgetItem* grup = topLevelItem(i);
+        if (grup->text(0) != seçim.Grup) continue;
+        QTreeWidgetItem* seçilen = grup;
+        for (int j = 0; j < grup->childCount() && !seçim.Ürün.isEmpty(); ++j) {
+            if (grup->child(j)->text(0) == seçim.Ürün) seçilen = grup->child(j);
+        }
+        SessizceSeç(seçilen);
+        return;
+    }
+}
+
+void ÜrünAğacı::SessizceSeç(QTreeWidgetItem* düğüm) {
+    const QSignalBlocker sessiz(this);
+    setCurrentItem(düğüm);
+}
+
+void ÜrünAğacı::AdıSıraya(const QModelIndex& yer, const QString& yeni) {
+    // The editor closes first: a message box may follow, and the node may have to be edited again.
+    QTimer::singleShot(0, this, [this, kalıcı = QPersistentModelIndex(yer), yeni] {
+        if (kalıcı.isValid() && !m_sustu) Adlandır(itemFromIndex(kalıcı), yeni);
+    });
+}
+
+void ÜrünAğacı::Adlandır(QTreeWidgetItem* düğüm, const QString& yeni) {
+    const QString eski = düğüm->text(0);
+    if (yeni == eski || yeni.trimmed().isEmpty()) return;
+    const QTreeWidgetItem* grup = düğüm->parent();
+    switch (grup ? ÜrünüAdlandır(grup->text(0), eski, yeni) : GrubuAdlandır(eski, yeni)) {
+        case AdlandırmaSonucu::Değişti:
+            AdıYerleştir(düğüm, yeni);
+            break;
+        case AdlandırmaSonucu::Yinelenen:
+            MesajKutusuOrtala();
+            MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(580));
+            editItem(düğüm);
+            break;
+        case AdlandırmaSonucu::Değişmedi:
+            break;
+    }
+}
+
+void ÜrünAğacı::AdıYerleştir(QTreeWidgetItem* düğüm, const QString& yeni) {
+    const bool yenidenKur = BaşkaDüğümüEtkiler(düğüm, yeni);
+    const QString eski = düğüm->text(0);
+    {
+        const QSignalBlocker sessiz(this);
+        düğüm->setText(0, yeni);
+    }
+    if (!yenidenKur) return;
+
+    Seçim seçim = ŞimdikiSeçim();
+    if (!düğüm->parent() && Aynı(seçim.Grup, eski)) seçim.Grup = yeni;
+    if (düğüm->parent() && Aynı(seçim.Ürün, eski) && seçim.Grup == düğüm->parent()->text(0)) seçim.Ürün = yeni;
+    QSet<QString> açıkGruplar;
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        if (topLevelItem(i)->isExpanded()) açıkGruplar.insert(topLevelItem(i)->text(0));
+    }
+    Yükle();
+    {
+        const QSignalBlocker sessiz(this);
+        for (int i = 0; i < topLevelItemCount(); ++i) {
+            topLevelItem(i)->setExpanded(açıkGruplar.contains(topLevelItem(i)->text(0)));
+        }
+    }
+    Seç(seçim);
+    m_olaylar.SeçimiYükle();
+}
+
+bool ÜrünAğacı::BaşkaDüğümüEtkiler(const QTreeWidgetItem* düğüm, const QString& yeni) const {
+    // The data file compares without regard to case, so nodes that differ from the old name in case only have been
+    // renamed with it; a node of the new name is now the same group.
+    const QTreeWidgetItem* üst = düğüm->parent() ? düğüm->parent() : invisibleRootItem();
+    for (int i = 0; i < üst->childCount(); ++i) {
+        const QTreeWidgetItem* öteki = üst->child(i);
+        if (öteki != düğüm && (öteki->text(0) == yeni || Aynı(öteki->text(0), düğüm->text(0)))) return true;
+    }
+    return false;
+}

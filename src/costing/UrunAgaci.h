@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QTreeWidget>
+#include <functional>
+
+// The product tree: groups without a parent, products beneath them. The text is a node's name and, with its group's,
+// its key in the data file. It is renamed in place.
+class ÜrünAğacı : public QTreeWidget {
+  public:
+    struct Olaylar {
+        std::function<void()> DüğümTıklandı;   // another node became current, or the current one was clicked again
+        std::function<void()> SeçimiYükle;     // what the current node stands for must be loaded, nothing else changes
+        std::function<void()> BoşlukTıklandı;  // a click beside the nodes, or on the empty tree
+    };
+
+    explicit ÜrünAğacı(QWidget* sahip = nullptr);
+    void OlaylarıBağla(Olaylar olaylar) { m_olaylar = std::move(olaylar); }
+
+    // Fills the tree anew and makes the first node current. No event comes from it.
+    void Yükle();
+
+    bool Boş() const { return topLevelItemCount() == 0; }
+    bool ÜrünSeçili() const;  // false: a group is current, or nothing is
+    QString SeçiliGrup() const;
+    QString SeçiliÜrün() const;
+
+    // No more events, no more renaming: the data connection is gone.
+    void Sustur();
+
+  protected:
+    bool edit(const QModelIndex& yer, EditTrigger neden, QEvent* olay) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& yer, const QEvent* olay) const override;
+    void mousePressEvent(QMouseEvent* olay) override;
+    void mouseReleaseEvent(QMouseEvent* olay) override;
+
+  private:
+    struct Seçim {
+        QString Grup;
+        QString Ürün;  // empty: the group itself
+    };
+    Seçim ŞimdikiSeçim() const;
+    void Seç(const Seçim& seçim);
+    void SessizceSeç(QTreeWidgetItem* düğüm);
+    void AdıSıraya(const QModelIndex& yer, const QString& yeni);
+    void Adlandır(QTreeWidgetItem* düğüm, const QString& yeni);
+    void AdıYerleştir(QTreeWidgetItem* düğüm, const QString& yeni);
+    bool BaşkaDüğümüEtkiler(const QTreeWidgetItem* düğüm, const QString& yeni) const;
+
+    Olaylar m_olaylar;
+    QTreeWidgetItem* m_basılmadanÖnce = nullptr;  // current before the press; only compared
+    bool m_sustu = false;
+};

@@ -1,0 +1,259 @@
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
+#include <QScreen>
+#include <QStatusBar>
+
+#include "Ayarlar.h"
+#include "DegiskenModulu.h"
+#include "FormOrtami.h"
+#include "MetinTablosu.h"
+#include "OdbcModulu.h"
+#include "Saat.h"
+
+using MesajKutusu::Simge;
+using MesajKutusu::Yanıt;
+
+namespace {
+
+class AnaFormu : public FormOrtamı {
+  protected:
+    void Örnek() {
+        Ürün("MASA", "Sehpa", "33,33");
+        Malzeme("MASA", "Sehpa", "Çam Kereste", "2,5 Metre", "4");
+        Ürün("MASA", "Yemek Masası", "10", "20", "-5", "3");
+        Malzeme("MASA", "Yemek Masası", "İnce Çivi", "500 Adet", "0,5");
+        Malzeme("MASA", "Yemek Masası", "Ihlamur", "1,5 Metre", "500");
+        Ürün("SANDALYE", "Tabure");
+        Aç();
+    }
+    // What a loaded product or group leaves enabled, in a row of letters.
+    std::string Etkinler() {
+        std::string s;
+        for (const auto& [harf, ad] : {std::pair{"Ç", "Çerçeve"},
+                                       {"s", "ListedenMalzemeSilButonu"},
+                                       {"k", "DeğişiklikleriKaydetButonu"},
+                                       {"g", "MalzemeMiktarıveBirimVarnekGösterSeçeneği"}}) {
+            if (Etkin(ad)) s += harf;
+        }
+        return s;
+    }
+};
+
+TEST_F(AnaFormu, YüklenenÜrünüGösterir) {
+    Örnek();
+    ÜrünSeç("MASA", "Yemek Masası");
+    EXPECT_EQ(Satırlar(), QStringList({"1,50 Metre|Ihlamur|500,00|750,00", "500,00 Adet|İnce Çivi|0,50|250,00"}));
+    EXPECT_EQ(Yazı("MalzemeMaliyetiToplamıKutusu"), "1.000,00");
+    EXPECT_EQ(Yazı("İşçilikYüzdesiKutusu"), "10,00");
+    EXPECT_EQ(Yazı("KarYüzdesiKutusu"), "20,00");
+    EXPECT_EQ(Yazı("DiğerMaliyetYüzdesiKutusu"), "-5,00");
+    EXPECT_EQ(Yazı("VadeFarkıYüzdesiKutusu"), "3,00");
+    EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "1.280,00");
+    EXPECT_EQ(Etkinler(), "Çsg");
+
+    ÜrünSeç("MASA", "Sehpa");
+    EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "13,33");
+
+    // A product without materials: nothing to remove or to compute, a cost of nought.
+    ÜrünSeç("SANDALYE", "Tabure");
+    EXPECT_EQ(Satırlar(), QStringList());
+    EXPECT_EQ(Yazı("MalzemeMaliyetiToplamıKutusu"), "0,00");
+    EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "0,00");
+    EXPECT_EQ(Etkinler(), "g");
+
+    Tıkla(Düğüm("MASA"));
+    for (const char* kutu : {"MalzemeMaliyetiToplamıKutusu", "İşçilikYüzdesiKutusu", "KarYüzdesiKutusu",
+                             "DiğerMaliyetYüzdesiKutusu", "VadeFarkıYüzdesiKutusu", "ToplamMaliyetKutusu"}) {
+        EXPECT_EQ(Yazı(kutu), "") << kutu;
+    }
+    EXPECT_EQ(Etkinler(), "");
+}
+
+TEST_F(AnaFormu, TutarlarınYuvarlanmamışToplamınıYuvarlar) {
+    Ürün("MASA", "Sehpa");
+    for (const char* ad : {"A", "B", "C"}) Malzeme("MASA", "Sehpa", ad, "1 Adet", "0,335");
+    Aç();
+    ÜrünSeç("MASA", "Sehpa");
+    EXPECT_EQ(Satırlar().first(), "1,00 Adet|A|0,34|0,34");
+    EXPECT_EQ(Yazı("MalzemeMaliyetiToplamıKutusu"), "1,01");
+    EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "1,01");
+}
+
+TEST_F(AnaFormu, AçılırkenİlkDüğümSeçilidirVeTürkçeTarihGörünür) {
+    SaatiAyarla([] { return QDate(2026, 11, 22); });
+    Örnek();
+    EXPECT_EQ(Ağaç().currentItem(), Ağaç().topLevelItem(0));
+    EXPECT_EQ(Etkinler(), "");
+    EXPECT_EQ(Form().windowTitle(), UygulamaBaşlığı);
+    EXPECT_EQ(Bul<QStatusBar>("DurumÇubuğu").findChild<QLabel*>()->text(), "22 Kasım 2026 Pazar   ");
+    EXPECT_EQ(QApplication::focusWidget(), &Ağaç());
+    EXPECT_EQ(Form().pos(), QPoint((Form().screen()->geometry().width() - Form().width()) / 2,
+                                   (Form().screen()->geometry().height() - Form().height()) / 2));
+}
+
+TEST_F(AnaFormu, SaklananKonumdaAçılırEkranDışındaysaGeriGelir) {
+    KonumuKaydet(QPoint(12, 34));
+    Örnek();
+    EXPECT_EQ(Form().pos(), QPoint(12, 34));
+    KonumuKaydet(QPoint(5000, -3000));
+    Aç();
+    EXPECT_TRUE(Form().screen()->geometry().contains(Form().geometry().center())) << Form().pos().x();
+}
+
+TEST_F(AnaFormu, BoşÜrünListesiniSorar) {
+    Kutular().Yanıtla(Yanıt::Hayır);
+    Aç();
+    Kutular().TekKutu(Simge::Soru, Metin(420));
+    EXPECT_EQ(Etkinler(), "");
+    Kutular().Yanıtla(Yanıt::Hayır);
+    QTest::mouseClick(Ağaç().viewport(), Qt::LeftButton, {}, QPoint(20, 20));
+    Kutular().TekKutu(Simge::Soru, Metin(420));
+}
+
+TEST_F(AnaFormu, SeçiminHerDeğişmesiVeYineTıklanmasıYükler) {
+    Örnek();
+    Düğüm("MASA")->setExpanded(true);
+    QTest::keyClick(&Ağaç(), Qt::Key_Down);
+    EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "13,33");
+    Malzeme("MASA", "Sehpa", "Vida", "10 Adet", "0,1");
+    Tıkla(Düğüm("MASA", "Sehpa"));
+    EXPECT_EQ(Satırlar().size(), 2);
+    // The collapsed group becomes current, whatever was.
+    Ağaç().collapseItem(Düğüm("MASA"));
+    EXPECT_EQ(Ağaç().currentItem(), Düğüm("MASA"));
+    EXPECT_EQ(Satırlar().size(), 0);
+    // Ctrl does not deselect.
+    QTest::mouseClick(Ağaç().viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      Ağaç().visualItemRect(Düğüm("MASA")).center());
+    EXPECT_TRUE(Düğüm("MASA")->isSelected());
+}
+
+TEST_F(AnaFormu, YazarkenHesaplarVeDeğişikliğiİşaretler) {
+    Örnek();
+    ÜrünSeç("MASA", "Yemek Masası");
+    SQLMetni.clear();
+    Yaz("VadeFarkıYüzdesiKutusu", "1");  // the whole text was selected
+    EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "1.260,00");
+    EXPECT_EQ(Etkinler(), "Çskg");
+    QTest::keyClicks(&Bul("VadeFarkıYüzdesiKutusu"), "0,5,x-.");
+    EXPECT_EQ(Yazı("VadeFarkıYüzdesiKutusu"), "10,5");
+    EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "1.355,00");
+    QTest::keyClick(&Bul("VadeFarkıYüzdesiKutusu"), Qt::Key_Return);
+    EXPECT_EQ(Yazı("VadeFarkıYüzdesiKutusu"), "10,50");
+    EXPECT_EQ(QApplication::focusWidget(), &Bul("DeğişiklikleriKaydetButonu"));
+    EXPECT_TRUE(SQLMetni.isEmpty()) << "a keystroke must send no statement";
+
+    // Another selection drops the change; stored percentages are as displayed.
+    ÜrünSeç("MASA", "Sehpa");
+    EXPECT_EQ(Etkinler(), "Çsg");
+    Yaz("KarYüzdesiKutusu", "7,125");
+    QTest::mouseClick(&Bul("DeğişiklikleriKaydetButonu"), Qt::LeftButton);
+    EXPECT_EQ(Etkinler(), "Çsg");
+    EXPECT_EQ(Oku("SELECT UrunAdi, KarYuzdesi, VadeFarkiYuzdesi FROM UrunTablosu ORDER BY UrunAdi ASC"),
+              QList<QStringList>({{"Sehpa", "7.13", "0"}, {"Tabure", "0", "0"}, {"Yemek Masası", "20", "3"}}));
+}
+
+TEST_F(AnaFormu, YalnızDiğerMaliyetEksiOlabilir) {
+    Örnek();
+    ÜrünSeç("MASA", "Yemek Masası");
+    Yaz("KarYüzdesiKutusu", "-1");
+    EXPECT_EQ(Yazı("KarYüzdesiKutusu"), "1");
+    Yaz("DiğerMaliyetYüzdesiKutusu", "-");
+    EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "1.140,00");  // counts 0
+    // Leaving tells that it is no number; the command that the click was meant for does not run.
+    Kutular().Yanıtla(Yanıt::Tamam);
+    QTest::mouseClick(&Bul("DeğişiklikleriKaydetButonu"), Qt::LeftButton);
+    Kutular().TekKutu(Simge::Kritik, Metin(2111));
+    EXPECT_EQ(Yazı("DiğerMaliyetYüzdesiKutusu"), "-");
+    EXPECT_TRUE(Etkin("DeğişiklikleriKaydetButonu"));
+}
+
+TEST_F(AnaFormu, OndalıkDeğişikliğiSonrakiYüklemedeGörünür) {
+    Örnek();
+    ÜrünSeç("MASA", "Sehpa");
+    QTest::keyClick(&Bul("HaneSayısıKutusu"), Qt::Key_4);
+    EXPECT_EQ(OndalıkBasamak, 4);
+    EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "13,33");
+    Tıkla(Düğüm("MASA", "Sehpa"));
+    EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "13,3330");
+    EXPECT_EQ(Satırlar(), QStringList("2,5000 Metre|Çam Kereste|4,0000|10,0000"));
+    EXPECT_EQ(Bul<QComboBox>("HaneSayısıKutusu").count(), 6);
+}
+
+TEST_F(AnaFormu, OkunamayanMiktarıSöylerVeSürdürür) {
+    Ürün("MASA", "Sehpa");
+    Malzeme("MASA", "Sehpa", "Boya", "12.5 Kilogram", "100");
+    Malzeme("MASA", "Sehpa", "Çam", "2 Kilogram", "5");
+    Aç();
+    Kutular().Yanıtla(Yanıt::Tamam);
+    ÜrünSeç("MASA", "Sehpa");
+    Kutular().TekKutu(Simge::Kritik, Metin(2130) + "\n12.5 Kilogram Boya");
+    EXPECT_EQ(Satırlar(), QStringList({"12.5 Kilogram|Boya|100,00|0,00", "2,00 Kilogram|Çam|5,00|10,00"}));
+    EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "10,00");
+}
+
+TEST_F(AnaFormu, MalzemeyiSoruncaÇıkarır) {
+    Örnek();
+    ÜrünSeç("MASA", "Yemek Masası");
+    Kutular().Yanıtla(Yanıt::Hayır);
+    QTest::mouseClick(&Bul("ListedenMalzemeSilButonu"), Qt::LeftButton);
+    Kutular().TekKutu(Simge::Soru, Metin(440) + " 1,50 Metre Ihlamur");
+    EXPECT_EQ(Satırlar().size(), 2);
+
+    Kutular().Yanıtla(Yanıt::Evet);
+    const QPoint ikinci = Liste().visualItemRect(Liste().topLevelItem(1)).center();
+    QTest::mouseClick(Liste().viewport(), Qt::LeftButton, {}, ikinci);
+    QTest::mouseDClick(Liste().viewport(), Qt::LeftButton, {}, ikinci);
+    EXPECT_EQ(Satırlar(), QStringList("1,50 Metre|Ihlamur|500,00|750,00"));
+    EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "960,00");
+    Kutular().Yanıtla(Yanıt::Evet);
+    QTest::mouseClick(&Bul("ListedenMalzemeSilButonu"), Qt::LeftButton);
+    EXPECT_EQ(Etkinler(), "g");
+    EXPECT_EQ(Oku("SELECT KullanilanMalzemeAdi FROM UrunMalzemeTablosu WHERE UrunGrubu= 'MASA'").size(), 1);
+}
+
+TEST_F(AnaFormu, ÇıkışıSorar) {
+    Örnek();
+    m_kapanma.Yanıt = false;
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(m_kapanma.Sayı, 1);
+    EXPECT_TRUE(Form().isVisible());
+    ÜrünSeç("MASA", "Sehpa");
+    EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "13,33");
+
+    Yaz("DiğerMaliyetYüzdesiKutusu", "-");  // unreadable, but nothing is reported while the form closes
+    QWidget öteki;
+    öteki.show();
+    m_kapanma.Yanıt = true;
+    Bul<QMenu>("ProgramMenüsü").actions().last()->trigger();
+    EXPECT_EQ(m_kapanma.Sayı, 2);
+    EXPECT_FALSE(m_kapanma.Simge);
+    EXPECT_FALSE(Form().isVisible());
+    EXPECT_FALSE(öteki.isVisible());
+}
+
+TEST_F(AnaFormu, SekmeOkumaSırasındaGezer) {
+    Örnek();
+    ÜrünSeç("MASA", "Sehpa");
+    Ağaç().setFocus();
+    QStringList gezilen;
+    do {
+        gezilen.append(QApplication::focusWidget()->objectName());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    } while (QApplication::focusWidget() != &Ağaç() && gezilen.size() < 20);
+    EXPECT_EQ(gezilen.join(' ').toStdString(),
+              "ÜrünListesi KullanılanMalzemeListesi ListedenMalzemeSilButonu HaneSayısıKutusu İşçilikYüzdesiKutusu "
+              "KarYüzdesiKutusu DiğerMaliyetYüzdesiKutusu VadeFarkıYüzdesiKutusu "
+              "MalzemeMiktarıveBirimVarnekGösterSeçeneği ÇıkışButonu");
+}
+
+TEST_F(AnaFormu, F4AçılırListeyiAçmaz) {
+    Örnek();
+    auto& hane = Bul<QComboBox>("HaneSayısıKutusu");
+    hane.setFocus();
+    QTest::keyClick(&hane, Qt::Key_F4);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+}  // namespace
