@@ -21,6 +21,7 @@ int main(int argc, char** argv) {
     bağlar.ProgramKlasörü = QApplication::applicationDirPath();
     bağlar.AnaFormuYükle = [&anaForm](std::function<void()> karşılamayıKapat) {
         anaForm = std::make_unique<AnaForm>(AnaFormBağları{std::move(karşılamayıKapat), KapanışıOnayla});
+        anaForm->Yükle();
     };
     switch (Main(kopya, bağlar)) {
         case BaşlatmaSonucu::Başladı:

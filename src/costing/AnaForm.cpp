@@ -51,13 +51,9 @@ void AnaForm::Yükle() {
         m_ağaç->Yükle();
         ÜrünListesiTıkla();
         Yerleş();
-        // The welcome form may be the only window so far; its going is not the program's end.
-        const bool kapanıncaBiter = QApplication::quitOnLastWindowClosed();
-        QApplication::setQuitOnLastWindowClosed(false);
         m_bağlar.KarşılamayıKapat();
         QApplication::processEvents();
         show();
-        QApplication::setQuitOnLastWindowClosed(kapanıncaBiter);
         GirişDenetimi();
     });
 }
