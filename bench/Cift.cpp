@@ -47,7 +47,7 @@ class OrtancaToplayıcı : public benchmark::ConsoleReporter {
         if (biz == m_ortancalar.end() || karşı == m_ortancalar.end()) return true;  // filtered out
         const double oran = biz->second / karşı->second;
         const bool tuttu = oran <= çift.sınır;
-        std::printf("%-36s ours %10.3f ms   peer %10.3f ms   ratio %5.2f (bound %.2f)%s\n", çift.ad.c_str(),
+        std::printf("%-40s ours %10.3f ms   peer %10.3f ms   ratio %5.2f (bound %.2f)%s\n", çift.ad.c_str(),
                     biz->second * 1e3, karşı->second * 1e3, oran, çift.sınır, tuttu ? "" : "   ABOVE THE BOUND");
         return tuttu;
     }

@@ -1,19 +1,18 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing, and nothing else.
-#   scripts/kur.sh [test] [olcum] [bicim]
+#   scripts/kur.sh [test] [bicim]
 # Without arguments: what building and running need. test: running the tests and the tour without a display as well;
-# olcum: the benchmarks; bicim: checking the formatting.
+# bicim: checking the formatting.
 set -euo pipefail
 . "$(dirname "$0")/ortak.sh"
 
 paketler=(build-essential cmake ninja-build pkg-config qt6-base-dev libqt6gui6 libgl-dev libodbc2 libodbcinst2
-    unixodbc-dev libsqlite3-dev libgtest-dev libbenchmark-dev fonts-dejavu-core)
+    unixodbc-dev libsqlite3-dev libgtest-dev libbenchmark-dev libsqliteodbc fonts-dejavu-core)
 for kume in "$@"; do
     case $kume in
         test) paketler+=(xvfb xauth locales) ;;
-        olcum) paketler+=(libsqliteodbc) ;;
         bicim) paketler+=(clang-format git) ;;
-        *) vazgec "kur.sh: unknown set '$kume' (test, olcum, bicim)" ;;
+        *) vazgec "kur.sh: unknown set '$kume' (test, bicim)" ;;
     esac
 done
 

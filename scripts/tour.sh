@@ -16,6 +16,9 @@ derle release varnek-tur varnek-motor varnek-veri
 rm -rf build/tour build/tur-ortami
 mkdir -p build/tour
 kendi_ortami tur-ortami
-export QT_QPA_PLATFORM=xcb
-"${sanal[@]}" build/release/bin/varnek-tur "$kok/build/tour"
+program="$kok/build/tur-ortami/program"
+mkdir -p "$program"
+cp build/release/bin/odbcinst.ini "$program"
+build/release/bin/varnek-veri ornek "$program/Varnek.vtb"
+QT_QPA_PLATFORM=xcb "${sanal[@]}" build/release/bin/varnek-tur "$program" "$kok/build/tour"
 bildir "The pictures are in $kok/build/tour"

@@ -1,11 +1,13 @@
 #include <QApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <cstdio>
 #include <exception>
+#include <memory>
 
 #include "AnaForm.h"
 #include "BaslatModulu.h"
+#include "KapanisModulu.h"
+#include "SurumKaydi.h"
 #include "TekKopya.h"
 #include "Tur.h"
 
@@ -17,26 +19,25 @@ void Yaz(const QString& metin) {
     std::fprintf(stderr, "%s\n", metin.toUtf8().constData());
 }
 
-// Every scene is tried, also after one that failed. The number of failed ones.
-int Gez(Tur& tur, QWidget& anaForm) {
-    int başarısız = 0;
-    for (const Sahne& sahne : Sahneler()) {
-        try {
-            sahne.işlev(tur, anaForm);
-        } catch (const std::exception& hata) {
-            Yaz(u"%1: %2"_s.arg(sahne.ad, QString::fromUtf8(hata.what())));
-            ++başarısız;
-        }
+// The next scenes are tried also after one that failed. 1: it failed.
+int Dene(const Sahne& sahne, Tur& tur, QWidget& anaForm) {
+    try {
+        sahne.işlev(tur, anaForm);
+        return 0;
+    } catch (const std::exception& hata) {
+        Yaz(u"%1: %2"_s.arg(sahne.ad, QString::fromUtf8(hata.what())));
+        return 1;
     }
-    return başarısız;
 }
 
-QWidget* AçılanAnaForm() {
-    for (QWidget* pencere : QApplication::topLevelWidgets()) {
-        if (pencere->objectName() == u"AnaForm") return pencere;
-    }
-    return nullptr;
-}
+// The welcome form stands on the screen only until the main form comes.
+const Sahne karşılamaSahnesi{u"karsilama"_s, [](Tur& tur, QWidget&) {
+                                 for (QWidget* pencere : QApplication::topLevelWidgets()) {
+                                     if (pencere->objectName() == u"KarşılamaFormu")
+                                         return tur.Çek(u"karsilama"_s, *pencere);
+                                 }
+                                 throw TurHatası(u"no welcome form"_s);
+                             }};
 
 }  // namespace
 
@@ -48,26 +49,26 @@ int main(int argc, char** argv) {
         Yaz(u"varnek-tur PROGRAM PICTURES"_s);
         return 2;
     }
+    QApplication::setApplicationName(Sürüm().ÜrünAdı);
+    QApplication::setQuitOnLastWindowClosed(false);
     Tur tur(QDir(QString::fromLocal8Bit(argv[2])).absolutePath());
     TekKopya kopya;
+    std::unique_ptr<AnaForm> anaForm;
     int başarısız = 0;
     BaşlatmaBağları bağlar;
     bağlar.ProgramKlasörü = QDir(QString::fromLocal8Bit(argv[1])).absolutePath();
-    bağlar.AnaFormuYükle = [&](std::function<void()> karşılamayıKapat) {
-        AnaFormuYükle([&] {
-            başarısız += KarşılamaSahnesi(tur);
+    bağlar.AnaFormuYükle = [&](const std::function<void()>& karşılamayıKapat) {
+        const auto önceResmi = [&, karşılamayıKapat] {
+            başarısız += Dene(karşılamaSahnesi, tur, *anaForm);
             karşılamayıKapat();
-        });
+        };
+        anaForm = std::make_unique<AnaForm>(AnaFormBağları{önceResmi, KapanışıOnayla});
+        anaForm->Yükle();
     };
     if (Main(kopya, bağlar) != BaşlatmaSonucu::Başladı) {
-        Yaz(u"The program did not start; is another copy running?"_s);
+        Yaz(u"The program did not start. Is another copy running?"_s);
         return 1;
     }
-    QWidget* anaForm = AçılanAnaForm();
-    if (!anaForm) {
-        Yaz(u"The main form did not open."_s);
-        return 1;
-    }
-    başarısız += Gez(tur, *anaForm);
+    for (const Sahne& sahne : Sahneler()) başarısız += Dene(sahne, tur, *anaForm);
     return başarısız == 0 ? 0 : 1;
 }
