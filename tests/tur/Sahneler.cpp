@@ -1,9 +1,10 @@
-#include <QAction>
 #include <QApplication>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -43,10 +44,14 @@ Sahne ÜrünSahnesi(const QString& resim, const QString& ürün) {
 
 void MenüSahnesi(Tur& tur, QWidget& anaForm, const QString& menü, const QString& resim) {
     QMenu& açılan = Tur::Bul<QMenu>(anaForm, menü);
-    açılan.popup(anaForm.mapToGlobal(QPoint(8, 24)));
+    auto* çubuk = qobject_cast<QMenuBar*>(açılan.parentWidget());
+    if (!çubuk) throw TurHatası(u"not in the menu bar: "_s + menü);
+    Tur::ÖneGetir(anaForm);
+    QTest::mouseClick(çubuk, Qt::LeftButton, {}, çubuk->actionGeometry(açılan.menuAction()).center());
+    Tur::Bekle(u"open: "_s + menü, [&] { return açılan.isVisible(); });
     tur.Çek(resim, anaForm, açılan);
-    açılan.close();
-    Tur::Durul();
+    QTest::keyClick(&açılan, Qt::Key_Escape);
+    Tur::Bekle(u"closed: "_s + menü, [&] { return !açılan.isVisible(); });
 }
 
 void YüzdeDüzenleme(Tur& tur, QWidget& anaForm) {
@@ -90,7 +95,10 @@ void Yükleme(Tur& tur, QWidget& anaForm) {
     YüklemeGösterFormu::Çalıştır(
         [&] {
             Yüklemeİlerlemesi ilerleme(100);
-            for (int i = 0; i < 60; ++i) ilerleme.Arttır();
+            for (int i = 0; i < 60; ++i) {
+                QThread::msleep(1);  // the bar is painted only now and then
+                ilerleme.Arttır();
+            }
             for (QWidget* pencere : QApplication::topLevelWidgets()) {
                 if (pencere->objectName() == u"YüklemeGösterFormu") tur.Çek(u"yukleme"_s, *pencere);
             }

@@ -57,12 +57,21 @@ void Tur::Kaydet(const QString& ad, const QRect& alan, QWidget& pencere) {
     if (!resim.save(dosya)) throw TurHatası(u"cannot be written: "_s + dosya);
 }
 
+void Tur::ÖneGetir(QWidget& pencere) {
+    // Without a window manager nobody else gives a window the focus.
+    pencere.raise();
+    pencere.activateWindow();
+    Bekle(u"active: "_s + pencere.objectName(), [&] { return pencere.isActiveWindow(); });
+}
+
 void Tur::Tıkla(QWidget& parça) {
+    ÖneGetir(*parça.window());
     QTest::mouseClick(&parça, Qt::LeftButton);
     Durul();
 }
 
 void Tur::Tıkla(QAbstractItemView& görünüm, const QModelIndex& satır) {
+    ÖneGetir(*görünüm.window());
     görünüm.scrollTo(satır);
     QTest::mouseClick(görünüm.viewport(), Qt::LeftButton, {}, görünüm.visualRect(satır).center());
     Durul();
@@ -83,7 +92,7 @@ void Tur::Kipli(const std::function<void()>& açan, const std::function<void(QWi
         if (çalıştı || !pencere || pencere == önceki || !pencere->isVisible()) return;
         çalıştı = true;
         try {
-            pencere->activateWindow();
+            ÖneGetir(*pencere);
             iş(*pencere);
         } catch (...) {
             hata = std::current_exception();

@@ -34,6 +34,8 @@ class Tur {
         throw TurHatası(QStringLiteral("not found: ") + ad);
     }
 
+    static void ÖneGetir(QWidget& pencere);
+
     // Real clicks: the row is scrolled into view and pressed with the mouse.
     static void Tıkla(QWidget& parça);
     static void Tıkla(QAbstractItemView& görünüm, const QModelIndex& satır);
