@@ -40,7 +40,7 @@ QList<ÖrnekÜrün> Masalar() {
             {u"Poliüretan Vernik", u"0,6 Litre"}, {u"Tiner", u"0,25 Litre"}, {u"Zımpara 120lik", u"4 Adet"},
             {u"Karton Kutu", u"1 Adet"}}},
         {u"MASA", u"Yemek Masası", {u"30", u"22,5", u"4", u"2,75"}, 0, {
-            {u"Meşe Kereste", u"0,085 Metreküp"}, {u"Masif Panel Meşe", u"2,16 Metrekare"},
+            {u"Meşe Kereste", u"0,08 Metreküp"}, {u"Masif Panel Meşe", u"2,16 Metrekare"},
             {u"Ahşap Ayak", u"4 Adet"}, {u"Köşe Demiri", u"8 Adet"}, {u"Ağaç Vidası", u"64 Adet"},
             {u"Ahşap Tutkalı", u"450 Gram"}, {u"Poliüretan Vernik", u"1,2 Litre"}, {u"Tiner", u"0,5 Litre"},
             {u"Zımpara 120lik", u"6 Adet"}, {u"Zımpara 220lik", u"6 Adet"}, {u"İç Ambalaj Köpüğü", u"12 Metre"}}},

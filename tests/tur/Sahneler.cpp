@@ -96,7 +96,7 @@ void Yükleme(Tur& tur, QWidget& anaForm) {
         [&] {
             Yüklemeİlerlemesi ilerleme(100);
             for (int i = 0; i < 60; ++i) {
-                QThread::msleep(1);  // the bar is painted only now and then
+                QThread::msleep(15);  // the form appears only on a long load
                 ilerleme.Arttır();
             }
             for (QWidget* pencere : QApplication::topLevelWidgets()) {
