@@ -207,6 +207,15 @@ constexpr Satır Tablo[] = {
     // Later additions: main form
     {2130, "Bu malzemelerin miktarı veya fiyatı okunamadığı için maliyete katılmadılar:"},
     {2131, "Ürünün malzemelerinin hepsi okunamadı; listedekiler ve maliyet eksik!"},
+
+    // Later additions: about, error report, guide
+    {2200, "Programın simgesi"},
+    {2201, "www.tovrek.example"},
+    {2202, "destek@tovrek.example"},
+    {2203, "www.tovrek.example mesaj sayfası"},
+    {2204,
+     "Kullanım kılavuzu bulunamadı! \n"
+     "Kılavuz, programla birlikte gelen \"kilavuz\" klasöründe olmalıdır."},
 };
 
 }  // namespace

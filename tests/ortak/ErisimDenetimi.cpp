@@ -1,0 +1,66 @@
+#include "ErisimDenetimi.h"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QWidget>
+
+namespace {
+
+// What the user works with. Frames, panels and layouts need no name.
+bool Denetim(QAccessible::Role rol) {
+    switch (rol) {
+        case QAccessible::Button:
+        case QAccessible::CheckBox:
+        case QAccessible::RadioButton:
+        case QAccessible::ButtonDropDown:
+        case QAccessible::ButtonMenu:
+        case QAccessible::EditableText:
+        case QAccessible::ComboBox:
+        case QAccessible::SpinBox:
+        case QAccessible::List:
+        case QAccessible::Tree:
+        case QAccessible::Table:
+        case QAccessible::Link:
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool AdıGerekir(QAccessible::Role rol) {
+    return Denetim(rol) || rol == QAccessible::MenuItem || rol == QAccessible::ProgressBar ||
+           rol == QAccessible::Graphic || rol == QAccessible::Dialog || rol == QAccessible::Window;
+}
+
+// The parts of these are the toolkit's own: cells, header, popup list, inner entry box.
+bool ParçalarıKendinin(QAccessible::Role rol) {
+    return rol == QAccessible::List || rol == QAccessible::Tree || rol == QAccessible::Table ||
+           rol == QAccessible::ComboBox || rol == QAccessible::SpinBox;
+}
+
+void Gez(QAccessibleInterface* arayüz) {
+    if (!arayüz || !arayüz->isValid() || arayüz->state().invisible) return;
+    const QAccessible::Role rol = arayüz->role();
+    const auto* parça = qobject_cast<QWidget*>(arayüz->object());
+    const std::string kim = (arayüz->object() ? arayüz->object()->objectName() : QString()).toStdString() + " (role " +
+                            std::to_string(static_cast<int>(rol)) + ")";
+    if (AdıGerekir(rol)) {
+        EXPECT_FALSE(arayüz->text(QAccessible::Name).trimmed().isEmpty()) << kim << " has no name for screen readers";
+    }
+    if (parça && parça->focusPolicy() != Qt::NoFocus && !parça->isWindow()) {
+        EXPECT_TRUE(rol != QAccessible::NoRole && rol != QAccessible::Client) << kim << " has no role";
+    }
+    if (parça && Denetim(rol)) {
+        EXPECT_TRUE(parça->focusPolicy() & Qt::TabFocus) << kim << " cannot be reached by keyboard";
+    }
+    if (ParçalarıKendinin(rol)) return;
+    for (int sıra = 0; sıra < arayüz->childCount(); ++sıra) Gez(arayüz->child(sıra));
+}
+
+}  // namespace
+
+void ErişimiDenetle(QWidget& form) {
+    ASSERT_TRUE(form.isVisible()) << form.objectName().toStdString() << " is not shown";
+    Gez(QAccessible::queryAccessibleInterface(&form));
+}

@@ -1,0 +1,114 @@
+#include "Yardim.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QMenu>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTest>
+#include <QUrl>
+
+#include "Baglanti.h"
+#include "MetinTablosu.h"
+#include "VarnekTesti.h"
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class YardımTesti : public VarnekTesti {
+  protected:
+    YardımTesti() {
+        BağlantıAçıcıyıAyarla([this](const QUrl& adres) { m_açılanlar += adres; });
+    }
+    ~YardımTesti() override { BağlantıAçıcıyıAyarla(nullptr); }
+
+    static QString Kılavuz() { return KılavuzKlasörü(QCoreApplication::applicationDirPath()); }
+    static QString Oku(const QString& yol) {
+        QFile dosya(yol);
+        EXPECT_TRUE(dosya.open(QIODevice::ReadOnly)) << yol.toStdString();
+        return QString::fromUtf8(dosya.readAll());
+    }
+
+    QList<QUrl> m_açılanlar;
+};
+
+TEST_F(YardımTesti, EveryFormHasAPageOfItsOwn) {
+    for (const char* ad : {"AnaForm", "ÜrünEkleSilFormu", "MalzemeEkleSilFormu", "MalzemeListesiOluşturFormu",
+                           "MiktarGösterFormu", "MalzemeHareketleriFormu", "TarihDeğiştirFormu", "MalzemeListesiFormu",
+                           "ÜrünListesiFormu", "HakkındaFormu", "HataBildirmeFormu"}) {
+        QWidget form;
+        form.setObjectName(QString::fromUtf8(ad));
+        EXPECT_NE(KılavuzSayfası(Kılavuz(), &form), u"index.html"_s) << ad;
+    }
+}
+
+TEST_F(YardımTesti, EveryLinkInTheGuideLeadsSomewhere) {
+    const QDir klasör(Kılavuz());
+    const QStringList sayfalar = klasör.entryList({u"*.html"_s});
+    ASSERT_GE(sayfalar.size(), 15);
+    static const QRegularExpression bağlantı(u"(?:href|src)=\"([^\"#]*)(?:#([^\"]*))?\""_s);
+    static const QRegularExpression doldurulmamış(u"@[A-Z]+@"_s);
+    for (const QString& sayfa : sayfalar) {
+        const QString metin = Oku(klasör.filePath(sayfa));
+        EXPECT_FALSE(metin.contains(doldurulmamış)) << sayfa.toStdString();
+        for (const auto& bulunan : bağlantı.globalMatch(metin)) {
+            const QString hedef = bulunan.captured(1).isEmpty() ? sayfa : bulunan.captured(1);
+            const std::string kim = (sayfa + u": "_s + bulunan.captured(0)).toStdString();
+            ASSERT_TRUE(klasör.exists(hedef)) << kim;
+            if (!bulunan.captured(2).isEmpty()) {
+                EXPECT_TRUE(Oku(klasör.filePath(hedef)).contains(u"id=\"%1\""_s.arg(bulunan.captured(2)))) << kim;
+            }
+        }
+    }
+}
+
+TEST_F(YardımTesti, F1OpensThePageOfTheFormInFrontFromAnywhere) {
+    const YardımTuşu yardım(nullptr);
+    QWidget ana;
+    ana.setObjectName(u"AnaForm"_s);
+    QPushButton düğme(&ana);
+    QMenu menü(&ana);
+    QWidget form(&ana, Qt::Dialog);
+    form.setObjectName(u"ÜrünEkleSilFormu"_s);
+    QWidget kutu(&form, Qt::Dialog);  // a message box has no page: its form's page opens
+    kutu.setObjectName(u"MesajKutusu"_s);
+    QWidget yabancı;
+    const struct {
+        QWidget* parça;
+        const char* sayfa;
+    } durumlar[] = {{&düğme, "AnaForm.html"},
+                    {&menü, "AnaForm.html"},
+                    {&form, "UrunEkleSilFormu.html"},
+                    {&kutu, "UrunEkleSilFormu.html"},
+                    {&yabancı, "index.html"}};
+    for (const auto& durum : durumlar) {
+        m_açılanlar.clear();
+        QTest::keyClick(durum.parça, Qt::Key_F1);
+        ASSERT_EQ(m_açılanlar.size(), 1) << durum.sayfa;
+        EXPECT_EQ(m_açılanlar[0].fileName().toStdString(), durum.sayfa);
+        EXPECT_TRUE(QFile::exists(m_açılanlar[0].toLocalFile())) << durum.sayfa;
+    }
+    QTest::keyClick(&düğme, Qt::Key_F1, Qt::ShiftModifier);
+    QTest::keyClick(&düğme, Qt::Key_F2);
+    EXPECT_EQ(m_açılanlar.size(), 1);
+}
+
+TEST_F(YardımTesti, TheGuideIsFoundBesideTheProgramOrInTheShareFolder) {
+    EXPECT_EQ(KılavuzKlasörü(ProgramKlasörü()), QString());
+    Kutular().Yanıtla(MesajKutusu::Yanıt::Tamam);
+    YardımıAç(nullptr, ProgramKlasörü());
+    Kutular().TekKutu(MesajKutusu::Simge::Bilgi, Metin(2204));
+    EXPECT_TRUE(m_açılanlar.isEmpty());
+
+    const QString program = Klasör() + u"usr/lib/varnek"_s;
+    for (const QString& kılavuz : {Klasör() + u"usr/share/varnek/kilavuz"_s, program + u"/kilavuz"_s}) {
+        ASSERT_TRUE(QDir().mkpath(program) && QDir().mkpath(kılavuz));
+        ASSERT_TRUE(QFile::copy(Kılavuz() + u"/index.html"_s, kılavuz + u"/index.html"_s));
+        EXPECT_EQ(KılavuzKlasörü(program), kılavuz);
+    }
+}
+
+}  // namespace
