@@ -1,8 +1,6 @@
 #include "CocukSureci.h"
 #include "HazirlikTesti.h"
 #include "MetinTablosu.h"
-#include "OdbcModulu.h"
-#include "VeritabaniHazirlik.h"
 
 namespace {
 
@@ -43,8 +41,9 @@ class KesintiTesti : public HazırlıkTesti {
 
     // The next start comes through without a message, and every row is there.
     void YenidenBaşlat(const Satırlar& beklenen) {
-        EXPECT_TRUE(VeritabanınıHazırla());
-        ODBCBağlantısınıKapat();
+        ÇocukSüreci çocuk(Hazırla(), QStringLiteral("oldur 1000000"));
+        EXPECT_EQ(çocuk.Sonuç(), 0);
+        EXPECT_EQ(çocuk.Kutular(), QString());
         EXPECT_EQ(Oku(VeriDosyası()), beklenen);
         EXPECT_EQ(Oku(Yedek()), beklenen);
         EXPECT_EQ(QDir(ProgramKlasörü()).entryList(QDir::Files), QStringList(QStringLiteral("Varnek.vtb")));
@@ -108,8 +107,7 @@ TEST_F(KesintiTesti, YazarkenÖldürülürse) {
         },
         [&](ÇocukSüreci& çocuk) {
             // The crash's journal lies beside the file that the next start compacts and replaces.
-            EXPECT_TRUE(VeritabanınıHazırla());
-            ODBCBağlantısınıKapat();
+            EXPECT_EQ(ÇocukSüreci(Hazırla(), QStringLiteral("oldur 1000000")).Sonuç(), 0);
             const Satırlar şimdi = Oku(VeriDosyası());
             EXPECT_TRUE(şimdi == sonra || (şimdi == m_yeni && çocuk.Sonuç() == ÇocukSüreci::ÖLDÜ));
             EXPECT_EQ(Oku(Yedek()), şimdi);

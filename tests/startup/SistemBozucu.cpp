@@ -87,14 +87,15 @@ int ftruncate64(int no, off64_t boy) noexcept {
     return Asıl<int(int, off64_t)>("ftruncate64")(no, boy);
 }
 
+// A killed process leaves what the system has not put on disk yet, so nobody has to wait for the disk here.
 int fsync(int no) {
     Geç();
-    return Asıl<int(int)>("fsync")(no);
+    return BozmaTürü == Tür::Yok ? Asıl<int(int)>("fsync")(no) : 0;
 }
 
 int fdatasync(int no) {
     Geç();
-    return Asıl<int(int)>("fdatasync")(no);
+    return BozmaTürü == Tür::Yok ? Asıl<int(int)>("fdatasync")(no) : 0;
 }
 
 int rename(const char* eski, const char* yeni) noexcept {
