@@ -7,7 +7,8 @@
 
 namespace {
 
-constexpr int TEKRAR = 7;
+constexpr int TEKRAR = 11;
+constexpr double SÜRE = 3;  // seconds for each side, over all repetitions
 
 struct Çift {
     std::string ad;
@@ -59,6 +60,7 @@ class OrtancaToplayıcı : public benchmark::ConsoleReporter {
 void YüzEkle(const std::string& ad, ÖlçümYüzü yüz) {
     benchmark::RegisterBenchmark(ad.c_str(), [yüz = std::move(yüz)](benchmark::State& durum) { yüz(durum); })
         ->Repetitions(TEKRAR)
+        ->MinTime(SÜRE)
         ->DisplayAggregatesOnly()
         ->Unit(benchmark::kMillisecond)
         ->UseRealTime();

@@ -16,6 +16,10 @@ derle release varnek-tur varnek-motor varnek-veri
 rm -rf build/tour build/tur-ortami
 mkdir -p build/tour
 kendi_ortami tur-ortami
+# A running Varnek of the user's is not in the way.
+XDG_RUNTIME_DIR=$(mktemp -d)
+export XDG_RUNTIME_DIR
+trap 'rm -rf "$XDG_RUNTIME_DIR"' EXIT
 program="$kok/build/tur-ortami/program"
 mkdir -p "$program"
 cp build/release/bin/odbcinst.ini "$program"
