@@ -4,13 +4,12 @@
 set -euo pipefail
 . "$(dirname "$0")/ortak.sh"
 
-olcumler=(OlcumMotor OlcumForm)
 scripts/kur.sh
-derle release "${olcumler[@]}"
+derle release olcumler
 kendi_ortami olcum-ortami
 sonuc=0
-for olcum in "${olcumler[@]}"; do
-    bildir "$olcum"
-    QT_QPA_PLATFORM=offscreen "build/release/bin/$olcum" "$@" || sonuc=1
+for olcum in build/release/bin/Olcum*; do
+    bildir "${olcum##*/}"
+    QT_QPA_PLATFORM=offscreen "$olcum" "$@" || sonuc=1
 done
 exit $sonuc
