@@ -15,7 +15,6 @@
 
 using MesajKutusu::Düğmeler;
 using MesajKutusu::Simge;
-using MesajKutusu::Yanıt;
 
 KomutDüğmesi* KatalogDüğmesi(const QString& ad, const QList<int>& başlıklar, std::function<void()> komut) {
     auto* düğme = new KomutDüğmesi;
@@ -65,9 +64,4 @@ bool Uyar(int metin, QWidget& kutu) {
     MesajKutusu::Göster(Simge::Bilgi, Düğmeler::Tamam, Metin(metin));
     kutu.setFocus();
     return false;
-}
-
-bool Sor(const QString& soru) {
-    MesajKutusuOrtala();
-    return MesajKutusu::Göster(Simge::Soru, Düğmeler::EvetHayır, soru) == Yanıt::Evet;
 }

@@ -27,6 +27,3 @@ QWidget* KatalogAltlığı(QDialog* form);
 
 // Shows an information box and puts the focus on the control that it is about; always false.
 bool Uyar(int metin, QWidget& kutu);
-
-// A Yes/No box with the question mark; true for Yes.
-bool Sor(const QString& soru);

@@ -33,12 +33,6 @@ std::optional<Komut> TuşKomutu(int tuş) {
     }
 }
 
-bool Sor(const QString& soru) {
-    MesajKutusuOrtala();
-    return MesajKutusu::Göster(MesajKutusu::Simge::Soru, MesajKutusu::Düğmeler::EvetHayır, soru) ==
-           MesajKutusu::Yanıt::Evet;
-}
-
 }  // namespace
 
 AnaForm::~AnaForm() {
@@ -60,7 +54,7 @@ void AnaForm::Yükle() {
 
 void AnaForm::GirişDenetimi() {
     if (m_ağaç->Boş()) {
-        Sor(Metin(420));
+        if (Sor(Metin(420))) İlkÜrünüEkle();
         return;
     }
     m_miktar->SeçimiKaldır();
@@ -144,7 +138,7 @@ void AnaForm::ListedenMalzemeSil() {
 void AnaForm::DeğişiklikleriKaydet() {
     const MaliyetGirdisi yüzdeler = m_maliyet->Girdi();
     if (DeyimiYürüt(Deyimler::YüzdeleriKaydet(yüzdeler.İşçilik, yüzdeler.Kâr, yüzdeler.Diğer, yüzdeler.Vade,
-                                                m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()))) {
+                                              m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()))) {
         m_komutlar.İzinVer(Komut::DeğişiklikleriKaydet, false);
     }
 }

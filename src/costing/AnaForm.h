@@ -4,6 +4,7 @@
 #include <QPoint>
 #include <functional>
 
+#include "AnaFormErisimi.h"
 #include "Komutlar.h"
 
 class KullanılanMalzemeListesi;
@@ -20,7 +21,7 @@ struct AnaFormBağları {
 };
 
 // The program's main window: the product tree, and for the selected product its used materials, percentages and cost.
-class AnaForm : public QMainWindow {
+class AnaForm : public QMainWindow, private AnaFormErişimi {
   public:
     explicit AnaForm(AnaFormBağları bağlar);
     ~AnaForm() override;
@@ -31,7 +32,7 @@ class AnaForm : public QMainWindow {
     // Shows what the tree's current node stands for; for other forms too, after they changed the data.
     void ÜrünListesiTıkla();
     // Loads used materials and percentages of the selected product anew; does nothing while a group is selected.
-    void MalzemeTablosuYükle();
+    void MalzemeTablosuYükle() override;
     void ToplamMaliyetHesapla();
 
   protected:
@@ -57,8 +58,19 @@ class AnaForm : public QMainWindow {
     void SeçiliÜrünüYükle();
     void SayılmayanlarıGöster(const QStringList& satırlar);
 
+    // For the catalogue forms.
+    void ÜrünAğacınıYenile() override;
+    void DüğümüSeç(std::int32_t sıra) override;
+    std::optional<Ürün> SeçiliÜrün() const override;
+    QStringList KullanılanMalzemeAdları() const override;
+
+    void ÜrünEkleSil();
+    void İlkÜrünüEkle();
+    void MalzemeEkleSil();
+    void ListeyeMalzemeEkle();
     void ListedenMalzemeSil();
     void DeğişiklikleriKaydet();
+    void MiktarlarıGöster();
 
     AnaFormBağları m_bağlar;
     Komutlar m_komutlar;

@@ -27,7 +27,7 @@
 
 namespace {
 
-constexpr int AğaçGenişliği = 240;      // pixels
+constexpr int AğaçGenişliği = 240;  // pixels
 constexpr int NoktaGenişliği = 48;
 constexpr QSize İstenenBoy(1000, 700);  // pixels
 constexpr int BaşlıkPayı = 40;          // room for the window's title bar
@@ -201,6 +201,10 @@ void AnaForm::DurumÇubuğunuKur() {
 
 void AnaForm::KomutlarıKur() {
     m_komutlar.Tanımla(Komut::Çıkış, [this] { close(); });
+    m_komutlar.Tanımla(Komut::ÜrünEkleSil, [this] { ÜrünEkleSil(); });
+    m_komutlar.Tanımla(Komut::MalzemeEkleSil, [this] { MalzemeEkleSil(); });
+    m_komutlar.Tanımla(Komut::ListeyeMalzemeEkle, [this] { ListeyeMalzemeEkle(); });
+    m_komutlar.Tanımla(Komut::MiktarlarıGöster, [this] { MiktarlarıGöster(); });
     m_komutlar.Tanımla(Komut::ListedenMalzemeSil, [this] { ListedenMalzemeSil(); });
     m_komutlar.Tanımla(Komut::DeğişiklikleriKaydet, [this] { DeğişiklikleriKaydet(); });
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,

@@ -46,3 +46,9 @@ QString KullanılanMalzemeListesi::SeçiliMiktar() const {
 QString KullanılanMalzemeListesi::SeçiliMalzeme() const {
     return SeçiliMetin(AdSütunu);
 }
+
+QStringList KullanılanMalzemeListesi::MalzemeAdları() const {
+    QStringList adlar;
+    for (int satır = 0; satır < topLevelItemCount(); ++satır) adlar.append(topLevelItem(satır)->text(AdSütunu));
+    return adlar;
+}

@@ -20,4 +20,5 @@ class KullanılanMalzemeListesi : public RaporListesi {
 
     QString SeçiliMiktar() const;
     QString SeçiliMalzeme() const;
+    QStringList MalzemeAdları() const;
 };

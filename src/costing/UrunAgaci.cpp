@@ -83,6 +83,29 @@ QString ÜrünAğacı::SeçiliÜrün() const {
     return ŞimdikiSeçim().Ürün;
 }
 
+std::int32_t ÜrünAğacı::SeçiliSıra() const {
+    const QTreeWidgetItem* düğüm = currentItem();
+    if (!düğüm) return -1;
+    const QTreeWidgetItem* grup = düğüm->parent() ? düğüm->parent() : düğüm;
+    std::int32_t sıra = düğüm == grup ? 0 : grup->indexOfChild(const_cast<QTreeWidgetItem*>(düğüm)) + 1;
+    for (int i = 0; topLevelItem(i) != grup; ++i) sıra += topLevelItem(i)->childCount() + 1;
+    return sıra;
+}
+
+bool ÜrünAğacı::SırayıSeç(std::int32_t sıra) {
+    for (int i = 0; i < topLevelItemCount() && sıra >= 0; ++i) {
+        QTreeWidgetItem* grup = topLevelItem(i);
+        if (sıra <= grup->childCount()) {
+            QTreeWidgetItem* düğüm = sıra == 0 ? grup : grup->child(sıra - 1);
+            SessizceSeç(düğüm);
+            scrollToItem(düğüm);
+            return true;
+        }
+        sıra -= grup->childCount() + 1;
+    }
+    return false;
+}
+
 void ÜrünAğacı::Sustur() {
     m_sustu = true;
     blockSignals(true);

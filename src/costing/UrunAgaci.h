@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTreeWidget>
+#include <cstdint>
 #include <functional>
 
 // The product tree: groups without a parent, products beneath them. The text is a node's name and, with its group's,
@@ -23,6 +24,11 @@ class ÜrünAğacı : public QTreeWidget {
     bool ÜrünSeçili() const;  // false: a group is current, or nothing is
     QString SeçiliGrup() const;
     QString SeçiliÜrün() const;
+
+    // Position of the current node over all nodes, from 0; -1 when there is none.
+    std::int32_t SeçiliSıra() const;
+    // Makes the node at a position current and brings it into view, without an event. False: there is no such node.
+    bool SırayıSeç(std::int32_t sıra);
 
     // No more events, no more renaming: the data connection is gone.
     void Sustur();

@@ -243,8 +243,9 @@ TEST_F(AnaFormu, SekmeOkumaSırasındaGezer) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     } while (QApplication::focusWidget() != &Ağaç() && gezilen.size() < 20);
     EXPECT_EQ(gezilen.join(' ').toStdString(),
-              "ÜrünListesi KullanılanMalzemeListesi ListedenMalzemeSilButonu HaneSayısıKutusu İşçilikYüzdesiKutusu "
-              "KarYüzdesiKutusu DiğerMaliyetYüzdesiKutusu VadeFarkıYüzdesiKutusu "
+              "ÜrünListesi KullanılanMalzemeListesi ListeyeMalzemeEkleButonu ListedenMalzemeSilButonu HaneSayısıKutusu "
+              "İşçilikYüzdesiKutusu "
+              "KarYüzdesiKutusu DiğerMaliyetYüzdesiKutusu VadeFarkıYüzdesiKutusu MiktarlarıGösterDüğmesi "
               "MalzemeMiktarıveBirimVarnekGösterSeçeneği ÇıkışButonu");
 }
 

@@ -11,10 +11,6 @@
 #include "TestVerisi.h"
 #include "VarnekTesti.h"
 
-inline void PrintTo(const QString& metin, std::ostream* çıktı) {
-    *çıktı << metin.toStdString();
-}
-
 // The real main form on a real data file, worked with real key and mouse events.
 class FormOrtamı : public VarnekTesti {
   protected:

@@ -86,6 +86,12 @@ void MesajKutusuOrtala() {
     MesajKutusu::Ortalanacak = true;
 }
 
+bool Sor(const QString& soru) {
+    MesajKutusuOrtala();
+    return MesajKutusu::Göster(MesajKutusu::Simge::Soru, MesajKutusu::Düğmeler::EvetHayır, soru) ==
+           MesajKutusu::Yanıt::Evet;
+}
+
 void BeklenmeyenHataGöster(const QString& neOldu) {
     MesajKutusuOrtala();
     MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam,

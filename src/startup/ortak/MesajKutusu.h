@@ -31,5 +31,8 @@ void GöstericiyiAyarla(std::function<Yanıt(const İstek&)> gösterici);
 // Centres the next message box over the active window (over the screen when there is none). Called before every box.
 void MesajKutusuOrtala();
 
+// A centred Yes/No box with the question mark; true for Yes.
+bool Sor(const QString& soru);
+
 // The critical box for an error that nobody foresaw: what was being done, and what went wrong.
 void BeklenmeyenHataGöster(const QString& neOldu);
