@@ -1,0 +1,97 @@
+#include "MaliyetFisi.h"
+
+#include "MetinTablosu.h"
+#include "SayfaDuzeni.h"
+#include "SayiMetni.h"
+
+namespace {
+
+constexpr double ÖzetinEnAzYeri = 50;  // millimetres that must be left for the summary to start on a page
+constexpr double ÖzetAralığı = 5;
+
+struct ÖzetSatırı {
+    QString Etiket;
+    QString Değer;
+    bool Toplam = false;
+};
+
+// The percentage's amount: in floating point, shown with the asked decimals at once.
+QString YüzdeTutarı(const MaliyetFişi& fiş, double yüzde) {
+    const std::optional<Para> maliyet = ParaOku(fiş.MalzemeMaliyeti);
+    if (!maliyet) return {};
+    return SayıBiçimle(maliyet->Double() * yüzde / 100, fiş.OndalıkBasamak).value_or(QString());
+}
+
+QList<ÖzetSatırı> MaliyetSatırları(const MaliyetFişi& fiş) {
+    QList<ÖzetSatırı> satırlar{{Metin(872), fiş.MalzemeMaliyeti}};
+    const auto ekle = [&](int etiket, const QString& yüzdeMetni) {
+        const std::optional<double> yüzde = DoubleOku(yüzdeMetni);
+        if (!yüzde || *yüzde <= 0) return;
+        satırlar.append({Metin(etiket) + yüzdeMetni + QStringLiteral("):"), YüzdeTutarı(fiş, *yüzde)});
+    };
+    ekle(874, fiş.İşçilikYüzdesi);
+    ekle(876, fiş.KârYüzdesi);
+    ekle(878, fiş.DiğerYüzdesi);
+    ekle(880, fiş.VadeYüzdesi);
+    satırlar.append({Metin(882), fiş.ToplamMaliyet, true});
+    return satırlar;
+}
+
+QList<ÖzetSatırı> MiktarSatırları(const MaliyetFişi& fiş) {
+    QList<ÖzetSatırı> satırlar;
+    const auto ekle = [&](int etiket, const QString& metin) {
+        satırlar.append(
+            {Metin(etiket) + QLatin1Char(':'), SayıMetniBiçimle(metin, fiş.OndalıkBasamak).value_or(QString())});
+    };
+    if (SayıMı(fiş.ToplamMiktar)) {
+        ekle(1330, fiş.ToplamMiktar);
+        ekle(1280, fiş.BirimMaliyet);
+    }
+    if (DoubleOku(fiş.FireOranı).value_or(0) > 0) {
+        ekle(1315, fiş.FireOranı);
+        ekle(1335, fiş.FireliMiktar);
+        ekle(1340, fiş.FireliBirimMaliyet);
+    }
+    return satırlar;
+}
+
+void ÖzetiYaz(SayfaDüzeni& düzen, const MaliyetFişi& fiş) {
+    SayfaYüzeyi& yüzey = düzen.Yüzey();
+    const QList<ÖzetSatırı> maliyetler = MaliyetSatırları(fiş);
+    const QList<ÖzetSatırı> miktarlar = MiktarSatırları(fiş);
+
+    // The summary stays in one piece, also where its lines need more than the usual room.
+    double yükseklik = ÖzetAralığı + maliyetler.size() * yüzey.SatırYüksekliği();
+    if (!miktarlar.isEmpty()) yükseklik += ÖzetAralığı + miktarlar.size() * yüzey.SatırYüksekliği();
+    if (!düzen.SayfaSonunaBak(ÖzetinEnAzYeri) && yüzey.Y() + yükseklik > düzen.SayfaYüksekliği()) {
+        düzen.SayfaBaşlığıYaz();
+    }
+
+    yüzey.YAyarla(yüzey.Y() + ÖzetAralığı);
+    for (const ÖzetSatırı& satır : maliyetler) {
+        yüzey.KalınAyarla(satır.Toplam);
+        yüzey.AltÇizgiAyarla(satır.Toplam);
+        düzen.ÖzetSatırıYaz(satır.Etiket, satır.Değer);
+    }
+    yüzey.KalınAyarla(false);
+    yüzey.AltÇizgiAyarla(false);
+    yüzey.YAyarla(yüzey.Y() + ÖzetAralığı);
+    for (const ÖzetSatırı& satır : miktarlar) düzen.ÖzetSatırıYaz(satır.Etiket, satır.Değer);
+}
+
+}  // namespace
+
+void MaliyetFişiniYaz(SayfaYüzeyi& yüzey, const MaliyetFişi& fiş) {
+    SayfaDüzeni düzen(yüzey, fiş.Ürün,
+                      {{412, 13.5, HücreTürü::Miktar},
+                       {414, 4.5, HücreTürü::Metin},
+                       {416, 1.6, HücreTürü::Sayı},
+                       {418, 1.2, HücreTürü::Sayı}});
+    if (!düzen.Başla()) return;
+    for (const QStringList& satır : fiş.Satırlar) {
+        düzen.SayfaSonunaBak();
+        düzen.SatırYaz(satır);
+    }
+    ÖzetiYaz(düzen, fiş);
+    düzen.Bitir();
+}

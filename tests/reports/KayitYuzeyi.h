@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include "SayfaYuzeyi.h"
+
+// A page surface that keeps what is printed on it. Its letters have one width and its lines one height per font size,
+// so that positions are the same on every machine.
+class KayıtYüzeyi : public SayfaYüzeyi {
+  public:
+    struct BasılıMetin {
+        int Sayfa;
+        double X, Y, Genişlik;
+        Yazı yazı;
+        QString Metin;
+        Yer yer;
+        double Sağ() const { return X + Genişlik; }
+    };
+    struct Çizgi {
+        int Sayfa;
+        double X1, Y1, X2, Y2;
+        QColor Renk;
+    };
+
+    explicit KayıtYüzeyi(double genişlik = 210, double yükseklik = 297, bool başlar = true)
+        : m_genişlik(genişlik), m_yükseklik(yükseklik), m_başlar(başlar) {}
+
+    bool Başla() override { return m_başlar; }
+    void Bitir() override { m_döküm.append(QStringLiteral("BİTTİ")); }
+    double Genişlik() const override { return m_genişlik; }
+    double Yükseklik() const override { return m_yükseklik; }
+    double MetinGenişliği(const QString& metin) const override {
+        return static_cast<double>(metin.size()) * GeçerliYazı().Punto * (GeçerliYazı().Kalın ? 0.20 : 0.18);
+    }
+    double SatırYüksekliği() const override { return GeçerliYazı().Punto * 0.4; }
+    void Çiz(double x1, double y1, double x2, double y2, QColor renk) override;
+
+    QList<BasılıMetin> Metinler;
+    QList<Çizgi> Çizgiler;
+
+    // The printed texts with exactly this content.
+    QList<BasılıMetin> Bul(const QString& metin) const;
+    // Of one page, in printed order.
+    QStringList SayfaMetinleri(int sayfa) const;
+
+    // Every operation, a line each.
+    QString Döküm() const { return m_döküm.join(QLatin1Char('\n')) + QLatin1Char('\n'); }
+
+  protected:
+    double MetniKoy(const QString& metin, Yer yer) override;
+    void SayfaAç() override { m_döküm.append(QStringLiteral("SAYFA")); }
+
+  private:
+    double m_genişlik;
+    double m_yükseklik;
+    bool m_başlar;
+    QStringList m_döküm;
+};
+
+// Compares with the golden text tests/reports/altin/<ad>.txt. A difference and a missing file fail the test; the text
+// as it came out is then left in the build folder.
+void AltınlaKarşılaştır(const QString& ad, const QString& metin);
