@@ -77,8 +77,8 @@ TEST(SayfaDüzeni, MetinlerYanındakineGirmez) {
                       {{412, 13.5, HücreTürü::Miktar}, {414, 4.5, HücreTürü::Metin}, {416, 1.6, HücreTürü::Sayı}});
     ASSERT_TRUE(düzen.Başla());
     const auto& başlık = yüzey.Metinler.at(0);
-    EXPECT_EQ(başlık.X, 0);
-    EXPECT_EQ(başlık.yer.Genişlik, 210);
+    EXPECT_EQ(başlık.X, 10);
+    EXPECT_EQ(başlık.Sağ(), 200);
 
     yüzey.Metinler.clear();
     const QString ad(100, QLatin1Char('m'));

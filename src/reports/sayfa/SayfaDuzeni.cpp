@@ -17,7 +17,8 @@ constexpr double AltBoşluk = 15;
 constexpr double SayfaBaşlığıÜstü = 5;
 constexpr double SayfaBaşlığıKenarı = 10;
 constexpr double SayfaBaşlığıÇizgisi = 10;
-constexpr double MetinArası = 2;  // at least this much stays free before the next text
+constexpr double MetinArası = 2;  // at least this much stays free before the next text...
+constexpr double SağPay = 5;      // ...and before the page's right edge
 
 }  // namespace
 
@@ -45,10 +46,15 @@ void SayfaDüzeni::BaşlıkYaz() {
     m_yüzey.KalınAyarla(true);
     m_yüzey.AltÇizgiAyarla(true);
     m_yüzey.YAyarla(ÜstBoşluk);
-    // A title wider than the page is narrowed to it.
     const double genişlik = m_yüzey.MetinGenişliği(m_raporBaşlığı);
-    m_yüzey.XAyarla(std::max(0.0, (m_sayfaGenişliği - genişlik) / 2));
-    m_yüzey.YazVeSatırıBitir(m_raporBaşlığı, {static_cast<double>(m_sayfaGenişliği), 0});
+    if (genişlik <= m_sayfaGenişliği) {
+        m_yüzey.XAyarla((m_sayfaGenişliği - genişlik) / 2);
+        m_yüzey.YazVeSatırıBitir(m_raporBaşlığı);
+    } else {
+        // Narrowed to the width of the running header.
+        m_yüzey.XAyarla(SayfaBaşlığıKenarı);
+        m_yüzey.YazVeSatırıBitir(m_raporBaşlığı, {m_sayfaGenişliği - 2 * SayfaBaşlığıKenarı, 0});
+    }
 }
 
 void SayfaDüzeni::SütunBaşlıklarınıYaz() {
@@ -62,7 +68,7 @@ void SayfaDüzeni::SütunBaşlıklarınıYaz() {
         if (i < son) {
             m_yüzey.Yaz(başlık, {m_yerler.at(i + 1).Konum - MetinArası - m_yerler.at(i).Konum, 0});
         } else {
-            m_yüzey.YazVeSatırıBitir(başlık, {static_cast<double>(m_sayfaGenişliği - m_yerler.at(i).Konum), 0});
+            m_yüzey.YazVeSatırıBitir(başlık, {m_sayfaGenişliği - SağPay - m_yerler.at(i).Konum, 0});
         }
     }
     m_yüzey.KalınAyarla(false);
@@ -105,7 +111,7 @@ void SayfaDüzeni::SatırYaz(const QStringList& hücreler) {
             m_yüzey.Yaz(metin, Yer(i, metin, sağdaki - MetinArası));
             sol = sağdaki;
         } else {
-            m_yüzey.YazVeSatırıBitir(metin, Yer(i, metin, m_sayfaGenişliği));
+            m_yüzey.YazVeSatırıBitir(metin, Yer(i, metin, m_sayfaGenişliği - SağPay));
         }
     }
 }
