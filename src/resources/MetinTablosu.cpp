@@ -216,6 +216,17 @@ constexpr Satır Tablo[] = {
     {2204,
      "Kullanım kılavuzu bulunamadı! \n"
      "Kılavuz, programla birlikte gelen \"kilavuz\" klasöründe olmalıdır."},
+
+    // Later additions: printouts
+    {2300, "PD&F Kaydet..."},
+    {2301, "Öni&zleme..."},
+    {2302, "PDF Olarak Kaydet"},
+    {2303, "PDF Dosyaları (*.pdf)"},
+    {2304, "Bu adda bir dosya var! Üzerine yazılsın mı?"},
+    {2305,
+     "PDF dosyası yazılamadı! \n"
+     "Lütfen, bu yere yazma izniniz ve diskte yeterince boş yer olup olmadığını kontrol edip tekrar deneyiniz:"},
+    {2306, "Baskı Önizleme"},
 };
 
 }  // namespace

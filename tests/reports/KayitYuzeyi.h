@@ -62,3 +62,7 @@ class KayıtYüzeyi : public SayfaYüzeyi {
 // Compares with the golden text tests/reports/altin/<ad>.txt. A difference and a missing file fail the test; the text
 // as it came out is then left in the build folder.
 void AltınlaKarşılaştır(const QString& ad, const QString& metin);
+
+inline QString U(const char* metin) {
+    return QString::fromUtf8(metin);
+}

@@ -5,10 +5,6 @@
 
 namespace {
 
-QString U(const char* metin) {
-    return QString::fromUtf8(metin);
-}
-
 MaliyetFişi Masa() {
     MaliyetFişi fiş;
     fiş.Ürün = U("Çalışma Masası");

@@ -3,14 +3,6 @@
 #include "KayitYuzeyi.h"
 #include "RaporCiktilari.h"
 
-namespace {
-
-QString U(const char* metin) {
-    return QString::fromUtf8(metin);
-}
-
-}  // namespace
-
 TEST(RaporÇıktıları, MalzemeHareketleri) {
     KayıtYüzeyi yüzey(210, 60);
     MalzemeHareketleriniYaz(

@@ -3,6 +3,7 @@
 #include <QPagedPaintDevice>
 #include <QPageLayout>
 #include <QRawFont>
+#include <utility>
 
 #include "MetinSigdir.h"
 
@@ -11,6 +12,7 @@ namespace {
 constexpr double İnçMilimetre = 25.4;
 constexpr double PuntoMilimetre = İnçMilimetre / 72;
 constexpr double ÇizgiKalınlığı = 0.2;  // millimetres
+constexpr double AltÇizgiYeri = 0.45;   // of the descent, below the base line: clear of the letters
 
 // Narrow, with all Turkish letters.
 QString YazıAilesi() {
@@ -76,7 +78,12 @@ double AygıtYüzeyi::MetniKoy(const QString& metin, Yer yer) {
     } else {
         m_boyacı.drawText(taban, sığan.Metin);
     }
-    return sığan.Genişlik / m_ölçek;
+    const double genişlik = sığan.Genişlik / m_ölçek;
+    if (GeçerliYazı().AltıÇizili) {
+        const double y = (taban.y() + yüz.Ölçü.descent() * AltÇizgiYeri) / m_ölçek;
+        Çiz(X(), y, X() + genişlik, y, Qt::black);
+    }
+    return genişlik;
 }
 
 void AygıtYüzeyi::SayfaAç() {
@@ -85,8 +92,8 @@ void AygıtYüzeyi::SayfaAç() {
 
 const AygıtYüzeyi::Yüz& AygıtYüzeyi::GeçerliYüz() const {
     const Yazı& yazı = GeçerliYazı();
-    for (const Yüz& yüz : m_yüzler) {
-        if (yüz.yazı == yazı) return yüz;
+    for (const Yüz& yüz : std::as_const(m_yüzler)) {
+        if (yüz.Punto == yazı.Punto && yüz.Kalın == yazı.Kalın) return yüz;
     }
     m_yüzler.append(YüzOluştur(yazı));
     return m_yüzler.constLast();
@@ -98,6 +105,5 @@ AygıtYüzeyi::Yüz AygıtYüzeyi::YüzOluştur(const Yazı& yazı) const {
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setPointSize(yazı.Punto);
     font.setBold(yazı.Kalın);
-    font.setUnderline(yazı.AltıÇizili);
-    return {yazı, font, QFontMetricsF(font, &m_aygıt), TasarımSatırYüksekliği(font, yazı.Punto)};
+    return {yazı.Punto, yazı.Kalın, font, QFontMetricsF(font, &m_aygıt), TasarımSatırYüksekliği(font, yazı.Punto)};
 }

@@ -31,7 +31,8 @@ class AygıtYüzeyi : public SayfaYüzeyi {
   private:
     // A font as it stands on the device.
     struct Yüz {
-        Yazı yazı;
+        int Punto;
+        bool Kalın;
         QFont Font;
         QFontMetricsF Ölçü;
         double SatırYüksekliği;  // millimetres

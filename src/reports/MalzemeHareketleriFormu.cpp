@@ -1,0 +1,71 @@
+#include "MalzemeHareketleriFormu.h"
+
+#include <QApplication>
+#include <QGroupBox>
+#include <QTimer>
+
+#include "DegiskenModulu.h"
+#include "Deyimler.h"
+#include "HareketSatiri.h"
+#include "HataYakala.h"
+#include "MetinTablosu.h"
+#include "OdbcModulu.h"
+#include "OrtakFonksiyonlarModulu.h"
+#include "RaporCiktilari.h"
+#include "Saat.h"
+#include "TarihDegistirFormu.h"
+
+namespace {
+
+QList<QTreeWidgetItem*> GününSatırları() {
+    QList<QTreeWidgetItem*> satırlar;
+    SQLMetni = Deyimler::GününHareketleri(HareketTarihiSQL);
+    if (!SorguÇalıştır()) return satırlar;
+    const DeyimKoruması koruma;
+    while (SatırGetir()) {
+        const QString malzeme = SütunOku(1);
+        const QString miktar = SütunOku(2);
+        const QString fiyat = SütunOku(3);
+        const QString ürün = SütunOku(4);
+        const HareketSatırı satır = HareketiBiçimle(miktar, fiyat, OndalıkBasamak);
+        satırlar.append(new QTreeWidgetItem(QStringList{malzeme, satır.Miktar, satır.Fiyat, satır.Tutar, ürün}));
+    }
+    return satırlar;
+}
+
+}  // namespace
+
+MalzemeHareketleriFormu::MalzemeHareketleriFormu(QWidget* sahip)
+    : RaporFormu({QStringLiteral("MalzemeHareketleriFormu"),
+                  QStringLiteral("MalzemeHareketleriListesi"),
+                  886,
+                  888,
+                  {{414, 4, false}, {412, 6, true}, {416, 6, true}, {418, 5.5, true}, {890, 5.5, false}},
+                  MalzemeHareketleriniYaz},
+                 sahip) {
+    BaşaDüğmeKoy(QStringLiteral("TarihDeğiştirButonu"), 892, [this] {
+        TarihDeğiştirFormu(this).exec();
+        PencereKapandı();
+    });
+    HareketTarihi = Bugün();
+    HareketTarihiSQL = TarihDeğişmezi(HareketTarihi);
+}
+
+void MalzemeHareketleriFormu::showEvent(QShowEvent* olay) {
+    RaporFormu::showEvent(olay);
+    if (m_gösterildi) return;
+    m_gösterildi = true;
+    QTimer::singleShot(0, this, [this] { HataYakala([this] { ListeyiYükle(); }); });
+}
+
+QString MalzemeHareketleriFormu::RaporBaşlığı() const {
+    return Çerçeve().title();
+}
+
+void MalzemeHareketleriFormu::ListeyiYükle() {
+    if (HareketTarihiSQL.isEmpty()) return;
+    Liste().clear();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    Çerçeve().setTitle(HareketTarihi.toString(QStringLiteral("(dd.MM.yyyy) ")) + Metin(888));
+    SatırlarıGöster(GününSatırları());
+}

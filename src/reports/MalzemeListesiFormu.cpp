@@ -1,0 +1,35 @@
+#include "MalzemeListesiFormu.h"
+
+#include "DegiskenModulu.h"
+#include "Deyimler.h"
+#include "OdbcModulu.h"
+#include "RaporCiktilari.h"
+#include "SayiMetni.h"
+#include "YuklemeGosterFormu.h"
+
+MalzemeListesiFormu::MalzemeListesiFormu(QWidget* sahip)
+    : RaporFormu({QStringLiteral("MalzemeListesiFormu"),
+                  QStringLiteral("MalzemeListesi"),
+                  1010,
+                  610,
+                  {{414, 1.5, false}, {416, 3.8, true}},
+                  MalzemeListesiniYaz},
+                 sahip) {}
+
+void MalzemeListesiFormu::Yükle() {
+    SQLMetni = Deyimler::MalzemeSayısı();
+    Yüklemeİlerlemesi ilerleme(KayıtSayısıAl());
+    SQLMetni = Deyimler::MalzemeKataloğuRaporu();
+    QList<QTreeWidgetItem*> satırlar;
+    if (SorguÇalıştır()) {
+        const DeyimKoruması koruma;
+        while (SatırGetir()) {
+            const QString ad = SütunOku(1);
+            const std::optional<QString> fiyat =
+                SayıMetniBiçimle(NoktayıVirgüleÇevir(SütunOku(2)), OndalıkBasamak, NoktaKuralı::Yerinde);
+            satırlar.append(new QTreeWidgetItem(QStringList{ad, fiyat.value_or(QString())}));
+            ilerleme.Arttır();
+        }
+    }
+    SatırlarıGöster(satırlar);
+}

@@ -1,0 +1,89 @@
+#include "RaporFormu.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "HataYakala.h"
+#include "KomutDugmesi.h"
+#include "MetinTablosu.h"
+#include "SayfaYuzeyi.h"
+
+RaporFormu::RaporFormu(const Tanım& tanım, QWidget* sahip) : QDialog(sahip), m_yaz(tanım.Yaz) {
+    setObjectName(tanım.Ad);
+    setWindowTitle(Metin(tanım.Başlık));
+    m_liste = new RaporListesi(tanım.Sütunlar);
+    m_liste->setObjectName(tanım.ListeAdı);
+    m_liste->setAccessibleName(windowTitle());
+    m_çerçeve = new QGroupBox(Metin(tanım.ÇerçeveBaşlığı));
+    m_çerçeve->setObjectName(QStringLiteral("Çerçeve"));
+    auto* çerçeveDüzeni = new QVBoxLayout(m_çerçeve);
+    çerçeveDüzeni->addWidget(m_liste);
+    DüğmeleriKur();
+    auto* düzen = new QVBoxLayout(this);
+    düzen->addWidget(m_çerçeve);
+    düzen->addLayout(m_düğmeler);
+    resize(760, 520);
+    EtkinliğiAyarla();
+}
+
+void RaporFormu::DüğmeleriKur() {
+    m_yazdır = DüğmeOluştur(QStringLiteral("YazdırButonu"), 335, [this] {
+        if (!Yazdır(*this, *m_yazdır, Rapor())) PencereKapandı();
+    });
+    m_pdfKaydet = DüğmeOluştur(QStringLiteral("PdfKaydetButonu"), 2300, [this] {
+        PdfKaydet(*this, *m_pdfKaydet, Rapor());
+        PencereKapandı();
+    });
+    m_önizle = DüğmeOluştur(QStringLiteral("ÖnizlemeButonu"), 2301, [this] {
+        Önizle(*this, Rapor());
+        PencereKapandı();
+    });
+    m_düğmeler = new QHBoxLayout;
+    for (KomutDüğmesi* düğme : {m_yazdır, m_pdfKaydet, m_önizle}) m_düğmeler->addWidget(düğme);
+    m_düğmeler->addStretch();
+    m_düğmeler->addWidget(DüğmeOluştur(QStringLiteral("KapatButonu"), 510, [this] { reject(); }));
+}
+
+void RaporFormu::BaşaDüğmeKoy(const QString& ad, int metin, std::function<void()> komut) {
+    KomutDüğmesi* düğme = DüğmeOluştur(ad, metin, std::move(komut));
+    m_düğmeler->insertWidget(0, düğme);
+    setTabOrder(m_liste, düğme);
+}
+
+KomutDüğmesi* RaporFormu::DüğmeOluştur(const QString& ad, int metin, std::function<void()> komut) {
+    auto* düğme = new KomutDüğmesi(Metin(metin), this);
+    düğme->setObjectName(ad);
+    connect(düğme, &QPushButton::clicked, this, [komut = std::move(komut)] { HataYakala(komut); });
+    return düğme;
+}
+
+void RaporFormu::SatırlarıGöster(const QList<QTreeWidgetItem*>& satırlar) {
+    m_liste->SatırlarıKoy(satırlar);
+    EtkinliğiAyarla();
+}
+
+void RaporFormu::EtkinliğiAyarla() {
+    const bool dolu = !m_liste->Boş();
+    m_çerçeve->setEnabled(dolu);
+    for (KomutDüğmesi* düğme : {m_yazdır, m_pdfKaydet, m_önizle}) düğme->setEnabled(dolu);
+}
+
+QList<QStringList> RaporFormu::ListeMetinleri() const {
+    QList<QStringList> metinler;
+    metinler.reserve(m_liste->topLevelItemCount());
+    for (int i = 0; i < m_liste->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem* satır = m_liste->topLevelItem(i);
+        QStringList hücreler;
+        for (int sütun = 0; sütun < m_liste->columnCount(); ++sütun) hücreler.append(satır->text(sütun));
+        metinler.append(hücreler);
+    }
+    return metinler;
+}
+
+Yazdırılacak RaporFormu::Rapor() const {
+    const QString başlık = RaporBaşlığı();
+    return {başlık,
+            [yaz = m_yaz, başlık, satırlar = ListeMetinleri()](SayfaYüzeyi& yüzey) { yaz(yüzey, başlık, satırlar); }};
+}

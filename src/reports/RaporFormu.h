@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QDialog>
+#include <QList>
+#include <QStringList>
+#include <functional>
+
+#include "RaporListesi.h"
+#include "Yazdirma.h"
+
+class KomutDüğmesi;
+class QGroupBox;
+class QHBoxLayout;
+class QTreeWidgetItem;
+
+// What the three report forms share: a framed list that can be printed, saved as PDF and previewed as it is shown.
+class RaporFormu : public QDialog {
+  protected:
+    // Puts title and list rows on the surface.
+    using Çıktı = std::function<void(SayfaYüzeyi&, const QString&, const QList<QStringList>&)>;
+
+    struct Tanım {
+        QString Ad;  // object names
+        QString ListeAdı;
+        int Başlık;          // number of the form's caption
+        int ÇerçeveBaşlığı;  // number of the frame's caption
+        QList<RaporListesi::Sütun> Sütunlar;
+        Çıktı Yaz;
+    };
+    RaporFormu(const Tanım& tanım, QWidget* sahip);
+
+    // The printout's title.
+    virtual QString RaporBaşlığı() const { return windowTitle(); }
+    // A dialog or message box of the program that this form opened has closed.
+    virtual void PencereKapandı() {}
+
+    // Replaces the list's rows. An empty list can be neither used nor printed.
+    void SatırlarıGöster(const QList<QTreeWidgetItem*>& satırlar);
+
+    // A button that runs a command, put at the front of the form's row of buttons.
+    void BaşaDüğmeKoy(const QString& ad, int metin, std::function<void()> komut);
+
+    RaporListesi& Liste() const { return *m_liste; }
+    QGroupBox& Çerçeve() const { return *m_çerçeve; }
+
+  private:
+    KomutDüğmesi* DüğmeOluştur(const QString& ad, int metin, std::function<void()> komut);
+    void DüğmeleriKur();
+    void EtkinliğiAyarla();
+    QList<QStringList> ListeMetinleri() const;
+    Yazdırılacak Rapor() const;
+
+    Çıktı m_yaz;
+    RaporListesi* m_liste;
+    QGroupBox* m_çerçeve;
+    QHBoxLayout* m_düğmeler;
+    KomutDüğmesi* m_yazdır;
+    KomutDüğmesi* m_pdfKaydet;
+    KomutDüğmesi* m_önizle;
+};

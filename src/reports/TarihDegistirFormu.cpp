@@ -1,0 +1,91 @@
+#include "TarihDegistirFormu.h"
+
+#include <QCalendarWidget>
+#include <QDateEdit>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QVBoxLayout>
+
+#include "DegiskenModulu.h"
+#include "KomutDugmesi.h"
+#include "MetinTablosu.h"
+#include "OrtakFonksiyonlarModulu.h"
+
+namespace {
+
+KomutDüğmesi* DüğmeOluştur(const QString& ad, int metin) {
+    auto* düğme = new KomutDüğmesi(Metin(metin));
+    düğme->setObjectName(ad);
+    return düğme;
+}
+
+}  // namespace
+
+TarihDeğiştirFormu::TarihDeğiştirFormu(QWidget* sahip) : QDialog(sahip) {
+    setObjectName(QStringLiteral("TarihDeğiştirFormu"));
+    setWindowTitle(Metin(894));
+    auto* altlık = new QWidget;
+    altlık->setObjectName(QStringLiteral("Altlık"));
+    altlık->setBackgroundRole(QPalette::Window);
+    altlık->setAutoFillBackground(true);
+    auto* düzen = new QVBoxLayout(this);
+    düzen->setContentsMargins(0, 0, 0, 0);
+    düzen->addWidget(altlık);
+
+    KomutDüğmesi* tamam = DüğmeOluştur(QStringLiteral("TamamButonu"), 505);
+    KomutDüğmesi* iptal = DüğmeOluştur(QStringLiteral("İptalButonu"), 530);
+    connect(tamam, &QPushButton::clicked, this, [this] { accept(); });
+    connect(iptal, &QPushButton::clicked, this, [this] { reject(); });
+    auto* düğmeler = new QHBoxLayout;
+    düğmeler->addStretch();
+    düğmeler->addWidget(tamam);
+    düğmeler->addWidget(iptal);
+    auto* içDüzen = new QVBoxLayout(altlık);
+    içDüzen->addWidget(ÇerçeveOluştur());
+    içDüzen->addLayout(düğmeler);
+    m_tarih->setFocus();
+}
+
+QWidget* TarihDeğiştirFormu::ÇerçeveOluştur() {
+    auto* çerçeve = new QFrame;
+    çerçeve->setObjectName(QStringLiteral("Çerçeve"));
+    çerçeve->setFrameShape(QFrame::StyledPanel);
+    auto* etiket = new QLabel(Metin(896));
+    etiket->setObjectName(QStringLiteral("Etiket"));
+
+    // Days and months read Turkish whatever the system's language.
+    const QLocale türkçe(QLocale::Turkish, QLocale::Turkey);
+    m_tarih = new QDateEdit;
+    m_tarih->setObjectName(QStringLiteral("TarihKutusu"));
+    m_tarih->setAccessibleName(Metin(896));
+    m_tarih->setLocale(türkçe);
+    m_tarih->setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
+    m_tarih->setCalendarPopup(true);
+    m_tarih->calendarWidget()->setLocale(türkçe);
+    m_tarih->calendarWidget()->setFirstDayOfWeek(Qt::Monday);
+    m_tarih->setDate(HareketTarihi);
+    etiket->setBuddy(m_tarih);
+
+    auto* düzen = new QHBoxLayout(çerçeve);
+    düzen->addWidget(etiket);
+    düzen->addWidget(m_tarih, 1);
+    return çerçeve;
+}
+
+void TarihDeğiştirFormu::accept() {
+    const QDate seçilen = m_tarih->date();
+    if (seçilen == HareketTarihi) {
+        HareketTarihiSQL.clear();
+    } else {
+        HareketTarihi = seçilen;
+        HareketTarihiSQL = TarihDeğişmezi(seçilen);
+    }
+    QDialog::accept();
+}
+
+void TarihDeğiştirFormu::reject() {
+    HareketTarihiSQL.clear();
+    QDialog::reject();
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QDialog>
+
+class QDateEdit;
+
+// Asks for the day of the movements. Another day goes into HareketTarihi and HareketTarihiSQL; the same day, İptal, Esc
+// and the close box leave HareketTarihiSQL empty: nothing to load.
+class TarihDeğiştirFormu : public QDialog {
+  public:
+    explicit TarihDeğiştirFormu(QWidget* sahip = nullptr);
+
+    void accept() override;
+    void reject() override;
+
+  private:
+    QWidget* ÇerçeveOluştur();
+
+    QDateEdit* m_tarih;
+};

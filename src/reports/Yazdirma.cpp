@@ -1,0 +1,181 @@
+#include "Yazdirma.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPageLayout>
+#include <QPdfWriter>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QSaveFile>
+#include <QStandardPaths>
+#include <memory>
+#include <utility>
+
+#include "AygitYuzeyi.h"
+#include "DegiskenModulu.h"
+#include "MesajKutusu.h"
+#include "MetinTablosu.h"
+
+using MesajKutusu::Düğmeler;
+using MesajKutusu::Simge;
+using MesajKutusu::Yanıt;
+
+namespace {
+
+constexpr int PdfÇözünürlüğü = 1200;  // dots per inch
+constexpr qsizetype EnUzunDosyaAdı = 100;
+
+std::function<void(const Yazdırılacak&)> YazıcıYerine;
+
+// What a running printout changes on its form, put back at the end.
+class YazdırmaDurumu {
+  public:
+    YazdırmaDurumu(QWidget& form, QAbstractButton& düğme)
+        : m_form(form), m_düğme(düğme), m_odaktaydı(düğme.hasFocus()) {
+        m_düğme.setEnabled(false);
+        m_form.setCursor(Qt::WaitCursor);
+    }
+    YazdırmaDurumu(const YazdırmaDurumu&) = delete;
+    YazdırmaDurumu& operator=(const YazdırmaDurumu&) = delete;
+    ~YazdırmaDurumu() {
+        m_düğme.setEnabled(true);
+        m_form.unsetCursor();
+        if (m_odaktaydı) m_düğme.setFocus();
+    }
+
+  private:
+    QWidget& m_form;
+    QAbstractButton& m_düğme;
+    bool m_odaktaydı;
+};
+
+QPageLayout BütünA4() {
+    return {QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter};
+}
+
+// The default printer (the first one where none is marked so), with all of its printable area; null: there is none.
+std::unique_ptr<QPrinter> VarsayılanYazıcı() {
+    if (!YazıcıVar) return nullptr;
+    QPrinterInfo bilgi = QPrinterInfo::defaultPrinter();
+    if (bilgi.isNull()) {
+        const QStringList adlar = QPrinterInfo::availablePrinterNames();
+        if (adlar.isEmpty()) return nullptr;
+        bilgi = QPrinterInfo::printerInfo(adlar.constFirst());
+    }
+    auto yazıcı = std::make_unique<QPrinter>(bilgi, QPrinter::HighResolution);
+    if (yazıcı->outputFormat() != QPrinter::NativeFormat) return nullptr;
+    yazıcı->setFullPage(false);
+    QPageLayout alan = yazıcı->pageLayout();
+    alan.setMargins(alan.minimumMargins());
+    yazıcı->setPageLayout(alan);
+    return yazıcı;
+}
+
+void YazıcıdaYaz(const Yazdırılacak& iş) {
+    const std::unique_ptr<QPrinter> yazıcı = VarsayılanYazıcı();
+    if (!yazıcı) return;
+    yazıcı->setDocName(iş.Ad);
+    AygıtYüzeyi yüzey(*yazıcı);
+    iş.Yaz(yüzey);
+}
+
+// The document's name without the signs that file systems do not take.
+QString DosyaAdı(QString ad) {
+    for (QChar& harf : ad) {
+        if (harf < QLatin1Char(' ') || QStringLiteral("/\\:*?\"<>|").contains(harf)) harf = QLatin1Char('-');
+    }
+    return ad.left(EnUzunDosyaAdı).trimmed() + QStringLiteral(".pdf");
+}
+
+bool ÜzerineYazılsınMı(const QString& yol) {
+    MesajKutusuOrtala();
+    return MesajKutusu::Göster(Simge::Soru, Düğmeler::EvetHayır, Metin(2304) + QLatin1Char('\n') + yol, {},
+                               Yanıt::Hayır) == Yanıt::Evet;
+}
+
+// The file that the user chooses; empty: none.
+QString DosyaSor(QWidget& form, const QString& ad) {
+    static QString klasör = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QFileDialog kutu(&form, Metin(2302), klasör, Metin(2303));
+    kutu.setObjectName(QStringLiteral("PdfDosyasıFormu"));
+    kutu.setAcceptMode(QFileDialog::AcceptSave);
+    kutu.setDefaultSuffix(QStringLiteral("pdf"));
+    kutu.setOption(QFileDialog::DontConfirmOverwrite);
+    kutu.selectFile(DosyaAdı(ad));
+    while (kutu.exec() == QDialog::Accepted) {
+        const QString yol = kutu.selectedFiles().value(0);
+        if (QFileInfo::exists(yol) && !ÜzerineYazılsınMı(yol)) continue;
+        klasör = QFileInfo(yol).absolutePath();
+        return yol;
+    }
+    return {};
+}
+
+}  // namespace
+
+bool Yazdır(QWidget& form, QAbstractButton& düğme, const Yazdırılacak& iş) {
+    if (!YazıcıVar) {
+        MesajKutusuOrtala();
+        MesajKutusu::Göster(Simge::Kritik, Düğmeler::Tamam, Metin(337));
+        return false;
+    }
+    const YazdırmaDurumu durum(form, düğme);
+    YazıcıYerine ? YazıcıYerine(iş) : YazıcıdaYaz(iş);
+    return true;
+}
+
+void PdfKaydet(QWidget& form, QAbstractButton& düğme, const Yazdırılacak& iş) {
+    const QString yol = DosyaSor(form, iş.Ad);
+    if (yol.isEmpty()) return;
+    bool yazıldı = false;
+    {
+        const YazdırmaDurumu durum(form, düğme);
+        yazıldı = PdfYaz(yol, iş);
+    }
+    if (yazıldı) return;
+    MesajKutusuOrtala();
+    MesajKutusu::Göster(Simge::Kritik, Düğmeler::Tamam, Metin(2305) + QLatin1Char('\n') + yol);
+}
+
+void Önizle(QWidget& form, const Yazdırılacak& iş) {
+    std::unique_ptr<QPrinter> yazıcı = VarsayılanYazıcı();
+    if (!yazıcı) {
+        yazıcı = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        yazıcı->setOutputFormat(QPrinter::PdfFormat);
+        yazıcı->setPageLayout(BütünA4());
+    }
+    yazıcı->setDocName(iş.Ad);
+    QPrintPreviewDialog kutu(yazıcı.get(), &form);
+    kutu.setObjectName(QStringLiteral("ÖnizlemeFormu"));
+    kutu.setWindowTitle(Metin(2306));
+    QObject::connect(&kutu, &QPrintPreviewDialog::paintRequested, &kutu, [&iş](QPrinter* sayfalar) {
+        AygıtYüzeyi yüzey(*sayfalar);
+        iş.Yaz(yüzey);
+    });
+    kutu.exec();
+}
+
+bool PdfYaz(const QString& yol, const Yazdırılacak& iş) {
+    QSaveFile dosya(yol);
+    if (!dosya.open(QIODevice::WriteOnly)) return false;
+    {
+        const std::unique_ptr<QPrinter> yazıcı = VarsayılanYazıcı();
+        QPdfWriter yazar(&dosya);
+        yazar.setResolution(PdfÇözünürlüğü);
+        yazar.setTitle(iş.Ad);
+        yazar.setCreator(UygulamaBaşlığı);
+        yazar.setPageLayout(yazıcı ? yazıcı->pageLayout() : BütünA4());
+        AygıtYüzeyi yüzey(yazar);
+        iş.Yaz(yüzey);
+    }
+    // Nothing written means that the document could not begin. What still stands in the buffer is written first, as
+    // commit alone would not notice that it does not fit on the disk.
+    return dosya.pos() > 0 && dosya.flush() && dosya.commit();
+}
+
+void YazıcıyıAyarla(std::function<void(const Yazdırılacak&)> yazıcı) {
+    YazıcıYerine = std::move(yazıcı);
+}
