@@ -7,10 +7,11 @@ set -euo pipefail
 . "$(dirname "$0")/ortak.sh"
 
 paketler=(build-essential cmake ninja-build pkg-config qt6-base-dev libqt6gui6 libgl-dev libodbc2 libodbcinst2
-    unixodbc-dev libsqlite3-dev libgtest-dev libbenchmark-dev libsqliteodbc fonts-dejavu-core)
+    unixodbc-dev libsqlite3-dev libgtest-dev libbenchmark-dev libsqliteodbc fonts-dejavu-core
+    fonts-liberation qt6-translations-l10n)
 for kume in "$@"; do
     case $kume in
-        test) paketler+=(xvfb xauth locales) ;;
+        test) paketler+=(xvfb xauth locales cups-daemon cups-client poppler-utils) ;;
         bicim) paketler+=(clang-format git) ;;
         *) vazgec "kur.sh: unknown set '$kume' (test, bicim)" ;;
     esac
