@@ -6,12 +6,17 @@
 #include "AnaForm.h"
 #include "BaslatModulu.h"
 #include "KapanisModulu.h"
+#include "Simge.h"
 #include "SurumKaydi.h"
 #include "TekKopya.h"
+#include "Yardim.h"
 
 int main(int argc, char** argv) {
     QApplication uygulama(argc, argv);
     QApplication::setApplicationName(Sürüm().ÜrünAdı);
+    QApplication::setWindowIcon(ProgramSimgesi());
+    QApplication::setDesktopFileName(QStringLiteral("varnek"));
+    const YardımTuşu yardım(nullptr);
     // A message box of the start is not the last window.
     QApplication::setQuitOnLastWindowClosed(false);
 

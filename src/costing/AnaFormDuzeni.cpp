@@ -16,6 +16,8 @@
 #include "DegiskenModulu.h"
 #include "Denetimler.h"
 #include "EkranKonumu.h"
+#include "HakkindaFormu.h"
+#include "HataBildirmeFormu.h"
 #include "KomutDugmesi.h"
 #include "KullanilanMalzemeler.h"
 #include "MaliyetAlani.h"
@@ -24,6 +26,7 @@
 #include "OyukCizgi.h"
 #include "Saat.h"
 #include "UrunAgaci.h"
+#include "Yardim.h"
 
 namespace {
 
@@ -205,6 +208,9 @@ void AnaForm::KomutlarıKur() {
     m_komutlar.Tanımla(Komut::MalzemeEkleSil, [this] { MalzemeEkleSil(); });
     m_komutlar.Tanımla(Komut::ListeyeMalzemeEkle, [this] { ListeyeMalzemeEkle(); });
     m_komutlar.Tanımla(Komut::MiktarlarıGöster, [this] { MiktarlarıGöster(); });
+    m_komutlar.Tanımla(Komut::İçindekiler, [this] { YardımıAç(this); });
+    m_komutlar.Tanımla(Komut::HataBildirme, [this] { HataBildirmeFormu(this).exec(); });
+    m_komutlar.Tanımla(Komut::Hakkında, [this] { HakkındaFormu(this).exec(); });
     m_komutlar.Tanımla(Komut::ListedenMalzemeSil, [this] { ListedenMalzemeSil(); });
     m_komutlar.Tanımla(Komut::DeğişiklikleriKaydet, [this] { DeğişiklikleriKaydet(); });
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QPointer>
 
 #include "Ayarlar.h"
@@ -40,14 +41,21 @@ bool WindowsSürümünüDenetle(const BaşlatmaBağları& bağlar) {
 
 // The driver that lies beside the program is the one to be found, whatever else is set up for the user; the driver
 // manager looks here at the first call.
-void SürücüyüTanıt() {
-    if (!DosyaVar(UygulamaYolu + QStringLiteral("odbcinst.ini"))) return;
-    qputenv("ODBCSYSINI", QFile::encodeName(UygulamaYolu));
+void SürücüyüTanıt(const QString& programKlasörü) {
+    const QString klasör = SondaTersBöluYap(programKlasörü);
+    if (!DosyaVar(klasör + QStringLiteral("odbcinst.ini"))) return;
+    qputenv("ODBCSYSINI", QFile::encodeName(klasör));
     qunsetenv("ODBCINSTINI");
 }
 
+// Where the user cannot write to the program's folder, its launcher names a folder for the data file.
+QString VeriKlasörü(const QString& programKlasörü) {
+    const QString seçilen = QFile::decodeName(qgetenv("VARNEK_VERI_KLASORU"));
+    return SondaTersBöluYap(seçilen.isEmpty() ? programKlasörü : QFileInfo(seçilen).absoluteFilePath());
+}
+
 void PaylaşılanlarıKur(const QString& programKlasörü) {
-    UygulamaYolu = SondaTersBöluYap(programKlasörü);
+    UygulamaYolu = VeriKlasörü(programKlasörü);
     EtkinEtiketRengi = 0x00C00000;
     AyarUygulamaAdı = Sürüm().ŞirketAdı + QLatin1Char('\\') + Sürüm().ÜrünAdı;
     OndalıkBasamak = KayıtlıOndalık();
@@ -69,7 +77,7 @@ BaşlatmaSonucu Main(TekKopya& kopya, const BaşlatmaBağları& bağlar) {
     QCoreApplication::processEvents();
     if (!WindowsSürümünüDenetle(bağlar)) return BaşlatmaSonucu::Başlayamadı;
     PaylaşılanlarıKur(bağlar.ProgramKlasörü);
-    SürücüyüTanıt();
+    SürücüyüTanıt(bağlar.ProgramKlasörü);
     if (!VeritabanınıHazırla()) return BaşlatmaSonucu::Başlayamadı;
     QCoreApplication::processEvents();
     bağlar.AnaFormuYükle([form = QPointer<QWidget>(&karşılama)] {

@@ -9,7 +9,9 @@ class TekKopya;
 
 // What the start routine takes from outside.
 struct BaşlatmaBağları {
-    QString ProgramKlasörü;                                                     // where the program's file lies
+    // Where the program's file and the driver lie, and the data file too unless VARNEK_VERI_KLASORU names another
+    // folder.
+    QString ProgramKlasörü;
     std::function<void(std::function<void()> karşılamayıKapat)> AnaFormuYükle;  // shows the main form
     std::function<int()> EkranGenişliğiAl = EkranGenişliği;                     // pixels
     std::function<bool(SistemSürümü&)> SürümAl = SistemSürümünüAl;

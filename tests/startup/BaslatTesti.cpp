@@ -101,6 +101,18 @@ TEST_F(BaşlatTesti, SırasıylaHazırlayıpAnaFormuYükler) {
     EXPECT_TRUE(SorguÇalıştır());
 }
 
+TEST_F(BaşlatTesti, VeriDosyasıBaşlatıcınınVerdiğiKlasördeOlabilir) {
+    const QString klasör = KullanıcıKlasörü() + QStringLiteral("Tovrek/Varnek/");
+    ASSERT_TRUE(QDir().mkpath(klasör));
+    VeriDosyasıOluştur(klasör + QStringLiteral("Varnek.vtb"));
+    qputenv("VARNEK_VERI_KLASORU", QFile::encodeName(klasör.chopped(1)));
+    const BaşlatmaSonucu sonuç = Başlat();
+    qunsetenv("VARNEK_VERI_KLASORU");
+    EXPECT_EQ(sonuç, BaşlatmaSonucu::Başladı);
+    EXPECT_EQ(UygulamaYolu, klasör);
+    EXPECT_TRUE(QDir(ProgramKlasörü()).isEmpty());
+}
+
 TEST_F(BaşlatTesti, DenetimdenGeçmeyenBaşlangıçHiçbirŞeyYazmaz) {
     VeriDosyasıOluştur(VeriDosyası());
     const QStringList önce = Dosyalar();

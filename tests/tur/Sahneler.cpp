@@ -54,6 +54,18 @@ void MenüSahnesi(Tur& tur, QWidget& anaForm, const QString& menü, const QStrin
     Tur::Bekle(u"closed: "_s + menü, [&] { return !açılan.isVisible(); });
 }
 
+// A form of the help menu, opened from there.
+Sahne YardımSahnesi(const QString& giriş, const QString& resim) {
+    return {resim, [=](Tur& tur, QWidget& anaForm) {
+                Tur::ÖneGetir(anaForm);
+                Tur::Kipli([&] { Tur::Bul<QAction>(anaForm, giriş).trigger(); },
+                           [&](QWidget& form) {
+                               tur.Çek(resim, form);
+                               Tur::Tıkla(Tur::Bul<QPushButton>(form, u"TamamButonu"_s));
+                           });
+            }};
+}
+
 void YüzdeDüzenleme(Tur& tur, QWidget& anaForm) {
     Seç(anaForm, u"Çalışma Masası"_s);
     auto& kutu = Tur::Bul<QLineEdit>(anaForm, u"İşçilikYüzdesiKutusu"_s);
@@ -125,6 +137,8 @@ std::vector<Sahne> Sahneler() {
          [](Tur& tur, QWidget& anaForm) { MenüSahnesi(tur, anaForm, u"ProgramMenüsü"_s, u"program-menusu"_s); }},
         {u"yardim-menusu"_s,
          [](Tur& tur, QWidget& anaForm) { MenüSahnesi(tur, anaForm, u"YardımMenüsü"_s, u"yardim-menusu"_s); }},
+        YardımSahnesi(u"HakkındaMenüsü"_s, u"hakkinda"_s),
+        YardımSahnesi(u"HataBildirmeMenüsü"_s, u"hata-bildirme"_s),
         {u"kucuk-ekran"_s, KüçükEkran},
         {u"yukleme"_s, Yükleme},
         {u"cikis-sorusu"_s, ÇıkışSorusu},

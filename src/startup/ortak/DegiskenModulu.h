@@ -7,9 +7,9 @@
 
 // Shared variables that live for the whole run. The start routine sets them.
 
-inline QString UygulamaBaşlığı;                      // "Tovrek - Varnek 2.24"
-inline QString UygulamaYolu;                         // the program's folder, ends in the path separator
-inline QString AyarUygulamaAdı;                      // "Tovrek\Varnek"
+inline QString UygulamaBaşlığı;  // "Tovrek - Varnek 2.24"
+inline QString UygulamaYolu;     // the data file's folder (the program's), ends in the path separator
+inline QString AyarUygulamaAdı;  // "Tovrek\Varnek"
 inline std::uint32_t EtkinEtiketRengi = 0x00C00000;  // caption colour of the focused box, 0x00BBGGRR
 inline std::int32_t OndalıkBasamak = 2;              // decimal places shown in amounts, 1 to 6
 inline bool YazıcıVar = false;                       // at least one printer is installed

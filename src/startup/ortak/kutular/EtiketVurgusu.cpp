@@ -5,6 +5,7 @@
 
 #include "DegiskenModulu.h"
 #include "OdakIzleyici.h"
+#include "Renk.h"
 
 namespace {
 
@@ -19,10 +20,6 @@ QString KısayolsuzMetin(const QString& metin) {
 
 }  // namespace
 
-QColor BgrRenk(std::uint32_t bgr) {
-    return QColor(bgr & 0xFF, bgr >> 8 & 0xFF, bgr >> 16 & 0xFF);
-}
-
 void EtiketEşle(QLabel* etiket, QWidget* kutu) {
     etiket->setBuddy(kutu);
     kutu->setAccessibleName(KısayolsuzMetin(etiket->text()));
@@ -33,7 +30,7 @@ void EtiketEşle(QLabel* etiket, QWidget* kutu) {
         [hedef](Qt::FocusReason) {
             if (!hedef) return;
             QPalette renkler = hedef->palette();
-            renkler.setColor(QPalette::WindowText, BgrRenk(EtkinEtiketRengi));
+            renkler.setColor(QPalette::WindowText, YazıRengi(EtkinEtiketRengi, renkler));
             hedef->setPalette(renkler);
         },
         [hedef](Odakİzleyici::Çıkış) {

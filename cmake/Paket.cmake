@@ -1,0 +1,50 @@
+# What is installed, in two layouts:
+#   tasinabilir  one folder with everything in it, the libraries and an empty data file included: unpack and start
+#   sistem       the Debian package: program folder /usr/lib/varnek, launcher, menu entry, icon, guide
+# Made by scripts/package.sh.
+set(simge_klasoru "${CMAKE_SOURCE_DIR}/src/resources/simge")
+set(kilavuz_klasoru "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/kilavuz")
+
+set_target_properties(Varnek varnek-veri PROPERTIES INSTALL_RPATH "$ORIGIN:$ORIGIN/kitaplik")
+
+install(TARGETS Varnek varnek-veri varnek-motor RUNTIME DESTINATION . LIBRARY DESTINATION . COMPONENT tasinabilir)
+install(FILES "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/odbcinst.ini" paket/qt.conf paket/BENIOKU.txt
+    "${simge_klasoru}/varnek.svg" DESTINATION . COMPONENT tasinabilir)
+install(DIRECTORY "${kilavuz_klasoru}" DESTINATION . COMPONENT tasinabilir)
+get_target_property(qmake Qt6::qmake IMPORTED_LOCATION)
+execute_process(COMMAND "${qmake}" -query QT_INSTALL_PLUGINS OUTPUT_VARIABLE qt_eklentileri
+    OUTPUT_STRIP_TRAILING_WHITESPACE)
+install(CODE "set(QT_EKLENTILERI \"${qt_eklentileri}\")" COMPONENT tasinabilir)
+install(SCRIPT cmake/Kitapliklar.cmake COMPONENT tasinabilir)
+
+install(TARGETS Varnek varnek-veri varnek-motor RUNTIME DESTINATION lib/varnek LIBRARY DESTINATION lib/varnek
+    COMPONENT sistem)
+install(FILES "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/odbcinst.ini" DESTINATION lib/varnek COMPONENT sistem)
+install(DIRECTORY "${kilavuz_klasoru}" DESTINATION share/varnek COMPONENT sistem)
+install(PROGRAMS paket/varnek.sh DESTINATION bin RENAME varnek COMPONENT sistem)
+install(FILES paket/varnek.desktop DESTINATION share/applications COMPONENT sistem)
+install(FILES paket/copyright CHANGELOG.md DESTINATION share/doc/varnek COMPONENT sistem)
+install(FILES "${simge_klasoru}/varnek.svg" DESTINATION share/icons/hicolor/scalable/apps COMPONENT sistem)
+foreach(boy 16 24 32 48 64 128 256)
+    install(FILES "${simge_klasoru}/varnek-${boy}.png" DESTINATION share/icons/hicolor/${boy}x${boy}/apps
+        RENAME varnek.png COMPONENT sistem)
+endforeach()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_COMPONENTS_ALL sistem)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_PACKAGE_VENDOR Tovrek)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_SISTEM_PACKAGE_NAME varnek)
+set(CPACK_DEBIAN_SISTEM_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1 CACHE STRING "The Debian package's revision")
+set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Tovrek <destek@tovrek.example>")
+set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://www.tovrek.example")
+set(CPACK_DEBIAN_PACKAGE_SECTION misc)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils, cups")
+set(CPACK_COMPONENT_SISTEM_DESCRIPTION "Cost calculator for small manufacturers (Turkish)
+ Keeps materials with their prices and products with the materials they use, and
+ works out each product's cost with labour, profit and other percentages.")
+include(CPack)
