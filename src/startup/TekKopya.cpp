@@ -13,6 +13,7 @@ namespace {
 // How long the first copy may take from its lock to its socket, or from its socket's end to its own (milliseconds).
 constexpr int EN_UZUN_BEKLEME = 10000;
 constexpr int BAĞLANMA_SÜRESİ = 1000;
+constexpr int YANIT_SÜRESİ = 3000;
 constexpr int ARA = 20;
 
 // The path of lock and socket, without their endings.
@@ -22,11 +23,14 @@ QString OrtakYol(const QString& başlık) {
     return klasör + QLatin1Char('/') + başlık + QLatin1Char('-') + KullanıcıKimliği();
 }
 
-// The connection alone is the request. It waits in the first copy's queue while that one is busy.
+// False: there is no copy to ask, or it went away over the asking. A copy that does not answer in time is busy; the
+// request waits in its queue.
 bool ÖneÇağır(const QString& yol) {
     QLocalSocket soket;
     soket.connectToServer(yol);
-    return soket.waitForConnected(BAĞLANMA_SÜRESİ);
+    if (!soket.waitForConnected(BAĞLANMA_SÜRESİ)) return false;
+    if (soket.waitForReadyRead(YANIT_SÜRESİ)) return true;
+    return soket.state() == QLocalSocket::ConnectedState;
 }
 
 }  // namespace
@@ -36,7 +40,9 @@ bool TekKopya::Başla(const QString& başlık) {
     QElapsedTimer geçen;
     geçen.start();
     do {
-        if (m_kilit.Al(yol + QStringLiteral(".kilit"))) {
+        const DosyaKilidi::Sonuç kilit = m_kilit.Al(yol + QStringLiteral(".kilit"));
+        if (kilit == DosyaKilidi::Sonuç::Yapılamadı) return true;
+        if (kilit == DosyaKilidi::Sonuç::Alındı) {
             Dinle(yol + QStringLiteral(".soket"));
             return true;
         }
@@ -51,7 +57,12 @@ void TekKopya::Dinle(const QString& yol) {
     QLocalServer::removeServer(yol);
     m_sunucu.setSocketOptions(QLocalServer::UserAccessOption);
     QObject::connect(&m_sunucu, &QLocalServer::newConnection, &m_sunucu, [this] {
-        while (QLocalSocket* soket = m_sunucu.nextPendingConnection()) soket->deleteLater();
+        while (QLocalSocket* soket = m_sunucu.nextPendingConnection()) {
+            QObject::connect(soket, &QLocalSocket::disconnected, soket, &QObject::deleteLater);
+            soket->write("1");
+            soket->flush();
+            soket->disconnectFromServer();
+        }
         PencereleriÖneGetir();
     });
     // Without a socket later copies still find the lock taken.

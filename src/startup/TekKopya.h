@@ -11,8 +11,8 @@
 // copies. Both bear the program's title with its version, and the user.
 class TekKopya {
   public:
-    // True: this is the only copy, and stays it for the object's life. False: another one runs and has been asked to
-    // come to the front.
+    // True: this is the only copy, and stays it for the object's life; also where no lock can be made, as that must not
+    // keep the user from his data. False: another one runs and has been asked to come to the front.
     bool Başla(const QString& başlık);
 
   private:

@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QDir>
+#include <QFile>
 #include <csignal>
 #include <memory>
 
@@ -17,6 +19,12 @@ class TekKopyaTesti : public VarnekTesti {
   protected:
     void SetUp() override { VeriDosyasıOluştur(VeriDosyası()); }
     QStringList Başla() const { return {QStringLiteral("basla"), ProgramKlasörü()}; }
+    // Where the lock and the socket of this user and version lie.
+    static QString Yol(const char* ek) {
+        return QStringLiteral("%1/%2-%3")
+                   .arg(qEnvironmentVariable("XDG_RUNTIME_DIR"), Sürüm().Başlık(), KullanıcıKimliği()) +
+               QLatin1String(ek);
+    }
 };
 
 TEST_F(TekKopyaTesti, İkinciBaşlatmaPencereleriÖneGetirir) {
@@ -57,6 +65,35 @@ TEST_F(TekKopyaTesti, ÖldürülenKopyaYoluKapatmaz) {
     ASSERT_TRUE(asılı.BaşladıMı());
     ::kill(static_cast<pid_t>(asılı.Süreç().processId()), SIGSTOP);
     EXPECT_EQ(ÇocukSüreci(Başla()).Sonuç(), ÇocukSüreci::BAŞKA_KOPYA);
+}
+
+TEST_F(TekKopyaTesti, SorulurkenBitenKopyaYoluAçar) {
+    auto kilit = std::make_unique<DosyaKilidi>();
+    ASSERT_EQ(kilit->Al(Yol(".kilit")), DosyaKilidi::Sonuç::Alındı);
+    QLocalServer sunucu;
+    ASSERT_TRUE(sunucu.listen(Yol(".soket")));
+    ÇocukSüreci soran(Başla());
+    ASSERT_TRUE(Bekle([&sunucu] { return sunucu.hasPendingConnections(); }));
+    kilit.reset();
+    sunucu.close();
+    EXPECT_TRUE(soran.BaşladıMı());
+}
+
+TEST_F(TekKopyaTesti, KilitYapılamıyorsaYineBaşlar) {
+    ASSERT_TRUE(QDir().mkpath(Yol(".kilit")));
+    EXPECT_TRUE(ÇocukSüreci(Başla()).BaşladıMı());
+}
+
+TEST_F(TekKopyaTesti, KendiSürücüsünüBulur) {
+    // What the user's surroundings say about drivers does not count.
+    ASSERT_TRUE(
+        QFile::copy(QStringLiteral(VARNEK_BIN "/odbcinst.ini"), ProgramKlasörü() + QStringLiteral("odbcinst.ini")));
+    qputenv("ODBCSYSINI", "/yok");
+    qputenv("ODBCINSTINI", "yok.ini");
+    ÇocukSüreci kopya(Başla());
+    qputenv("ODBCSYSINI", VARNEK_BIN);
+    qunsetenv("ODBCINSTINI");
+    EXPECT_TRUE(kopya.BaşladıMı()) << kopya.Kutular().toStdString();
 }
 
 TEST_F(TekKopyaTesti, AynıAndaBaşlayanlardanBiriÇalışır) {

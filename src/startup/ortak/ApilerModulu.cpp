@@ -124,16 +124,17 @@ DosyaKilidi::~DosyaKilidi() {
     if (m_no >= 0) ::close(m_no);
 }
 
-bool DosyaKilidi::Al(const QString& yol) {
-    if (m_no >= 0) return true;
+DosyaKilidi::Sonuç DosyaKilidi::Al(const QString& yol) {
+    if (m_no >= 0) return Sonuç::Alındı;
     const int no = ::open(QFile::encodeName(yol).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-    if (no < 0) return false;
+    if (no < 0) return Sonuç::Yapılamadı;
     if (::flock(no, LOCK_EX | LOCK_NB) != 0) {
+        const bool başkasında = errno == EWOULDBLOCK;
         ::close(no);
-        return false;
+        return başkasında ? Sonuç::Başkasında : Sonuç::Yapılamadı;
     }
     m_no = no;
-    return true;
+    return Sonuç::Alındı;
 }
 
 QString KullanıcıKimliği() {

@@ -23,8 +23,9 @@ class DosyaKilidi {
     DosyaKilidi(const DosyaKilidi&) = delete;
     DosyaKilidi& operator=(const DosyaKilidi&) = delete;
     ~DosyaKilidi();
-    // False: another process holds it, or the file cannot be made. Asked again after true, it stays true.
-    bool Al(const QString& yol);
+    enum class Sonuç { Alındı, Başkasında, Yapılamadı };
+    // Yapılamadı: the file cannot be made or locked here at all. Asked for again once it is held, it stays held.
+    Sonuç Al(const QString& yol);
 
   private:
     int m_no = -1;
