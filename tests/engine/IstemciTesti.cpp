@@ -1,0 +1,197 @@
+#include <odbcinst.h>
+
+#include <cstring>
+
+#include "MotorTesti.h"
+
+// What an ODBC client sees beyond rows: lengths, truncation, diagnostics, descriptions, transactions.
+
+TEST_F(MotorTesti, UzunDeğerParçaParçaOkunur) {
+    Bağ bağ(m_dosya);
+    const std::string ad = "a" + Tekrar("ş", 100);  // 201 bytes
+    ASSERT_EQ(bağ.Çalıştır(MalzemeEkle(ad, "1")).Kod, SQL_SUCCESS);
+    Deyim deyim(bağ.Bağlantı);
+    ASSERT_EQ(deyim.Çalıştır(HerMalzeme), SQL_SUCCESS);
+    ASSERT_EQ(SQLFetch(deyim.Tanıtıcı), SQL_SUCCESS);
+
+    std::string okunan;
+    char tampon[101];
+    SQLLEN uzunluk = 0;
+    SQLRETURN kod = SQL_SUCCESS_WITH_INFO;
+    std::vector<SQLLEN> kalanlar;
+    while (kod == SQL_SUCCESS_WITH_INFO) {
+        std::memset(tampon, '!', sizeof tampon);
+        kod = SQLGetData(deyim.Tanıtıcı, 1, SQL_C_CHAR, tampon, 101, &uzunluk);
+        kalanlar.push_back(uzunluk);
+        okunan += tampon;
+        if (kod != SQL_SUCCESS_WITH_INFO) continue;
+        SQLCHAR durum[6] = "";
+        EXPECT_EQ(SQLError(nullptr, nullptr, deyim.Tanıtıcı, durum, nullptr, nullptr, 0, nullptr), SQL_SUCCESS);
+        EXPECT_STREQ(reinterpret_cast<char*>(durum), "01004");
+    }
+    EXPECT_EQ(kod, SQL_SUCCESS);
+    EXPECT_EQ(okunan, ad);
+    // The buffer would end within a letter, which goes over to the next piece.
+    EXPECT_EQ(kalanlar, (std::vector<SQLLEN>{201, 102, 2}));
+    EXPECT_EQ(SQLGetData(deyim.Tanıtıcı, 1, SQL_C_CHAR, tampon, 101, &uzunluk), SQL_NO_DATA);
+
+    // Exactly enough room, then too little for even one letter: the reading still comes to an end.
+    EXPECT_EQ(SQLGetData(deyim.Tanıtıcı, 2, SQL_C_CHAR, tampon, 2, &uzunluk), SQL_SUCCESS);
+    EXPECT_STREQ(tampon, "1");
+    int okuma = 0;
+    while (SQLGetData(deyim.Tanıtıcı, 1, SQL_C_CHAR, tampon, 2, &uzunluk) == SQL_SUCCESS_WITH_INFO) ++okuma;
+    EXPECT_EQ(okuma, 200);
+    EXPECT_EQ(SQLGetData(deyim.Tanıtıcı, 3, SQL_C_CHAR, tampon, 2, &uzunluk), SQL_ERROR);
+    EXPECT_EQ(SQLGetData(deyim.Tanıtıcı, 1, SQL_C_DOUBLE, tampon, 8, &uzunluk), SQL_ERROR);
+    EXPECT_EQ(SQLFetch(deyim.Tanıtıcı), SQL_NO_DATA);
+    EXPECT_EQ(SQLFetch(deyim.Tanıtıcı), SQL_NO_DATA);
+}
+
+TEST_F(MotorTesti, Tanılar) {
+    Bağ bağ(m_dosya);
+    Deyim deyim(bağ.Bağlantı);
+    EXPECT_EQ(deyim.Çalıştır("SELECT Ölçü FROM X"), SQL_ERROR);
+    SQLCHAR durum[6] = "";
+    SQLCHAR mesaj[256] = "";
+    SQLINTEGER yerel = -1;
+    SQLSMALLINT uzunluk = 0;
+    const auto hata = [&](SQLSMALLINT boy) {
+        return SQLError(nullptr, nullptr, deyim.Tanıtıcı, durum, &yerel, mesaj, boy, &uzunluk);
+    };
+    EXPECT_EQ(hata(20), SQL_SUCCESS_WITH_INFO);  // cut, and taken off the list all the same
+    EXPECT_STREQ(reinterpret_cast<char*>(durum), "37000");
+    EXPECT_GT(uzunluk, 20);
+    EXPECT_EQ(hata(256), SQL_NO_DATA);
+
+    EXPECT_EQ(deyim.Çalıştır("SELECT X FROM Y"), SQL_ERROR);
+    EXPECT_EQ(hata(256), SQL_SUCCESS);
+    EXPECT_STREQ(reinterpret_cast<char*>(mesaj), "Y adında bir tablo yok.");
+    EXPECT_EQ(uzunluk, static_cast<SQLSMALLINT>(std::strlen("Y adında bir tablo yok.")));
+    EXPECT_EQ(yerel, 0);
+
+    // A long message fits the usual buffer.
+    EXPECT_EQ(
+        deyim.Çalıştır("UPDATE MalzemeTablosu SET MalzemeFiyati= '" + Tekrar("ş", 250) + "' WHERE MalzemeAdi= 'x'"),
+        SQL_ERROR);
+    EXPECT_EQ(hata(256), SQL_SUCCESS);
+}
+
+TEST_F(MotorTesti, BağlantıMetni) {
+    Bağ bağ;
+    SQLCHAR çıkış[32] = "";
+    SQLSMALLINT uzunluk = 0;
+    const std::string tanım = Tanım(m_dosya);
+    auto* metin = reinterpret_cast<SQLCHAR*>(const_cast<char*>(tanım.c_str()));
+    EXPECT_EQ(SQLDriverConnect(bağ.Bağlantı, nullptr, metin, SQL_NTS, nullptr, 0, &uzunluk, SQL_DRIVER_NOPROMPT),
+              SQL_SUCCESS);
+    EXPECT_EQ(SQLDisconnect(bağ.Bağlantı), SQL_SUCCESS);
+    EXPECT_EQ(
+        SQLDriverConnect(bağ.Bağlantı, nullptr, metin, SQL_NTS, çıkış, sizeof çıkış, &uzunluk, SQL_DRIVER_NOPROMPT),
+        SQL_SUCCESS_WITH_INFO);
+    EXPECT_EQ(uzunluk, static_cast<SQLSMALLINT>(tanım.size()));
+    EXPECT_EQ(tanım.compare(0, 31, reinterpret_cast<char*>(çıkış)), 0);
+    SQLDisconnect(bağ.Bağlantı);
+
+    EXPECT_EQ(bağ.Bağlan(std::string("DRIVER={") + Sürücü + "};PWD=x").Durum, "08001");
+    const Sonuç sonuç =
+        bağ.Bağlan("DRIVER={" + std::string(Sürücü) + "}; dbq = {" + m_dosya + "} ; Pwd={" + Parola + "}");
+    EXPECT_EQ(sonuç.Kod, SQL_SUCCESS) << sonuç.Mesaj;
+}
+
+TEST_F(MotorTesti, VeriKaynağı) {
+    EXPECT_EQ(KaynakAyarla(ODBC_ADD_DSN, {"DSN=Varnek"}), std::nullopt);
+    {
+        Bağ bağ;
+        EXPECT_EQ(bağ.Bağlan("DSN=Varnek;DBQ=" + m_dosya + ";UID=Admin;PWD=" + Parola).Kod, SQL_SUCCESS);
+    }
+    EXPECT_EQ(KaynakAyarla(ODBC_ADD_DSN, {"DSN=Varnek", "DBQ=" + m_dosya}), std::nullopt);
+    const auto bağlan = [](const char* parola) {
+        Bağ bağ;
+        const auto metin = [](const char* harfler) { return reinterpret_cast<SQLCHAR*>(const_cast<char*>(harfler)); };
+        return SQLConnect(bağ.Bağlantı, metin("Varnek"), SQL_NTS, metin("Admin"), SQL_NTS, metin(parola), SQL_NTS);
+    };
+    EXPECT_EQ(bağlan(Parola), SQL_SUCCESS);
+    EXPECT_EQ(bağlan("x"), SQL_ERROR);
+    EXPECT_EQ(DosyaOku(getenv("ODBCINI")).find(Parola), std::string::npos);
+    EXPECT_EQ(KaynakAyarla(ODBC_REMOVE_DSN, {"DSN=Varnek"}), std::nullopt);
+    EXPECT_EQ(DosyaOku(getenv("ODBCINI")).find("Varnek"), std::string::npos);
+    EXPECT_NE(KaynakAyarla(ODBC_ADD_DSN, {"DBQ=" + m_dosya}), std::nullopt);
+}
+
+// A client of ODBC 3, through the driver manager's mapping.
+TEST_F(MotorTesti, OdbcÜçİstemcisi) {
+    SQLHENV ortam = nullptr;
+    SQLHDBC bağlantı = nullptr;
+    SQLHSTMT deyim = nullptr;
+    SQLAllocHandle(SQL_HANDLE_ENV, SQL_NULL_HANDLE, &ortam);
+    SQLSetEnvAttr(ortam, SQL_ATTR_ODBC_VERSION, reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3), 0);
+    SQLAllocHandle(SQL_HANDLE_DBC, ortam, &bağlantı);
+    std::string tanım = Tanım(m_dosya);
+    const auto metin = [](const char* harfler) { return reinterpret_cast<SQLCHAR*>(const_cast<char*>(harfler)); };
+    const SQLRETURN kod =
+        SQLDriverConnect(bağlantı, nullptr, metin(tanım.c_str()), SQL_NTS, nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
+    ASSERT_TRUE(SQL_SUCCEEDED(kod));  // with a remark of the driver manager that the driver is one of ODBC 2
+    ASSERT_EQ(SQLAllocHandle(SQL_HANDLE_STMT, bağlantı, &deyim), SQL_SUCCESS);
+
+    const auto say = [&] {
+        int satır = 0;
+        while (SQLFetch(deyim) == SQL_SUCCESS) ++satır;
+        EXPECT_EQ(SQLMoreResults(deyim), SQL_NO_DATA);
+        SQLFreeStmt(deyim, SQL_CLOSE);
+        return satır;
+    };
+    EXPECT_EQ(SQLTables(deyim, nullptr, 0, nullptr, 0, nullptr, 0, nullptr, 0), SQL_SUCCESS);
+    EXPECT_EQ(say(), 3);  // the engine's own table does not show
+    EXPECT_EQ(SQLColumns(deyim, nullptr, 0, nullptr, 0, metin("UrunTablosu"), SQL_NTS, nullptr, 0), SQL_SUCCESS);
+    EXPECT_EQ(say(), 6);
+
+    EXPECT_EQ(SQLPrepare(deyim, metin("SELECT * FROM UrunMalzemeTablosu"), SQL_NTS), SQL_SUCCESS);
+    EXPECT_EQ(SQLExecute(deyim), SQL_SUCCESS);
+    const SQLSMALLINT türler[] = {SQL_TYPE_TIMESTAMP, SQL_VARCHAR, SQL_VARCHAR, SQL_VARCHAR, SQL_VARCHAR, SQL_DECIMAL};
+    for (SQLUSMALLINT i = 0; i < std::size(türler); ++i) {
+        SQLCHAR ad[64] = "";
+        SQLSMALLINT tür = 0;
+        EXPECT_EQ(SQLDescribeCol(deyim, i + 1, ad, sizeof ad, nullptr, &tür, nullptr, nullptr, nullptr), SQL_SUCCESS);
+        EXPECT_EQ(tür, türler[i]) << ad;
+    }
+    SQLLEN genişlik = 0;
+    EXPECT_EQ(SQLColAttribute(deyim, 2, SQL_DESC_DISPLAY_SIZE, nullptr, 0, nullptr, &genişlik), SQL_SUCCESS);
+    EXPECT_EQ(genişlik, 255);
+    EXPECT_EQ(say(), 0);
+
+    EXPECT_EQ(SQLExecDirect(deyim, metin("DELETE FROM UrunTablosu WHERE UrunAdi= 'yok'"), SQL_NTS), SQL_SUCCESS);
+    EXPECT_EQ(SQLProcedures(deyim, nullptr, 0, nullptr, 0, nullptr, 0), SQL_ERROR);
+    SQLCHAR durum[6] = "";
+    SQLGetDiagRec(SQL_HANDLE_STMT, deyim, 1, durum, nullptr, nullptr, 0, nullptr);
+    EXPECT_STREQ(reinterpret_cast<char*>(durum), "IM001");
+    SQLFreeHandle(SQL_HANDLE_STMT, deyim);
+    SQLDisconnect(bağlantı);
+    SQLFreeHandle(SQL_HANDLE_DBC, bağlantı);
+    SQLFreeHandle(SQL_HANDLE_ENV, ortam);
+}
+
+TEST_F(MotorTesti, TopluOnay) {
+    Bağ bağ(m_dosya);
+    SQLSetConnectOption(bağ.Bağlantı, SQL_AUTOCOMMIT, SQL_AUTOCOMMIT_OFF);
+    EXPECT_EQ(bağ.Çalıştır(MalzemeEkle("a", "1")).Kod, SQL_SUCCESS);
+    EXPECT_EQ(Bağ(m_dosya).Oku(HerMalzeme).size(), 0u);
+    EXPECT_EQ(SQLDisconnect(bağ.Bağlantı), SQL_ERROR);  // something is still to be decided
+    EXPECT_EQ(SQLTransact(nullptr, bağ.Bağlantı, SQL_ROLLBACK), SQL_SUCCESS);
+    EXPECT_EQ(bağ.Çalıştır(MalzemeEkle("b", "1")).Kod, SQL_SUCCESS);
+    EXPECT_EQ(SQLTransact(nullptr, bağ.Bağlantı, SQL_COMMIT), SQL_SUCCESS);
+    EXPECT_EQ(Bağ(m_dosya).Oku(HerMalzeme), (Satırlar{{"b", "1"}}));
+}
+
+// A statement that its client forgot neither outlives the connection nor keeps the file locked.
+TEST_F(MotorTesti, AçıkKalanDeyim) {
+    Bağ bağ(m_dosya);
+    KullanılanEkle(bağ, 1000);
+    SQLHSTMT deyim = nullptr;
+    SQLAllocStmt(bağ.Bağlantı, &deyim);
+    const char* sql = "SELECT * FROM UrunMalzemeTablosu";
+    ASSERT_EQ(SQLExecDirect(deyim, reinterpret_cast<SQLCHAR*>(const_cast<char*>(sql)), SQL_NTS), SQL_SUCCESS);
+    ASSERT_EQ(SQLFetch(deyim), SQL_SUCCESS);
+    EXPECT_EQ(bağ.Çalıştır(MalzemeEkle("aynı bağlantı", "1")).Kod, SQL_SUCCESS);
+    EXPECT_EQ(SQLDisconnect(bağ.Bağlantı), SQL_SUCCESS);
+    EXPECT_EQ(Bağ(m_dosya).Çalıştır(MalzemeEkle("a", "1")).Kod, SQL_SUCCESS);
+}
