@@ -61,8 +61,9 @@ void AnaForm::GirişDenetimi() {
 }
 
 void AnaForm::DüğümTıklandı() {
-    ÜrünListesiTıkla();
+    // Unticked before the load: a product of different units must not be met by a message for the tick of the last one.
     m_miktar->SeçimiKaldır();
+    ÜrünListesiTıkla();
 }
 
 void AnaForm::ÜrünListesiTıkla() {

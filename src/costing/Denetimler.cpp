@@ -12,7 +12,7 @@ namespace {
 constexpr std::array EtiketMetinleri = {300,  310,  340,  350,  360,  370,  380, 390,
                                         1270, 1280, 1295, 1300, 1315, 1320, 1325};
 
-QString Sıralı(QLatin1String ad, int sıra) {
+QString Sıralı(const QString& ad, int sıra) {
     return ad + QLatin1Char('(') + QString::number(sıra) + QLatin1Char(')');
 }
 
@@ -22,7 +22,7 @@ QLabel* EtiketOluştur(int sıra, QWidget* denetim) {
     const QString metin = Metin(EtiketMetinleri.at(static_cast<std::size_t>(sıra)));
     auto* etiket = new QLabel(metin);
     etiket->setTextFormat(Qt::PlainText);
-    etiket->setObjectName(Sıralı(QLatin1String("Etiket"), sıra));
+    etiket->setObjectName(Sıralı(QStringLiteral("Etiket"), sıra));
     if (denetim) denetim->setAccessibleName(metin);
     return etiket;
 }
@@ -33,9 +33,9 @@ QLabel* VurgulananEtiket(int sıra, QWidget* denetim) {
     return etiket;
 }
 
-QWidget* AltlıkOluştur(int sıra, QWidget* sahip) {
-    auto* altlık = new QWidget(sahip);
-    altlık->setObjectName(QStringLiteral("Altlık(%1)").arg(sıra));
+QWidget* AltlıkOluştur(int sıra) {
+    auto* altlık = new QWidget;
+    altlık->setObjectName(Sıralı(QStringLiteral("Altlık"), sıra));
     altlık->setBackgroundRole(QPalette::Window);
     altlık->setAutoFillBackground(true);
     return altlık;

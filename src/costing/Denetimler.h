@@ -15,7 +15,7 @@ QLabel* EtiketOluştur(int sıra, QWidget* denetim = nullptr);
 QLabel* VurgulananEtiket(int sıra, QWidget* denetim);
 
 // A background panel, named Altlık(sıra).
-QWidget* AltlıkOluştur(int sıra, QWidget* sahip = nullptr);
+QWidget* AltlıkOluştur(int sıra);
 
 // A box that only shows a figure: it can be selected and copied with the mouse, but is no stop for Tab.
 QLineEdit* GösterimKutusu(const QString& ad);

@@ -128,14 +128,14 @@ QItemSelectionModel::SelectionFlags ÜrünAğacı::selectionCommand(const QModel
 
 void ÜrünAğacı::mousePressEvent(QMouseEvent* olay) {
     m_basılmadanÖnce = currentItem();
+    m_boşaBasıldı = !indexAt(olay->position().toPoint()).isValid();
     QTreeWidget::mousePressEvent(olay);
 }
 
 void ÜrünAğacı::mouseReleaseEvent(QMouseEvent* olay) {
     QTreeWidget::mouseReleaseEvent(olay);
-    if (olay->button() == Qt::LeftButton && !indexAt(olay->position().toPoint()).isValid() && !m_sustu) {
-        m_olaylar.BoşlukTıklandı();
-    }
+    const bool boşta = m_boşaBasıldı && !indexAt(olay->position().toPoint()).isValid();
+    if (boşta && olay->button() == Qt::LeftButton && !m_sustu) m_olaylar.BoşlukTıklandı();
 }
 
 ÜrünAğacı::Seçim ÜrünAğacı::ŞimdikiSeçim() const {

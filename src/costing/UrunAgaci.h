@@ -54,5 +54,6 @@ class ÜrünAğacı : public QTreeWidget {
 
     Olaylar m_olaylar;
     QTreeWidgetItem* m_basılmadanÖnce = nullptr;  // current before the press; only compared
+    bool m_boşaBasıldı = false;
     bool m_sustu = false;
 };

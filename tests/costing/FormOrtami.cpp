@@ -19,15 +19,19 @@ void FormOrtamı::Malzeme(const QString& grup, const QString& ürün, const QStr
 }
 
 void FormOrtamı::Aç() {
-    m_form = std::make_unique<AnaForm>(AnaFormBağları{[] {},
-                                                      [this](bool simge, QPoint konum) {
-                                                          ++m_kapanma.Sayı;
-                                                          m_kapanma.Simge = simge;
-                                                          m_kapanma.Konum = konum;
-                                                          return m_kapanma.Yanıt;
-                                                      }});
+    const auto kapanış = [this](bool, QPoint) {
+        ++m_kapanmaSorusu;
+        return m_kapansın;
+    };
+    m_form = std::make_unique<AnaForm>(AnaFormBağları{[] {}, kapanış});
     m_form->Yükle();
     ASSERT_TRUE(QTest::qWaitForWindowActive(m_form.get()));
+}
+
+std::string FormOrtamı::Yazılar(std::initializer_list<const char*> kutular) {
+    QStringList yazılar;
+    for (const char* kutu : kutular) yazılar.append(QString::fromStdString(Yazı(kutu)));
+    return yazılar.join(' ').toStdString();
 }
 
 QTreeWidgetItem* FormOrtamı::Düğüm(const QString& grup, const QString& ürün) {
@@ -59,7 +63,7 @@ QStringList FormOrtamı::Satırlar() {
 QStringList FormOrtamı::Düğümler() {
     QStringList satırlar;
     for (QTreeWidgetItemIterator i(&Ağaç()); *i; ++i) {
-        satırlar.append(((*i)->parent() ? QStringLiteral(" ") : QString()) + (*i)->text(0));
+        satırlar.append(((*i)->parent() ? " " : "") + (*i)->text(0));
     }
     return satırlar;
 }

@@ -17,9 +17,8 @@ class FormOrtamı : public VarnekTesti {
     FormOrtamı();
 
     // Rows of the data file; the texts as the program writes them.
-    void Ürün(const QString& grup, const QString& ad, const QString& işçilik = QStringLiteral("0"),
-              const QString& kâr = QStringLiteral("0"), const QString& diğer = QStringLiteral("0"),
-              const QString& vade = QStringLiteral("0"));
+    void Ürün(const QString& grup, const QString& ad, const QString& işçilik = "0", const QString& kâr = "0",
+              const QString& diğer = "0", const QString& vade = "0");
     void Malzeme(const QString& grup, const QString& ürün, const QString& ad, const QString& miktar,
                  const QString& fiyat);
     QList<QStringList> Oku(const QString& sql) { return m_veri->Oku(sql); }
@@ -30,11 +29,10 @@ class FormOrtamı : public VarnekTesti {
 
     template <typename T = QWidget>
     T& Bul(const char* ad) {
-        T* denetim = m_form->findChild<T*>(QString::fromUtf8(ad));
-        if (!denetim) throw std::runtime_error(std::string("no control ") + ad);
-        return *denetim;
+        return *m_form->findChild<T*>(QString::fromUtf8(ad));
     }
     std::string Yazı(const char* kutu) { return Bul<QLineEdit>(kutu).text().toStdString(); }
+    std::string Yazılar(std::initializer_list<const char*> kutular);  // parted by blanks
     bool Etkin(const char* ad) { return Bul(ad).isEnabled(); }
     QTreeWidget& Ağaç() { return Bul<QTreeWidget>("ÜrünListesi"); }
     QTreeWidget& Liste() { return Bul<QTreeWidget>("KullanılanMalzemeListesi"); }
@@ -49,13 +47,8 @@ class FormOrtamı : public VarnekTesti {
     // Replaces the box's text by typing.
     void Yaz(const char* kutu, const QString& metin);
 
-    struct Kapanma {
-        bool Yanıt = true;
-        int Sayı = 0;
-        bool Simge = false;
-        QPoint Konum;
-    };
-    Kapanma m_kapanma;
+    bool m_kapansın = true;  // the answer to the exit's question
+    int m_kapanmaSorusu = 0;
 
   private:
     std::unique_ptr<TestVerisi> m_veri;
