@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "CocukSureci.h"
+#include "MetinTablosu.h"
 #include "ModalBekleyici.h"
 #include "SurumKaydi.h"
 #include "TestVerisi.h"
@@ -86,14 +87,24 @@ TEST_F(TekKopyaTesti, KilitYapılamıyorsaYineBaşlar) {
 
 TEST_F(TekKopyaTesti, KendiSürücüsünüBulur) {
     // What the user's surroundings say about drivers does not count.
-    ASSERT_TRUE(
-        QFile::copy(QStringLiteral(VARNEK_BIN "/odbcinst.ini"), ProgramKlasörü() + QStringLiteral("odbcinst.ini")));
-    qputenv("ODBCSYSINI", "/yok");
-    qputenv("ODBCINSTINI", "yok.ini");
-    ÇocukSüreci kopya(Başla());
-    qputenv("ODBCSYSINI", VARNEK_BIN);
-    qunsetenv("ODBCINSTINI");
-    EXPECT_TRUE(kopya.BaşladıMı()) << kopya.Kutular().toStdString();
+    const auto başlat = [this] {
+        qputenv("ODBCSYSINI", "/yok");
+        qputenv("ODBCINSTINI", "yok.ini");
+        auto kopya = std::make_unique<ÇocukSüreci>(Başla());
+        qputenv("ODBCSYSINI", VARNEK_BIN);
+        qunsetenv("ODBCINSTINI");
+        return kopya;
+    };
+    const QString sürücüler = ProgramKlasörü() + QStringLiteral("odbcinst.ini");
+    ASSERT_TRUE(QFile::copy(QStringLiteral(VARNEK_BIN "/odbcinst.ini"), sürücüler));
+    EXPECT_TRUE(başlat()->BaşladıMı());
+    // Without its driver the program cannot read the backup, but does not call it damaged.
+    ASSERT_TRUE(QFile::remove(sürücüler) && QFile::remove(VeriDosyası()));
+    const auto kopya = başlat();
+    EXPECT_EQ(kopya->Sonuç(), 1);
+    const QString kutular = kopya->Kutular();
+    EXPECT_TRUE(kutular.contains(QStringLiteral("[unixODBC]"))) << kutular.toStdString();
+    EXPECT_FALSE(kutular.contains(Metin(2122)) || kutular.contains(Metin(150))) << kutular.toStdString();
 }
 
 TEST_F(TekKopyaTesti, AynıAndaBaşlayanlardanBiriÇalışır) {
