@@ -7,7 +7,7 @@ set(kilavuz_klasoru "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/kilavuz")
 
 set_target_properties(Varnek varnek-veri PROPERTIES INSTALL_RPATH "$ORIGIN:$ORIGIN/kitaplik")
 
-install(TARGETS Varnek varnek-veri varnek-motor RUNTIME DESTINATION . LIBRARY DESTINATION . COMPONENT tasinabilir)
+install(TARGETS Varnek varnek-veri varnek-motor DESTINATION . COMPONENT tasinabilir)
 install(FILES "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/odbcinst.ini" paket/qt.conf paket/BENIOKU.txt
     "${simge_klasoru}/varnek.svg" DESTINATION . COMPONENT tasinabilir)
 install(DIRECTORY "${kilavuz_klasoru}" DESTINATION . COMPONENT tasinabilir)
@@ -17,8 +17,7 @@ execute_process(COMMAND "${qmake}" -query QT_INSTALL_PLUGINS OUTPUT_VARIABLE qt_
 install(CODE "set(QT_EKLENTILERI \"${qt_eklentileri}\")" COMPONENT tasinabilir)
 install(SCRIPT cmake/Kitapliklar.cmake COMPONENT tasinabilir)
 
-install(TARGETS Varnek varnek-veri varnek-motor RUNTIME DESTINATION lib/varnek LIBRARY DESTINATION lib/varnek
-    COMPONENT sistem)
+install(TARGETS Varnek varnek-veri varnek-motor DESTINATION lib/varnek COMPONENT sistem)
 install(FILES "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/odbcinst.ini" DESTINATION lib/varnek COMPONENT sistem)
 install(DIRECTORY "${kilavuz_klasoru}" DESTINATION share/varnek COMPONENT sistem)
 install(PROGRAMS paket/varnek.sh DESTINATION bin RENAME varnek COMPONENT sistem)
