@@ -12,9 +12,10 @@ install(FILES "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/odbcinst.ini" paket/qt.conf pak
     "${simge_klasoru}/varnek.svg" DESTINATION . COMPONENT tasinabilir)
 install(DIRECTORY "${kilavuz_klasoru}" DESTINATION . COMPONENT tasinabilir)
 get_target_property(qmake Qt6::qmake IMPORTED_LOCATION)
-execute_process(COMMAND "${qmake}" -query QT_INSTALL_PLUGINS OUTPUT_VARIABLE qt_eklentileri
-    OUTPUT_STRIP_TRAILING_WHITESPACE)
-install(CODE "set(QT_EKLENTILERI \"${qt_eklentileri}\")" COMPONENT tasinabilir)
+foreach(yer PLUGINS TRANSLATIONS)
+    execute_process(COMMAND "${qmake}" -query QT_INSTALL_${yer} OUTPUT_VARIABLE klasor OUTPUT_STRIP_TRAILING_WHITESPACE)
+    install(CODE "set(QT_${yer} \"${klasor}\")" COMPONENT tasinabilir)
+endforeach()
 install(SCRIPT cmake/Kitapliklar.cmake COMPONENT tasinabilir)
 
 install(TARGETS Varnek varnek-veri varnek-motor DESTINATION lib/varnek COMPONENT sistem)
@@ -42,8 +43,10 @@ set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Tovrek <destek@tovrek.example>")
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://www.tovrek.example")
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# The printouts' font, and the toolkit's own texts in Turkish.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation, qt6-translations-l10n")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils, cups")
 set(CPACK_COMPONENT_SISTEM_DESCRIPTION "Cost calculator for small manufacturers (Turkish)
- Keeps materials with their prices and products with the materials they use, and
- works out each product's cost with labour, profit and other percentages.")
+Keeps materials with their prices and products with the materials they use, and
+works out each product's cost with labour, profit and other percentages.")
 include(CPack)

@@ -1,6 +1,8 @@
 // Puts the pieces together and nothing else.
 
 #include <QApplication>
+#include <QDir>
+#include <QFontDatabase>
 #include <memory>
 
 #include "AnaForm.h"
@@ -16,6 +18,10 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(Sürüm().ÜrünAdı);
     QApplication::setWindowIcon(ProgramSimgesi());
     QApplication::setDesktopFileName(QStringLiteral("varnek"));
+    // Fonts that lie beside the program, where the system may not have them.
+    const QDir yazıTipleri(QApplication::applicationDirPath() + QStringLiteral("/yazitipi"));
+    for (const QFileInfo& dosya : yazıTipleri.entryInfoList(QDir::Files))
+        QFontDatabase::addApplicationFont(dosya.filePath());
     const YardımTuşu yardım(nullptr);
     // A message box of the start is not the last window.
     QApplication::setQuitOnLastWindowClosed(false);

@@ -52,6 +52,7 @@ QLabel* KabukFormu::EtiketEkle(const QString& metin) {
     etiket->setObjectName(QStringLiteral("Etiket(%1)").arg(m_etiketSayısı++));
     etiket->setTextFormat(Qt::PlainText);
     etiket->setWordWrap(true);
+    etiket->setIndent(2);  // in line with the links, which keep a margin
     etiket->setFixedWidth(MetinGenişliği);
     // A text is part of the background to the mouse.
     etiket->setAttribute(Qt::WA_TransparentForMouseEvents);
