@@ -7,6 +7,7 @@
 #include "ErisimDenetimi.h"
 #include "FormOrtami.h"
 #include "ModalBekleyici.h"
+#include "Yardim.h"
 
 namespace {
 
@@ -15,6 +16,8 @@ class YardımMenüsü : public FormOrtamı {
     YardımMenüsü() {
         Ürün("MASA", "Sehpa");
         Malzeme("MASA", "Sehpa", "Çam Kereste", "2,5 Metre", "4");
+        TestVerisi(VeriDosyası())
+            .Çalıştır("INSERT INTO MalzemeTablosu (MalzemeAdi, MalzemeFiyati) VALUES ('Çam Kereste', '4')");
         Aç();
         BağlantıAçıcıyıAyarla([this](const QUrl& adres) { m_açılanlar += adres.fileName(); });
     }
@@ -46,9 +49,35 @@ TEST_F(YardımMenüsü, HerGirişBirŞeyAçar) {
     EXPECT_EQ(m_açılanlar, QStringList("AnaForm.html"));
 }
 
-TEST_F(YardımMenüsü, EkranOkuyucuAnaFormuOkur) {
+TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
+    const YardımTuşu yardım(nullptr);
     ÜrünSeç("MASA", "Sehpa");
     ErişimiDenetle(Form());
+    const struct {
+        const char* açan;
+        const char* form;
+        const char* sayfa;
+    } formlar[] = {
+        {"ÜrünEkleSilMenüsü", "ÜrünEkleSilFormu", "UrunEkleSilFormu.html"},
+        {"MalzemeEkleSilMenüsü", "MalzemeEkleSilFormu", "MalzemeEkleSilFormu.html"},
+        {"ListeyeMalzemeEkleButonu", "MalzemeListesiOluşturFormu", "MalzemeListesiOlusturFormu.html"},
+        {"MiktarlarıGösterDüğmesi", "MiktarGösterFormu", "MiktarGosterFormu.html"},
+    };
+    for (const auto& durum : formlar) {
+        SCOPED_TRACE(durum.form);
+        m_açılanlar.clear();
+        const auto aç = [&] {
+            const QString ad = QString::fromUtf8(durum.açan);
+            if (auto* giriş = Form().findChild<QAction*>(ad)) return giriş->trigger();
+            QTest::mouseClick(&Bul(durum.açan), Qt::LeftButton);
+        };
+        ModalAç(aç, QString::fromUtf8(durum.form), [](QWidget& form) {
+            ErişimiDenetle(form);
+            QTest::keyClick(&form, Qt::Key_F1);
+            QTest::keyClick(&form, Qt::Key_Escape);
+        });
+        EXPECT_EQ(m_açılanlar, QStringList(durum.sayfa));
+    }
 }
 
 }  // namespace

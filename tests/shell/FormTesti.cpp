@@ -1,7 +1,9 @@
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QUrlQuery>
@@ -143,6 +145,29 @@ TEST_F(KabukFormTesti, ButtonAndEscCloseAndTheLinksAreReachedByTab) {
         form.findChild<QWidget*>(u"TamamButonu"_s)->setFocus();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     });
+}
+
+void AdsızKutu() {
+    QWidget form;
+    form.setObjectName(u"Form"_s);
+    form.setWindowTitle(u"Form"_s);
+    QLineEdit kutu(&form);
+    form.show();
+    ErişimiDenetle(form);
+}
+
+void ErişilmezDüğme() {
+    QWidget form;
+    form.setWindowTitle(u"Form"_s);
+    QPushButton düğme(u"Tamam"_s, &form);
+    düğme.setFocusPolicy(Qt::ClickFocus);
+    form.show();
+    ErişimiDenetle(form);
+}
+
+TEST(ErişimDenetimiTesti, WhatAScreenReaderOrTheKeyboardWouldMissIsFound) {
+    EXPECT_NONFATAL_FAILURE(AdsızKutu(), "no name");
+    EXPECT_NONFATAL_FAILURE(ErişilmezDüğme(), "keyboard");
 }
 
 TEST(SimgeTesti, TheIconHasEverySize) {
