@@ -10,6 +10,6 @@ kendi_ortami olcum-ortami
 sonuc=0
 for olcum in build/release/bin/Olcum*; do
     bildir "${olcum##*/}"
-    QT_QPA_PLATFORM=offscreen "$olcum" "$@" || sonuc=1
+    QT_QPA_PLATFORM=offscreen "$olcum" "$@" 2> >(grep -v propagateSizeHints >&2) || sonuc=1
 done
 exit $sonuc

@@ -10,7 +10,7 @@ if [ -z "${DISPLAY:-}" ]; then
 fi
 
 scripts/kur.sh
-derle release Varnek varnek-motor varnek-veri
+derle release Varnek varnek-motor varnek-veri varnek-kilavuz
 kendi_ortami calisma
 
 veri="$kok/build/release/bin/Varnek.vtb"

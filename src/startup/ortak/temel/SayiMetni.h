@@ -16,8 +16,8 @@ enum class NoktaKuralı {
     Serbest   // anywhere: the text of a box while the user edits it (1.25,00 after a Backspace)
 };
 
-// The numeric test: blanks around, an optional sign ("-" or "+", blanks may follow), digits with dots as the rule allows,
-// at most one comma ("12," and ",5" count). At least one digit: "", "," and "-" are no numbers.
+// The numeric test: blanks around, an optional sign ("-" or "+", blanks may follow), digits with dots as the rule
+// allows, at most one comma ("12," and ",5" count). At least one digit: "", "," and "-" are no numbers.
 bool SayıMı(QStringView metin, NoktaKuralı kural = NoktaKuralı::Yerinde);
 
 // The text as money, read on its exact decimals; more than four are rounded half to even.
