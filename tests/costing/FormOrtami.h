@@ -22,6 +22,7 @@ class FormOrtamı : public VarnekTesti {
     void Malzeme(const QString& grup, const QString& ürün, const QString& ad, const QString& miktar,
                  const QString& fiyat);
     QList<QStringList> Oku(const QString& sql) { return m_veri->Oku(sql); }
+    QList<QStringList> HerSatır() { return m_veri->HerSatır(); }
 
     // Loads and shows the form.
     void Aç();

@@ -1,0 +1,146 @@
+#include "VeriModeli.h"
+
+#include <algorithm>
+
+#include "SayiMetni.h"
+#include "TurkceSira.h"
+
+namespace {
+
+// A number as the data file gives it: no grouping, "." for the decimals.
+QString Ham(const QString& sayı) {
+    return DüzMetin(*ParaOku(sayı)).replace(QLatin1Char(','), QLatin1Char('.'));
+}
+
+}  // namespace
+
+bool VeriModeli::Eş(const QString& a, const QString& b) {
+    return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) == 0;
+}
+
+const VeriModeli::Ürün* VeriModeli::İlkÜrün(const QString& grup, const QString& ad) const {
+    for (const Ürün& ürün : Ürünler) {
+        if (Eş(ürün.Grup, grup) && Eş(ürün.Ad, ad)) return &ürün;
+    }
+    return nullptr;
+}
+
+bool VeriModeli::ÜrünVar(const QString& grup, const QString& ad) const {
+    return İlkÜrün(grup, ad);
+}
+
+bool VeriModeli::MalzemeVar(const QString& ad) const {
+    return std::any_of(Malzemeler.begin(), Malzemeler.end(), [&](const Malzeme& m) { return Eş(m.Ad, ad); });
+}
+
+void VeriModeli::GrubuSil(const QString& grup) {
+    Ürünler.removeIf([&](const Ürün& ü) { return Eş(ü.Grup, grup); });
+    Kullanımlar.removeIf([&](const Kullanım& k) { return Eş(k.Grup, grup); });
+}
+
+void VeriModeli::ÜrünüSil(const QString& grup, const QString& ad) {
+    Ürünler.removeIf([&](const Ürün& ü) { return Eş(ü.Grup, grup) && Eş(ü.Ad, ad); });
+    Kullanımlar.removeIf([&](const Kullanım& k) { return Eş(k.Grup, grup) && Eş(k.Ürün, ad); });
+}
+
+void VeriModeli::GrubuAdlandır(const QString& eski, const QString& yeni) {
+    for (Ürün& ü : Ürünler) {
+        if (Eş(ü.Grup, eski)) ü.Grup = yeni;
+    }
+    for (Kullanım& k : Kullanımlar) {
+        if (Eş(k.Grup, eski)) k.Grup = yeni;
+    }
+}
+
+bool VeriModeli::ÜrünüAdlandır(const QString& grup, const QString& eski, const QString& yeni) {
+    for (const Ürün& ü : Ürünler) {
+        if (Eş(ü.Grup, grup) && Eş(ü.Ad, yeni) && ü.Ad != eski) return false;
+    }
+    for (Ürün& ü : Ürünler) {
+        if (Eş(ü.Grup, grup) && Eş(ü.Ad, eski)) ü.Ad = yeni;
+    }
+    for (Kullanım& k : Kullanımlar) {
+        if (Eş(k.Grup, grup) && Eş(k.Ürün, eski)) k.Ürün = yeni;
+    }
+    return true;
+}
+
+void VeriModeli::FiyatDeğiştir(const QString& ad, const QString& fiyat) {
+    for (Malzeme& m : Malzemeler) {
+        if (Eş(m.Ad, ad)) m.Fiyat = fiyat;
+    }
+    for (Kullanım& k : Kullanımlar) {
+        if (Eş(k.Malzeme, ad)) k.Fiyat = fiyat;
+    }
+}
+
+void VeriModeli::MalzemeSil(const QString& ad, bool ürünlerdenDe) {
+    Malzemeler.removeIf([&](const Malzeme& m) { return Eş(m.Ad, ad); });
+    if (ürünlerdenDe) Kullanımlar.removeIf([&](const Kullanım& k) { return Eş(k.Malzeme, ad); });
+}
+
+void VeriModeli::Çıkar(const QString& grup, const QString& ürün, const QString& malzeme) {
+    Kullanımlar.removeIf(
+        [&](const Kullanım& k) { return Eş(k.Grup, grup) && Eş(k.Ürün, ürün) && Eş(k.Malzeme, malzeme); });
+}
+
+void VeriModeli::Aktar(const QStringList& varolan, const Kullanım& satır) {
+    if (std::none_of(varolan.begin(), varolan.end(), [&](const QString& ad) { return Eş(ad, satır.Malzeme); })) {
+        Kullanımlar.append(satır);
+        return;
+    }
+    for (Kullanım& k : Kullanımlar) {
+        if (Eş(k.Grup, satır.Grup) && Eş(k.Ürün, satır.Ürün) && Eş(k.Malzeme, satır.Malzeme)) k = satır;
+    }
+}
+
+void VeriModeli::YüzdeleriKaydet(const QString& grup, const QString& ürün, const std::array<QString, 4>& yüzdeler) {
+    for (Ürün& ü : Ürünler) {
+        if (Eş(ü.Grup, grup) && Eş(ü.Ad, ürün)) ü.Yüzdeler = yüzdeler;
+    }
+}
+
+QList<QStringList> VeriModeli::HerSatır() const {
+    QList<QStringList> hepsi;
+    for (const Ürün& ü : Ürünler) {
+        QStringList satır{QStringLiteral("UrunTablosu"), ü.Grup, ü.Ad};
+        for (const QString& yüzde : ü.Yüzdeler) satır.append(Ham(yüzde));
+        hepsi.append(satır);
+    }
+    for (const Malzeme& m : Malzemeler) hepsi.append({QStringLiteral("MalzemeTablosu"), m.Ad, Ham(m.Fiyat)});
+    for (const Kullanım& k : Kullanımlar) {
+        hepsi.append({QStringLiteral("UrunMalzemeTablosu"), k.Tarih + QStringLiteral(" 00:00:00"), k.Grup, k.Ürün,
+                      k.Malzeme, k.Miktar, Ham(k.Fiyat)});
+    }
+    std::sort(hepsi.begin(), hepsi.end());
+    return hepsi;
+}
+
+QMap<QString, QStringList> VeriModeli::Ağaç() const {
+    QMap<QString, QStringList> ağaç;
+    for (const Ürün& ü : Ürünler) ağaç[ü.Grup].append(ü.Ad);
+    for (QStringList& adlar : ağaç) adlar.sort();
+    return ağaç;
+}
+
+QStringList VeriModeli::Liste(const QString& grup, const QString& ürün) const {
+    QStringList satırlar;
+    for (const Kullanım& k : Kullanımlar) {
+        if (!Eş(k.Grup, grup) || !Eş(k.Ürün, ürün)) continue;
+        const qsizetype boşluk = k.Miktar.indexOf(QLatin1Char(' '));
+        const double tutar = *DoubleOku(k.Fiyat) * *DoubleOku(k.Miktar.left(boşluk));
+        satırlar.append(QStringList({*SayıMetniBiçimle(k.Miktar.left(boşluk), 2) + k.Miktar.mid(boşluk), k.Malzeme,
+                                     *SayıMetniBiçimle(k.Fiyat, 2), *SayıBiçimle(tutar, 2)})
+                            .join(QLatin1Char('|')));
+    }
+    satırlar.sort();
+    return satırlar;
+}
+
+QStringList VeriModeli::KullanılanAdlar(const QString& grup, const QString& ürün) const {
+    QStringList adlar;
+    for (const Kullanım& k : Kullanımlar) {
+        if (Eş(k.Grup, grup) && Eş(k.Ürün, ürün)) adlar.append(k.Malzeme);
+    }
+    return adlar;
+}
