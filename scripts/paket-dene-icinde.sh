@@ -86,6 +86,7 @@ wait $surec
 
 bildir "A lost data file: the backup comes back; without one the program says so and makes no new file"
 kullanici mv "$veri" "$ev/kayip.vtb"
+rm -rf "$(dirname "$veri")"
 ac_kapat varnek # the backup is the first start's: empty
 olmali test -s "$veri"
 for kayip in "$veri" "$ev/.local/share/Tovrek"; do # the file alone, then the whole folder

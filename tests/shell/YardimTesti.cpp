@@ -76,24 +76,14 @@ TEST_F(YardımTesti, F1OpensThePageOfTheFormInFrontFromAnywhere) {
     QWidget kutu(&form, Qt::Dialog);  // a message box has no page: its form's page opens
     kutu.setObjectName(u"MesajKutusu"_s);
     QWidget yabancı;
-    const struct {
-        QWidget* parça;
-        const char* sayfa;
-    } durumlar[] = {{&düğme, "AnaForm.html"},
-                    {&menü, "AnaForm.html"},
-                    {&form, "UrunEkleSilFormu.html"},
-                    {&kutu, "UrunEkleSilFormu.html"},
-                    {&yabancı, "index.html"}};
-    for (const auto& durum : durumlar) {
-        m_açılanlar.clear();
-        QTest::keyClick(durum.parça, Qt::Key_F1);
-        ASSERT_EQ(m_açılanlar.size(), 1) << durum.sayfa;
-        EXPECT_EQ(m_açılanlar[0].fileName().toStdString(), durum.sayfa);
-        EXPECT_TRUE(QFile::exists(m_açılanlar[0].toLocalFile())) << durum.sayfa;
-    }
+    for (QWidget* parça : QList<QWidget*>{&düğme, &menü, &form, &kutu, &yabancı}) QTest::keyClick(parça, Qt::Key_F1);
+    QStringList sayfalar;
+    for (const QUrl& adres : m_açılanlar) sayfalar += adres.fileName();
+    EXPECT_EQ(sayfalar, QStringList({u"AnaForm.html"_s, u"AnaForm.html"_s, u"UrunEkleSilFormu.html"_s,
+                                     u"UrunEkleSilFormu.html"_s, u"index.html"_s}));
     QTest::keyClick(&düğme, Qt::Key_F1, Qt::ShiftModifier);
     QTest::keyClick(&düğme, Qt::Key_F2);
-    EXPECT_EQ(m_açılanlar.size(), 1);
+    EXPECT_EQ(m_açılanlar.size(), 5);
 }
 
 TEST_F(YardımTesti, TheGuideIsFoundBesideTheProgramOrInTheShareFolder) {
