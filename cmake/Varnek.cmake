@@ -41,10 +41,3 @@ function(varnek_motoru_bulur hedef)
     endif()
     add_dependencies(${hedef} varnek-motor)
 endfunction()
-
-# While the house is being built: a folder joins once the named file is there.
-macro(varnek_varsa klasor dosya)
-    if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${klasor}/${dosya}")
-        add_subdirectory(${klasor})
-    endif()
-endmacro()

@@ -7,9 +7,9 @@
 #include "AnaForm.h"
 #include "BaslatModulu.h"
 #include "KapanisModulu.h"
+#include "Sahneler.h"
 #include "SurumKaydi.h"
 #include "TekKopya.h"
-#include "Tur.h"
 
 using namespace Qt::StringLiterals;
 

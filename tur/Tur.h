@@ -4,7 +4,6 @@
 #include <QWidget>
 #include <functional>
 #include <stdexcept>
-#include <vector>
 
 class QAbstractItemView;
 class QModelIndex;
@@ -59,4 +58,3 @@ struct Sahne {
     QString ad;
     std::function<void(Tur&, QWidget& anaForm)> işlev;
 };
-std::vector<Sahne> Sahneler();

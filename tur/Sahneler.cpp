@@ -8,7 +8,7 @@
 #include <QTimer>
 #include <QTreeWidget>
 
-#include "Tur.h"
+#include "Sahneler.h"
 #include "YuklemeGosterFormu.h"
 
 using namespace Qt::StringLiterals;
@@ -25,19 +25,9 @@ QTreeWidgetItem& Düğüm(QTreeWidget& ağaç, const QString& ad) {
     return *bulunan.first();
 }
 
-// Opens the group and clicks the node, as a user does.
-void Seç(QWidget& anaForm, const QString& ad) {
-    QTreeWidget& ağaç = Ağaç(anaForm);
-    QTreeWidgetItem& düğüm = Düğüm(ağaç, ad);
-    if (düğüm.parent()) ağaç.expandItem(düğüm.parent());
-    Tur::Durul();
-    Tur::Tıkla(ağaç, ağaç.indexFromItem(&düğüm));
-    Tur::Bekle(u"selected: "_s + ad, [&] { return ağaç.currentItem() == &düğüm; });
-}
-
 Sahne ÜrünSahnesi(const QString& resim, const QString& ürün) {
     return {resim, [=](Tur& tur, QWidget& anaForm) {
-                Seç(anaForm, ürün);
+                ÜrünSeç(anaForm, ürün);
                 tur.Çek(resim, anaForm);
             }};
 }
@@ -67,7 +57,7 @@ Sahne YardımSahnesi(const QString& giriş, const QString& resim) {
 }
 
 void YüzdeDüzenleme(Tur& tur, QWidget& anaForm) {
-    Seç(anaForm, u"Çalışma Masası"_s);
+    ÜrünSeç(anaForm, u"Çalışma Masası"_s);
     auto& kutu = Tur::Bul<QLineEdit>(anaForm, u"İşçilikYüzdesiKutusu"_s);
     Tur::Tıkla(kutu);
     Tur::Yaz(kutu, u"27,5"_s);
@@ -76,7 +66,7 @@ void YüzdeDüzenleme(Tur& tur, QWidget& anaForm) {
 }
 
 void Adlandırma(Tur& tur, QWidget& anaForm) {
-    Seç(anaForm, u"Orta Sehpa"_s);
+    ÜrünSeç(anaForm, u"Orta Sehpa"_s);
     QTreeWidget& ağaç = Ağaç(anaForm);
     QTest::keyClick(&ağaç, Qt::Key_F2);
     Tur::Bekle(u"the label editor"_s, [&] { return ağaç.findChild<QLineEdit*>(); });
@@ -87,7 +77,7 @@ void Adlandırma(Tur& tur, QWidget& anaForm) {
 
 void KüçükEkran(Tur& tur, QWidget& anaForm) {
     const QSize boy = anaForm.size();
-    Seç(anaForm, u"Üç Kapılı Gardırop"_s);
+    ÜrünSeç(anaForm, u"Üç Kapılı Gardırop"_s);
     anaForm.resize(800, 560);
     tur.Çek(u"ana-form-kucuk"_s, anaForm);
     anaForm.resize(boy);
@@ -120,11 +110,20 @@ void Yükleme(Tur& tur, QWidget& anaForm) {
 
 }  // namespace
 
+void ÜrünSeç(QWidget& anaForm, const QString& ad) {
+    QTreeWidget& ağaç = Ağaç(anaForm);
+    QTreeWidgetItem& düğüm = Düğüm(ağaç, ad);
+    if (düğüm.parent()) ağaç.expandItem(düğüm.parent());
+    Tur::Durul();
+    Tur::Tıkla(ağaç, ağaç.indexFromItem(&düğüm));
+    Tur::Bekle(u"selected: "_s + ad, [&] { return ağaç.currentItem() == &düğüm; });
+}
+
 std::vector<Sahne> Sahneler() {
-    return {
+    std::vector<Sahne> sahneler{
         {u"grup"_s,
          [](Tur& tur, QWidget& anaForm) {
-             Seç(anaForm, u"SANDALYE"_s);
+             ÜrünSeç(anaForm, u"SANDALYE"_s);
              tur.Çek(u"grup"_s, anaForm);
          }},
         ÜrünSahnesi(u"ana-form"_s, u"Yemek Masası"_s),
@@ -143,4 +142,6 @@ std::vector<Sahne> Sahneler() {
         {u"yukleme"_s, Yükleme},
         {u"cikis-sorusu"_s, ÇıkışSorusu},
     };
+    for (Sahne& sahne : KatalogSahneleri()) sahneler.push_back(std::move(sahne));
+    return sahneler;
 }
