@@ -83,10 +83,11 @@ void AnaForm::ÜrünListesiTıkla() {
 
 void AnaForm::GrubuGöster() {
     m_maliyet->setEnabled(false);
-    for (const Komut komut : {Komut::ListeyeMalzemeEkle, Komut::ListedenMalzemeSil, Komut::Yazdır,
-                              Komut::MiktarlarıGöster, Komut::DeğişiklikleriKaydet}) {
+    for (const Komut komut :
+         {Komut::ListeyeMalzemeEkle, Komut::ListedenMalzemeSil, Komut::MiktarlarıGöster, Komut::DeğişiklikleriKaydet}) {
         m_komutlar.İzinVer(komut, false);
     }
+    YazdırmayaİzinVer(false);
     m_miktar->SeçeneğeİzinVer(false);
     m_maliyet->Boşalt();
     m_liste->clear();
@@ -105,7 +106,7 @@ void AnaForm::SeçiliÜrünüYükle() {
     m_maliyet->MalzemeMaliyetiniGöster(yüklenen.Toplam.Tutar());
     const bool malzemeVar = !m_liste->Boş();
     m_komutlar.İzinVer(Komut::ListedenMalzemeSil, malzemeVar);
-    m_komutlar.İzinVer(Komut::Yazdır, malzemeVar);
+    YazdırmayaİzinVer(malzemeVar);
     m_maliyet->setEnabled(malzemeVar);
     m_maliyet->YüzdeleriYükle(grup, ürün);
     ToplamMaliyetHesapla();

@@ -10,6 +10,7 @@
 class KullanılanMalzemeListesi;
 class MaliyetAlanı;
 class MiktarAlanı;
+struct MaliyetFişi;
 class QComboBox;
 class ÜrünAğacı;
 
@@ -71,6 +72,10 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void ListedenMalzemeSil();
     void DeğişiklikleriKaydet();
     void MiktarlarıGöster();
+
+    void RaporKomutlarınıKur();
+    void YazdırmayaİzinVer(bool izin);
+    MaliyetFişi Fiş() const;
 
     AnaFormBağları m_bağlar;
     Komutlar m_komutlar;

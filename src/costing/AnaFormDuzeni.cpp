@@ -146,6 +146,8 @@ QWidget* AnaForm::ListeAltlığı() {
     düğmeler->addWidget(DüğmeOluştur(Komut::ListeyeMalzemeEkle, 320, "ListeyeMalzemeEkleButonu"));
     düğmeler->addWidget(DüğmeOluştur(Komut::ListedenMalzemeSil, 330, "ListedenMalzemeSilButonu"));
     düğmeler->addWidget(DüğmeOluştur(Komut::Yazdır, 335, "YazdırButonu"));
+    düğmeler->addWidget(DüğmeOluştur(Komut::PdfKaydet, 2300, "PdfKaydetButonu"));
+    düğmeler->addWidget(DüğmeOluştur(Komut::Önizle, 2301, "ÖnizlemeButonu"));
     düğmeler->addStretch();
     düğmeler->addWidget(EtiketOluştur(10, m_haneSayısı));
     düğmeler->addWidget(m_haneSayısı);
@@ -213,6 +215,7 @@ void AnaForm::KomutlarıKur() {
     m_komutlar.Tanımla(Komut::Hakkında, [this] { HakkındaFormu(this).exec(); });
     m_komutlar.Tanımla(Komut::ListedenMalzemeSil, [this] { ListedenMalzemeSil(); });
     m_komutlar.Tanımla(Komut::DeğişiklikleriKaydet, [this] { DeğişiklikleriKaydet(); });
+    RaporKomutlarınıKur();
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,
             [this] { m_komutlar.Çalıştır(Komut::Çıkış); });
 }

@@ -13,6 +13,7 @@
 #include "UrunAgaci.h"
 #include "UrunEkleSilFormu.h"
 #include "YuklemeGosterFormu.h"
+#include "YuzdeTutari.h"
 
 void AnaForm::ÜrünAğacınıYenile() {
     m_ağaç->Yükle();

@@ -18,6 +18,8 @@ enum class Komut {
     ListeyeMalzemeEkle,
     ListedenMalzemeSil,
     Yazdır,
+    PdfKaydet,
+    Önizle,
     DeğişiklikleriKaydet,
     MiktarlarıGöster,
     GünlükMalzemeHareketleri,
@@ -37,6 +39,9 @@ class Komutlar {
     void İzinVer(Komut komut, bool izin);
 
     bool Etkin(Komut komut) const;
+
+    // The command's button; null: it has none.
+    QAbstractButton* Düğme(Komut komut) const { return m_satırlar[static_cast<std::size_t>(komut)].Düğme; }
 
     // Does nothing while the command is not enabled.
     void Çalıştır(Komut komut);

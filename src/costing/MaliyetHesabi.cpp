@@ -42,13 +42,6 @@ MaliyetTutarları MaliyetHesapla(const MaliyetGirdisi& girdi) {
     return sonuç;
 }
 
-std::optional<double> YüzdeTutarı(const QString& malzemeMaliyeti, const QString& yüzde) {
-    const std::optional<Para> malzeme = ParaOku(malzemeMaliyeti);
-    const std::optional<double> oran = DoubleOku(yüzde);
-    if (!malzeme || !oran) return std::nullopt;
-    return Sonlu(malzeme->Double() * *oran / 100.0);
-}
-
 std::optional<double> BirimMaliyet(const QString& toplamMaliyet, double toplamMiktar) {
     const std::optional<Para> toplam = ParaOku(toplamMaliyet);
     if (!toplam || !(toplamMiktar > 0)) return std::nullopt;

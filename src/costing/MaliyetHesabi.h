@@ -29,10 +29,6 @@ struct MaliyetTutarları {
 // an amount keeps its percentage's value; where the total cannot be formed, it stays 0.
 MaliyetTutarları MaliyetHesapla(const MaliyetGirdisi& girdi);
 
-// A percentage's amount as the amounts form and the cost sheet show it: computed in floating point, not rounded to
-// money. nullopt: a text is no number, or the result is not finite.
-std::optional<double> YüzdeTutarı(const QString& malzemeMaliyeti, const QString& yüzde);
-
 // The total cost for one unit of quantity. nullopt: the text is no number, the quantity is not above 0.
 std::optional<double> BirimMaliyet(const QString& toplamMaliyet, double toplamMiktar);
 

@@ -125,3 +125,8 @@ void MiktarAlanı::FireyiHesapla() {
     Göster(*m_fireliMiktar, FireliMiktar(m_miktar->text(), m_fireOranı->text()));
     Göster(*m_fireliBirimMaliyet, FireliBirimMaliyet(m_bağlar.MalzemeMaliyeti(), m_fireliMiktar->text()));
 }
+
+MiktarAlanı::Metinler MiktarAlanı::KutuMetinleri() const {
+    return {m_miktar->text(), m_birimMaliyet->text(), m_fireOranı->text(), m_fireliMiktar->text(),
+            m_fireliBirimMaliyet->text()};
+}

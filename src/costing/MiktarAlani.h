@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QWidget>
 #include <functional>
 
@@ -27,6 +28,15 @@ class MiktarAlanı : public QWidget {
     void SeçeneğiUygula();  // sets frame and boxes from the tick
     void ToplamDeğişti();   // the total cost has changed
     void Boşalt();          // total quantity and unit cost
+
+    struct Metinler {  // of the boxes, as displayed
+        QString Miktar;
+        QString BirimMaliyet;
+        QString FireOranı;
+        QString FireliMiktar;
+        QString FireliBirimMaliyet;
+    };
+    Metinler KutuMetinleri() const;
 
   private:
     void Yerleştir();

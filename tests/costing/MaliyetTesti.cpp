@@ -4,6 +4,7 @@
 #include "MaliyetHesabi.h"
 #include "MalzemeToplami.h"
 #include "SayiMetni.h"
+#include "YuzdeTutari.h"
 
 namespace {
 

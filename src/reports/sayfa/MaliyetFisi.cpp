@@ -3,6 +3,7 @@
 #include "MetinTablosu.h"
 #include "SayfaDuzeni.h"
 #include "SayiMetni.h"
+#include "YuzdeTutari.h"
 
 namespace {
 
@@ -15,19 +16,13 @@ struct ÖzetSatırı {
     bool Toplam = false;
 };
 
-// The percentage's amount: in floating point, shown with the asked decimals at once.
-QString YüzdeTutarı(const MaliyetFişi& fiş, double yüzde) {
-    const std::optional<Para> maliyet = ParaOku(fiş.MalzemeMaliyeti);
-    if (!maliyet) return {};
-    return SayıBiçimle(maliyet->Double() * yüzde / 100, fiş.OndalıkBasamak).value_or(QString());
-}
-
 QList<ÖzetSatırı> MaliyetSatırları(const MaliyetFişi& fiş) {
     QList<ÖzetSatırı> satırlar{{Metin(872), fiş.MalzemeMaliyeti}};
     const auto ekle = [&](int etiket, const QString& yüzdeMetni) {
-        const std::optional<double> yüzde = DoubleOku(yüzdeMetni);
-        if (!yüzde || *yüzde <= 0) return;
-        satırlar.append({Metin(etiket) + yüzdeMetni + QStringLiteral("):"), YüzdeTutarı(fiş, *yüzde)});
+        if (DoubleOku(yüzdeMetni).value_or(0) <= 0) return;
+        const std::optional<double> tutar = YüzdeTutarı(fiş.MalzemeMaliyeti, yüzdeMetni);
+        const std::optional<QString> değer = tutar ? SayıBiçimle(*tutar, fiş.OndalıkBasamak) : std::nullopt;
+        satırlar.append({Metin(etiket) + yüzdeMetni + QStringLiteral("):"), değer.value_or(QString())});
     };
     ekle(874, fiş.İşçilikYüzdesi);
     ekle(876, fiş.KârYüzdesi);

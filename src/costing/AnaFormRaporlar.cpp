@@ -1,0 +1,70 @@
+// What the main form prints, and the report forms that it opens.
+
+#include "AnaForm.h"
+#include "DegiskenModulu.h"
+#include "KullanilanMalzemeler.h"
+#include "MaliyetAlani.h"
+#include "MaliyetFisi.h"
+#include "MalzemeHareketleriFormu.h"
+#include "MalzemeListesiFormu.h"
+#include "MiktarAlani.h"
+#include "UrunAgaci.h"
+#include "UrunListesiFormu.h"
+#include "Yazdirma.h"
+#include "YuklemeGosterFormu.h"
+
+namespace {
+
+template <typename Form>
+void YükleyipAç(QWidget& sahip) {
+    Form form(&sahip);
+    YüklemeGösterFormu::Çalıştır([&form] { form.Yükle(); }, &sahip);
+    form.exec();
+}
+
+Yazdırılacak FişiYazdır(const MaliyetFişi& fiş) {
+    return {fiş.Ürün, [fiş](SayfaYüzeyi& yüzey) { MaliyetFişiniYaz(yüzey, fiş); }};
+}
+
+}  // namespace
+
+void AnaForm::RaporKomutlarınıKur() {
+    m_komutlar.Tanımla(Komut::Yazdır, [this] { ::Yazdır(*this, *m_komutlar.Düğme(Komut::Yazdır), FişiYazdır(Fiş())); });
+    m_komutlar.Tanımla(Komut::PdfKaydet,
+                       [this] { ::PdfKaydet(*this, *m_komutlar.Düğme(Komut::PdfKaydet), FişiYazdır(Fiş())); });
+    m_komutlar.Tanımla(Komut::Önizle, [this] { ::Önizle(*this, FişiYazdır(Fiş())); });
+    m_komutlar.Tanımla(Komut::GünlükMalzemeHareketleri, [this] { MalzemeHareketleriFormu(this).exec(); });
+    m_komutlar.Tanımla(Komut::MalzemeListesi, [this] { YükleyipAç<MalzemeListesiFormu>(*this); });
+    m_komutlar.Tanımla(Komut::ÜrünListesi, [this] { YükleyipAç<ÜrünListesiFormu>(*this); });
+}
+
+void AnaForm::YazdırmayaİzinVer(bool izin) {
+    for (const Komut komut : {Komut::Yazdır, Komut::PdfKaydet, Komut::Önizle}) m_komutlar.İzinVer(komut, izin);
+}
+
+MaliyetFişi AnaForm::Fiş() const {
+    MaliyetFişi fiş;
+    fiş.Ürün = m_ağaç->SeçiliÜrün();
+    for (int i = 0; i < m_liste->topLevelItemCount(); ++i) {
+        QStringList hücreler;
+        for (int sütun = 0; sütun < m_liste->columnCount(); ++sütun) {
+            hücreler.append(m_liste->topLevelItem(i)->text(sütun));
+        }
+        fiş.Satırlar.append(hücreler);
+    }
+    const MaliyetGirdisi maliyet = m_maliyet->Girdi();
+    fiş.MalzemeMaliyeti = maliyet.MalzemeMaliyeti;
+    fiş.İşçilikYüzdesi = maliyet.İşçilik;
+    fiş.KârYüzdesi = maliyet.Kâr;
+    fiş.DiğerYüzdesi = maliyet.Diğer;
+    fiş.VadeYüzdesi = maliyet.Vade;
+    fiş.ToplamMaliyet = m_maliyet->ToplamMaliyet();
+    const MiktarAlanı::Metinler miktar = m_miktar->KutuMetinleri();
+    fiş.ToplamMiktar = miktar.Miktar;
+    fiş.BirimMaliyet = miktar.BirimMaliyet;
+    fiş.FireOranı = miktar.FireOranı;
+    fiş.FireliMiktar = miktar.FireliMiktar;
+    fiş.FireliBirimMaliyet = miktar.FireliBirimMaliyet;
+    fiş.OndalıkBasamak = OndalıkBasamak;
+    return fiş;
+}
