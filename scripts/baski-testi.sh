@@ -12,7 +12,7 @@ atla() {
     bildir "Print test SKIPPED: $*"
     exit 0
 }
-[ -n "$cupsd" ] && [ -n "$lpadmin" ] || atla "there is no CUPS here (Debian packages cups-daemon, cups-client)"
+[ -n "$cupsd" ] && [ -n "$lpadmin" ] || atla "there is no CUPS here (Debian packages cups-daemon, cups-client, cups-core-drivers)"
 command -v pdftotext >/dev/null || atla "there is no pdftotext here (Debian package poppler-utils)"
 
 # Not below the source folder: the server's own user must be able to enter it.

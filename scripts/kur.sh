@@ -11,7 +11,7 @@ paketler=(build-essential cmake ninja-build pkg-config qt6-base-dev libqt6gui6 l
     fonts-liberation qt6-translations-l10n)
 for kume in "$@"; do
     case $kume in
-        test) paketler+=(xvfb xauth locales cups-daemon cups-client poppler-utils) ;;
+        test) paketler+=(xvfb xauth locales cups-daemon cups-client cups-core-drivers poppler-utils) ;;
         bicim) paketler+=(clang-format git) ;;
         *) vazgec "kur.sh: unknown set '$kume' (test, bicim)" ;;
     esac

@@ -23,4 +23,5 @@ for dil in tr_TR.UTF-8 C; do
     bildir "Tests under $dil (preset $ayar)"
     LC_ALL=$dil LANGUAGE='' ctest --test-dir "build/$ayar" --output-on-failure --no-tests=error -j "$(nproc)" || sonuc=1
 done
+scripts/baski-testi.sh "$ayar" || sonuc=1
 exit $sonuc

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFontDatabase>
+#include <QLibraryInfo>
+#include <QTranslator>
 #include <memory>
 
 #include "AnaForm.h"
@@ -22,6 +24,11 @@ int main(int argc, char** argv) {
     const QDir yazıTipleri(QApplication::applicationDirPath() + QStringLiteral("/yazitipi"));
     for (const QFileInfo& dosya : yazıTipleri.entryInfoList(QDir::Files))
         QFontDatabase::addApplicationFont(dosya.filePath());
+    // The toolkit's own texts (file dialog, print preview) in Turkish.
+    QTranslator çeviri;
+    if (çeviri.load(QStringLiteral("qtbase_tr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(&çeviri);
+    }
     const YardımTuşu yardım(nullptr);
     // A message box of the start is not the last window.
     QApplication::setQuitOnLastWindowClosed(false);

@@ -25,6 +25,9 @@ std::optional<Para> Para::Doubledan(double değer) {
 }
 
 double Para::Double() const noexcept {
+    // A quotient of two whole numbers that doubles hold exactly is the nearest double itself.
+    constexpr std::int64_t tamSınır = std::int64_t{1} << 53;
+    if (m_onBindeBir >= -tamSınır && m_onBindeBir <= tamSınır) return static_cast<double>(m_onBindeBir) / Ölçek;
     return EnYakınDouble(Ölçekten(m_onBindeBir, 4)).value_or(0);
 }
 

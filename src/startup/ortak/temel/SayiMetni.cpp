@@ -55,13 +55,17 @@ std::optional<Ondalık> OndalıkOku(QStringView metin, NoktaKuralı kural) {
     return Yuvarla(std::move(sayı), basamak, Yarım::Çifte);  // takes the sign from a zero
 }
 
+// Lists show tens of thousands of figures: the text is put together at once.
 QString Biçimle(const Ondalık& sayı, int basamak) {
     const Ondalık yuvarlanmış = Yuvarla(sayı, basamak, Yarım::SıfırdanUzağa);
-    QString metin = QString::fromLatin1(yuvarlanmış.Tam);
-    for (qsizetype yer = metin.size() - 3; yer > 0; yer -= 3) metin.insert(yer, QChar(u'.'));
-    if (yuvarlanmış.Eksi) metin.prepend(QChar(u'-'));
-    if (basamak > 0) metin += QChar(u',') + QString::fromLatin1(yuvarlanmış.Kesir);
-    return metin;
+    const std::string& tam = yuvarlanmış.Tam;
+    std::string metin(yuvarlanmış.Eksi ? "-" : "");
+    for (std::size_t yer = 0; yer < tam.size(); ++yer) {
+        if (yer > 0 && (tam.size() - yer) % 3 == 0) metin += '.';
+        metin += tam[yer];
+    }
+    if (basamak > 0) metin.append(1, ',').append(yuvarlanmış.Kesir);
+    return QString::fromLatin1(metin);
 }
 
 }  // namespace
