@@ -62,6 +62,9 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
         {"MalzemeEkleSilMenüsü", "MalzemeEkleSilFormu", "MalzemeEkleSilFormu.html"},
         {"ListeyeMalzemeEkleButonu", "MalzemeListesiOluşturFormu", "MalzemeListesiOlusturFormu.html"},
         {"MiktarlarıGösterDüğmesi", "MiktarGösterFormu", "MiktarGosterFormu.html"},
+        {"GünlükMalzemeHareketleriGösterButonu", "MalzemeHareketleriFormu", "MalzemeHareketleriFormu.html"},
+        {"MalzemeListesiGösterButonu", "MalzemeListesiFormu", "MalzemeListesiFormu.html"},
+        {"ÜrünListesiGösterButonu", "ÜrünListesiFormu", "UrunListesiFormu.html"},
     };
     for (const auto& durum : formlar) {
         SCOPED_TRACE(durum.form);
@@ -74,6 +77,13 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
         ModalAç(aç, QString::fromUtf8(durum.form), [](QWidget& form) {
             ErişimiDenetle(form);
             QTest::keyClick(&form, Qt::Key_F1);
+            if (auto* tarih = form.findChild<QPushButton*>("TarihDeğiştirButonu")) {
+                ModalAç([&] { QTest::mouseClick(tarih, Qt::LeftButton); }, "TarihDeğiştirFormu",
+                        [](QWidget& iç) {
+                            ErişimiDenetle(iç);
+                            QTest::keyClick(&iç, Qt::Key_Escape);
+                        });
+            }
             QTest::keyClick(&form, Qt::Key_Escape);
         });
         EXPECT_EQ(m_açılanlar, QStringList(durum.sayfa));
