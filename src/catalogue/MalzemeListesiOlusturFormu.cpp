@@ -94,6 +94,8 @@ void MalzemeListesiOluşturFormu::Yerleştir() {
     miktar->addWidget(m_miktar, 1, 0);
     miktar->addWidget(KatalogEtiketi(1, 765, m_tür), 0, 1);
     miktar->addWidget(m_tür, 1, 1);
+    miktar->setColumnStretch(0, 1);
+    miktar->setColumnStretch(1, 1);
     auto* giriş = new QVBoxLayout;
     giriş->addLayout(miktar);
     giriş->addWidget(m_ekle, 0, Qt::AlignRight);

@@ -33,7 +33,7 @@ KullanılanMalzemeListesi::Yüklenen KullanılanMalzemeListesi::Yükle(const QSt
             if (!satır.Sayıldı) sonuç.Sayılmayanlar.append(miktar + QLatin1Char(' ') + ad);
             satırlar.append(new QTreeWidgetItem(QStringList{satır.Miktar, ad, satır.Fiyat, satır.Tutar}));
         }
-        sonuç.Tamam = SonDönüşKodu >= 0;
+        sonuç.Tamam = SatırlarBitti();
     }
     SatırlarıKoy(satırlar);
     return sonuç;

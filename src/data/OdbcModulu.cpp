@@ -13,6 +13,7 @@
 namespace {
 
 constexpr std::int16_t Başarı = 0;
+constexpr std::int16_t SatırKalmadı = 100;
 
 // One connection and one statement for the whole run.
 OdbcBağlantısı Bağlantı;
@@ -131,6 +132,10 @@ bool SatırGetir() {
     if (SonDönüşKodu != Başarı) return false;
     SonDönüşKodu = Deyim.Getir();
     return SonDönüşKodu == Başarı;
+}
+
+bool SatırlarBitti() {
+    return SonDönüşKodu == SatırKalmadı;
 }
 
 QString SütunOku(int sütun) {

@@ -52,6 +52,9 @@ bool DeyimiYürüt(const QString& deyim);
 // The next row; false at the end, and also after a row in which a column's read gave anything but success.
 bool SatırGetir();
 
+// Whether the loop over the rows came to their end; false when something stopped it before.
+bool SatırlarBitti();
+
 // A column of the current row, numbered from 1, at most 254 characters; a longer one is cut there and counts as
 // truncated, so that the row is the last one read. NULL gives "".
 QString SütunOku(int sütun);
