@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Opens every form on a fresh sample data file in a real window and writes a picture of each into build/tour/.
+# Opens every form on a fresh sample data file in a real window and writes a picture of each, and
+# the PDF of each printout, into build/tour/.
 # With a display the windows appear there; without one, or with --sanal, on a virtual screen.
 set -euo pipefail
 . "$(dirname "$0")/ortak.sh"

@@ -143,5 +143,6 @@ std::vector<Sahne> Sahneler() {
         {u"cikis-sorusu"_s, ÇıkışSorusu},
     };
     for (Sahne& sahne : KatalogSahneleri()) sahneler.push_back(std::move(sahne));
+    for (Sahne& sahne : RaporSahneleri()) sahneler.push_back(std::move(sahne));
     return sahneler;
 }

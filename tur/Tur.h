@@ -21,6 +21,8 @@ class Tur {
     // Pictures go into this folder as PNG files.
     explicit Tur(QString klasör) : m_klasör(std::move(klasör)) {}
 
+    const QString& Klasör() const { return m_klasör; }
+
     // A picture of the window alone, once it is painted. Throws when the picture is blank.
     void Çek(const QString& ad, QWidget& pencere);
     // A picture of both: a box or dialog over the window it belongs to.

@@ -1,5 +1,7 @@
 #include <QApplication>
 #include <QDir>
+#include <QLibraryInfo>
+#include <QTranslator>
 #include <cstdio>
 #include <exception>
 #include <memory>
@@ -50,6 +52,9 @@ int main(int argc, char** argv) {
         return 2;
     }
     QApplication::setApplicationName(Sürüm().ÜrünAdı);
+    QTranslator çeviri;
+    if (çeviri.load(u"qtbase_tr"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&çeviri);
     QApplication::setQuitOnLastWindowClosed(false);
     Tur tur(QDir(QString::fromLocal8Bit(argv[2])).absolutePath());
     TekKopya kopya;

@@ -142,6 +142,12 @@ QWidget* AnaForm::AğaçAltlığı() {
 
 QWidget* AnaForm::ListeAltlığı() {
     QWidget* altlık = AltlıkOluştur(1);
+    auto* başlık = new QHBoxLayout;
+    başlık->addWidget(VurgulananEtiket(1, m_liste));
+    başlık->addStretch();
+    başlık->addWidget(EtiketOluştur(10, m_haneSayısı));
+    başlık->addWidget(m_haneSayısı);
+    başlık->addWidget(EtiketOluştur(11));
     auto* düğmeler = new QHBoxLayout;
     düğmeler->addWidget(DüğmeOluştur(Komut::ListeyeMalzemeEkle, 320, "ListeyeMalzemeEkleButonu"));
     düğmeler->addWidget(DüğmeOluştur(Komut::ListedenMalzemeSil, 330, "ListedenMalzemeSilButonu"));
@@ -149,12 +155,9 @@ QWidget* AnaForm::ListeAltlığı() {
     düğmeler->addWidget(DüğmeOluştur(Komut::PdfKaydet, 2300, "PdfKaydetButonu"));
     düğmeler->addWidget(DüğmeOluştur(Komut::Önizle, 2301, "ÖnizlemeButonu"));
     düğmeler->addStretch();
-    düğmeler->addWidget(EtiketOluştur(10, m_haneSayısı));
-    düğmeler->addWidget(m_haneSayısı);
-    düğmeler->addWidget(EtiketOluştur(11));
     auto* düzen = new QVBoxLayout(altlık);
     düzen->setContentsMargins(0, 0, 0, 0);
-    düzen->addWidget(VurgulananEtiket(1, m_liste));
+    düzen->addLayout(başlık);
     düzen->addWidget(m_liste, 1);
     düzen->addLayout(düğmeler);
     return altlık;

@@ -227,8 +227,9 @@ TEST_F(AnaFormu, SekmeOkumaSırasındaGezerF4FormaGider) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     } while (QApplication::focusWidget() != &Ağaç() && gezilen.size() < 20);
     EXPECT_EQ(gezilen.join(' ').toStdString(),
-              "ÜrünListesi KullanılanMalzemeListesi ListeyeMalzemeEkleButonu ListedenMalzemeSilButonu YazdırButonu "
-              "PdfKaydetButonu ÖnizlemeButonu HaneSayısıKutusu İşçilikYüzdesiKutusu KarYüzdesiKutusu "
+              "ÜrünListesi HaneSayısıKutusu KullanılanMalzemeListesi ListeyeMalzemeEkleButonu ListedenMalzemeSilButonu "
+              "YazdırButonu "
+              "PdfKaydetButonu ÖnizlemeButonu İşçilikYüzdesiKutusu KarYüzdesiKutusu "
               "DiğerMaliyetYüzdesiKutusu VadeFarkıYüzdesiKutusu MiktarlarıGösterDüğmesi "
               "MalzemeMiktarıveBirimVarnekGösterSeçeneği GünlükMalzemeHareketleriGösterButonu "
               "MalzemeListesiGösterButonu ÜrünListesiGösterButonu ÇıkışButonu");
