@@ -1,6 +1,9 @@
 #include "FormOrtami.h"
 
+#include <QApplication>
+
 #include "Deyimler.h"
+#include "ModalBekleyici.h"
 
 FormOrtamı::FormOrtamı() {
     VeriyeBağlan();
@@ -25,7 +28,9 @@ void FormOrtamı::Aç() {
     };
     m_form = std::make_unique<AnaForm>(AnaFormBağları{[] {}, kapanış});
     m_form->Yükle();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(m_form.get()));
+    // The offscreen platform does not bring the window back once a modal form has gone.
+    QApplication::setActiveWindow(m_form.get());
+    ASSERT_TRUE(Bekle([this] { return m_form->isActiveWindow(); }));
 }
 
 std::string FormOrtamı::Yazılar(std::initializer_list<const char*> kutular) {

@@ -1,0 +1,75 @@
+// The main form's ways into the catalogue forms and the amounts form.
+
+#include <QAbstractButton>
+
+#include "FormOrtami.h"
+#include "MetinTablosu.h"
+#include "ModalBekleyici.h"
+
+using MesajKutusu::Simge;
+using MesajKutusu::Yanıt;
+
+namespace {
+
+class KatalogKomutları : public FormOrtamı {
+  protected:
+    void Bas(const char* düğme) { QTest::mouseClick(&Bul(düğme), Qt::LeftButton); }
+    static QString Kutu(QWidget& form, const char* ad) {
+        return form.findChild<QLineEdit*>(QString::fromUtf8(ad))->text();
+    }
+    // In add mode the frame is open and the button saves.
+    static void EklemeKipinde(QWidget& form, const char* düğme) {
+        EXPECT_TRUE(form.findChild<QWidget*>(QStringLiteral("Çerçeve"))->isEnabled());
+        EXPECT_EQ(form.findChild<QAbstractButton*>(QString::fromUtf8(düğme))->text(), QStringLiteral("Kaydet"));
+    }
+    static void Kapat(QWidget& form) {
+        for (int i = 0; i < 2 && form.isVisible(); ++i) QTest::keyClick(&form, Qt::Key_Escape);
+    }
+};
+
+TEST_F(KatalogKomutları, BoşÜrünListesindeEvetEklemeKipindeAçar) {
+    Kutular().Yanıtla(Yanıt::Evet);
+    ModalAç([this] { Aç(); }, QStringLiteral("ÜrünEkleSilFormu"),
+            [](QWidget& form) {
+                EklemeKipinde(form, "ÜrünEkleKaydetButonu");
+                Kapat(form);
+            });
+    Kutular().TekKutu(Simge::Soru, Metin(420));
+}
+
+TEST_F(KatalogKomutları, BoşKatalogÖnceMalzemeEklemeyiSorar) {
+    Ürün(QStringLiteral("MASA"), QStringLiteral("Sehpa"));
+    Aç();
+    ÜrünSeç(QStringLiteral("MASA"), QStringLiteral("Sehpa"));
+    Kutular().Yanıtla(Yanıt::Hayır);
+    Bas("ListeyeMalzemeEkleButonu");
+    Kutular().TekKutu(Simge::Soru, Metin(430));
+    Kutular().Yanıtla(Yanıt::Evet);
+    ModalAç([this] { Bas("ListeyeMalzemeEkleButonu"); }, QStringLiteral("MalzemeEkleSilFormu"),
+            [](QWidget& form) {
+                EklemeKipinde(form, "MalzemeEkleKaydetButonu");
+                Kapat(form);
+            });
+}
+
+TEST_F(KatalogKomutları, MiktarFormuTutarlarıKendiKuralıylaGösterir) {
+    // 24,99 at 0,50 % is 0,1250 inside the total, but 0,12 on the amounts form.
+    Ürün(QStringLiteral("MASA"), QStringLiteral("Sehpa"), QStringLiteral("0,5"), QStringLiteral("20"),
+         QStringLiteral("-4"), QStringLiteral("0"));
+    Malzeme(QStringLiteral("MASA"), QStringLiteral("Sehpa"), QStringLiteral("Cam"), QStringLiteral("1 Adet"),
+            QStringLiteral("24,99"));
+    Aç();
+    ÜrünSeç(QStringLiteral("MASA"), QStringLiteral("Sehpa"));
+    ModalAç([this] { Bas("MiktarlarıGösterDüğmesi"); }, QStringLiteral("MiktarGösterFormu"),
+            [this](QWidget& form) {
+                EXPECT_EQ(Kutu(form, "MalzemeMaliyetiKutusu"), QStringLiteral("24,99"));
+                EXPECT_EQ(Kutu(form, "İşçilikMaliyetiKutusu"), QStringLiteral("0,12"));
+                EXPECT_EQ(Kutu(form, "KarMaliyetiKutusu"), QStringLiteral("5,00"));
+                EXPECT_EQ(Kutu(form, "VadeMaliyetiKutusu"), QStringLiteral("0,00"));
+                EXPECT_EQ(Kutu(form, "DiğerVarnekKutusu"), QStringLiteral("-1,00"));
+                EXPECT_EQ(Kutu(form, "ToplamMaliyetKutusu").toStdString(), Yazı("ToplamMaliyetKutusu"));
+                Kapat(form);
+            });
+}
+
+}  // namespace
