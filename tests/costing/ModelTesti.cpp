@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QListWidget>
 #include <QRandomGenerator>
+#include <array>
 
 #include "FormOrtami.h"
 #include "ModalBekleyici.h"
@@ -26,6 +27,8 @@ const QStringList Malzemeler = {QStringLiteral("Vida"),     QStringLiteral("Çiv
                                 QStringLiteral("İp"),       QStringLiteral("Şerit"), QStringLiteral("Ölçü Bandı"),
                                 QStringLiteral("Gazlı Bez")};
 const QStringList Türler = {QStringLiteral("Adet"), QStringLiteral("Metre"), QStringLiteral("Kutu")};
+
+constexpr int İşSayısı = 13;
 
 class Model : public FormOrtamı {
   protected:
@@ -297,13 +300,15 @@ void Model::YüzdeKaydet() {
 }
 
 void Model::BirAdım(int tür) {
-    static constexpr void (Model::*İşler[])() = {
+    using İş = void (Model::*)();
+    static constexpr std::array<İş, İşSayısı> İşler = {
         &Model::ÜrünEkle,    &Model::ÜrünEkle,   &Model::ÜrünSil,       &Model::Adlandır, &Model::MalzemeEkle,
         &Model::MalzemeEkle, &Model::MalzemeSil, &Model::FiyatDeğiştir, &Model::Aktar,    &Model::Aktar,
         &Model::Aktar,       &Model::Çıkar,      &Model::YüzdeKaydet};
     // The offscreen platform does not bring the window back once a modal form has gone.
     QApplication::setActiveWindow(&Form());
-    (this->*İşler[tür])();
+    const İş iş = İşler.at(static_cast<std::size_t>(tür));
+    (this->*iş)();
 }
 
 void Model::Karşılaştır(const QString& adım) {
@@ -336,7 +341,7 @@ TEST_F(Model, RastgeleİşlerdenSonraVeriModelinAynıdır) {
     Aç();
     const int adımlar = static_cast<int>(Sayı("VARNEK_ADIM", 2000));
     for (int adım = 0; adım < adımlar; ++adım) {
-        const int tür = Rastgele(13);
+        const int tür = Rastgele(İşSayısı);
         BirAdım(tür);
         Kutular().Al();
         Karşılaştır(QStringLiteral("seed %1, step %2, kind %3").arg(m_tohum).arg(adım).arg(tür));
