@@ -17,9 +17,9 @@
 
 namespace {
 
-QList<QTreeWidgetItem*> GününSatırları() {
+QList<QTreeWidgetItem*> GününSatırları(const QString& tarih) {
     QList<QTreeWidgetItem*> satırlar;
-    SQLMetni = Deyimler::GününHareketleri(HareketTarihiSQL);
+    SQLMetni = Deyimler::GününHareketleri(tarih);
     if (!SorguÇalıştır()) return satırlar;
     const DeyimKoruması koruma;
     while (SatırGetir()) {
@@ -63,9 +63,11 @@ QString MalzemeHareketleriFormu::RaporBaşlığı() const {
 }
 
 void MalzemeHareketleriFormu::ListeyiYükle() {
-    if (HareketTarihiSQL.isEmpty()) return;
+    // Taken before the pending events run: one of them may change the day.
+    const QString tarih = HareketTarihiSQL;
+    if (tarih.isEmpty()) return;
     Liste().clear();
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     Çerçeve().setTitle(HareketTarihi.toString(QStringLiteral("(dd.MM.yyyy) ")) + Metin(888));
-    SatırlarıGöster(GününSatırları());
+    SatırlarıGöster(GününSatırları(tarih));
 }
