@@ -1,6 +1,5 @@
 #include "MalzemeHareketleriFormu.h"
 
-#include <QApplication>
 #include <QGroupBox>
 #include <QTimer>
 
@@ -63,11 +62,10 @@ QString MalzemeHareketleriFormu::RaporBaşlığı() const {
 }
 
 void MalzemeHareketleriFormu::ListeyiYükle() {
-    // Taken before the pending events run: one of them may change the day.
-    const QString tarih = HareketTarihiSQL;
-    if (tarih.isEmpty()) return;
+    if (HareketTarihiSQL.isEmpty()) return;
     Liste().clear();
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    // The cleared list is drawn at once, without running other events in the middle of the load.
+    Liste().viewport()->repaint();
     Çerçeve().setTitle(HareketTarihi.toString(QStringLiteral("(dd.MM.yyyy) ")) + Metin(888));
-    SatırlarıGöster(GününSatırları(tarih));
+    SatırlarıGöster(GününSatırları(HareketTarihiSQL));
 }
