@@ -4,11 +4,6 @@
 set -euo pipefail
 . "$(dirname "$0")/ortak.sh"
 
-if [ -z "${DISPLAY:-}" ]; then
-    bildir "There is no display: running the tour on a virtual screen"
-    exec scripts/tour.sh
-fi
-
 scripts/kur.sh
 derle release Varnek varnek-motor varnek-veri varnek-kilavuz
 kendi_ortami calisma
@@ -17,6 +12,11 @@ veri="$kok/build/release/bin/Varnek.vtb"
 yedek="$XDG_DATA_HOME/Tovrek/Vtb Yedekleri/Varnek.ydk"
 if [ ! -e "$veri" ] && [ ! -e "$yedek" ]; then
     build/release/bin/varnek-veri ornek "$veri"
+fi
+
+if [ -z "${DISPLAY:-}" ]; then
+    bildir "There is no display: running the tour on a virtual screen"
+    exec scripts/tour.sh
 fi
 bildir "Starting Varnek"
 exec build/release/bin/Varnek
