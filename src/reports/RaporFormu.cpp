@@ -59,15 +59,16 @@ KomutDüğmesi* RaporFormu::DüğmeOluştur(const QString& ad, int metin, std::f
     return düğme;
 }
 
-void RaporFormu::SatırlarıGöster(const QList<QTreeWidgetItem*>& satırlar) {
+void RaporFormu::SatırlarıGöster(const QList<QTreeWidgetItem*>& satırlar, Okuma okuma) {
     m_liste->SatırlarıKoy(satırlar);
+    m_tamam = okuma == Okuma::Tamam;
     EtkinliğiAyarla();
 }
 
 void RaporFormu::EtkinliğiAyarla() {
     const bool dolu = !m_liste->Boş();
     m_çerçeve->setEnabled(dolu);
-    for (KomutDüğmesi* düğme : {m_yazdır, m_pdfKaydet, m_önizle}) düğme->setEnabled(dolu);
+    for (KomutDüğmesi* düğme : {m_yazdır, m_pdfKaydet, m_önizle}) düğme->setEnabled(dolu && m_tamam);
 }
 
 QList<QStringList> RaporFormu::ListeMetinleri() const {
