@@ -14,6 +14,8 @@ namespace {
 
 constexpr std::int64_t YeniTekrar = 10000;  // about 10 ms at each connecting
 constexpr std::int64_t AzamiTekrar = 1000000;
+constexpr qsizetype TuzBoyu = 16;
+constexpr std::size_t ÖzetBoyu = 32;
 
 QByteArray HmacSha256(QMessageAuthenticationCode& hmac, const QByteArray& ileti) {
     hmac.reset();
@@ -39,15 +41,15 @@ std::string_view Görünüm(const QByteArray& baytlar) {
 }
 
 std::string Tablo() {
-    return std::string("\"") + Katalog::GizliTablo + "\"";
+    return Tırnakla(Katalog::GizliTablo);
 }
 
 }  // namespace
 
 void ParolayıYaz(sqlite3* vt, std::string_view parola) {
-    QByteArray tuz(16, Qt::Uninitialized);
+    QByteArray tuz(TuzBoyu, Qt::Uninitialized);
     QRandomGenerator::system()->generate(tuz.begin(), tuz.end());
-    SqliteYürüt(vt, ("CREATE TABLE " + Tablo() + " (Tuz BLOB, Tekrar INTEGER, Ozet BLOB)").c_str());
+    SqliteYürüt(vt, std::string(Katalog::GizliTabloSql).c_str());
     SqliteDeyimi ekle(vt, "INSERT INTO " + Tablo() + " VALUES (?1, ?2, ?3)");
     ekle.BağlaBayt(1, Görünüm(tuz));
     ekle.Bağla(2, YeniTekrar);
@@ -55,14 +57,20 @@ void ParolayıYaz(sqlite3* vt, std::string_view parola) {
     ekle.Adım();
 }
 
+void ParolaBilgisiBozuk() {
+    throw Hata(Durum::Bağlanamadı, "Veri dosyası bozulmuş: parola bilgisi okunamıyor. Lütfen yedeğinizi geri yükleyin.",
+               SQLITE_CORRUPT);
+}
+
 bool ParolaDoğru(sqlite3* vt, std::string_view parola) {
     SqliteDeyimi oku(vt, "SELECT Tuz, Tekrar, Ozet FROM " + Tablo());
-    if (!oku.Adım()) throw Hata(Durum::Bağlanamadı, "Veri dosyasının parola bilgisi bozuk.");
-    const std::string_view tuz = oku.Bayt(0);
+    if (!oku.Adım()) ParolaBilgisiBozuk();
+    const QByteArray tuz(oku.Bayt(0).data(), static_cast<qsizetype>(oku.Bayt(0).size()));
     const std::int64_t tekrar = oku.TamSayı(1);
-    if (tekrar < 1 || tekrar > AzamiTekrar) throw Hata(Durum::Bağlanamadı, "Veri dosyasının parola bilgisi bozuk.");
-    const QByteArray özet = Özet(parola, QByteArray(tuz.data(), static_cast<qsizetype>(tuz.size())), tekrar);
-    return Görünüm(özet) == oku.Bayt(2);
+    const std::string saklanan(oku.Bayt(2));
+    const bool olağan = tuz.size() == TuzBoyu && tekrar >= 1 && tekrar <= AzamiTekrar && saklanan.size() == ÖzetBoyu;
+    if (!olağan || oku.Adım()) ParolaBilgisiBozuk();
+    return Görünüm(Özet(parola, tuz, tekrar)) == saklanan;
 }
 
 }  // namespace Motor

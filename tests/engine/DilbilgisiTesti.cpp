@@ -12,7 +12,7 @@ std::string RetDurumu(const std::string& metin) {
         Çözümle(metin);
     } catch (const Hata& hata) {
         EXPECT_LE(hata.Mesaj().size(), Hata::AzamiMesaj);
-        return hata.Durum();
+        return std::string(hata.Durum());
     }
     return "accepted";
 }

@@ -42,9 +42,9 @@ TEST_F(MotorTesti, HerDeyimDizindenYürür) {
          "SEARCH UrunMalzemeTablosu USING INDEX MalzemeninUrunleri (KullanilanMalzemeAdi=?)"},
     };
     Motor::Veritabanı veri(m_dosya, Parola);
-    const Motor::SqliteBağlantısı vt = Motor::VeriDosyasıAç(m_dosya, Parola);
+    const Motor::AçıkDosya dosya = Motor::VeriDosyasıAç(m_dosya, Parola);
     for (const auto& durum : durumlar) {
-        Motor::SqliteDeyimi açıkla(vt.get(), "EXPLAIN QUERY PLAN " + veri.Çevir(durum.Sql).Sql);
+        Motor::SqliteDeyimi açıkla(dosya.Vt.get(), "EXPLAIN QUERY PLAN " + veri.Çevir(durum.Sql).Sql);
         std::string plan;
         while (açıkla.Adım()) plan += std::string(açıkla.Metin(3)) + ";";
         EXPECT_EQ(plan, durum.Plan + ";") << durum.Sql;
