@@ -20,11 +20,13 @@ SQLCHAR* Metin(const std::string& metin) {
 }
 
 Sonuç SonucuAl(SQLRETURN kod, SQLHDBC bağlantı, SQLHSTMT deyim) {
-    Sonuç sonuç{kod, {}, {}};
+    Sonuç sonuç{kod, {}, {}, 0};
     if (kod == SQL_SUCCESS) return sonuç;
     SQLCHAR durum[6] = "";
     SQLCHAR mesaj[512] = "";
-    SQLError(SQL_NULL_HENV, bağlantı, deyim, durum, nullptr, mesaj, sizeof mesaj, nullptr);
+    SQLINTEGER yerel = 0;
+    SQLError(SQL_NULL_HENV, bağlantı, deyim, durum, &yerel, mesaj, sizeof mesaj, nullptr);
+    sonuç.Yerel = yerel;
     sonuç.Durum = reinterpret_cast<char*>(durum);
     sonuç.Mesaj = reinterpret_cast<char*>(mesaj);
     return sonuç;
@@ -59,11 +61,14 @@ Bağ::~Bağ() {
     SQLFreeEnv(Ortam);
 }
 
-Sonuç Bağ::Bağlan(const std::string& tanım) {
+SQLRETURN Bağ::Dene(const std::string& tanım) {
     SQLCHAR boş[1];
-    return SonucuAl(SQLDriverConnect(Bağlantı, nullptr, Metin(tanım), static_cast<SQLSMALLINT>(tanım.size()), boş, 0,
-                                     nullptr, SQL_DRIVER_COMPLETE),
-                    Bağlantı, nullptr);
+    return SQLDriverConnect(Bağlantı, nullptr, Metin(tanım), static_cast<SQLSMALLINT>(tanım.size()), boş, 0, nullptr,
+                            SQL_DRIVER_COMPLETE);
+}
+
+Sonuç Bağ::Bağlan(const std::string& tanım) {
+    return SonucuAl(Dene(tanım), Bağlantı, nullptr);
 }
 
 Sonuç Bağ::Çalıştır(const std::string& sql) {

@@ -22,6 +22,7 @@ struct Sonuç {
     SQLRETURN Kod = SQL_SUCCESS;
     std::string Durum;
     std::string Mesaj;
+    int Yerel = 0;
 };
 
 std::string Tanım(const std::string& yol, const std::string& parola = Parola);
@@ -35,6 +36,7 @@ class Bağ {
     Bağ(const Bağ&) = delete;
     Bağ& operator=(const Bağ&) = delete;
 
+    SQLRETURN Dene(const std::string& tanım);  // takes no memory of its own
     Sonuç Bağlan(const std::string& tanım);
     Sonuç Çalıştır(const std::string& sql);
     Satırlar Oku(const std::string& sql);  // NULL reads "<NULL>"; a failure fails the test
