@@ -66,6 +66,9 @@ void ÖldürülenSüreçte(const std::function<void()>& iş, const std::function
 // Runs `iş` in a child process that cannot make any file larger than `bayt`; true when `iş` gave true.
 bool DoluDisktekiSüreçte(std::size_t bayt, const std::function<bool()>& iş);
 
+// Runs `iş` in a child process that file modes bind, the superuser's too; true when `iş` gave true.
+bool AyrıcalıksızSüreçte(const std::function<bool()>& iş);
+
 std::string Tekrar(const std::string& metin, int kez);
 std::string DosyaOku(const std::string& yol);
 void DosyaYaz(const std::string& yol, const std::string& içerik);
