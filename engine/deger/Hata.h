@@ -54,8 +54,7 @@ class Hata : public std::exception {
         constexpr std::string_view kesik = "…";
         durum.copy(m_durum.data(), m_durum.size() - 1);
         const bool sığıyor = mesaj.size() <= AzamiMesaj;
-        const std::string_view metin =
-            sığıyor ? mesaj : BütünKarakterlerleKes(mesaj, AzamiMesaj - kesik.size());
+        const std::string_view metin = sığıyor ? mesaj : BütünKarakterlerleKes(mesaj, AzamiMesaj - kesik.size());
         metin.copy(m_mesaj.data(), metin.size());
         if (!sığıyor) kesik.copy(m_mesaj.data() + metin.size(), kesik.size());
     }

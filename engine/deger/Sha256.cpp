@@ -71,7 +71,8 @@ Sha256::Özet Sha256::Bitir() noexcept {
         Ekle({&bayt, 1});
     }
     Özet özet;
-    for (std::size_t i = 0; i < özet.size(); ++i) özet[i] = static_cast<std::uint8_t>(m_durum[i / 4] >> (24 - i % 4 * 8));
+    for (std::size_t i = 0; i < özet.size(); ++i)
+        özet[i] = static_cast<std::uint8_t>(m_durum[i / 4] >> (24 - i % 4 * 8));
     return özet;
 }
 

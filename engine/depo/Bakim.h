@@ -13,8 +13,8 @@ void VeriDosyasıOluştur(const std::string& yol, std::string_view parola);
 // checked first, so that a damaged one never replaces a good target; an existing target stays until the copy is
 // complete. A target that is a link is written through. Throws Hata; the target is then as it was.
 //
-// Where both lead to one file, it is compacted in place, in one transaction: other clients stay connected, mode and owner
-// stay, and a crash leaves the old content or the new.
+// Where both lead to one file, it is compacted in place, in one transaction: other clients stay connected, mode and
+// owner stay, and a crash leaves the old content or the new.
 void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hedef, std::string_view parola);
 
 }  // namespace Motor

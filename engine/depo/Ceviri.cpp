@@ -8,12 +8,19 @@ namespace Motor {
 
 namespace {
 
+// A text of the statement within a message.
+std::string Alıntı(std::string_view metin) {
+    constexpr std::size_t enÇok = 60;
+    const std::string_view baş = BütünKarakterlerleKes(metin, enÇok);
+    return std::string(baş) + (baş.size() < metin.size() ? "…" : "");
+}
+
 [[noreturn]] void TürUymuyor(const SütunTanımı& sütun, const std::string& neden) {
     throw Hata(Durum::TürUymuyor, "Data type mismatch: " + sütun.Ad + " sütunu için " + neden);
 }
 
 Değer SayıyıÇevir(const SütunTanımı& sütun, const std::optional<OnlukSayı>& sayı, std::string_view metin) {
-    if (!sayı) TürUymuyor(sütun, "\"" + std::string(BütünKarakterlerleKes(metin, 60)) + "\" geçerli bir sayı değil.");
+    if (!sayı) TürUymuyor(sütun, "\"" + Alıntı(metin) + "\" geçerli bir sayı değil.");
     if (sütun.Tür == SütunTürü::Para) return ParayaÇevir(*sayı);
     return OndalığaÇevir(*sayı);
 }
@@ -98,7 +105,8 @@ class Çevirmen {
     }
 
     SqliteKomutu operator()(const TabloOluşturDeyimi& oluştur) {
-        if (m_şema.Tablo(oluştur.Tablo)) throw Hata(Durum::TabloVar, oluştur.Tablo + " adında bir tablo zaten var.");
+        if (m_şema.Tablo(oluştur.Tablo))
+            throw Hata(Durum::TabloVar, Alıntı(oluştur.Tablo) + " adında bir tablo zaten var.");
         DizinYok(oluştur.Tablo);
         std::string sütunlar;
         for (const SütunBildirimi& sütun : oluştur.Sütunlar)
@@ -120,11 +128,11 @@ class Çevirmen {
   private:
     const TabloTanımı& Tablo(const std::string& ad) const {
         if (const TabloTanımı* tablo = m_şema.Tablo(ad)) return *tablo;
-        throw Hata(Durum::TabloYok, ad.substr(0, 64) + " adında bir tablo yok.");
+        throw Hata(Durum::TabloYok, Alıntı(ad) + " adında bir tablo yok.");
     }
 
     void DizinYok(const std::string& ad) const {
-        if (m_şema.DizinVar(ad)) throw Hata(Durum::DizinVar, ad + " adında bir dizin zaten var.");
+        if (m_şema.DizinVar(ad)) throw Hata(Durum::DizinVar, Alıntı(ad) + " adında bir dizin zaten var.");
     }
 
     std::string Parametre(Değer değer) {

@@ -29,8 +29,8 @@ class Şema {
 inline constexpr std::size_t AzamiSütun = 2000;
 
 // Checks the statement against the schema, turns its literals into the columns' stored values and writes the SQL.
-// Throws Hata: unknown table or column, a name in use (S0001, S0002, S0011, S0022), too many columns (37000), a literal that does not suit its column (22005, 22003),
-// a text too long to be stored (22001).
+// Throws Hata: unknown table or column, a name in use (S0001, S0002, S0011, S0022), too many columns (37000), a literal
+// that does not suit its column (22005, 22003), a text too long to be stored (22001).
 SqliteKomutu Çevir(const Deyim& deyim, Şema& şema);
 
 }  // namespace Motor

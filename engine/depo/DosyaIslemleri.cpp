@@ -169,8 +169,9 @@ void GeçiciDosya::Yerleştir(Yerleştirme biçim) {
     if (sonuç != 0) YazılamadıHatası(m_hedef);
     m_yerleşti = true;
     if (!KlasörüEşitle(m_hedef))
-        throw Hata(Durum::Genel, "Dosya yazıldı ama diskin onu kalıcı olarak sakladığı doğrulanamadı; diski denetleyin: " +
-                                     std::filesystem::path(m_hedef).filename().string());
+        throw Hata(Durum::Genel,
+                   "Dosya yazıldı ama diskin onu kalıcı olarak sakladığı doğrulanamadı; diski denetleyin: " +
+                       std::filesystem::path(m_hedef).filename().string());
 }
 
 }  // namespace Motor

@@ -47,8 +47,8 @@ class Tanıtıcı {
 };
 
 // A new file in the making, beside its target and readable by its owner only. What an earlier crash left under its name
-// is taken away first, never written to: it may be another name of a file that matters. While another process is at work
-// on it, the constructor throws Hata. Unless it was put into place, the destructor removes it.
+// is taken away first, never written to: it may be another name of a file that matters. While another process is at
+// work on it, the constructor throws Hata. Unless it was put into place, the destructor removes it.
 class GeçiciDosya {
   public:
     // `hedef` is a real path (GerçekYol).
@@ -62,8 +62,8 @@ class GeçiciDosya {
 
     const std::string& Yol() const { return m_yol; }
 
-    // Syncs the file, gives it the target's name and syncs the folder. Throws Hata; the target is then as it was, unless
-    // the text says that only its lasting is in doubt. With Yeni an existing target is not replaced.
+    // Syncs the file, gives it the target's name and syncs the folder. Throws Hata; the target is then as it was,
+    // unless the text says that only its lasting is in doubt. With Yeni an existing target is not replaced.
     enum class Yerleştirme { Yeni, Değiştir };
     void Yerleştir(Yerleştirme biçim);
 

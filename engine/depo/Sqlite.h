@@ -28,7 +28,8 @@ SqliteBağlantısı SqliteAç(const std::string& yol);
 // A name of the file as SQL takes it.
 std::string Tırnakla(std::string_view ad);
 
-// Turns SQLite's result code into a diagnostic for the user; damage has the native code SQLITE_CORRUPT or SQLITE_NOTADB.
+// Turns SQLite's result code into a diagnostic for the user; damage has the native code SQLITE_CORRUPT or
+// SQLITE_NOTADB.
 [[noreturn]] void SqliteHatasıFırlat(int kod);
 
 // Runs SQL that gives no rows.

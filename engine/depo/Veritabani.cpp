@@ -50,7 +50,8 @@ std::optional<std::string_view> Sorgu::Metin(std::size_t sütun, DeğerTamponu t
     sqlite3_value* değer = m_deyim.SütunDeğeri(static_cast<int>(sütun));
     const int tür = sqlite3_value_type(değer);
     if (tür == SQLITE_NULL) return std::nullopt;
-    // A value of another kind than its column was not written by the engine; turned into a number it would be a wrong one.
+    // A value of another kind than its column was not written by the engine; turned into a number it would be a wrong
+    // one.
     const auto türüGerek = [tür](int gerekli) {
         if (tür != gerekli) SqliteHatasıFırlat(SQLITE_CORRUPT);
     };

@@ -46,11 +46,12 @@ class Sorgu {
     std::vector<SütunTanımı> m_sütunlar;
 };
 
-// A connection to a data file. One statement is one transaction, on disk before the call returns, unless manual commit is
-// on.
+// A connection to a data file. One statement is one transaction, on disk before the call returns, unless manual commit
+// is on.
 //
 // Where another file was put in the data file's place meanwhile, the next statement connects to that one if nothing can
-// be lost: no manual commit, no open transaction, no open query. Otherwise it is refused (S1000) and the client decides.
+// be lost: no manual commit, no open transaction, no open query. Otherwise it is refused (S1000) and the client
+// decides.
 //
 // Where SQLite itself undid the open transaction (disk full, read error, no memory), every statement and the commit are
 // refused (40001) until the client rolls back: what it has not noticed must not look like a whole.
@@ -109,8 +110,8 @@ class Veritabanı : private Şema {
     bool m_hareket = false;  // begun, and neither committed nor rolled back by the client
 };
 
-// At work on the connection for as long as it lives. The driver manager lets one call at a time into a connection, except
-// for the moment in which SQLCancel closes an idle cursor, which is waited for.
+// At work on the connection for as long as it lives. The driver manager lets one call at a time into a connection,
+// except for the moment in which SQLCancel closes an idle cursor, which is waited for.
 class Nöbet {
   public:
     Nöbet(Veritabanı& veri, std::atomic<bool>& iptal) noexcept : m_veri(veri) {

@@ -67,7 +67,8 @@ Sözcük Sözcükleyici::Oku(SözcükTürü tür, std::size_t son) {
 }
 
 void Sözcükleyici::KesmeİşaretiHatası() {
-    throw Hata(Durum::SözDizimi, "Adlarda kesme işareti (') kullanılamaz; işlem yapılmadı. İşareti silip yeniden deneyin.");
+    throw Hata(Durum::SözDizimi,
+               "Adlarda kesme işareti (') kullanılamaz; işlem yapılmadı. İşareti silip yeniden deneyin.");
 }
 
 Sözcük Sözcükleyici::MetinOku() {

@@ -2,7 +2,6 @@
 
 #include <odbcinst.h>
 #include <linux/capability.h>
-#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -78,6 +77,10 @@ Sonuç Bağ::Çalıştır(const std::string& sql) {
     return SonucuAl(deyim.Çalıştır(sql), nullptr, deyim.Tanıtıcı);
 }
 
+Sonuç Bağ::İlkTanı(SQLHSTMT deyim) {
+    return SonucuAl(SQL_ERROR, nullptr, deyim);
+}
+
 Satırlar Bağ::Oku(const std::string& sql) {
     Satırlar satırlar;
     Deyim deyim(Bağlantı);
@@ -139,33 +142,16 @@ void ÖldürülenSüreçte(const std::function<void()>& iş, const std::function
     waitpid(çocuk, nullptr, 0);
 }
 
-namespace {
-
-bool Süreçte(const std::function<bool()>& iş) {
+bool AyrıcalıksızSüreçte(const std::function<bool()>& iş) {
     const pid_t çocuk = fork();
-    if (çocuk == 0) _exit(iş() ? 0 : 1);
+    if (çocuk == 0) {
+        __user_cap_header_struct başlık{_LINUX_CAPABILITY_VERSION_3, 0};
+        __user_cap_data_struct hiçbiri[2]{};
+        _exit(syscall(SYS_capset, &başlık, hiçbiri) == 0 && iş() ? 0 : 1);
+    }
     int durum = 0;
     waitpid(çocuk, &durum, 0);
     return WIFEXITED(durum) && WEXITSTATUS(durum) == 0;
-}
-
-}  // namespace
-
-bool DoluDisktekiSüreçte(std::size_t bayt, const std::function<bool()>& iş) {
-    return Süreçte([&] {
-        const rlimit sınır{bayt, bayt};
-        setrlimit(RLIMIT_FSIZE, &sınır);
-        std::signal(SIGXFSZ, SIG_IGN);
-        return iş();
-    });
-}
-
-bool AyrıcalıksızSüreçte(const std::function<bool()>& iş) {
-    return Süreçte([&] {
-        __user_cap_header_struct başlık{_LINUX_CAPABILITY_VERSION_3, 0};
-        __user_cap_data_struct hiçbiri[2]{};
-        return syscall(SYS_capset, &başlık, hiçbiri) == 0 && iş();
-    });
 }
 
 std::string Tekrar(const std::string& metin, int kez) {
