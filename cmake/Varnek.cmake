@@ -33,10 +33,11 @@ endfunction()
 # varnek_motoru_bulur(target): an executable that reaches the data engine through the driver manager. odbcinst.ini names
 # the driver by its bare file name, so that the folder can be moved as a whole. It is the driver manager that opens the
 # driver, so the program's own folder must be in its DT_RPATH: unlike DT_RUNPATH, that holds for libraries opened by
-# libraries.
+# libraries. Built as it is installed: a run path that is to be changed at installation would be padded with empty
+# entries, which stand for the current folder.
 function(varnek_motoru_bulur hedef)
     if(UNIX)
-        set_target_properties(${hedef} PROPERTIES BUILD_RPATH "$ORIGIN" INSTALL_RPATH "$ORIGIN")
+        set_target_properties(${hedef} PROPERTIES BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "$ORIGIN")
         target_link_options(${hedef} PRIVATE -Wl,--disable-new-dtags)
     endif()
     add_dependencies(${hedef} varnek-motor)

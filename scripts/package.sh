@@ -19,6 +19,7 @@ mkdir -p "$paket"
 
 bildir "The portable folder"
 cmake --install build/release --strip --component tasinabilir --prefix "$paket/$ad" >"$paket/kurulum.log"
+scripts/kosu-yolu.sh "$paket/$ad"/{Varnek,varnek-veri,libvarnek-motor.so}
 kendi_ortami paket-ortami
 "$paket/$ad/varnek-veri" yeni "$paket/$ad/Varnek.vtb"
 tar --create --gzip --owner=0 --group=0 --sort=name --file "$paket/$ad.tar.gz" --directory "$paket" "$ad"
@@ -26,5 +27,8 @@ rm -rf "${paket:?}/$ad"
 
 bildir "The Debian package"
 (cd build/release && cpack -G DEB -B "$paket" -D CPACK_DEBIAN_PACKAGE_RELEASE="$revizyon") >>"$paket/kurulum.log"
-rm -rf "$paket/_CPack_Packages" "$paket/kurulum.log"
+acik=$(mktemp -d)
+dpkg-deb -x "$paket"/varnek_*.deb "$acik"
+scripts/kosu-yolu.sh "$acik"/usr/lib/varnek/{Varnek,varnek-veri,libvarnek-motor.so}
+rm -rf "$acik" "$paket/_CPack_Packages" "$paket/kurulum.log"
 ls -l "$paket"

@@ -118,12 +118,14 @@ void MalzemeEkleSilFormu::SeçileniGöster() {
     m_fiyat->clear();
     const QListWidgetItem* seçili = m_liste->currentItem();
     if (!seçili) return;
-    SQLMetni = Deyimler::MalzemeVeFiyatı(seçili->text());
-    if (!SorguÇalıştır()) return;
-    const DeyimKoruması koruma;
-    if (!SatırGetir()) return;
-    m_ad->setText(SütunOku(1));
-    const QString fiyat = NoktayıVirgüleÇevir(SütunOku(2));
+    QString ad;
+    QString fiyat;
+    const Kayıt kayıt = KaydıOku(Deyimler::MalzemeVeFiyatı(seçili->text()), [&] {
+        ad = SütunOku(1);
+        fiyat = NoktayıVirgüleÇevir(SütunOku(2));
+    });
+    if (kayıt != Kayıt::Var) return;
+    m_ad->setText(ad);
     m_fiyat->setText(SayıMetniBiçimle(fiyat, OndalıkBasamak).value_or(fiyat));
 }
 
@@ -175,11 +177,8 @@ void MalzemeEkleSilFormu::FiyattanDön() {
 bool MalzemeEkleSilFormu::GirilenlerUygun() {
     if (m_ad->text().isEmpty()) return Uyar(680, *m_ad);
     if (m_fiyat->text().isEmpty()) return Uyar(690, *m_fiyat);
-    SQLMetni = Deyimler::MalzemeVarMı(m_ad->text());
-    if (!SorguÇalıştır()) return false;
-    const bool var = SatırGetir();
-    DeyimiBırak();
-    return var ? Uyar(700, *m_ad) : true;
+    const Kayıt aynısı = KaydıOku(Deyimler::MalzemeVarMı(m_ad->text()));
+    return aynısı == Kayıt::Var ? Uyar(700, *m_ad) : aynısı == Kayıt::Yok;
 }
 
 void MalzemeEkleSilFormu::MalzemeEkleKaydetButonu_Click() {

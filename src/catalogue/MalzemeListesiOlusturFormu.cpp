@@ -168,12 +168,12 @@ bool MalzemeListesiOluşturFormu::ZatenEklenmiş(const QString& malzeme) const {
 }
 
 std::optional<Para> MalzemeListesiOluşturFormu::BirimFiyat(const QString& malzeme) const {
-    SQLMetni = Deyimler::MalzemeFiyatı(malzeme);
-    if (!SorguÇalıştır()) return std::nullopt;
-    const DeyimKoruması koruma;
-    if (!SatırGetir()) return Para::OnBindeBirden(Para::Ölçek);  // no longer in the catalogue: 1
+    QString saklanan;
+    const Kayıt kayıt = KaydıOku(Deyimler::MalzemeFiyatı(malzeme), [&saklanan] { saklanan = SütunOku(1); });
+    if (kayıt == Kayıt::Okunamadı) return std::nullopt;
+    if (kayıt == Kayıt::Yok) return Para::OnBindeBirden(Para::Ölçek);  // no longer in the catalogue: 1
     // Rounded to the decimals on display before use.
-    const auto metin = SayıMetniBiçimle(NoktayıVirgüleÇevir(SütunOku(1)), OndalıkBasamak);
+    const auto metin = SayıMetniBiçimle(NoktayıVirgüleÇevir(saklanan), OndalıkBasamak);
     const auto fiyat = metin ? ParaOku(*metin) : std::nullopt;
     if (!fiyat) BeklenmeyenHataGöster(malzeme);
     return fiyat;

@@ -7,6 +7,7 @@
 #include <QSignalBlocker>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <tuple>
 
 #include "AcilirGirisKutusu.h"
 #include "AnaFormErisimi.h"
@@ -103,11 +104,7 @@ void ÜrünEkleSilFormu::Yerleştir() {
 
 void ÜrünEkleSilFormu::Yükle() {
     QStringList gruplar;
-    SQLMetni = Deyimler::ÜrünGrupları();
-    if (SorguÇalıştır()) {
-        const DeyimKoruması koruma;
-        while (SatırGetir()) gruplar.append(SütunOku(1));
-    }
+    std::ignore = SatırlarıOku(Deyimler::ÜrünGrupları(), [&gruplar] { gruplar.append(SütunOku(1)); });
     m_grup->Doldur(gruplar);
     ÜrünAğacınıYükle(*m_ağaç);
     SilDüğmesiniAdlandır();
@@ -168,11 +165,8 @@ bool ÜrünEkleSilFormu::GirilenlerUygun() {
     if (grup.isEmpty()) return Uyar(560, *m_grup);
     if (SayıMı(grup)) return Uyar(565, *m_grup);
     if (ürün.isEmpty()) return Uyar(570, *m_ad);
-    SQLMetni = Deyimler::ÜrünVarMı(grup, ürün);
-    if (!SorguÇalıştır()) return false;
-    const bool var = SatırGetir();
-    DeyimiBırak();
-    return var ? Uyar(580, *m_ad) : true;
+    const Kayıt aynısı = KaydıOku(Deyimler::ÜrünVarMı(grup, ürün));
+    return aynısı == Kayıt::Var ? Uyar(580, *m_ad) : aynısı == Kayıt::Yok;
 }
 
 QTreeWidgetItem* ÜrünEkleSilFormu::GrupDüğümü(const QString& grup) const {

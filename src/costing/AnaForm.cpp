@@ -106,13 +106,12 @@ void AnaForm::SeçiliÜrünüYükle() {
     m_maliyet->MalzemeMaliyetiniGöster(yüklenen.Toplam.Tutar());
     const bool malzemeVar = !m_liste->Boş();
     m_komutlar.İzinVer(Komut::ListedenMalzemeSil, malzemeVar);
-    YazdırmayaİzinVer(malzemeVar);
+    YazdırmayaİzinVer(malzemeVar && yüklenen.Tamam);  // an incomplete cost sheet would look like a whole one
     m_maliyet->setEnabled(malzemeVar);
     m_maliyet->YüzdeleriYükle(grup, ürün);
     ToplamMaliyetHesapla();
     m_komutlar.İzinVer(Komut::DeğişiklikleriKaydet, false);
     if (m_miktar->Seçili()) m_miktar->SeçeneğiUygula();
-    if (!yüklenen.Tamam) BeklenmeyenHataGöster(Metin(2131));
     if (!yüklenen.Sayılmayanlar.isEmpty()) SayılmayanlarıGöster(yüklenen.Sayılmayanlar);
 }
 

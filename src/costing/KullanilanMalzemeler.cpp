@@ -20,21 +20,16 @@ KullanılanMalzemeListesi::Yüklenen KullanılanMalzemeListesi::Yükle(const QSt
                                                                    int basamak) {
     clear();
     Yüklenen sonuç;
-    SQLMetni = Deyimler::KullanılanMalzemeler(grup, ürün);
-    if (!SorguÇalıştır()) return sonuç;
     QList<QTreeWidgetItem*> satırlar;
-    {
-        const DeyimKoruması koruma;
-        while (SatırGetir()) {
-            const QString miktar = SütunOku(1);
-            const QString ad = SütunOku(2);
-            const QString fiyat = NoktayıVirgüleÇevir(SütunOku(3));
-            const MalzemeSatırı satır = sonuç.Toplam.Ekle(miktar, fiyat, basamak);
-            if (!satır.Sayıldı) sonuç.Sayılmayanlar.append(miktar + QLatin1Char(' ') + ad);
-            satırlar.append(new QTreeWidgetItem(QStringList{satır.Miktar, ad, satır.Fiyat, satır.Tutar}));
-        }
-        sonuç.Tamam = SatırlarBitti();
-    }
+    const Okuma okuma = SatırlarıOku(Deyimler::KullanılanMalzemeler(grup, ürün), [&] {
+        const QString miktar = SütunOku(1);
+        const QString ad = SütunOku(2);
+        const QString fiyat = NoktayıVirgüleÇevir(SütunOku(3));
+        const MalzemeSatırı satır = sonuç.Toplam.Ekle(miktar, fiyat, basamak);
+        if (!satır.Sayıldı) sonuç.Sayılmayanlar.append(miktar + QLatin1Char(' ') + ad);
+        satırlar.append(new QTreeWidgetItem(QStringList{satır.Miktar, ad, satır.Fiyat, satır.Tutar}));
+    });
+    sonuç.Tamam = okuma == Okuma::Tamam;
     SatırlarıKoy(satırlar);
     return sonuç;
 }

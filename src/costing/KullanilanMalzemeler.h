@@ -13,7 +13,7 @@ class KullanılanMalzemeListesi : public RaporListesi {
     struct Yüklenen {
         MalzemeToplamı Toplam;
         QStringList Sayılmayanlar;  // rows whose figures could not be read, as stored
-        bool Tamam = true;          // false: something stopped the rows in the middle
+        bool Tamam = false;         // all rows were read
     };
     // Reads the product's rows, figures with `basamak` decimals; the first row becomes current.
     Yüklenen Yükle(const QString& grup, const QString& ürün, int basamak);

@@ -87,14 +87,16 @@ void MaliyetAlanı::MalzemeMaliyetiDeğişti(const QString& metin) {
     if (biçimli) m_malzeme->setText(*biçimli);
 }
 
-void MaliyetAlanı::YüzdeleriYükle(const QString& grup, const QString& ürün) {
+bool MaliyetAlanı::YüzdeleriYükle(const QString& grup, const QString& ürün) {
     // No percentage of the product before may stay in a box.
     for (SayıKutusu* kutu : m_yüzdeler) kutu->clear();
-    SQLMetni = Deyimler::Yüzdeler(grup, ürün);
-    if (!SorguÇalıştır()) return;
-    const DeyimKoruması koruma;
-    if (!SatırGetir()) return;
-    for (int i = İşçilik; i <= Vade; ++i) m_yüzdeler[i]->setText(YüzdeMetni(SütunOku(i + 1)));
+    std::array<QString, 4> saklanan;
+    const Kayıt kayıt = KaydıOku(Deyimler::Yüzdeler(grup, ürün), [&saklanan] {
+        for (int i = İşçilik; i <= Vade; ++i) saklanan[i] = SütunOku(i + 1);
+    });
+    if (kayıt != Kayıt::Var) return false;
+    for (int i = İşçilik; i <= Vade; ++i) m_yüzdeler[i]->setText(YüzdeMetni(saklanan[i]));
+    return true;
 }
 
 void MaliyetAlanı::ToplamMaliyetHesapla() {

@@ -21,8 +21,8 @@ class MaliyetAlanı : public QFrame {
     // The box shows it with the decimal places in force, and the calculation reads what it shows.
     void MalzemeMaliyetiniGöster(Para maliyet);
 
-    // Reads the product's stored percentages into the boxes.
-    void YüzdeleriYükle(const QString& grup, const QString& ürün);
+    // Reads the product's stored percentages into the boxes. False: they stay as they were.
+    bool YüzdeleriYükle(const QString& grup, const QString& ürün);
 
     void ToplamMaliyetHesapla();
     void Boşalt();

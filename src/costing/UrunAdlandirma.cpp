@@ -18,13 +18,10 @@ AdlandırmaSonucu Adlandır(const QString& ürünler, const QString& malzemeler)
 // A row that bears just the old name is the product itself, whose letters' case is being corrected. nullopt: the data
 // file refused the question.
 std::optional<bool> BaşkaÜrünVar(const QString& grup, const QString& eski, const QString& yeni) {
-    SQLMetni = Deyimler::ÜrünAdıVarMı(grup, yeni);
-    if (!SorguÇalıştır()) return std::nullopt;
-    const DeyimKoruması koruma;
-    while (SatırGetir()) {
-        if (SütunOku(1) != eski) return true;
-    }
-    return false;
+    bool var = false;
+    const Okuma okuma = SatırlarıOku(Deyimler::ÜrünAdıVarMı(grup, yeni), [&] { var = var || SütunOku(1) != eski; });
+    if (okuma != Okuma::Tamam) return std::nullopt;
+    return var;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 
+#include <QScopeGuard>
 #include <odbcinst.h>
 
 #include "DegiskenModulu.h"
@@ -34,6 +35,23 @@ void HatalarıGöster(const QStringList& hatalar) {
         MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam,
                             hata.isEmpty() ? Metin(190) : hata, Metin(180));
     }
+}
+
+// Besides the end of the rows, a column of the row before that could not be read whole ends them.
+bool SatırGetir() {
+    if (SonDönüşKodu == Başarı) SonDönüşKodu = Deyim.Getir();
+    return SonDönüşKodu == Başarı;
+}
+
+// Rows that ended before their end: what is missing, and the driver's reason.
+void YarımOkumayıGöster(int metin) {
+    QStringList satırlar{Metin(metin)};
+    if (Deyim.Tanıtıcı()) satırlar += OdbcHatalarınıAl(nullptr, Deyim.Tanıtıcı());
+    Deyim.Bırak();
+    satırlar.removeDuplicates();
+    satırlar.removeAll(QString());
+    MesajKutusuOrtala();
+    MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam, satırlar.join(QLatin1Char('\n')));
 }
 
 // SQLConfigDataSource with NUL-separated attributes; the list ends in a NUL of its own.
@@ -127,15 +145,26 @@ bool DeyimiYürüt(const QString& deyim) {
     return tamam;
 }
 
-bool SatırGetir() {
-    // Besides the end of the rows, a column of the row before that could not be read whole ends the loop.
-    if (SonDönüşKodu != Başarı) return false;
-    SonDönüşKodu = Deyim.Getir();
-    return SonDönüşKodu == Başarı;
+Okuma SatırlarıOku(const QString& deyim, const std::function<void()>& satır) {
+    SQLMetni = deyim;
+    if (!SorguÇalıştır()) return Okuma::Yapılamadı;
+    const auto koruma = qScopeGuard(DeyimiBırak);
+    while (SatırGetir()) satır();
+    if (SonDönüşKodu == SatırKalmadı) return Okuma::Tamam;
+    YarımOkumayıGöster(2132);
+    return Okuma::Eksik;
 }
 
-bool SatırlarBitti() {
-    return SonDönüşKodu == SatırKalmadı;
+Kayıt KaydıOku(const QString& deyim, const std::function<void()>& satır) {
+    SQLMetni = deyim;
+    if (!SorguÇalıştır()) return Kayıt::Okunamadı;
+    const auto koruma = qScopeGuard(DeyimiBırak);
+    const bool var = SatırGetir();
+    if (var && satır) satır();
+    if (SonDönüşKodu == SatırKalmadı) return Kayıt::Yok;
+    if (SonDönüşKodu == Başarı) return Kayıt::Var;
+    YarımOkumayıGöster(2133);
+    return Kayıt::Okunamadı;
 }
 
 QString SütunOku(int sütun) {

@@ -2,16 +2,13 @@
 
 #include <QString>
 #include <cstdint>
+#include <functional>
 
 // The program's only way to its data: one environment, one connection and one statement handle, and values that
 // travel as text. All calls come from the user-interface thread.
 //
-// Reading a query:
-//     SQLMetni = Deyimler::...;
-//     if (SorguÇalıştır()) {
-//         DeyimKoruması koruma;                       // drops the statement on every path
-//         while (SatırGetir()) { ... SütunOku(1) ... }
-//     }
+// Reading a query's rows: SatırlarıOku(Deyimler::..., [&] { ... SütunOku(1) ... });
+// Reading one row: KaydıOku(Deyimler::..., [&] { ... SütunOku(1) ... });
 // Running INSERT, UPDATE, DELETE: bool tamam = DeyimiYürüt(Deyimler::...);
 
 inline QString SQLMetni;                // text of the next statement
@@ -49,13 +46,23 @@ bool SorguÇalıştır();
 // Runs an INSERT, UPDATE or DELETE and drops its statement. False: its errors have been shown.
 bool DeyimiYürüt(const QString& deyim);
 
-// The next row; false at the end, and also after a row in which a column's read gave anything but success.
-bool SatırGetir();
+// What became of a query's rows.
+enum class Okuma {
+    Tamam,      // read up to their end
+    Eksik,      // something stopped them before their end
+    Yapılamadı  // the statement was refused, none was read
+};
 
-// Whether the loop over the rows came to their end; false when something stopped it before.
-bool SatırlarBitti();
+// Runs a query, calls `satır` for each of its rows and drops the statement, before a box is shown and on every other
+// path. Whatever was not read whole has been told to the user; rows that came before it have been handed over. `satır`
+// must not run statements.
+[[nodiscard]] Okuma SatırlarıOku(const QString& deyim, const std::function<void()>& satır);
 
-// A column of the current row, numbered from 1, at most 254 characters; a longer one is cut there and counts as
+// The same for a question that one row answers.
+enum class Kayıt { Var, Yok, Okunamadı };
+[[nodiscard]] Kayıt KaydıOku(const QString& deyim, const std::function<void()>& satır = {});
+
+// A column of the row at hand, numbered from 1, at most 254 characters; a longer one is cut there and counts as
 // truncated, so that the row is the last one read. NULL gives "".
 QString SütunOku(int sütun);
 
@@ -67,11 +74,3 @@ std::int32_t KayıtSayısıAl();
 
 // Every pending error of the connection, a box each.
 void ODBCHatasıGöster();
-
-// Drops the statement when it goes out of scope.
-struct DeyimKoruması {
-    DeyimKoruması() = default;
-    DeyimKoruması(const DeyimKoruması&) = delete;
-    DeyimKoruması& operator=(const DeyimKoruması&) = delete;
-    ~DeyimKoruması() { DeyimiBırak(); }
-};

@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QTreeWidget>
+#include <tuple>
 
 #include "Deyimler.h"
 #include "OdbcModulu.h"
@@ -43,15 +44,12 @@ void ÜrünAğacınıYükle(QTreeWidget& ağaç) {
     ağaç.clear();
     SQLMetni = Deyimler::ÜrünSayısı();
     Yüklemeİlerlemesi ilerleme(KayıtSayısıAl());
-    SQLMetni = Deyimler::ÜrünAğacı();
-    if (!SorguÇalıştır()) return;
-    const DeyimKoruması koruma;
     GrupDüğümleri gruplar;
-    while (SatırGetir()) {
+    std::ignore = SatırlarıOku(Deyimler::ÜrünAğacı(), [&] {
         QTreeWidgetItem* grup = gruplar.Düğüm(SütunOku(1));
         new QTreeWidgetItem(grup, QStringList(SütunOku(2)));
         ilerleme.Arttır();
-    }
+    });
     ağaç.addTopLevelItems(gruplar.Sıra());
 }
 
@@ -60,13 +58,10 @@ void MalzemeListesiniYükle(QListWidget& liste) {
     liste.clear();
     SQLMetni = Deyimler::MalzemeSayısı();
     Yüklemeİlerlemesi ilerleme(KayıtSayısıAl());
-    SQLMetni = Deyimler::MalzemeListesi();
-    if (!SorguÇalıştır()) return;
-    const DeyimKoruması koruma;
     QStringList adlar;
-    while (SatırGetir()) {
+    std::ignore = SatırlarıOku(Deyimler::MalzemeListesi(), [&] {
         adlar.append(SütunOku(1));
         ilerleme.Arttır();
-    }
+    });
     liste.addItems(adlar);
 }

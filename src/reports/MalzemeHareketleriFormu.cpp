@@ -16,20 +16,15 @@
 
 namespace {
 
-QList<QTreeWidgetItem*> GününSatırları(const QString& tarih) {
-    QList<QTreeWidgetItem*> satırlar;
-    SQLMetni = Deyimler::GününHareketleri(tarih);
-    if (!SorguÇalıştır()) return satırlar;
-    const DeyimKoruması koruma;
-    while (SatırGetir()) {
+Okuma GününSatırları(const QString& tarih, QList<QTreeWidgetItem*>& satırlar) {
+    return SatırlarıOku(Deyimler::GününHareketleri(tarih), [&satırlar] {
         const QString malzeme = SütunOku(1);
         const QString miktar = SütunOku(2);
         const QString fiyat = SütunOku(3);
         const QString ürün = SütunOku(4);
         const HareketSatırı satır = HareketiBiçimle(miktar, fiyat, OndalıkBasamak);
         satırlar.append(new QTreeWidgetItem(QStringList{malzeme, satır.Miktar, satır.Fiyat, satır.Tutar, ürün}));
-    }
-    return satırlar;
+    });
 }
 
 }  // namespace
@@ -72,5 +67,7 @@ void MalzemeHareketleriFormu::ListeyiYükle() {
     // The cleared list is drawn at once, without running other events in the middle of the load.
     Liste().viewport()->repaint();
     Çerçeve().setTitle(HareketTarihi.toString(QStringLiteral("(dd.MM.yyyy) ")) + Metin(888));
-    SatırlarıGöster(GününSatırları(HareketTarihiSQL));
+    QList<QTreeWidgetItem*> satırlar;
+    const Okuma okuma = GününSatırları(HareketTarihiSQL, satırlar);
+    SatırlarıGöster(satırlar, okuma);
 }

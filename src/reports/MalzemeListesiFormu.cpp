@@ -19,17 +19,13 @@ MalzemeListesiFormu::MalzemeListesiFormu(QWidget* sahip)
 void MalzemeListesiFormu::Yükle() {
     SQLMetni = Deyimler::MalzemeSayısı();
     Yüklemeİlerlemesi ilerleme(KayıtSayısıAl());
-    SQLMetni = Deyimler::MalzemeKataloğuRaporu();
     QList<QTreeWidgetItem*> satırlar;
-    if (SorguÇalıştır()) {
-        const DeyimKoruması koruma;
-        while (SatırGetir()) {
-            const QString ad = SütunOku(1);
-            const std::optional<QString> fiyat =
-                SayıMetniBiçimle(NoktayıVirgüleÇevir(SütunOku(2)), OndalıkBasamak, NoktaKuralı::Yerinde);
-            satırlar.append(new QTreeWidgetItem(QStringList{ad, fiyat.value_or(QString())}));
-            ilerleme.Arttır();
-        }
-    }
-    SatırlarıGöster(satırlar);
+    const Okuma okuma = SatırlarıOku(Deyimler::MalzemeKataloğuRaporu(), [&] {
+        const QString ad = SütunOku(1);
+        const std::optional<QString> fiyat =
+            SayıMetniBiçimle(NoktayıVirgüleÇevir(SütunOku(2)), OndalıkBasamak, NoktaKuralı::Yerinde);
+        satırlar.append(new QTreeWidgetItem(QStringList{ad, fiyat.value_or(QString())}));
+        ilerleme.Arttır();
+    });
+    SatırlarıGöster(satırlar, okuma);
 }

@@ -82,8 +82,9 @@ KomutDüğmesi* RaporFormu::DüğmeOluştur(const QString& ad, int metin, std::f
     return düğme;
 }
 
-void RaporFormu::SatırlarıGöster(const QList<QTreeWidgetItem*>& satırlar) {
+void RaporFormu::SatırlarıGöster(const QList<QTreeWidgetItem*>& satırlar, Okuma okuma) {
     m_liste->SatırlarıKoy(satırlar);
+    m_tamam = okuma == Okuma::Tamam;
     EtkinliğiAyarla();
 }
 
@@ -91,7 +92,7 @@ void RaporFormu::EtkinliğiAyarla() {
     const bool dolu = !m_liste->Boş();
     const bool listedeydi = focusWidget() == m_liste;
     m_çerçeve->setEnabled(dolu);
-    for (KomutDüğmesi* düğme : {m_yazdır, m_pdfKaydet, m_önizle}) düğme->setEnabled(dolu);
+    for (KomutDüğmesi* düğme : {m_yazdır, m_pdfKaydet, m_önizle}) düğme->setEnabled(dolu && m_tamam);
     if (listedeydi && !dolu) OdağıBaşaAl();
 }
 

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <functional>
 
+#include "OdbcModulu.h"
 #include "RaporListesi.h"
 #include "Yazdirma.h"
 
@@ -38,8 +39,9 @@ class RaporFormu : public QDialog {
     // A dialog or message box of the program that this form opened has closed.
     virtual void PencereKapandı() {}
 
-    // Replaces the list's rows. An empty list can be neither used nor printed.
-    void SatırlarıGöster(const QList<QTreeWidgetItem*>& satırlar);
+    // Replaces the list's rows. An empty list can be neither used nor printed; one that could not be read whole is not
+    // printed either.
+    void SatırlarıGöster(const QList<QTreeWidgetItem*>& satırlar, Okuma okuma);
 
     // A button that runs a command, put at the front of the form's row of buttons.
     void BaşaDüğmeKoy(const QString& ad, int metin, std::function<void()> komut);
@@ -56,6 +58,7 @@ class RaporFormu : public QDialog {
     Yazdırılacak Rapor() const;
 
     Çıktı m_yaz;
+    bool m_tamam = false;  // all rows are there
     RaporListesi* m_liste;
     QGroupBox* m_çerçeve;
     QHBoxLayout* m_düğmeler;

@@ -17,19 +17,15 @@
 void ÜrünListesiFormu::Yükle() {
     SQLMetni = Deyimler::ÜrünSayısı();
     Yüklemeİlerlemesi ilerleme(KayıtSayısıAl());
-    SQLMetni = Deyimler::ÜrünListesiRaporu();
     QList<QTreeWidgetItem*> satırlar;
-    if (SorguÇalıştır()) {
-        const DeyimKoruması koruma;
-        QString sonÜrünGrubu;
-        while (SatırGetir()) {
-            const QString geçerliGrup = SütunOku(1);
-            const QString ürün = SütunOku(2);
-            const bool yeniGrup = geçerliGrup != sonÜrünGrubu;
-            if (yeniGrup) sonÜrünGrubu = geçerliGrup;
-            satırlar.append(new QTreeWidgetItem(QStringList{yeniGrup ? geçerliGrup : QString(), ürün}));
-            ilerleme.Arttır();
-        }
-    }
-    SatırlarıGöster(satırlar);
+    QString sonÜrünGrubu;
+    const Okuma okuma = SatırlarıOku(Deyimler::ÜrünListesiRaporu(), [&] {
+        const QString geçerliGrup = SütunOku(1);
+        const QString ürün = SütunOku(2);
+        const bool yeniGrup = geçerliGrup != sonÜrünGrubu;
+        if (yeniGrup) sonÜrünGrubu = geçerliGrup;
+        satırlar.append(new QTreeWidgetItem(QStringList{yeniGrup ? geçerliGrup : QString(), ürün}));
+        ilerleme.Arttır();
+    });
+    SatırlarıGöster(satırlar, okuma);
 }

@@ -206,7 +206,8 @@ constexpr Satır Tablo[] = {
 
     // Later additions: main form
     {2130, "Bu malzemelerin miktarı veya fiyatı okunamadığı için maliyete katılmadılar:"},
-    {2131, "Ürünün malzemelerinin hepsi okunamadı; listedekiler ve maliyet eksik!"},
+    {2132, "Kayıtların hepsi okunamadı; gösterilenler eksik!"},
+    {2133, "Kayıt okunamadı!"},
 
     // Later additions: about, error report, guide
     {2200, "Programın simgesi"},

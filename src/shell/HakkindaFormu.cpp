@@ -1,6 +1,6 @@
 #include "HakkindaFormu.h"
 
-#include "Baglanti.h"
+#include "Adresler.h"
 #include "MetinTablosu.h"
 #include "SurumKaydi.h"
 

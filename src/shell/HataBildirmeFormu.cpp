@@ -1,6 +1,6 @@
 #include "HataBildirmeFormu.h"
 
-#include "Baglanti.h"
+#include "Adresler.h"
 #include "MetinTablosu.h"
 
 HataBildirmeFormu::HataBildirmeFormu(QWidget* sahip)

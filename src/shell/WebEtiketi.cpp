@@ -1,5 +1,7 @@
 #include "WebEtiketi.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
@@ -8,9 +10,8 @@
 #include <QStyleOptionFocusRect>
 #include <utility>
 
-#include "Baglanti.h"
+#include "Adresler.h"
 #include "Renk.h"
-#include "WebEtiketiErisimi.h"
 
 namespace {
 
@@ -40,10 +41,45 @@ void FarklıysaYaz(QVariantMap& özellikler, const char* ad, const QVariant& de�
     if (değer != varsayılan) özellikler.insert(QString::fromUtf8(ad), değer);
 }
 
+// A screen reader meets the label as a link that bears its caption and can be followed.
+class WebEtiketiErişimi : public QAccessibleWidget {
+  public:
+    explicit WebEtiketiErişimi(WebEtiketi* etiket) : QAccessibleWidget(etiket, QAccessible::Link), m_etiket(etiket) {}
+
+    QString text(QAccessible::Text tür) const override {
+        switch (tür) {
+            case QAccessible::Name:
+                return m_etiket->Caption();
+            case QAccessible::Description:
+                return m_etiket->Url();
+            default:
+                return QAccessibleWidget::text(tür);
+        }
+    }
+
+    QStringList actionNames() const override { return QStringList(pressAction()) + QAccessibleWidget::actionNames(); }
+
+    void doAction(const QString& eylem) override {
+        if (eylem == pressAction()) {
+            m_etiket->Tıkla();
+        } else {
+            QAccessibleWidget::doAction(eylem);
+        }
+    }
+
+  private:
+    WebEtiketi* m_etiket;
+};
+
+QAccessibleInterface* ErişimÜret(const QString&, QObject* nesne) {
+    auto* etiket = dynamic_cast<WebEtiketi*>(nesne);
+    return etiket ? new WebEtiketiErişimi(etiket) : nullptr;
+}
+
 }  // namespace
 
 WebEtiketi::WebEtiketi(QWidget* kap) : QWidget(kap), m_etiket(new QLabel(this)) {
-    WebEtiketiErişiminiKur();
+    [[maybe_unused]] static const bool erişimKuruldu = (QAccessible::installFactory(&ErişimÜret), true);
     m_etiket->setObjectName(QStringLiteral("Etiket"));
     m_etiket->setTextFormat(Qt::PlainText);
     m_etiket->setCursor(Qt::PointingHandCursor);
@@ -158,7 +194,7 @@ void WebEtiketi::MouseMoveAyarla(FareHareketi mouseMove) {
 }
 
 void WebEtiketi::Tıkla() const {
-    BağlantıAç(QUrl(m_url));
+    AdresAç(QUrl(m_url));
 }
 
 bool WebEtiketi::eventFilter(QObject* nesne, QEvent* olay) {

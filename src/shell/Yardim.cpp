@@ -7,7 +7,7 @@
 #include <QUrl>
 #include <QWidget>
 
-#include "Baglanti.h"
+#include "Adresler.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 
@@ -49,7 +49,7 @@ void YardımıAç(const QWidget* öndeki, const QString& programKlasörü) {
         MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(2204));
         return;
     }
-    BağlantıAç(QUrl::fromLocalFile(klasör + QLatin1Char('/') + KılavuzSayfası(klasör, öndeki)));
+    AdresAç(QUrl::fromLocalFile(klasör + QLatin1Char('/') + KılavuzSayfası(klasör, öndeki)));
 }
 
 YardımTuşu::YardımTuşu(QObject* sahip) : QObject(sahip) {

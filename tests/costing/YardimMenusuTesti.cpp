@@ -3,7 +3,7 @@
 #include <QPushButton>
 #include <QUrl>
 
-#include "Baglanti.h"
+#include "Adresler.h"
 #include "ErisimDenetimi.h"
 #include "FormOrtami.h"
 #include "ModalBekleyici.h"
@@ -19,9 +19,9 @@ class YardımMenüsü : public FormOrtamı {
         TestVerisi(VeriDosyası())
             .Çalıştır("INSERT INTO MalzemeTablosu (MalzemeAdi, MalzemeFiyati) VALUES ('Çam Kereste', '4')");
         Aç();
-        BağlantıAçıcıyıAyarla([this](const QUrl& adres) { m_açılanlar += adres.fileName(); });
+        AdresAçıcıyıAyarla([this](const QUrl& adres) { m_açılanlar += adres.fileName(); });
     }
-    ~YardımMenüsü() override { BağlantıAçıcıyıAyarla(nullptr); }
+    ~YardımMenüsü() override { AdresAçıcıyıAyarla(nullptr); }
 
     // With the mouse: the menu in the bar, then its entry.
     void Seç(const char* giriş) {

@@ -69,3 +69,15 @@ TEST_F(ListeRaporları, BoşListeler) {
     Tıkla("KapatButonu");
     EXPECT_FALSE(Form().isVisible());
 }
+
+TEST_F(ListeRaporları, EksikListeSöylenirVeYazdırılmaz) {
+    const std::string uzun(255, 'X');
+    for (const char* ad : {"A", uzun.c_str(), "Z"}) MalzemeEkle(ad, "1");
+    Kutular().Yanıtla(MesajKutusu::Yanıt::Tamam);
+    Aç<MalzemeListesiFormu>();
+    EXPECT_EQ(Kutular().Al().size(), 1u);
+    EXPECT_EQ(Satırlar("MalzemeListesi").size(), 2);
+    EXPECT_TRUE(Bul<QGroupBox>("Çerçeve").isEnabled());
+    for (const char* düğme : {"YazdırButonu", "PdfKaydetButonu", "ÖnizlemeButonu"})
+        EXPECT_FALSE(Bul<QWidget>(düğme).isEnabled()) << düğme;
+}

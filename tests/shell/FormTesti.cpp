@@ -9,7 +9,7 @@
 #include <QUrlQuery>
 #include <QWindow>
 
-#include "Baglanti.h"
+#include "Adresler.h"
 #include "ErisimDenetimi.h"
 #include "HakkindaFormu.h"
 #include "HataBildirmeFormu.h"
@@ -26,9 +26,9 @@ using namespace Qt::StringLiterals;
 class KabukFormTesti : public VarnekTesti {
   protected:
     KabukFormTesti() {
-        BağlantıAçıcıyıAyarla([this](const QUrl& adres) { m_açılanlar += adres; });
+        AdresAçıcıyıAyarla([this](const QUrl& adres) { m_açılanlar += adres; });
     }
-    ~KabukFormTesti() override { BağlantıAçıcıyıAyarla(nullptr); }
+    ~KabukFormTesti() override { AdresAçıcıyıAyarla(nullptr); }
 
     static void Göster(QWidget& form) {
         form.show();

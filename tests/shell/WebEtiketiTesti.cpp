@@ -9,7 +9,7 @@
 #include <QPalette>
 #include <QTest>
 
-#include "Baglanti.h"
+#include "Adresler.h"
 #include "Renk.h"
 
 namespace {
@@ -21,10 +21,10 @@ constexpr std::uint32_t DüğmeYazısı = 0x80000012;
 class WebEtiketiTesti : public ::testing::Test {
   protected:
     WebEtiketiTesti() {
-        BağlantıAçıcıyıAyarla([this](const QUrl& adres) { m_açılanlar += adres.toString(); });
+        AdresAçıcıyıAyarla([this](const QUrl& adres) { m_açılanlar += adres.toString(); });
         m_etiket.DeğişiklikBildiriciAyarla([this](const QString& özellik) { m_bildirilenler += özellik; });
     }
-    ~WebEtiketiTesti() override { BağlantıAçıcıyıAyarla(nullptr); }
+    ~WebEtiketiTesti() override { AdresAçıcıyıAyarla(nullptr); }
 
     QLabel& Yazı() { return *m_etiket.findChild<QLabel*>(u"Etiket"_s); }
     QColor YazınınRengi() { return Yazı().palette().color(QPalette::WindowText); }

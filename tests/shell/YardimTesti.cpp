@@ -10,7 +10,7 @@
 #include <QTest>
 #include <QUrl>
 
-#include "Baglanti.h"
+#include "Adresler.h"
 #include "MetinTablosu.h"
 #include "VarnekTesti.h"
 
@@ -21,9 +21,9 @@ using namespace Qt::StringLiterals;
 class YardımTesti : public VarnekTesti {
   protected:
     YardımTesti() {
-        BağlantıAçıcıyıAyarla([this](const QUrl& adres) { m_açılanlar += adres; });
+        AdresAçıcıyıAyarla([this](const QUrl& adres) { m_açılanlar += adres; });
     }
-    ~YardımTesti() override { BağlantıAçıcıyıAyarla(nullptr); }
+    ~YardımTesti() override { AdresAçıcıyıAyarla(nullptr); }
 
     static QString Kılavuz() { return KılavuzKlasörü(QCoreApplication::applicationDirPath()); }
     static QString Oku(const QString& yol) {

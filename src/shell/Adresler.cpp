@@ -1,4 +1,4 @@
-#include "Baglanti.h"
+#include "Adresler.h"
 
 #include <QDesktopServices>
 #include <utility>
@@ -11,7 +11,7 @@ std::function<void(const QUrl&)> Açıcı;
 
 }  // namespace
 
-void BağlantıAç(const QUrl& adres) {
+void AdresAç(const QUrl& adres) {
     if (Açıcı) {
         Açıcı(adres);
     } else {
@@ -19,7 +19,7 @@ void BağlantıAç(const QUrl& adres) {
     }
 }
 
-void BağlantıAçıcıyıAyarla(std::function<void(const QUrl&)> açıcı) {
+void AdresAçıcıyıAyarla(std::function<void(const QUrl&)> açıcı) {
     Açıcı = std::move(açıcı);
 }
 
