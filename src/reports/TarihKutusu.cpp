@@ -66,8 +66,8 @@ QDateTime TarihKutusu::dateTimeFromText(const QString& metin) const {
 void TarihKutusu::stepBy(int adım) {
     const std::optional<QDate> tarih = YazılanTarih();
     if (!tarih) return;
-    const QString solu = lineEdit()->text().left(
-        lineEdit()->hasSelectedText() ? lineEdit()->selectionStart() : lineEdit()->cursorPosition());
+    const QString solu = lineEdit()->text().left(lineEdit()->hasSelectedText() ? lineEdit()->selectionStart()
+                                                                               : lineEdit()->cursorPosition());
     setDate(*tarih);
     const int bölüm = static_cast<int>(std::min<qsizetype>(solu.count(QLatin1Char('.')), Yıl));
     switch (bölüm) {
