@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Real print jobs, end to end: starts a print server of its own (in a temporary folder, on a socket there), with a queue
-# that keeps the PDF it is sent unchanged; prints each of the four printouts through the program's own print path; reads
-# the PDF back and compares texts, order, places and pages. Another build preset can be named: scripts/baski-testi.sh asan
+# Real print jobs, end to end: starts a print server of its own (in a temporary folder, on a socket there), with queues
+# of several papers that keep the PDF they are sent unchanged; prints each of the four printouts through the program's own
+# print path on each of them; reads the PDF back and compares paper, texts, order, places and pages. Another build preset can be named: scripts/baski-testi.sh asan
 set -euo pipefail
 . "$(dirname "$0")/ortak.sh"
 ayar=${1:-dev}
@@ -55,8 +55,10 @@ ErrorLog $sunucu/gunluk/error
 PageLog $sunucu/gunluk/page
 FileDevice Yes
 AYAR
-# A4 with 5, 6, 7 and 8 mm that cannot be printed at the left, top, right and bottom.
-cat >"$sunucu/baski.ppd" <<'PPD'
+# ppd NAME WIDTH HEIGHT: a printer's description with this paper (in points) and 5, 6, 7 and 8 mm that cannot be printed
+# at its left, top, right and bottom; A4 is there too, so that the queue's own paper has to be asked for.
+ppd() {
+    cat <<PPD
 *PPD-Adobe: "4.3"
 *FormatVersion: "4.3"
 *FileVersion: "1.0"
@@ -74,22 +76,28 @@ cat >"$sunucu/baski.ppd" <<'PPD'
 *DefaultColorSpace: RGB
 *FileSystem: False
 *cupsFilter2: "application/pdf application/pdf 0 gziptoany"
-*OpenUI *PageSize/Page Size: PickOne
-*OrderDependency: 10 AnySetup *PageSize
-*DefaultPageSize: A4
-*PageSize A4/A4: "<</PageSize[595 842]>>setpagedevice"
-*CloseUI: *PageSize
-*OpenUI *PageRegion/Page Region: PickOne
-*OrderDependency: 10 AnySetup *PageRegion
-*DefaultPageRegion: A4
-*PageRegion A4/A4: "<</PageSize[595 842]>>setpagedevice"
-*CloseUI: *PageRegion
-*DefaultImageableArea: A4
-*ImageableArea A4/A4: "14.17 22.68 575.16 824.99"
-*DefaultPaperDimension: A4
-*PaperDimension A4/A4: "595 842"
+$(sayfa PageSize "$@")
+$(sayfa PageRegion "$@")
+*DefaultImageableArea: $1
+*DefaultPaperDimension: $1
+$(printf 'A4 595 842\n%s %s %s\n' "$@" | sort -u | while read -r ad en boy; do
+        echo "*ImageableArea $ad/$ad: \"14.17 22.68 $(awk "BEGIN { print $en - 19.84, $boy - 17.01 }")\""
+        echo "*PaperDimension $ad/$ad: \"$en $boy\""
+    done)
 *DefaultFont: Courier
 PPD
+}
+sayfa() {
+    local secenek=$1
+    shift
+    echo "*OpenUI *$secenek/Page Size: PickOne"
+    echo "*OrderDependency: 10 AnySetup *$secenek"
+    echo "*Default$secenek: $1"
+    printf 'A4 595 842\n%s %s %s\n' "$@" | sort -u | while read -r ad en boy; do
+        echo "*$secenek $ad/$ad: \"<</PageSize[$en $boy]>>setpagedevice\""
+    done
+    echo "*CloseUI: *$secenek"
+}
 
 bildir "Print test (preset $ayar)"
 "$cupsd" -f -c "$sunucu/etc/cupsd.conf" -s "$sunucu/etc/cups-files.conf" &
@@ -101,10 +109,12 @@ for _ in $(seq 100); do
     kill -0 "$surec" 2>/dev/null || break
     sleep 0.1
 done
+# kuyruk NAME WIDTH HEIGHT: the default printer from here on.
 kuyruk() {
-    "$lpadmin" -p Baski -E -v "file://$sunucu/baski.pdf" -P "$sunucu/baski.ppd" && "$lpadmin" -d Baski
+    ppd "$@" >"$sunucu/$1.ppd"
+    "$lpadmin" -p "$1" -E -v "file://$sunucu/baski.pdf" -P "$sunucu/$1.ppd" && "$lpadmin" -d "$1"
 }
-if ! cikti=$(kuyruk 2>&1); then
+if ! cikti=$(kuyruk A4 595 842 2>&1); then
     atla "the print server does not run here: $cikti $(tail -n 3 "$sunucu/gunluk/error" 2>/dev/null || true)"
 fi
 
@@ -113,4 +123,13 @@ kendi_ortami baski-ortami
 program="$kok/build/baski-ortami/program"
 mkdir -p "$program"
 "build/$ayar/bin/varnek-veri" ornek "$program/Varnek.vtb"
-QT_QPA_PLATFORM=offscreen timeout 60 "build/$ayar/bin/varnek-baski" "$program" "$sunucu/baski.pdf"
+# The last is a roll of 80 mm.
+while read -r ad en boy; do
+    kuyruk "$ad" "$en" "$boy" 2>/dev/null
+    QT_QPA_PLATFORM=offscreen timeout 60 "build/$ayar/bin/varnek-baski" "$program" "$sunucu/baski.pdf" "$en" "$boy"
+done <<'KAGITLAR'
+A4 595 842
+Letter 612 792
+A5 420 595
+Rulo80 227 842
+KAGITLAR

@@ -49,7 +49,12 @@ void MalzemeHareketleriFormu::showEvent(QShowEvent* olay) {
     RaporFormu::showEvent(olay);
     if (m_gösterildi) return;
     m_gösterildi = true;
-    QTimer::singleShot(0, this, [this] { HataYakala([this] { ListeyiYükle(); }); });
+    QTimer::singleShot(0, this, [this] {
+        HataYakala([this] {
+            ListeyiYükle();
+            OdağıBaşaAl();
+        });
+    });
 }
 
 QString MalzemeHareketleriFormu::RaporBaşlığı() const {

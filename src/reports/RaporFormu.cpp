@@ -24,6 +24,7 @@ RaporFormu::RaporFormu(const Tanım& tanım, QWidget* sahip) : QDialog(sahip), m
     auto* düzen = new QVBoxLayout(this);
     düzen->addWidget(m_çerçeve);
     düzen->addLayout(m_düğmeler);
+    SekmeSırasınıKur();
     resize(760, 520);
     EtkinliğiAyarla();
 }
@@ -49,7 +50,29 @@ void RaporFormu::DüğmeleriKur() {
 void RaporFormu::BaşaDüğmeKoy(const QString& ad, int metin, std::function<void()> komut) {
     KomutDüğmesi* düğme = DüğmeOluştur(ad, metin, std::move(komut));
     m_düğmeler->insertWidget(0, düğme);
-    setTabOrder(m_liste, düğme);
+    SekmeSırasınıKur();
+}
+
+// The list first, then the buttons as they stand from left to right.
+void RaporFormu::SekmeSırasınıKur() {
+    QWidget* önceki = m_liste;
+    for (int i = 0; i < m_düğmeler->count(); ++i) {
+        QWidget* düğme = m_düğmeler->itemAt(i)->widget();
+        if (!düğme) continue;
+        setTabOrder(önceki, düğme);
+        önceki = düğme;
+    }
+}
+
+void RaporFormu::showEvent(QShowEvent* olay) {
+    QDialog::showEvent(olay);
+    if (!focusWidget()) OdağıBaşaAl();
+}
+
+void RaporFormu::OdağıBaşaAl() {
+    QWidget* baş = m_liste;
+    while (!baş->isEnabled() || !(baş->focusPolicy() & Qt::TabFocus)) baş = baş->nextInFocusChain();
+    baş->setFocus();
 }
 
 KomutDüğmesi* RaporFormu::DüğmeOluştur(const QString& ad, int metin, std::function<void()> komut) {
@@ -67,8 +90,10 @@ void RaporFormu::SatırlarıGöster(const QList<QTreeWidgetItem*>& satırlar, Ok
 
 void RaporFormu::EtkinliğiAyarla() {
     const bool dolu = !m_liste->Boş();
+    const bool listedeydi = focusWidget() == m_liste;
     m_çerçeve->setEnabled(dolu);
     for (KomutDüğmesi* düğme : {m_yazdır, m_pdfKaydet, m_önizle}) düğme->setEnabled(dolu && m_tamam);
+    if (listedeydi && !dolu) OdağıBaşaAl();
 }
 
 QList<QStringList> RaporFormu::ListeMetinleri() const {

@@ -32,6 +32,10 @@ class RaporFormu : public QDialog {
 
     // The printout's title.
     virtual QString RaporBaşlığı() const { return windowTitle(); }
+    // The focus where reading begins: in the list, or on the first button that can be pressed when it is empty.
+    void OdağıBaşaAl();
+    void showEvent(QShowEvent* olay) override;
+
     // A dialog or message box of the program that this form opened has closed.
     virtual void PencereKapandı() {}
 
@@ -48,6 +52,7 @@ class RaporFormu : public QDialog {
   private:
     KomutDüğmesi* DüğmeOluştur(const QString& ad, int metin, std::function<void()> komut);
     void DüğmeleriKur();
+    void SekmeSırasınıKur();
     void EtkinliğiAyarla();
     QList<QStringList> ListeMetinleri() const;
     Yazdırılacak Rapor() const;

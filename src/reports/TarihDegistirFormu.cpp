@@ -1,7 +1,6 @@
 #include "TarihDegistirFormu.h"
 
 #include <QCalendarWidget>
-#include <QDateEdit>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -10,8 +9,10 @@
 
 #include "DegiskenModulu.h"
 #include "KomutDugmesi.h"
+#include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "OrtakFonksiyonlarModulu.h"
+#include "TarihKutusu.h"
 
 namespace {
 
@@ -57,12 +58,10 @@ QWidget* TarihDeğiştirFormu::ÇerçeveOluştur() {
 
     // Days and months read Turkish whatever the system's language.
     const QLocale türkçe(QLocale::Turkish, QLocale::Turkey);
-    m_tarih = new QDateEdit;
+    m_tarih = new TarihKutusu;
     m_tarih->setObjectName(QStringLiteral("TarihKutusu"));
     m_tarih->setAccessibleName(Metin(896));
     m_tarih->setLocale(türkçe);
-    m_tarih->setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
-    m_tarih->setCalendarPopup(true);
     m_tarih->calendarWidget()->setLocale(türkçe);
     m_tarih->calendarWidget()->setFirstDayOfWeek(Qt::Monday);
     m_tarih->setDate(HareketTarihi);
@@ -75,12 +74,18 @@ QWidget* TarihDeğiştirFormu::ÇerçeveOluştur() {
 }
 
 void TarihDeğiştirFormu::accept() {
-    const QDate seçilen = m_tarih->date();
-    if (seçilen == HareketTarihi) {
+    const std::optional<QDate> seçilen = m_tarih->YazılanTarih();
+    if (!seçilen) {
+        MesajKutusuOrtala();
+        MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(2310));
+        m_tarih->setFocus();
+        return;
+    }
+    if (*seçilen == HareketTarihi) {
         HareketTarihiSQL.clear();
     } else {
-        HareketTarihi = seçilen;
-        HareketTarihiSQL = TarihDeğişmezi(seçilen);
+        HareketTarihi = *seçilen;
+        HareketTarihiSQL = TarihDeğişmezi(*seçilen);
     }
     QDialog::accept();
 }

@@ -2,7 +2,7 @@
 
 #include <QDialog>
 
-class QDateEdit;
+class TarihKutusu;
 
 // Asks for the day of the movements. Another day goes into HareketTarihi and HareketTarihiSQL; the same day, İptal, Esc
 // and the close box leave HareketTarihiSQL empty: nothing to load.
@@ -10,11 +10,12 @@ class TarihDeğiştirFormu : public QDialog {
   public:
     explicit TarihDeğiştirFormu(QWidget* sahip = nullptr);
 
+    // What cannot be read as a date is told and stays in its box.
     void accept() override;
     void reject() override;
 
   private:
     QWidget* ÇerçeveOluştur();
 
-    QDateEdit* m_tarih;
+    TarihKutusu* m_tarih;
 };

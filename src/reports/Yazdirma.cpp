@@ -56,7 +56,8 @@ QPageLayout BütünA4() {
     return {QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter};
 }
 
-// The default printer (the first one where none is marked so), with all of its printable area; null: there is none.
+// The default printer (the first one where none is marked so), with its own paper and all of its printable area; null:
+// there is none.
 std::unique_ptr<QPrinter> VarsayılanYazıcı() {
     if (!YazıcıVar) return nullptr;
     QPrinterInfo bilgi = QPrinterInfo::defaultPrinter();
@@ -68,6 +69,8 @@ std::unique_ptr<QPrinter> VarsayılanYazıcı() {
     auto yazıcı = std::make_unique<QPrinter>(bilgi, QPrinter::HighResolution);
     if (yazıcı->outputFormat() != QPrinter::NativeFormat) return nullptr;
     yazıcı->setFullPage(false);
+    // A printer object starts with A4 whatever lies in the printer.
+    if (const QPageSize kâğıt = bilgi.defaultPageSize(); kâğıt.isValid()) yazıcı->setPageSize(kâğıt);
     QPageLayout alan = yazıcı->pageLayout();
     alan.setMargins(alan.minimumMargins());
     yazıcı->setPageLayout(alan);

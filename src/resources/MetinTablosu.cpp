@@ -228,6 +228,9 @@ constexpr Satır Tablo[] = {
      "PDF dosyası yazılamadı! \n"
      "Lütfen, bu yere yazma izniniz ve diskte yeterince boş yer olup olmadığını kontrol edip tekrar deneyiniz:"},
     {2306, "Baskı Önizleme"},
+
+    // Later additions: date of the movements
+    {2310, "Bu tarih takvimde yok veya eksik yazılmış! Lütfen, günü, ayı ve yılı yazınız (örneğin 15.10.2026)."},
 };
 
 }  // namespace

@@ -21,7 +21,7 @@ void KayıtYüzeyi::Çiz(double x1, double y1, double x2, double y2, QColor renk
 
 double KayıtYüzeyi::MetniKoy(const QString& metin, Yer yer) {
     const double genişlik = qMin(MetinGenişliği(metin), yer.Genişlik);
-    Metinler.append({SayfaNo(), X(), Y(), genişlik, GeçerliYazı(), metin, yer});
+    Metinler.append({SayfaNo(), X(), Y(), genişlik, MetinGenişliği(metin), GeçerliYazı(), metin, yer});
     QString satır = QStringLiteral("x=") + Sayı(X()) + QStringLiteral(" y=") + Sayı(Y()) + QStringLiteral(" ") +
                     QString::number(GeçerliYazı().Punto);
     if (GeçerliYazı().Kalın) satır += QStringLiteral(" kalın");

@@ -13,6 +13,7 @@ class KayıtYüzeyi : public SayfaYüzeyi {
     struct BasılıMetin {
         int Sayfa;
         double X, Y, Genişlik;
+        double Doğal;  // the text's width before it was narrowed
         Yazı yazı;
         QString Metin;
         Yer yer;

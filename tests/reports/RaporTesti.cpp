@@ -56,6 +56,13 @@ void RaporTesti::EtkinlikBeklenen(bool etkin) {
     EXPECT_TRUE(Bul("KapatButonu").isEnabled());
 }
 
+void RaporTesti::OdakSırasıBeklenen(std::initializer_list<const char*> adlar) {
+    for (const char* ad : adlar) {
+        EXPECT_EQ(m_form->focusWidget(), &Bul(ad)) << ad;
+        QTest::keyClick(m_form->focusWidget(), Qt::Key_Tab);
+    }
+}
+
 void RaporTesti::SütunlarBeklenen(const char* liste, const QList<Sütun>& sütunlar) {
     auto& ağaç = Bul<QTreeWidget>(liste);
     ASSERT_EQ(ağaç.columnCount(), sütunlar.size());

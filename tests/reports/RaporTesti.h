@@ -55,6 +55,9 @@ class RaporTesti : public VarnekTesti {
     };
     void SütunlarBeklenen(const char* liste, const QList<Sütun>& sütunlar);
 
+    // The focus stands on the first of these and Tab moves it through the others.
+    void OdakSırasıBeklenen(std::initializer_list<const char*> adlar);
+
     // Printed by YazdırButonu since the last look.
     std::unique_ptr<KayıtYüzeyi> Yazdırılan() { return std::move(m_yazdırılan); }
     std::function<void()> Yazdırılırken;

@@ -93,24 +93,6 @@ TEST(AygıtYüzeyi, SayfalarHerÇözünürlükteAynı) {
     }
 }
 
-TEST(AygıtYüzeyi, SatırVeMetinÖlçüleri) {
-    QBuffer dosya;
-    ASSERT_TRUE(dosya.open(QIODevice::WriteOnly));
-    QPdfWriter yazar(&dosya);
-    AygıtYüzeyi yüzey(yazar);
-    ASSERT_TRUE(yüzey.Başla());
-    // Liberation Sans Narrow: 2319 of 2048 units high, a digit 934 wide.
-    yüzey.PuntoAyarla(11);
-    EXPECT_NEAR(yüzey.SatırYüksekliği(), 11 * 25.4 / 72 * 2319 / 2048, 1e-3);
-    EXPECT_NEAR(yüzey.MetinGenişliği(QString(100, QLatin1Char('0'))), 100 * 11 * 25.4 / 72 * 934 / 2048, 2);
-    yüzey.XAyarla(20);
-    yüzey.Yaz(QString(100, QLatin1Char('0')), {50, 0});
-    EXPECT_NEAR(yüzey.X(), 70, 1.5);  // as many digits as fit, with the sign that some are missing
-    yüzey.YazVeSatırıBitir(U("son"));
-    EXPECT_EQ(yüzey.X(), 0);
-    EXPECT_DOUBLE_EQ(yüzey.Y(), yüzey.SatırYüksekliği());
-}
-
 TEST_F(Yazdırma, DüğmeVeİmleçGeriGelir) {
     QAbstractButton& düğme = Bul<QAbstractButton>("YazdırButonu");
     bool bakıldı = false;

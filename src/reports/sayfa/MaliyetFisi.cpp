@@ -56,8 +56,12 @@ void ÖzetiYaz(SayfaDüzeni& düzen, const MaliyetFişi& fiş) {
     const QList<ÖzetSatırı> miktarlar = MiktarSatırları(fiş);
 
     // The summary stays in one piece, also where its lines need more than the usual room.
-    double yükseklik = ÖzetAralığı + maliyetler.size() * yüzey.SatırYüksekliği();
-    if (!miktarlar.isEmpty()) yükseklik += ÖzetAralığı + miktarlar.size() * yüzey.SatırYüksekliği();
+    double yükseklik = ÖzetAralığı + (miktarlar.isEmpty() ? 0 : ÖzetAralığı);
+    for (const ÖzetSatırı& satır : maliyetler + miktarlar) {
+        yüzey.KalınAyarla(satır.Toplam);
+        yükseklik += düzen.ÖzetSatırıYüksekliği(satır.Etiket, satır.Değer);
+    }
+    yüzey.KalınAyarla(false);
     if (!düzen.SayfaSonunaBak(ÖzetinEnAzYeri) && yüzey.Y() + yükseklik > düzen.SayfaYüksekliği()) {
         düzen.SayfaBaşlığıYaz();
     }
@@ -83,10 +87,7 @@ void MaliyetFişiniYaz(SayfaYüzeyi& yüzey, const MaliyetFişi& fiş) {
                        {416, 1.6, HücreTürü::Sayı},
                        {418, 1.2, HücreTürü::Sayı}});
     if (!düzen.Başla()) return;
-    for (const QStringList& satır : fiş.Satırlar) {
-        düzen.SayfaSonunaBak();
-        düzen.SatırYaz(satır);
-    }
+    for (const QStringList& satır : fiş.Satırlar) düzen.SatırYaz(satır);
     ÖzetiYaz(düzen, fiş);
     düzen.Bitir();
 }

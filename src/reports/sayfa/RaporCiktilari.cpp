@@ -12,10 +12,7 @@ void MalzemeHareketleriniYaz(SayfaYüzeyi& yüzey, const QString& başlık, cons
                        {418, 1.4, HücreTürü::Sayı},
                        {890, 1.2, HücreTürü::Metin}});
     if (!düzen.Başla()) return;
-    for (const QStringList& satır : satırlar) {
-        düzen.SayfaSonunaBak();
-        düzen.SatırYaz(satır);
-    }
+    for (const QStringList& satır : satırlar) düzen.SatırYaz(satır);
     düzen.Bitir();
 }
 
@@ -23,7 +20,6 @@ void MalzemeListesiniYaz(SayfaYüzeyi& yüzey, const QString& başlık, const QL
     SayfaDüzeni düzen(yüzey, başlık, {{414, 10, HücreTürü::Metin}, {416, 1.2, HücreTürü::Sayı}});
     if (!düzen.Başla()) return;
     for (const QStringList& satır : satırlar) {
-        düzen.SayfaSonunaBak();
         düzen.SatırYaz(satır);
         yüzey.Çiz(düzen.SütunKonumu(0), yüzey.Y(), düzen.SağKenar(1), yüzey.Y(), Qt::black);
     }
@@ -35,10 +31,8 @@ void ÜrünListesiniYaz(SayfaYüzeyi& yüzey, const QString& başlık, const QLi
     if (!düzen.Başla()) return;
     QString sonGrup;
     for (const QStringList& satır : satırlar) {
-        const QString& grup = satır.at(0);
-        if (düzen.SayfaSonunaBak() && grup.isEmpty()) düzen.HücreYaz(0, sonGrup);
-        düzen.SatırYaz(satır);
-        if (!grup.isEmpty()) sonGrup = grup;
+        düzen.SatırYaz(satır, sonGrup);
+        if (!satır.at(0).isEmpty()) sonGrup = satır.at(0);
     }
     düzen.Bitir();
 }

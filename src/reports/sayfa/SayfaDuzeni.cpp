@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "MetinSigdir.h"
 #include "MetinTablosu.h"
 
 namespace {
@@ -17,8 +18,11 @@ constexpr double AltBoşluk = 15;
 constexpr double SayfaBaşlığıÜstü = 5;
 constexpr double SayfaBaşlığıKenarı = 10;
 constexpr double SayfaBaşlığıÇizgisi = 10;
-constexpr double MetinArası = 2;  // at least this much stays free before the next text...
-constexpr double SağPay = 5;      // ...and before the page's right edge
+constexpr double MetinArası = 2;  // free before the page number
+
+int SatırSayısı(const QList<SatırParçası>& parçalar) {
+    return parçalar.constLast().Satır + 1;
+}
 
 }  // namespace
 
@@ -46,38 +50,33 @@ void SayfaDüzeni::BaşlıkYaz() {
     m_yüzey.KalınAyarla(true);
     m_yüzey.AltÇizgiAyarla(true);
     m_yüzey.YAyarla(ÜstBoşluk);
-    const double genişlik = m_yüzey.MetinGenişliği(m_raporBaşlığı);
-    if (genişlik <= m_sayfaGenişliği) {
-        m_yüzey.XAyarla((m_sayfaGenişliği - genişlik) / 2);
-        m_yüzey.YazVeSatırıBitir(m_raporBaşlığı);
-    } else {
-        // Narrowed to the width of the running header.
-        m_yüzey.XAyarla(SayfaBaşlığıKenarı);
-        m_yüzey.YazVeSatırıBitir(m_raporBaşlığı, {m_sayfaGenişliği - 2 * SayfaBaşlığıKenarı, 0});
+    const auto ölçü = [this](const QString& metin) { return m_yüzey.MetinGenişliği(metin); };
+    // A title that is wider than the page is narrowed to the width of the running header, or takes several lines.
+    const double doğal = ölçü(m_raporBaşlığı);
+    double genişlik = m_sayfaGenişliği;
+    if (const double dar = genişlik - 2 * SayfaBaşlığıKenarı; doğal > genişlik && doğal * ENDAR <= dar) genişlik = dar;
+    const bool tekSatır = doğal * ENDAR <= genişlik;
+    for (const QString& satır : tekSatır ? QStringList(m_raporBaşlığı) : MetniBöl(m_raporBaşlığı, genişlik, 0, ölçü)) {
+        const bool sığar = ölçü(satır) <= genişlik;
+        m_yüzey.XAyarla((m_sayfaGenişliği - (sığar ? ölçü(satır) : genişlik)) / 2);
+        m_yüzey.YazVeSatırıBitir(satır, {sığar ? SayfaYüzeyi::SINIRSIZ : genişlik, 0});
     }
 }
 
 void SayfaDüzeni::SütunBaşlıklarınıYaz() {
     m_yüzey.YAyarla(m_yüzey.Y() + 5);
     m_yüzey.PuntoAyarla(SatırPuntosu);
-    const int son = static_cast<int>(m_sütunlar.size()) - 1;
-    for (int i = 0; i <= son; ++i) {
+    QList<SatırHücresi> hücreler;
+    for (qsizetype i = 0; i < m_sütunlar.size(); ++i) {
         const QString başlık = Metin(m_sütunlar.at(i).Başlık);
-        m_yerler[i].SağKenar = m_yerler.at(i).Konum + m_yüzey.MetinGenişliği(başlık);
-        m_yüzey.XAyarla(m_yerler.at(i).Konum);
-        if (i < son) {
-            m_yüzey.Yaz(başlık, {m_yerler.at(i + 1).Konum - MetinArası - m_yerler.at(i).Konum, 0});
-        } else {
-            m_yüzey.YazVeSatırıBitir(başlık, {m_sayfaGenişliği - SağPay - m_yerler.at(i).Konum, 0});
-        }
+        SütunYeri& yer = m_yerler[i];
+        yer.SağKenar = std::min<double>(yer.Konum + m_yüzey.MetinGenişliği(başlık), m_sayfaGenişliği);
+        hücreler.append({başlık, HücreTürü::Metin, static_cast<double>(yer.Konum), yer.SağKenar});
     }
+    ParçalarıYaz(Yerleştir(hücreler), false);
     m_yüzey.KalınAyarla(false);
     m_yüzey.AltÇizgiAyarla(false);
     m_yüzey.YAyarla(m_yüzey.Y() + 1);
-}
-
-bool SayfaDüzeni::SayfaSonunaBak() {
-    return SayfaSonunaBak(AltBoşluk);
 }
 
 bool SayfaDüzeni::SayfaSonunaBak(double yükseklik) {
@@ -100,33 +99,39 @@ void SayfaDüzeni::SayfaBaşlığıYaz() {
     m_yüzey.YAyarla(ÜstBoşluk);
 }
 
-void SayfaDüzeni::SatırYaz(const QStringList& hücreler) {
-    const int son = static_cast<int>(m_sütunlar.size()) - 1;
-    double sol = Sol(0, hücreler.at(0));
-    for (int i = 0; i <= son; ++i) {
-        const QString& metin = hücreler.at(i);
-        m_yüzey.XAyarla(sol);
-        if (i < son) {
-            const double sağdaki = Sol(i + 1, hücreler.at(i + 1));
-            m_yüzey.Yaz(metin, Yer(i, metin, sağdaki - MetinArası));
-            sol = sağdaki;
+void SayfaDüzeni::SatırYaz(const QStringList& hücreler, const QString& yeniSayfada) {
+    QList<SatırParçası> parçalar = SatırıYerleştir(hücreler);
+    const double fazlası = (SatırSayısı(parçalar) - 1) * m_yüzey.SatırYüksekliği();
+    // A row that is taller than a page goes on over the page's end.
+    const bool sayfayaSığar = ÜstBoşluk + fazlası + AltBoşluk < m_sayfaYüksekliği;
+    if (SayfaSonunaBak(AltBoşluk + (sayfayaSığar ? fazlası : 0)) && hücreler.at(0).isEmpty() &&
+        !yeniSayfada.isEmpty()) {
+        QStringList tam = hücreler;
+        tam[0] = yeniSayfada;
+        parçalar = SatırıYerleştir(tam);
+    }
+    ParçalarıYaz(parçalar, !sayfayaSığar);
+}
+
+void SayfaDüzeni::ParçalarıYaz(const QList<SatırParçası>& parçalar, bool sayfaSonunaBakılır) {
+    for (qsizetype i = 0; i < parçalar.size(); ++i) {
+        const SatırParçası& parça = parçalar.at(i);
+        if (sayfaSonunaBakılır && i > 0 && parçalar.at(i - 1).Satır != parça.Satır) SayfaSonunaBak(AltBoşluk);
+        m_yüzey.XAyarla(parça.X);
+        if (i + 1 < parçalar.size() && parçalar.at(i + 1).Satır == parça.Satır) {
+            m_yüzey.Yaz(parça.Metin, parça.Yer);
         } else {
-            m_yüzey.YazVeSatırıBitir(metin, Yer(i, metin, m_sayfaGenişliği - SağPay));
+            m_yüzey.YazVeSatırıBitir(parça.Metin, parça.Yer);
         }
     }
 }
 
-void SayfaDüzeni::HücreYaz(int sütun, const QString& metin) {
-    m_yüzey.XAyarla(m_yerler.at(sütun).Konum);
-    m_yüzey.Yaz(metin, Yer(sütun, metin, m_yerler.at(sütun + 1).Konum - MetinArası));
+void SayfaDüzeni::ÖzetSatırıYaz(const QString& etiket, const QString& değer) {
+    ParçalarıYaz(ÖzetiYerleştir(etiket, değer), false);
 }
 
-void SayfaDüzeni::ÖzetSatırıYaz(const QString& etiket, const QString& değer) {
-    const int son = static_cast<int>(m_sütunlar.size()) - 1;
-    m_yüzey.XAyarla(SağKenar(son - 1) - m_yüzey.MetinGenişliği(etiket));
-    m_yüzey.Yaz(etiket);
-    m_yüzey.XAyarla(SağKenar(son) - m_yüzey.MetinGenişliği(değer));
-    m_yüzey.YazVeSatırıBitir(değer);
+double SayfaDüzeni::ÖzetSatırıYüksekliği(const QString& etiket, const QString& değer) const {
+    return SatırSayısı(ÖzetiYerleştir(etiket, değer)) * m_yüzey.SatırYüksekliği();
 }
 
 void SayfaDüzeni::Bitir() {
@@ -135,21 +140,21 @@ void SayfaDüzeni::Bitir() {
     m_yüzey.Bitir();
 }
 
-double SayfaDüzeni::Sol(int sütun, const QString& metin) const {
-    if (m_sütunlar.at(sütun).Tür != HücreTürü::Sayı) return m_yerler.at(sütun).Konum;
-    return SağKenar(sütun) - m_yüzey.MetinGenişliği(metin);
+QList<SatırParçası> SayfaDüzeni::Yerleştir(const QList<SatırHücresi>& hücreler) const {
+    return ::SatırıYerleştir(hücreler, m_sayfaGenişliği,
+                             [this](const QString& metin) { return m_yüzey.MetinGenişliği(metin); });
 }
 
-// Room of a cell whose right neighbour (or the page's edge) stands at `sağdaki`.
-SayfaYüzeyi::Yer SayfaDüzeni::Yer(int sütun, const QString& metin, double sağdaki) const {
-    const double genişlik = std::max(0.0, sağdaki - m_yerler.at(sütun).Konum);
-    switch (m_sütunlar.at(sütun).Tür) {
-        case HücreTürü::Sayı:
-            break;
-        case HücreTürü::Miktar:
-            return {genişlik, std::max<qsizetype>(0, metin.indexOf(QLatin1Char(' ')))};
-        case HücreTürü::Metin:
-            return {genişlik, 0};
+QList<SatırParçası> SayfaDüzeni::SatırıYerleştir(const QStringList& hücreler) const {
+    QList<SatırHücresi> satır;
+    for (qsizetype i = 0; i < m_sütunlar.size(); ++i) {
+        const SütunYeri& yer = m_yerler.at(i);
+        satır.append({hücreler.at(i), m_sütunlar.at(i).Tür, static_cast<double>(yer.Konum), yer.SağKenar});
     }
-    return {};
+    return Yerleştir(satır);
+}
+
+QList<SatırParçası> SayfaDüzeni::ÖzetiYerleştir(const QString& etiket, const QString& değer) const {
+    const int son = static_cast<int>(m_sütunlar.size()) - 1;
+    return Yerleştir({{etiket, HücreTürü::Sayı, 0, SağKenar(son - 1)}, {değer, HücreTürü::Sayı, 0, SağKenar(son)}});
 }

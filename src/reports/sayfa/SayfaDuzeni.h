@@ -5,17 +5,11 @@
 #include <QStringList>
 #include <cstdint>
 
+#include "SatirYerlesimi.h"
 #include "SayfaYuzeyi.h"
 
 // Whole millimetres, halves to the even one (297,5 -> 298; 296,5 -> 296).
 std::int16_t TamMilimetre(double milimetre);
-
-// What a column's cells hold.
-enum class HücreTürü {
-    Metin,   // left-aligned; gives way where there is no room
-    Miktar,  // left-aligned: a figure, a blank and a unit, of which only the unit may be cut
-    Sayı     // right-aligned under its caption, never cut
-};
 
 struct SayfaSütunu {
     int Başlık;    // number of the caption's text
@@ -28,7 +22,7 @@ struct SayfaSütunu {
 //
 //     SayfaDüzeni düzen(yüzey, başlık, sütunlar);
 //     if (!düzen.Başla()) return;
-//     for each row { düzen.SayfaSonunaBak(); düzen.SatırYaz(...); }
+//     for each row düzen.SatırYaz(...);
 //     düzen.Bitir();
 class SayfaDüzeni {
   public:
@@ -37,27 +31,26 @@ class SayfaDüzeni {
     // Opens the document and prints title and captions. False: the surface cannot begin, the printout does nothing.
     bool Başla();
 
-    // Starts a new page when the next line would come within the bottom reserve; tells whether it did.
-    bool SayfaSonunaBak();
-    // The same when less than `yükseklik` millimetres are left.
+    // Starts a new page when no more than `yükseklik` millimetres are left; tells whether it did.
     bool SayfaSonunaBak(double yükseklik);
     // A new page with title, page number and rule.
     void SayfaBaşlığıYaz();
 
-    // One cell per column, the last ends the line.
-    void SatırYaz(const QStringList& hücreler);
-    // A left-aligned cell alone, staying on the line.
-    void HücreYaz(int sütun, const QString& metin);
+    // One cell per column, in as many lines as its texts need; a row that would come within the bottom reserve starts a
+    // new page. What its first cell says there, if that is empty: yeniSayfada.
+    void SatırYaz(const QStringList& hücreler, const QString& yeniSayfada = {});
 
-    // The last two columns' captions have fixed right edges; label and value end there, the value ends the line.
+    // Label and value end at the right edges of the last two columns' captions.
     void ÖzetSatırıYaz(const QString& etiket, const QString& değer);
+    // In the current font; millimetres.
+    double ÖzetSatırıYüksekliği(const QString& etiket, const QString& değer) const;
 
     void Bitir();
 
     SayfaYüzeyi& Yüzey() { return m_yüzey; }
     std::int16_t SayfaYüksekliği() const { return m_sayfaYüksekliği; }
     std::int16_t SütunKonumu(int sütun) const { return m_yerler.at(sütun).Konum; }
-    // Right edge of the column's caption, in the font in which it was printed.
+    // Right edge of the column's caption, in the font in which it was printed; within the page.
     double SağKenar(int sütun) const { return m_yerler.at(sütun).SağKenar; }
 
   private:
@@ -67,8 +60,10 @@ class SayfaDüzeni {
     };
     void BaşlıkYaz();
     void SütunBaşlıklarınıYaz();
-    double Sol(int sütun, const QString& metin) const;
-    SayfaYüzeyi::Yer Yer(int sütun, const QString& metin, double sağdaki) const;
+    QList<SatırParçası> Yerleştir(const QList<SatırHücresi>& hücreler) const;
+    QList<SatırParçası> SatırıYerleştir(const QStringList& hücreler) const;
+    QList<SatırParçası> ÖzetiYerleştir(const QString& etiket, const QString& değer) const;
+    void ParçalarıYaz(const QList<SatırParçası>& parçalar, bool sayfaSonunaBakılır);
 
     SayfaYüzeyi& m_yüzey;
     QString m_raporBaşlığı;

@@ -27,6 +27,10 @@ PdfMetni PdfOku(const QString& yol) {
     const QString bilgi = Çalıştır(QStringLiteral("pdfinfo"), {yol});
     static const QRegularExpression sayfalar(QStringLiteral("^Pages:\\s+(\\d+)"), QRegularExpression::MultilineOption);
     pdf.SayfaSayısı = sayfalar.match(bilgi).captured(1).toInt();
+    static const QRegularExpression boyut(QStringLiteral("^Page size:\\s+([\\d.]+) x ([\\d.]+) pts"),
+                                          QRegularExpression::MultilineOption);
+    const QRegularExpressionMatch eş = boyut.match(bilgi);
+    pdf.Kâğıt = {eş.captured(1).toDouble(), eş.captured(2).toDouble()};
 
     QXmlStreamReader xml(Çalıştır(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), yol, QStringLiteral("-")}));
     while (!xml.atEnd()) {

@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QRectF>
+#include <QSizeF>
 #include <QString>
 #include <QStringList>
 
@@ -13,6 +14,7 @@ struct PdfKelimesi {
 // What a PDF reader finds in a file: pages of words, and the texts in the order in which they were drawn.
 struct PdfMetni {
     int SayfaSayısı = 0;  // as the document says
+    QSizeF Kâğıt;         // its first page's size, points
     QList<QList<PdfKelimesi>> Sayfalar;
     QString Akış;  // all pages' letters, without blanks
 };

@@ -1,6 +1,6 @@
-// varnek-baski PROGRAM PDF: prints each of the four printouts as the program does, on the default printer, which leaves
-// its job in the file PDF; reads the file back and compares it with what should stand there. The program folder PROGRAM
-// holds the sample. The printer's paper is A4 with the margins below.
+// varnek-baski PROGRAM PDF WIDTH HEIGHT: prints each of the four printouts as the program does, on the default printer,
+// which leaves its job in the file PDF; reads the file back and compares it with what should stand there. The program
+// folder PROGRAM holds the sample. The printer's paper has this size, in points, and the margins below.
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -31,6 +31,7 @@ const QMarginsF Kenarlar(5, 6, 7, 8);  // millimetres: left, top, right, bottom
 constexpr double Tolerans = 1;         // millimetres
 constexpr int Süre = 30000;            // milliseconds for a job
 
+QSizeF Kâğıt;  // points
 int Hatalar = 0;
 
 void Hata(const QString& metin) {
@@ -83,6 +84,9 @@ void Karşılaştır(PdfMetni pdf, const QList<BeklenenMetin>& beklenen) {
         Hata(u"%1 pages instead of %2"_s.arg(pdf.SayfaSayısı).arg(sayfaSayısı));
         return;
     }
+    if (!Yakın(pdf.Kâğıt.width(), Kâğıt.width()) || !Yakın(pdf.Kâğıt.height(), Kâğıt.height())) {
+        Hata(u"paper of %1 x %2 points"_s.arg(pdf.Kâğıt.width()).arg(pdf.Kâğıt.height()));
+    }
     QString akış;
     for (const BeklenenMetin& metin : beklenen) akış += MetniBul(pdf.Sayfalar[metin.Sayfa - 1], metin);
     for (const auto& sayfa : pdf.Sayfalar) {
@@ -94,7 +98,8 @@ void Karşılaştır(PdfMetni pdf, const QList<BeklenenMetin>& beklenen) {
 // Presses the button once to learn what it prints, and once more to print it.
 void YazdırVeKarşılaştır(const QString& ad, QAbstractButton& düğme, const QString& pdfYolu) {
     const int önceki = Hatalar;
-    ÖlçenYüzey ölçen(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, Kenarlar, QPageLayout::Millimeter));
+    ÖlçenYüzey ölçen(
+        QPageLayout(QPageSize(Kâğıt, QPageSize::Point), QPageLayout::Portrait, Kenarlar, QPageLayout::Millimeter));
     YazıcıyıAyarla([&ölçen](const Yazdırılacak& iş) { iş.Yaz(ölçen); });
     QTest::mouseClick(&düğme, Qt::LeftButton);
     YazıcıyıAyarla(nullptr);
@@ -142,8 +147,8 @@ void FişiYazdır(const QString& ürün, const QString& pdfYolu) {
 
 int main(int argc, char** argv) {
     QApplication uygulama(argc, argv);
-    if (argc != 3) {
-        std::fprintf(stderr, "varnek-baski PROGRAM PDF\n");
+    if (argc != 5) {
+        std::fprintf(stderr, "varnek-baski PROGRAM PDF WIDTH HEIGHT\n");
         return 2;
     }
     QApplication::setQuitOnLastWindowClosed(false);
@@ -155,11 +160,13 @@ int main(int argc, char** argv) {
     });
     UygulamaYolu = QString::fromLocal8Bit(argv[1]) + u'/';
     const QString pdfYolu = QString::fromLocal8Bit(argv[2]);
+    Kâğıt = {QByteArray(argv[3]).toDouble(), QByteArray(argv[4]).toDouble()};
     YazıcıVar = YazıcıSayısı() > 0;
     if (!YazıcıVar || !ODBCBağlan()) {
         std::fprintf(stderr, "There is no printer or no data file.\n");
         return 1;
     }
+    std::printf("Paper of %g x %g points\n", Kâğıt.width(), Kâğıt.height());
     try {
         FişiYazdır(u"Çalışma Masası"_s, pdfYolu);
         FişiYazdır(u"Üç Kapılı Gardırop"_s, pdfYolu);
