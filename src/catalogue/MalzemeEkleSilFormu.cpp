@@ -179,7 +179,7 @@ bool MalzemeEkleSilFormu::GirilenlerUygun() {
     if (!SorguÇalıştır()) return false;
     const bool var = SatırGetir();
     DeyimiBırak();
-    return var ? Uyar(700, *m_ad) : true;
+    return var ? Uyar(700, *m_ad) : m_fiyat->Saklanır();
 }
 
 void MalzemeEkleSilFormu::MalzemeEkleKaydetButonu_Click() {
@@ -254,6 +254,7 @@ void MalzemeEkleSilFormu::MalzemeFiyatıDeğiştirButonu_Click() {
         Uyar(690, *m_fiyat);
         return;
     }
+    if (!m_fiyat->Saklanır()) return;
     const QString ad = m_liste->currentItem()->text();
     // The second statement runs whatever became of the first.
     DeyimiYürüt(Deyimler::FiyatDeğiştir(ad, m_fiyat->text()));

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "DegiskenModulu.h"
 #include "Denetimler.h"
@@ -95,6 +96,10 @@ void MaliyetAlanı::YüzdeleriYükle(const QString& grup, const QString& ürün)
     const DeyimKoruması koruma;
     if (!SatırGetir()) return;
     for (int i = İşçilik; i <= Vade; ++i) m_yüzdeler[i]->setText(YüzdeMetni(SütunOku(i + 1)));
+}
+
+bool MaliyetAlanı::YüzdelerSaklanır() {
+    return std::all_of(m_yüzdeler.begin(), m_yüzdeler.end(), [](SayıKutusu* kutu) { return kutu->Saklanır(); });
 }
 
 void MaliyetAlanı::ToplamMaliyetHesapla() {

@@ -208,6 +208,12 @@ constexpr Satır Tablo[] = {
     {2130, "Bu malzemelerin miktarı veya fiyatı okunamadığı için maliyete katılmadılar:"},
     {2131, "Ürünün malzemelerinin hepsi okunamadı; listedekiler ve maliyet eksik!"},
 
+    // Later additions: number boxes
+    {2140, "Bu sayı saklanamayacak kadar büyük! \nGirebileceğiniz en büyük sayı:"},
+    {2141,
+     "Bu sayının basamakları saklanamayacak kadar çok! \n"
+     "Virgülün iki yanında, toplam en çok 15 basamak olabilir. Girebileceğiniz en büyük sayı:"},
+
     // Later additions: about, error report, guide
     {2200, "Programın simgesi"},
     {2201, "www.tovrek.example"},
