@@ -209,10 +209,10 @@ constexpr Satır Tablo[] = {
     {2131, "Ürünün malzemelerinin hepsi okunamadı; listedekiler ve maliyet eksik!"},
 
     // Later additions: number boxes
-    {2140, "Bu sayı saklanamayacak kadar büyük! \nGirebileceğiniz en büyük sayı:"},
+    {2140, "Bu sayı çok büyük! \nGirebileceğiniz en büyük sayı:"},
     {2141,
-     "Bu sayının basamakları saklanamayacak kadar çok! \n"
-     "Virgülün iki yanında, toplam en çok 15 basamak olabilir. Girebileceğiniz en büyük sayı:"},
+     "Bu sayının basamakları çok fazla! \n"
+     "Virgülden önce ve sonra, toplam en çok 15 basamak girebilirsiniz."},
 
     // Later additions: about, error report, guide
     {2200, "Programın simgesi"},

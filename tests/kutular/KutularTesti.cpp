@@ -391,22 +391,57 @@ TEST_F(GirişKutuları, KapananFormdaHiçbirŞeyOlmaz) {
     delete silinen;
 }
 
+// What would come back as another number, or not at all, is not stored; the box keeps it and has the focus.
+TEST_F(GirişKutuları, SaklanamayacakSayıSöylenir) {
+    SayıKutusu miktar(SayıKutusu::Tür::Miktar, &Form);
+    miktar.show();
+    for (const QStringList& satır :
+         Tablo("Y > 1.000.000,00 > 0 | E > -1.000.000,00 > 0 | Y > 1.000.000,0001 > 2140 | E > -1000001 > 2140 | "
+               "Y > 1000000000000000000000 > 2140 | E > - > 2111 | T > 922.337.203.685.477,5807 > 0 | "
+               "T > 922.337.203.685.477,5808 > 2140 | M > 922.337.203.685.477 > 0 | M > 922.337.203.685.478 > 2140 | "
+               "M > 9.999.999.999.999,99 > 0 | M > 99.999.999.999.999,99 > 2141")) {
+        SCOPED_TRACE(satır.join(QChar(u' ')).toStdString());
+        SayıKutusu& kutu = satır[0] == u"M" ? miktar : Form.Kutu(satır[0]);
+        Form.Komut.setFocus();
+        kutu.setText(satır[1]);
+        const int metin = satır[2].toInt();
+        if (metin) Kutular().Yanıtla(TAMAM);
+        EXPECT_EQ(kutu.Saklanır(), metin == 0);
+        EXPECT_EQ(kutu.hasFocus(), metin != 0);
+        EXPECT_EQ(kutu.text(), satır[1]);
+        if (metin) {
+            const QString söylenen = Kutular().Al().at(0).metin;
+            EXPECT_TRUE(söylenen.startsWith(Metin(metin))) << söylenen.toStdString();
+        }
+        kutu.clear();
+    }
+}
+
 // With the real window: the focus arrives where the user sent it, and a mnemonic's command still waits.
 TEST_F(GirişKutuları, HataKutusundanSonraOdakYerineVarır) {
     MesajKutusu::GöstericiyiAyarla(nullptr);
     Form.T.setText(u"7"_s);
-    const auto tuşla = [this](Qt::Key tuş, Qt::KeyboardModifiers değiştirici) {
+    const auto çık = [this](const std::function<void()>& adım) {
         Form.E.setFocus();
         Yaz(Form.E, u"-"_s);
-        ModalAç([&] { QTest::keyClick(&Form.E, tuş, değiştirici); }, u"MesajKutusu"_s,
-                [](QWidget& kutu) { QTest::keyClick(&kutu, Qt::Key_Escape); });
+        ModalAç(adım, u"MesajKutusu"_s, [](QWidget& kutu) { QTest::keyClick(&kutu, Qt::Key_Escape); });
         ÖrnekForm::ÖneGetir(Form);
     };
-    tuşla(Qt::Key_Return, Qt::NoModifier);
+    çık([this] { QTest::keyClick(&Form.E, Qt::Key_Return); });
     EXPECT_TRUE(Form.T.hasFocus());
     EXPECT_EQ(Form.T.selectedText(), u"7"_s);
-    tuşla(Qt::Key_K, Qt::AltModifier);
+    çık([this] { QTest::keyClick(&Form.E, Qt::Key_K, Qt::AltModifier); });
     EXPECT_TRUE(Form.KomutAnındakiler.isEmpty());
+    // Through the window, as the mouse comes: the button is let go while the message is shown.
+    const auto tıkla = [this] {
+        const QPoint yer = Form.Seçenek.mapTo(&Form, QPoint(8, Form.Seçenek.height() / 2));
+        QTest::mouseClick(Form.windowHandle(), Qt::LeftButton, {}, yer);
+    };
+    çık(tıkla);
+    EXPECT_TRUE(Form.Seçenek.hasFocus());
+    EXPECT_FALSE(Form.Seçenek.isDown() || Form.Seçenek.isChecked());
+    tıkla();
+    EXPECT_TRUE(Form.Seçenek.isChecked());
 }
 
 }  // namespace

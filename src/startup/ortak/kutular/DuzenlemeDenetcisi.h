@@ -5,9 +5,9 @@
 class QLineEdit;
 
 // Looks at each edit of a line of text before anybody sees it, however it came about: typed, pasted by key, menu or
-// mouse, dropped, or put in by an input method. What it refuses leaves no trace: text, cursor, selection and undo are as
-// they were. A text that the program sets, or that undo or redo brings, is not looked at: that one is no edit, or has
-// been looked at.
+// mouse, dropped, or put in by an input method. What it refuses leaves no trace: text, cursor, selection and undo are
+// as they were. A text that the program sets, or that undo or redo brings, is not looked at: that one is no edit, or
+// has been looked at.
 class DüzenlemeDenetçisi : public QValidator {
   public:
     // Becomes the line's validator and its child.

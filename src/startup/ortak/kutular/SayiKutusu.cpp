@@ -6,6 +6,7 @@
 #include <QShortcutEvent>
 #include <QTimer>
 #include <algorithm>
+#include <limits>
 
 #include "DegiskenModulu.h"
 #include "MesajKutusu.h"
@@ -22,9 +23,9 @@ constexpr int ÇokBasamakMetni = 2141;
 // refused: so a huge paste costs no more than a small one.
 constexpr int EnUzunMetin = 64;
 
-void HataGöster(const QString& metin) {
+void Söyle(MesajKutusu::Simge simge, const QString& metin) {
     MesajKutusuOrtala();
-    MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam, metin);
+    MesajKutusu::Göster(simge, MesajKutusu::Düğmeler::Tamam, metin);
 }
 
 // Stops the press or the turn of the wheel that has taken the focus and is still on its way to the control there.
@@ -121,29 +122,40 @@ bool SayıKutusu::Bitir() {
     if (biçimli) {
         setText(*biçimli);
     } else if (Yüzdeli()) {
-        HataGöster(Metin(SayıDeğilMetni));
+        Söyle(MesajKutusu::Simge::Kritik, Metin(SayıDeğilMetni));
         return false;
     }
     return true;
 }
 
 bool SayıKutusu::Saklanır() {
-    const QString neden = SaklanmamaNedeni();
-    if (neden.isEmpty()) return true;
-    HataGöster(neden);
+    if (!SayıMı(text(), NoktaKuralı::Serbest)) {
+        Söyle(MesajKutusu::Simge::Kritik, Metin(SayıDeğilMetni));
+    } else {
+        const QString neden = SığmamaNedeni();
+        if (neden.isEmpty()) return true;
+        Söyle(MesajKutusu::Simge::Bilgi, neden);
+    }
     setFocus();
     return false;
 }
 
-// The calculation reads every number as money, a 64-bit count of ten-thousandths, so none may be larger. Prices are
-// stored as that count. A percentage is stored as a double and a quantity computed with as one, and a double is sure of
-// 15 digits: with more, what comes back need not be what was typed. The largest whole number of money has just 15.
-QString SayıKutusu::SaklanmamaNedeni() const {
-    if (!SayıMı(text(), NoktaKuralı::Serbest)) return Metin(SayıDeğilMetni);
-    const auto enBüyük =
-        m_tür == Tür::Tutar ? QStringLiteral(" 922.337.203.685.477,5807") : QStringLiteral(" 922.337.203.685.477");
-    if (!ParaOku(text())) return Metin(ÇokBüyükMetni) + enBüyük;
-    if (m_tür != Tür::Tutar && !DoubleSaklar(text())) return Metin(ÇokBasamakMetni) + enBüyük;
+// The calculation multiplies a percentage, read as money, by the material cost, and what leaves the range of money (a
+// 64-bit count of ten-thousandths) it cannot count: up to a million it counts right for a material cost of 922 million.
+// A price is money itself. A quantity is read as a double, which is sure of 15 digits: the range of money in whole
+// units.
+Para SayıKutusu::EnBüyük() const {
+    constexpr std::int64_t paranınSonu = std::numeric_limits<std::int64_t>::max();
+    if (Yüzdeli()) return Para::OnBindeBirden(1'000'000 * Para::Ölçek);
+    return Para::OnBindeBirden(m_tür == Tür::Tutar ? paranınSonu : paranınSonu / Para::Ölçek * Para::Ölçek);
+}
+
+QString SayıKutusu::SığmamaNedeni() const {
+    const Para enBüyük = EnBüyük();
+    const auto sayı = ParaOku(text());
+    if (!sayı || *sayı > enBüyük || *sayı < Para::OnBindeBirden(-enBüyük.OnBindeBir()))
+        return Metin(ÇokBüyükMetni) + QLatin1Char(' ') + SayıBiçimle(enBüyük, m_tür == Tür::Tutar ? 4 : 0);
+    if (m_tür == Tür::Miktar && !DoubleSaklar(text())) return Metin(ÇokBasamakMetni);
     return {};
 }
 

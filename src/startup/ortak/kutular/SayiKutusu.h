@@ -1,6 +1,7 @@
 #pragma once
 
 #include "GirisKutusu.h"
+#include "Para.h"
 
 // The longest number that can be put into a number box: the largest amount of money with its sign, grouped, with six
 // decimals (-922.337.203.685.477,580700). A shorter text may hold a larger number; that is refused on saving.
@@ -41,7 +42,8 @@ class SayıKutusu : public GirişKutusu {
     bool TuşGeçer(const QKeyEvent& tuş) const;
     QString Ek(const QString& metin, int imleç) const;
     bool KabulEdilir(const QString& metin, const QString& ek) const;
-    QString SaklanmamaNedeni() const;
+    Para EnBüyük() const;
+    QString SığmamaNedeni() const;
 
     Tür m_tür;
     QString m_önceki;      // the text before the edit that is going on
