@@ -178,7 +178,8 @@ bool MalzemeEkleSilFormu::GirilenlerUygun() {
     if (m_ad->text().isEmpty()) return Uyar(680, *m_ad);
     if (m_fiyat->text().isEmpty()) return Uyar(690, *m_fiyat);
     const Kayıt aynısı = KaydıOku(Deyimler::MalzemeVarMı(m_ad->text()));
-    return aynısı == Kayıt::Var ? Uyar(700, *m_ad) : aynısı == Kayıt::Yok;
+    if (aynısı == Kayıt::Var) return Uyar(700, *m_ad);
+    return aynısı == Kayıt::Yok && m_fiyat->Saklanır();
 }
 
 void MalzemeEkleSilFormu::MalzemeEkleKaydetButonu_Click() {
@@ -253,6 +254,7 @@ void MalzemeEkleSilFormu::MalzemeFiyatıDeğiştirButonu_Click() {
         Uyar(690, *m_fiyat);
         return;
     }
+    if (!m_fiyat->Saklanır()) return;
     const QString ad = m_liste->currentItem()->text();
     // The second statement runs whatever became of the first.
     DeyimiYürüt(Deyimler::FiyatDeğiştir(ad, m_fiyat->text()));

@@ -34,9 +34,8 @@ namespace {
 // Columns of the list that is to be transferred.
 enum Sütun { MiktarSütunu, AdSütunu, FiyatSütunu, TutarSütunu };
 
-// Quantity, blank and type together fit a stored text: a quantity of 40 characters has at most 60 once it is formatted.
-constexpr int EnUzunMiktar = 40;
-constexpr int EnUzunTür = EnUzunAd - 1 - 60;
+// Quantity, blank and type together fit a stored text: no quantity that can be stored is longer than the box's length.
+constexpr int EnUzunTür = EnUzunAd - 1 - EnUzunSayı;
 
 struct TürkçeKüçük {
     bool operator()(const QString& a, const QString& b) const {
@@ -62,11 +61,8 @@ void MalzemeListesiOluşturFormu::KontrolleriKur() {
     m_katalog = KatalogListesi(QStringLiteral("MalzemeListesi"));
     connect(m_katalog, &QListWidget::itemDoubleClicked, this,
             [this] { HataYakala([this] { ListeyeEkleButonu_Click(); }); });
-    m_miktar = new SayıKutusu(SayıKutusu::Tür::Tutar);
+    m_miktar = new SayıKutusu(SayıKutusu::Tür::Miktar);
     m_miktar->setObjectName(QStringLiteral("MalzemeMiktarıKutusu"));
-    m_miktar->Düzenlenince([this] {
-        if (m_miktar->text().size() > EnUzunMiktar) m_miktar->setText(m_miktar->text().left(EnUzunMiktar));
-    });
     m_tür = new MiktarTürüKutusu;
     m_tür->setObjectName(QStringLiteral("MiktarTürüListesi"));
     m_tür->lineEdit()->setMaxLength(EnUzunTür);
@@ -156,7 +152,7 @@ bool MalzemeListesiOluşturFormu::GirilenlerUygun() {
     m_tür->setEditText(tür);
     // Only zero is refused, though the message speaks of 1.
     if (DoubleOku(m_miktar->text()).value_or(0) == 0) return Uyar(840, *m_miktar);
-    return true;
+    return m_miktar->Saklanır();
 }
 
 bool MalzemeListesiOluşturFormu::ZatenEklenmiş(const QString& malzeme) const {

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "DegiskenModulu.h"
 #include "Denetimler.h"
@@ -97,6 +98,10 @@ bool MaliyetAlanı::YüzdeleriYükle(const QString& grup, const QString& ürün)
     if (kayıt != Kayıt::Var) return false;
     for (int i = İşçilik; i <= Vade; ++i) m_yüzdeler[i]->setText(YüzdeMetni(saklanan[i]));
     return true;
+}
+
+bool MaliyetAlanı::YüzdelerSaklanır() {
+    return std::all_of(m_yüzdeler.begin(), m_yüzdeler.end(), [](SayıKutusu* kutu) { return kutu->Saklanır(); });
 }
 
 void MaliyetAlanı::ToplamMaliyetHesapla() {

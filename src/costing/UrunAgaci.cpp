@@ -8,6 +8,7 @@
 #include <QSignalBlocker>
 #include <QTimer>
 
+#include "DuzenlemeDenetcisi.h"
 #include "GirisKutusu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
@@ -28,6 +29,7 @@ class AdTemsilcisi : public MetinTemsilcisi {
         QWidget* düzenleyici = QStyledItemDelegate::createEditor(sahip, seçenek, yer);
         if (auto* kutu = qobject_cast<QLineEdit*>(düzenleyici)) {
             kutu->setMaxLength(EnUzunAd);
+            TekSatırlıOlsun(kutu);
             kutu->setObjectName(QStringLiteral("AdDüzenleyici"));
         }
         return düzenleyici;

@@ -209,6 +209,12 @@ constexpr Satır Tablo[] = {
     {2132, "Kayıtların hepsi okunamadı; gösterilenler eksik!"},
     {2133, "Kayıt okunamadı!"},
 
+    // Later additions: number boxes
+    {2140, "Bu sayı çok büyük! \nGirebileceğiniz en büyük sayı:"},
+    {2141,
+     "Bu sayının basamakları çok fazla! \n"
+     "Virgülden önce ve sonra, toplam en çok 15 basamak girebilirsiniz."},
+
     // Later additions: about, error report, guide
     {2200, "Programın simgesi"},
     {2201, "www.tovrek.example"},

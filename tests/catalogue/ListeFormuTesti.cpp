@@ -61,7 +61,11 @@ TEST_F(ListeFormu, EklemeDenetimleriSırasıylaVeSatırBiçimli) {
         const char* Miktar;
         const char* Tür;
         int Metin;
-    } durumlar[] = {{"yok", "1", "Adet", 710}, {"ç", "", "Adet", 820}, {"ç", "1", " ", 830}, {"ç", "0", "Metre", 840}};
+    } durumlar[] = {{"yok", "1", "Adet", 710},
+                    {"ç", "", "Adet", 820},
+                    {"ç", "1", " ", 830},
+                    {"ç", "0", "Metre", 840},
+                    {"ç", "99999999999999,99", "Metre", 2141}};
     for (const auto& durum : durumlar) {
         Beklenen(Simge::Bilgi, durum.Metin, Yanıt::Tamam);
         Ekle(durum.Malzeme, durum.Miktar, durum.Tür);

@@ -4,6 +4,7 @@
 #include "DegiskenModulu.h"
 #include "KatalogTesti.h"
 #include "MalzemeEkleSilFormu.h"
+#include "MetinTablosu.h"
 
 using MesajKutusu::Simge;
 using MesajKutusu::Yanıt;
@@ -87,6 +88,12 @@ TEST_F(MalzemeFormu, EklemeDenetlerKaydederVeSırayaKoyar) {
         EXPECT_EQ(Kip(), Ekleme);
     }
     EXPECT_EQ(AdVeFiyat(), QStringLiteral("Çivi|5,00"));
+    Yaz("MalzemeAdıKutusu", QStringLiteral("cam"));
+    Yaz("MalzemeFiyatıKutusu", QStringLiteral("922337203685478"));
+    Kutular().Yanıtla(Yanıt::Tamam);
+    Tıkla("MalzemeEkleKaydetButonu");
+    Kutular().TekKutu(Simge::Bilgi, Metin(2140) + QStringLiteral(" 922.337.203.685.477,5807"));
+    EXPECT_EQ(AdVeFiyat(), QStringLiteral("Cam|922.337.203.685.478,00"));
     Yaz("MalzemeAdıKutusu", QStringLiteral("boya 1. sınıf"));
     Yaz("MalzemeFiyatıKutusu", QStringLiteral("1x2.50,125"));
     EXPECT_EQ(Kutu("MalzemeFiyatıKutusu"), QStringLiteral("1250,125")) << "letters and dots are swallowed";

@@ -100,7 +100,7 @@ TEST_F(ÜrünFormu, DenetimlerSırasıylaVeEklemeKipindeKalır) {
         const char* Ad;
         int Metin;
         const char* Odak;
-    } durumlar[] = {{"", "", 560, "ÜrünGrubuListesi"},
+    } durumlar[] = {{" ", "", 560, "ÜrünGrubuListesi"},
                     {"2024", "X", 565, "ÜrünGrubuListesi"},
                     {"3,5", "X", 565, "ÜrünGrubuListesi"},
                     {"2024A", "", 570, "ÜrünAdıKutusu"},

@@ -26,7 +26,8 @@ class Adlandırma : public FormOrtamı {
         QTest::keyClick(&Ağaç(), Qt::Key_F2);
         // A click on the current node has begun the editing by itself, after a moment.
         ASSERT_TRUE(Bekle([this] { return Düzenleyici() != nullptr; }));
-        Düzenleyici()->setText(yeni);
+        Düzenleyici()->selectAll();
+        Düzenleyici()->insert(yeni);
         QTest::keyClick(Düzenleyici(), Qt::Key_Return);
         // The editor hands the name over and closes, and then the renaming runs, each in its turn of the event loop.
         for (int i = 0; i < 5; ++i) {
@@ -50,7 +51,7 @@ class Adlandırma : public FormOrtamı {
 };
 
 TEST_F(Adlandırma, ÜrünVeMalzemeleriYeniAdıAlır) {
-    Adlandır(Düğüm("MASA", "Sehpa"), "Küçük Sehpa");
+    Adlandır(Düğüm("MASA", "Sehpa"), "Küçük\r\nSehpa");
     EXPECT_EQ(Düğümler(), QStringList({"MASA", " Küçük Sehpa", " Yemek Masası", "SANDALYE", " Tabure"}));
     EXPECT_EQ(Ürünler(), QStringList({"MASA/Küçük Sehpa", "MASA/Yemek Masası", "SANDALYE/Tabure"}));
     EXPECT_EQ(Kullanılanlar(),

@@ -164,6 +164,20 @@ TEST_F(AnaFormu, YalnızDiğerMaliyetEksiOlabilir) {
     Kutular().TekKutu(Simge::Kritik, Metin(2111));
     EXPECT_EQ(Yazı("DiğerMaliyetYüzdesiKutusu"), "-");
     EXPECT_TRUE(Etkin("DeğişiklikleriKaydetButonu"));
+    // Nor does one that takes the focus from no box.
+    Bul("DiğerMaliyetYüzdesiKutusu").setFocus();
+    Kutular().Yanıtla(Yanıt::Tamam);
+    QTest::keyClick(&Bul("DiğerMaliyetYüzdesiKutusu"), Qt::Key_F4);
+    Kutular().TekKutu(Simge::Kritik, Metin(2111));
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+
+    Yaz("DiğerMaliyetYüzdesiKutusu", "-1000000000000000000000");
+    Kutular().Yanıtla(Yanıt::Tamam);
+    QTest::mouseClick(&Bul("DeğişiklikleriKaydetButonu"), Qt::LeftButton);
+    Kutular().TekKutu(Simge::Bilgi, Metin(2140) + " 1.000.000");
+    EXPECT_EQ(Yazı("DiğerMaliyetYüzdesiKutusu"), "-1.000.000.000.000.000.000.000,00");
+    EXPECT_EQ(QApplication::focusWidget(), &Bul("DiğerMaliyetYüzdesiKutusu"));
+    EXPECT_TRUE(Etkin("DeğişiklikleriKaydetButonu"));
 }
 
 TEST_F(AnaFormu, OndalıkDeğişikliğiSonrakiYüklemedeGörünür) {

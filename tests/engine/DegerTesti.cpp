@@ -73,9 +73,10 @@ TEST(DeğerTesti, SayıMetinleri) {
         EXPECT_EQ(para, durum.Para) << durum.Metin;
         EXPECT_EQ(ondalık, durum.Ondalık) << durum.Metin;
     }
-    const char* sayıDeğil[] = {"12.5",  "1250.5",  "1.25",      "1234.567", "1.2345", ".250", "1..250",  "1.250.",
-                               "0.500", "1,250.5", "1,000.000", "",         " ",      ",",    "-",       "--5",
-                               "5-",    "1,2,3",   "1 250",     "1e5",      "0x10",   "nan",  "\xD9\xA1"};
+    const char* sayıDeğil[] = {"12.5",   "1250.5", "1.25",   "1234.567", "1.2345",  ".250",      "1..250",
+                               "1.250.", "0.500",  "00.125", "-0.125",   "1,250.5", "1,000.000", "",
+                               " ",      ",",      "-",      "--5",      "5-",      "1,2,3",     "1 250",
+                               "1e5",    "0x10",   "nan",    "\xD9\xA1"};
     for (const char* metin : sayıDeğil) EXPECT_FALSE(SayıMetniÇöz(metin)) << metin;
     EXPECT_THROW(OndalığaÇevir(*SayıMetniÇöz(std::string(400, '9'))), Hata);
     EXPECT_EQ(OndalığaÇevir(*SayıMetniÇöz("0," + std::string(400, '0') + "1")), 0);

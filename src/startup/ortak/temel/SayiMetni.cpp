@@ -1,5 +1,7 @@
 #include "SayiMetni.h"
 
+#include <limits>
+
 #include "Ondalik.h"
 
 namespace {
@@ -8,8 +10,10 @@ bool RakamMı(QChar harf) {
     return harf >= u'0' && harf <= u'9';
 }
 
-// The dots before the comma: every group behind a dot has three digits, the first one to three.
+// The dots before the comma: every group behind a dot has three digits, the first one to three and no 0 in front
+// ("0.500" is somebody's decimal point).
 bool NoktalarYerinde(QStringView tam) {
+    if (tam.startsWith(u'0') && tam.contains(u'.')) return false;
     qsizetype sağdan = 0;
     bool noktaVar = false;
     for (qsizetype yer = tam.size() - 1; yer >= 0; --yer, ++sağdan) {
@@ -85,6 +89,14 @@ std::optional<Para> ParaOku(QStringView metin, NoktaKuralı kural) {
 std::optional<double> DoubleOku(QStringView metin, NoktaKuralı kural) {
     const auto sayı = OndalıkOku(metin, kural);
     return sayı ? EnYakınDouble(*sayı) : std::nullopt;
+}
+
+bool DoubleSaklar(QStringView metin, NoktaKuralı kural) {
+    const auto sayı = OndalıkOku(metin, kural);
+    if (!sayı) return false;
+    const std::string rakamlar = sayı->Tam + sayı->Kesir;
+    const std::size_t ilk = rakamlar.find_first_not_of('0');
+    return ilk == std::string::npos || rakamlar.find_last_not_of('0') - ilk < std::numeric_limits<double>::digits10;
 }
 
 QString SayıBiçimle(Para değer, int basamak) {

@@ -12,8 +12,10 @@
 
 // Where a "." may stand before the comma.
 enum class NoktaKuralı {
-    Yerinde,  // only between groups of three digits, as in 1.250.000 ("12.5" is no number)
-    Serbest   // anywhere: the text of a box while the user edits it (1.25,00 after a Backspace)
+    // Only between groups of three digits, the first group not beginning with 0, as in 1.250.000; "12.5" and "0.500"
+    // are no numbers. The data file takes the same ones.
+    Yerinde,
+    Serbest  // anywhere: the text of a box while the user edits it (1.25,00 after a Backspace)
 };
 
 // The numeric test: blanks around, an optional sign ("-" or "+", blanks may follow), digits with dots as the rule
@@ -26,6 +28,9 @@ std::optional<Para> ParaOku(QStringView metin, NoktaKuralı kural = NoktaKuralı
 
 // The text as the nearest double. nullopt: no number, or not finite.
 std::optional<double> DoubleOku(QStringView metin, NoktaKuralı kural = NoktaKuralı::Serbest);
+
+// Whether a double gives the number back digit by digit: it does for 15 significant digits, and for more it may not.
+bool DoubleSaklar(QStringView metin, NoktaKuralı kural = NoktaKuralı::Serbest);
 
 // FormatNumber: exactly `basamak` decimals (0 and up), thousands grouped, leading zero, "-" in front; halves are
 // rounded away from zero on the decimal value; a value that rounds to zero never bears a sign.
