@@ -2,7 +2,6 @@
 
 #include <QDialog>
 #include <QLabel>
-#include <QListWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -38,14 +37,12 @@ QLabel* KatalogEtiketi(int sıra, int metin, QWidget* kutu) {
     return etiket;
 }
 
-QListWidget* KatalogListesi(const QString& ad) {
-    auto* liste = new QListWidget;
-    liste->setObjectName(ad);
-    liste->setUniformItemSizes(true);
-    liste->setTextElideMode(Qt::ElideRight);
-    liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    Enterİleİlerlesin(liste);
-    return liste;
+KatalogListesi::KatalogListesi(const QString& ad) {
+    setObjectName(ad);
+    setUniformItemSizes(true);
+    setTextElideMode(Qt::ElideRight);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    Enterİleİlerlesin(this);
 }
 
 QWidget* KatalogAltlığı(QDialog* form) {
@@ -57,6 +54,11 @@ QWidget* KatalogAltlığı(QDialog* form) {
     düzen->setContentsMargins(0, 0, 0, 0);
     düzen->addWidget(altlık);
     return altlık;
+}
+
+void YarımKaldı(int metin, const QString& ek) {
+    MesajKutusuOrtala();
+    MesajKutusu::Göster(Simge::Ünlem, Düğmeler::Tamam, Metin(metin) + ek);
 }
 
 bool Uyar(int metin, QWidget& kutu) {
