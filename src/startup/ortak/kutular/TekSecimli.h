@@ -43,7 +43,8 @@ class TekSeçimli : public Görünüm {
     void currentChanged(const QModelIndex& yeni, const QModelIndex& eski) override {
         m_yenidenBasılan = QPersistentModelIndex();
         // Before anyone hears of the new row: on a press the toolkit marks it only afterwards.
-        if (yeni.isValid() && !Görünüm::selectionModel()->isSelected(yeni)) Görünüm::selectionModel()->select(yeni, Seç());
+        if (yeni.isValid() && !Görünüm::selectionModel()->isSelected(yeni))
+            Görünüm::selectionModel()->select(yeni, Seç());
         Görünüm::currentChanged(yeni, eski);
     }
 
