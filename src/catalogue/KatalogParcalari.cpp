@@ -11,6 +11,7 @@
 #include "KomutDugmesi.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
+#include "MetinTemsilcisi.h"
 
 using MesajKutusu::Düğmeler;
 using MesajKutusu::Simge;
@@ -42,7 +43,14 @@ KatalogListesi::KatalogListesi(const QString& ad) {
     setUniformItemSizes(true);
     setTextElideMode(Qt::ElideRight);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setItemDelegate(new MetinTemsilcisi(this));
     Enterİleİlerlesin(this);
+}
+
+void TutaraYerAç(QWidget* kutu) {
+    constexpr int çerçeve = 16;  // pixels of the box beside its text
+    kutu->setMinimumWidth(kutu->fontMetrics().horizontalAdvance(QStringLiteral("922.337.203.685.477,580800")) +
+                          çerçeve);
 }
 
 QWidget* KatalogAltlığı(QDialog* form) {

@@ -21,11 +21,14 @@ KomutDüğmesi* KatalogDüğmesi(const QString& ad, const QList<int>& başlıkla
 // The caption Etiket(sıra) of a box, list or tree, highlighted while the user is in it.
 QLabel* KatalogEtiketi(int sıra, int metin, QWidget* kutu);
 
-// A list of names for tens of thousands of rows, in which Enter moves on.
+// A list of names for tens of thousands of rows, in which Enter moves on. A name that it cuts is told by a tooltip.
 class KatalogListesi : public TekSeçimli<QListWidget> {
   public:
     explicit KatalogListesi(const QString& ad);
 };
+
+// Makes a box wide enough for the largest amount with the most decimals.
+void TutaraYerAç(QWidget* kutu);
 
 // The form's background panel, which holds everything on it.
 QWidget* KatalogAltlığı(QDialog* form);

@@ -58,6 +58,7 @@ void MalzemeEkleSilFormu::KontrolleriKur() {
     m_ad->setObjectName(QStringLiteral("MalzemeAdıKutusu"));
     m_fiyat = new SayıKutusu(SayıKutusu::Tür::Tutar);
     m_fiyat->setObjectName(QStringLiteral("MalzemeFiyatıKutusu"));
+    TutaraYerAç(m_fiyat);
 
     m_ekleKaydet = KatalogDüğmesi(QStringLiteral("MalzemeEkleKaydetButonu"), {650, 520},
                                   [this] { MalzemeEkleKaydetButonu_Click(); });
@@ -135,6 +136,7 @@ Kayıt MalzemeEkleSilFormu::SeçileniGöster() {
     });
     if (kayıt == Kayıt::Var) {
         m_ad->setText(ad);
+        m_ad->home(false);  // of a long name the beginning is seen
         m_fiyat->setText(SayıMetniBiçimle(fiyat, OndalıkBasamak).value_or(fiyat));
     }
     return kayıt;

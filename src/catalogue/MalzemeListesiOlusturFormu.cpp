@@ -66,6 +66,7 @@ void MalzemeListesiOluşturFormu::KontrolleriKur() {
             [this] { HataYakala([this] { ListeyeEkleButonu_Click(); }); });
     m_miktar = new SayıKutusu(SayıKutusu::Tür::Tutar);
     m_miktar->setObjectName(QStringLiteral("MalzemeMiktarıKutusu"));
+    TutaraYerAç(m_miktar);
     m_miktar->Düzenlenince([this] {
         if (m_miktar->text().size() > EnUzunMiktar) m_miktar->setText(m_miktar->text().left(EnUzunMiktar));
     });
@@ -103,8 +104,8 @@ void MalzemeListesiOluşturFormu::Yerleştir() {
     giriş->addWidget(m_ekle, 0, Qt::AlignRight);
     giriş->addStretch();
     auto* üst = new QHBoxLayout;
-    üst->addLayout(katalog, 3);
-    üst->addLayout(giriş, 2);
+    üst->addLayout(katalog, 5);
+    üst->addLayout(giriş, 4);
 
     auto* düğmeler = new QHBoxLayout;
     for (KomutDüğmesi* düğme : {m_çıkar, m_temizle, m_aktar}) düğmeler->addWidget(düğme);

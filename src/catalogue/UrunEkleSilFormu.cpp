@@ -214,8 +214,9 @@ void ÜrünEkleSilFormu::ÜrünSilButonu_Click() {
     if (!SilmeOnayı(grupMu)) return;
     if (!DeyimiYürüt(grupMu ? Deyimler::GrubuSil(grup) : Deyimler::ÜrünüSil(grup, ürün))) return;
     if (!DeyimiYürüt(grupMu ? Deyimler::GrubunMalzemeleriniSil(grup) : Deyimler::ÜrününMalzemeleriniSil(grup, ürün))) {
-        // The node stays: through it the materials left behind can still be deleted.
+        // The node stays here: through it the materials left behind can still be deleted.
         YarımKaldı(MalzemeleriKaldıMetni);
+        m_anaForm.ÜrünAğacınıYenile();
         return;
     }
     SilineniKaldır(grup, ürün, grupMu);
