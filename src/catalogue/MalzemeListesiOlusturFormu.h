@@ -7,9 +7,9 @@
 
 class AnaFormErişimi;
 class GirişKutusu;
+class KatalogListesi;
 class KomutDüğmesi;
 class MiktarTürüKutusu;
-class QListWidget;
 class RaporListesi;
 class SayıKutusu;
 
@@ -35,6 +35,7 @@ class MalzemeListesiOluşturFormu : public QDialog {
     void ListeyiAktarButonu_Click();
 
     bool GirilenlerUygun();
+    void TürüHatırla(const QString& tür);
     bool ZatenEklenmiş(const QString& malzeme) const;
     std::optional<Para> BirimFiyat(const QString& malzeme) const;
     void Aktar();
@@ -44,7 +45,7 @@ class MalzemeListesiOluşturFormu : public QDialog {
     MiktarTürüKutusu* m_tür;
     SayıKutusu* m_miktar;
     GirişKutusu* m_bul;
-    QListWidget* m_katalog;
+    KatalogListesi* m_katalog;
     RaporListesi* m_eklenecek;
     KomutDüğmesi* m_ekle;
     KomutDüğmesi* m_çıkar;

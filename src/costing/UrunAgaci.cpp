@@ -49,19 +49,14 @@ bool Aynı(const QString& a, const QString& b) {
 
 }  // namespace
 
-ÜrünAğacı::ÜrünAğacı(QWidget* sahip) : QTreeWidget(sahip) {
+ÜrünAğacı::ÜrünAğacı(QWidget* sahip) : TekSeçimli(sahip) {
     setObjectName(QStringLiteral("ÜrünListesi"));
     setHeaderHidden(true);
     setUniformRowHeights(true);
-    setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed);
     setItemDelegate(new AdTemsilcisi(this, [this](const QModelIndex& yer, const QString& ad) { AdıSıraya(yer, ad); }));
 
-    connect(this, &QTreeWidget::currentItemChanged, this, [this] { m_olaylar.DüğümTıklandı(); });
-    connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* düğüm) {
-        // A click that changed the current node has been answered already.
-        if (düğüm == m_basılmadanÖnce) m_olaylar.DüğümTıklandı();
-    });
+    Seçilince([this] { m_olaylar.DüğümTıklandı(); });
     connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* grup) {
         SessizceSeç(grup);
         m_olaylar.SeçimiYükle();
@@ -123,19 +118,13 @@ bool ÜrünAğacı::edit(const QModelIndex& yer, EditTrigger neden, QEvent* olay
     return QTreeWidget::edit(yer, neden, olay);
 }
 
-QItemSelectionModel::SelectionFlags ÜrünAğacı::selectionCommand(const QModelIndex& yer, const QEvent*) const {
-    // The current node is the selected one, with Ctrl held down too.
-    return yer.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
-}
-
 void ÜrünAğacı::mousePressEvent(QMouseEvent* olay) {
-    m_basılmadanÖnce = currentItem();
     m_boşaBasıldı = !indexAt(olay->position().toPoint()).isValid();
-    QTreeWidget::mousePressEvent(olay);
+    TekSeçimli::mousePressEvent(olay);
 }
 
 void ÜrünAğacı::mouseReleaseEvent(QMouseEvent* olay) {
-    QTreeWidget::mouseReleaseEvent(olay);
+    TekSeçimli::mouseReleaseEvent(olay);
     const bool boşta = m_boşaBasıldı && !indexAt(olay->position().toPoint()).isValid();
     if (boşta && olay->button() == Qt::LeftButton && !m_sustu) m_olaylar.BoşlukTıklandı();
 }

@@ -4,9 +4,11 @@
 #include <cstdint>
 #include <functional>
 
+#include "TekSecimli.h"
+
 // The product tree: groups without a parent, products beneath them. The text is a node's name and, with its group's,
 // its key in the data file. It is renamed in place.
-class ÜrünAğacı : public QTreeWidget {
+class ÜrünAğacı : public TekSeçimli<QTreeWidget> {
   public:
     struct Olaylar {
         std::function<void()> DüğümTıklandı;   // another node became current, or the current one was clicked again
@@ -35,7 +37,6 @@ class ÜrünAğacı : public QTreeWidget {
 
   protected:
     bool edit(const QModelIndex& yer, EditTrigger neden, QEvent* olay) override;
-    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& yer, const QEvent* olay) const override;
     void mousePressEvent(QMouseEvent* olay) override;
     void mouseReleaseEvent(QMouseEvent* olay) override;
 
@@ -53,7 +54,6 @@ class ÜrünAğacı : public QTreeWidget {
     bool BaşkaDüğümüEtkiler(const QTreeWidgetItem* düğüm, const QString& yeni) const;
 
     Olaylar m_olaylar;
-    QTreeWidgetItem* m_basılmadanÖnce = nullptr;  // current before the press; only compared
     bool m_boşaBasıldı = false;
     bool m_sustu = false;
 };

@@ -215,6 +215,22 @@ constexpr Satır Tablo[] = {
      "Bu sayının basamakları çok fazla! \n"
      "Virgülden önce ve sonra, toplam en çok 15 basamak girebilirsiniz."},
 
+    // Later additions: catalogue forms
+    {2170, "Bu malzeme veri dosyasında artık yok; fiyatı değiştirilemez!"},
+    {2171,
+     "Yeni fiyat malzeme listesine yazıldı, ancak ürünlere yazılamadı! \n"
+     "Lütfen, fiyat değişimini yeniden deneyiniz."},
+    {2172,
+     "Yeni fiyat ürünlere yazıldı, ancak malzeme listesine yazılamadı! \n"
+     "Lütfen, fiyat değişimini yeniden deneyiniz."},
+    {2173,
+     "Malzeme silindi, ancak ürünlerin listesinden çıkarılamadı! \n"
+     "Çıkarmak için, listede bırakılan malzemeyi yeniden siliniz."},
+    {2174,
+     "Ürün kaydı silindi, ancak kullanılan malzemeleri silinemedi! \n"
+     "Silmek için, listede bırakılan satırı yeniden siliniz."},
+    {2175, "Bu malzemeler ürüne aktarılamadı:"},
+
     // Later additions: about, error report, guide
     {2200, "Programın simgesi"},
     {2201, "www.tovrek.example"},

@@ -5,11 +5,10 @@
 #include "MetinTablosu.h"
 #include "MetinTemsilcisi.h"
 
-RaporListesi::RaporListesi(const QList<Sütun>& sütunlar, QWidget* sahip) : QTreeWidget(sahip) {
+RaporListesi::RaporListesi(const QList<Sütun>& sütunlar, QWidget* sahip) : TekSeçimli(sahip) {
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
-    setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setTabKeyNavigation(false);
     QStringList başlıklar;
@@ -33,7 +32,8 @@ void RaporListesi::SatırlarıKoy(const QList<QTreeWidgetItem*>& satırlar) {
 }
 
 QString RaporListesi::SeçiliMetin(int sütun) const {
-    return currentItem() ? currentItem()->text(sütun) : QString();
+    const QTreeWidgetItem* seçili = SeçiliÖğe();
+    return seçili ? seçili->text(sütun) : QString();
 }
 
 void RaporListesi::resizeEvent(QResizeEvent* olay) {
