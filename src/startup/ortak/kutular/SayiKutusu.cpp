@@ -7,6 +7,7 @@
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "SayiMetni.h"
+#include "SayiSigdirma.h"
 
 namespace {
 
@@ -19,6 +20,7 @@ int BaşarısızÇıkışlar = 0;
 SayıKutusu::SayıKutusu(Tür tür, QWidget* sahip) : GirişKutusu(sahip), m_tür(tür) {
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setAcceptDrops(false);
+    SayıyıSığdır(this);
     const auto yeriSakla = [this] { m_ekinYeri = hasSelectedText() ? selectionStart() : cursorPosition(); };
     connect(this, &QLineEdit::selectionChanged, this, yeriSakla);
     connect(this, &QLineEdit::cursorPositionChanged, this, yeriSakla);
