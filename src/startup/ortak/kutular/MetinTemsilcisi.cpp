@@ -12,9 +12,10 @@ namespace {
 
 constexpr int SatırPayı = 6;  // pixels between the lines of text
 
+// Of a cell without icon and tick.
 int MetinGenişliği(const QStyleOptionViewItem& hücre, const QStyle& biçem) {
     const int pay = biçem.pixelMetric(QStyle::PM_FocusFrameHMargin, &hücre, hücre.widget) + 1;
-    return biçem.subElementRect(QStyle::SE_ItemViewItemText, &hücre, hücre.widget).width() - 2 * pay;
+    return hücre.rect.width() - 2 * pay;
 }
 
 }  // namespace

@@ -76,8 +76,7 @@ class Sığdırıcı : public QObject {
 
   private:
     static bool GeçiciMi(Qt::FocusReason neden) {
-        return neden == Qt::ActiveWindowFocusReason || neden == Qt::PopupFocusReason ||
-               neden == Qt::MenuBarFocusReason;
+        return neden == Qt::ActiveWindowFocusReason || neden == Qt::PopupFocusReason || neden == Qt::MenuBarFocusReason;
     }
 
     // Where the text stands.
@@ -142,10 +141,11 @@ class Sığdırıcı : public QObject {
 }  // namespace
 
 QFont SığanYazıTipi(const QFont& yazıTipi, const QString& metin, int genişlik) {
+    double gereken = Genişlik(yazıTipi, metin);
+    if (gereken <= genişlik) return yazıTipi;
     const double sınır = std::min(Boy(yazıTipi), EnKüçükOran * Boy(QApplication::font()));
     QFont sığan = yazıTipi;
-    for (double gereken = Genişlik(sığan, metin); gereken > genişlik && Boy(sığan) > sınır;
-         gereken = Genişlik(sığan, metin)) {
+    for (; gereken > genişlik && Boy(sığan) > sınır; gereken = Genişlik(sığan, metin)) {
         const double oran = std::clamp(genişlik / gereken, 0.1, 0.98);
         sığan = Boyunda(sığan, std::max(sınır, Boy(sığan) * oran));
         if (sığan.pointSizeF() <= 0 && sığan.pixelSize() <= sınır) break;
