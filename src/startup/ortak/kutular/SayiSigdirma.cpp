@@ -41,6 +41,7 @@ class Sığdırıcı : public QObject {
   public:
     explicit Sığdırıcı(QLineEdit* kutu) : QObject(kutu), m_kutu(*kutu), m_asıl(kutu->font()), m_konan(kutu->font()) {
         kutu->installEventFilter(this);
+        kutu->setCursorPosition(0);
         connect(kutu, &QLineEdit::textChanged, this, [this] {
             Sığdır();
             if (!m_kutu.hasFocus()) m_kutu.setCursorPosition(0);
