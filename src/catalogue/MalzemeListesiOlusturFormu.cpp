@@ -69,7 +69,7 @@ void MalzemeListesiOluşturFormu::KontrolleriKur() {
     m_tür = new MiktarTürüKutusu;
     m_tür->setObjectName(QStringLiteral("MiktarTürüListesi"));
     m_tür->lineEdit()->setMaxLength(EnUzunTür);
-    m_eklenecek = new RaporListesi({{412, 5.2, false}, {414, 3.0, false}, {416, 5.0, true}, {418, 4.6, true}});
+    m_eklenecek = new RaporListesi({{412, 5.2, false, true}, {414, 3.0, false}, {416, 5.0, true}, {418, 4.6, true}});
     m_eklenecek->setObjectName(QStringLiteral("EklenecekMalzemeListesi"));
     Enterİleİlerlesin(m_eklenecek);
     connect(m_eklenecek, &QTreeWidget::itemDoubleClicked, this,
@@ -119,7 +119,7 @@ void MalzemeListesiOluşturFormu::Yerleştir() {
 void MalzemeListesiOluşturFormu::Yükle() {
     const QStringList türler = MiktarTürleri::Oku();
     m_tür->Doldur(türler);
-    MalzemeListesiniYükle(*m_katalog);
+    m_katalogOkundu = MalzemeListesiniYükle(*m_katalog) == Okuma::Tamam;
     if (m_katalog->count() > 0) m_katalog->setCurrentRow(0);
     m_tür->setCurrentIndex(türler.isEmpty() ? -1 : 0);
     ListeDüğmeleriniAyarla();

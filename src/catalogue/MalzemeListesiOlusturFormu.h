@@ -24,6 +24,8 @@ class MalzemeListesiOluşturFormu : public QDialog {
 
     // Whether there is a catalogue to choose from.
     bool KatalogBoş() const;
+    // Whether all of it could be read.
+    bool KatalogOkundu() const { return m_katalogOkundu; }
 
   private:
     void KontrolleriKur();
@@ -42,6 +44,7 @@ class MalzemeListesiOluşturFormu : public QDialog {
     void ListeDüğmeleriniAyarla();
 
     AnaFormErişimi& m_anaForm;
+    bool m_katalogOkundu = false;
     MiktarTürüKutusu* m_tür;
     SayıKutusu* m_miktar;
     GirişKutusu* m_bul;

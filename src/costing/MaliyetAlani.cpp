@@ -65,6 +65,7 @@ QLayout* MaliyetAlanı::YüzdeleriYerleştir() {
     const std::array adlar = {"İşçilikYüzdesiKutusu", "KarYüzdesiKutusu", "DiğerMaliyetYüzdesiKutusu",
                               "VadeFarkıYüzdesiKutusu"};
     auto* düzen = new QGridLayout;
+    for (const int kutuSütunu : {1, 3}) düzen->setColumnStretch(kutuSütunu, 1);
     for (int i = İşçilik; i <= Vade; ++i) {
         // Only other costs may be negative (a discount).
         auto* kutu = new SayıKutusu(i == Diğer ? SayıKutusu::Tür::EksiliYüzde : SayıKutusu::Tür::Yüzde);

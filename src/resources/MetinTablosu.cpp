@@ -208,6 +208,14 @@ constexpr Satır Tablo[] = {
     {2130, "Bu malzemelerin miktarı veya fiyatı okunamadığı için maliyete katılmadılar:"},
     {2132, "Kayıtların hepsi okunamadı; gösterilenler eksik!"},
     {2133, "Kayıt okunamadı!"},
+    {2134,
+     "Birleşecek iki grupta aynı adlı ürünler var! Bunlar tek ürün olur: malzemeleri birlikte listelenir, yüzdeleri "
+     "birlikte değişir, biri silinince öteki de silinir. \n"
+     "Bu işlem geri alınamaz; yine de grupları birleştirmek istiyor musunuz?"},
+    {2135, "Ürün listesinin tamamı okunamadı!"},
+    {2136, "Bu ürünün bilgileri okunamadı; okunana kadar değiştirilemez ve yazdırılamaz!"},
+    {2137, "Tekrar Yük&le"},
+    {2138, "&Tekrar Yükle"},
 
     // Later additions: number boxes
     {2140, "Bu sayı çok büyük! \nGirebileceğiniz en büyük sayı:"},

@@ -12,15 +12,17 @@ RaporListesi::RaporListesi(const QList<Sütun>& sütunlar, QWidget* sahip) : Tek
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setTabKeyNavigation(false);
     QStringList başlıklar;
-    QList<int> sayılar;
+    MetinTemsilcisi::Sütunlar yerler;
     for (const Sütun& sütun : sütunlar) {
-        if (sütun.Sayı) sayılar.append(static_cast<int>(m_bölenler.size()));
+        const int sıra = static_cast<int>(m_bölenler.size());
+        if (sütun.Sayı) yerler.Sağda.append(sıra);
+        if (sütun.Sayı || sütun.Miktar) yerler.Sayılar.append(sıra);
         başlıklar.append(Metin(sütun.Başlık));
         m_bölenler.append(sütun.Bölen);
     }
     setHeaderLabels(başlıklar);
-    for (const int sayı : sayılar) headerItem()->setTextAlignment(sayı, Qt::AlignRight | Qt::AlignVCenter);
-    setItemDelegate(new MetinTemsilcisi(this, sayılar));
+    for (const int sıra : yerler.Sağda) headerItem()->setTextAlignment(sıra, Qt::AlignRight | Qt::AlignVCenter);
+    setItemDelegate(new MetinTemsilcisi(this, yerler));
     header()->setStretchLastSection(false);
     header()->setSectionsMovable(false);
 }

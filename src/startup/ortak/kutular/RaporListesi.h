@@ -10,9 +10,10 @@
 class RaporListesi : public TekSeçimli<QTreeWidget> {
   public:
     struct Sütun {
-        int Başlık;    // number of the header's text
-        double Bölen;  // list width / Bölen = column width
-        bool Sayı;     // figures: right-aligned
+        int Başlık;           // number of the header's text
+        double Bölen;         // list width / Bölen = column width
+        bool Sayı;            // figures: right-aligned
+        bool Miktar = false;  // figures with their unit: left-aligned
     };
 
     explicit RaporListesi(const QList<Sütun>& sütunlar, QWidget* sahip = nullptr);

@@ -12,6 +12,7 @@
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "SayiMetni.h"
+#include "SayiSigdirma.h"
 
 namespace {
 
@@ -53,6 +54,7 @@ SayıKutusu::SayıKutusu(Tür tür, QWidget* sahip) : GirişKutusu(sahip), m_tü
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setAcceptDrops(false);
     setMaxLength(EnUzunMetin);
+    SayıyıSığdır(this);
     connect(this, &QLineEdit::selectionChanged, this, [this] { YeriSakla(); });
     connect(this, &QLineEdit::cursorPositionChanged, this, [this] { YeriSakla(); });
     connect(this, &QLineEdit::textChanged, this, [this](const QString& metin) { m_önceki = metin; });

@@ -4,6 +4,7 @@
 #include <QStringView>
 #include <optional>
 
+#include "Ondalik.h"
 #include "Para.h"
 
 // Numbers as the user reads and writes them: "," before the decimals, "." between the thousands, "-" as the sign.
@@ -32,9 +33,13 @@ std::optional<double> DoubleOku(QStringView metin, NoktaKuralı kural = NoktaKur
 // Whether a double gives the number back digit by digit: it does for 15 significant digits, and for more it may not.
 bool DoubleSaklar(QStringView metin, NoktaKuralı kural = NoktaKuralı::Serbest);
 
+// The text's decimals, however many. nullopt: no number.
+std::optional<Ondalık> OndalıkOku(QStringView metin, NoktaKuralı kural = NoktaKuralı::Serbest);
+
 // FormatNumber: exactly `basamak` decimals (0 and up), thousands grouped, leading zero, "-" in front; halves are
 // rounded away from zero on the decimal value; a value that rounds to zero never bears a sign.
 QString SayıBiçimle(Para değer, int basamak);
+QString SayıBiçimle(const Ondalık& değer, int basamak);
 // A double is taken at its 15 significant digits (2,675 with two decimals gives 2,68). Not finite: nullopt.
 std::optional<QString> SayıBiçimle(double değer, int basamak);
 // A text is taken at its exact decimals, however long. No number: nullopt.
