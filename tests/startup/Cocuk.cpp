@@ -50,6 +50,7 @@ int main(int argc, char** argv) {
         return kutu.düğmeler == MesajKutusu::Düğmeler::Tamam ? MesajKutusu::Yanıt::Tamam : MesajKutusu::Yanıt::Evet;
     });
     UygulamaYolu = istek.value(2);
+    AyarUygulamaAdı = QStringLiteral("Tovrek\\Varnek");
     BozucuyuKur();
     if (pencereli) return Başla(UygulamaYolu);
     if (istek.value(1) == QLatin1String("hazirla")) {
