@@ -50,8 +50,8 @@ int main(int argc, char** argv) {
     bağlar.AnaFormuYükle = [&](std::function<void()> karşılamayıKapat) {
         anaForm = std::make_unique<AnaForm>(AnaFormBağları{std::move(karşılamayıKapat), KapanışıOnayla});
         bitirmeDinleyicisi = std::make_unique<BitirmeDinleyicisi>(sormadanBitir);
-        const auto sor = [&anaForm, &bitiyor] { return bitiyor = anaForm->close(); };
-        OturumSonunuDinle(uygulama, sor, sormadanBitir);
+        OturumSonunuDinle(uygulama, {[&] { return bitiyor = anaForm->close(); },
+                                     [&] { AyarlarıKaydet(anaForm->isMinimized(), anaForm->pos()); }, sormadanBitir});
         anaForm->Yükle();
     };
     switch (Main(kopya, bağlar)) {

@@ -1,5 +1,6 @@
 #include "KapanisModulu.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QSessionManager>
 #include <utility>
@@ -9,6 +10,37 @@
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "OdbcModulu.h"
+
+namespace {
+
+class OturumDinleyicisi : public QObject {
+  public:
+    OturumDinleyicisi(OturumBağları bağlar, QObject* sahip) : QObject(sahip), m_bağlar(std::move(bağlar)) {}
+
+    void OturumBitiyor(QSessionManager& oturum) {
+        m_sorulamaz = !oturum.allowsInteraction();
+        if (m_sorulamaz) {
+            m_bağlar.AyarlarıYaz();
+        } else if (m_bağlar.SorupKapat()) {
+            oturum.release();
+        } else {
+            oturum.cancel();
+        }
+    }
+
+    // The manager's last word comes as an order to quit, which would close the windows with their questions.
+    bool eventFilter(QObject*, QEvent* olay) override {
+        if (olay->type() != QEvent::Quit || !m_sorulamaz) return false;
+        m_bağlar.SormadanBitir();
+        return true;
+    }
+
+  private:
+    OturumBağları m_bağlar;
+    bool m_sorulamaz = false;
+};
+
+}  // namespace
 
 bool KapanışıOnayla(bool simgeDurumunda, QPoint solÜst) {
     if (!simgeDurumunda) MesajKutusuOrtala();
@@ -21,22 +53,19 @@ bool KapanışıOnayla(bool simgeDurumunda, QPoint solÜst) {
 
 void Kapan(bool simgeDurumunda, QPoint solÜst) {
     ODBCBağlantısınıKapat();
+    AyarlarıKaydet(simgeDurumunda, solÜst);
+}
+
+void AyarlarıKaydet(bool simgeDurumunda, QPoint solÜst) {
     if (!simgeDurumunda) KonumuKaydet(solÜst);
     OndalığıKaydet(OndalıkBasamak);
 }
 
-void OturumSonunuDinle(QGuiApplication& uygulama, std::function<bool()> sor, std::function<void()> sormadan) {
+void OturumSonunuDinle(QGuiApplication& uygulama, OturumBağları bağlar) {
+    const auto dinleyici = new OturumDinleyicisi(std::move(bağlar), &uygulama);
+    uygulama.installEventFilter(dinleyici);
     // Direct: the manager waits for the answer.
     QObject::connect(
-        &uygulama, &QGuiApplication::commitDataRequest, &uygulama,
-        [sor = std::move(sor), sormadan = std::move(sormadan)](QSessionManager& oturum) {
-            if (!oturum.allowsInteraction()) {
-                sormadan();
-                return;
-            }
-            const bool kapandı = sor();
-            oturum.release();
-            if (!kapandı) oturum.cancel();
-        },
-        Qt::DirectConnection);
+        &uygulama, &QGuiApplication::commitDataRequest, dinleyici,
+        [dinleyici](QSessionManager& oturum) { dinleyici->OturumBitiyor(oturum); }, Qt::DirectConnection);
 }

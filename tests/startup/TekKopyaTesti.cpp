@@ -8,6 +8,7 @@
 #include <csignal>
 #include <memory>
 
+#include "Ayarlar.h"
 #include "CocukSureci.h"
 #include "MetinTablosu.h"
 #include "ModalBekleyici.h"
@@ -114,6 +115,20 @@ TEST_F(TekKopyaTesti, BaşkaOturumdakiKopyaAynıVeriyiAçamaz) {
     EXPECT_TRUE(QFile::exists(kilit));
     EXPECT_TRUE(ÇocukSüreci(Başla()).BaşladıMı());
     qputenv("XDG_RUNTIME_DIR", oturum);
+}
+
+TEST_F(TekKopyaTesti, SinyalAyarlarıKaydedipBitirir) {
+    for (const int sinyal : {SIGTERM, SIGHUP, SIGINT}) {
+        ÇocukSüreci kopya(Başla());
+        ASSERT_TRUE(kopya.BaşladıMı());
+        ::kill(static_cast<pid_t>(kopya.Süreç().processId()), sinyal);
+        EXPECT_EQ(kopya.Sonuç(), 0) << sinyal;
+        QFile veriKaynakları(OdbcDosyası());
+        EXPECT_TRUE(veriKaynakları.open(QIODevice::ReadOnly) && !veriKaynakları.readAll().contains("[Varnek]"));
+        EXPECT_FALSE(QFile::exists(VeriDosyası() + QStringLiteral(".kilit")));
+        EXPECT_EQ(KayıtlıSol(), 10);
+        QFile::remove(AyarDosyası());
+    }
 }
 
 TEST_F(TekKopyaTesti, KullanıcınınVeriKaynaklarınaDokunmaz) {
