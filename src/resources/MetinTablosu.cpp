@@ -232,8 +232,8 @@ constexpr Satır Tablo[] = {
      "Veri dosyanız: %2\n"
      "Yedeğiniz: %3\n\n"
      "Yedek geri yüklensin mi?\n\n"
-     "Evet: Yedekteki kayıtlar geri gelir; boş dosya %4 adıyla saklanır.\n"
-     "Hayır: Boş dosyayla başlanır; yedeğiniz %5 adıyla ayrıca saklanır."},
+     "Evet: Yedekteki kayıtlar geri gelir; boş dosya şu adla saklanır:\n%4\n"
+     "Hayır: Boş dosyayla başlanır; yedeğiniz ayrıca şu adla saklanır:\n%5"},
     {2156,
      "Yedeğinizin eşi saklanamadı! \n"
      "Boş veri dosyasına kayıt girmeden önce yedeğinizi kendiniz başka bir yere kopyalayınız:"},

@@ -81,7 +81,7 @@ void PaylaşılanlarıKur(const QString& programKlasörü) {
 // Takes the data file for this copy alone, and makes the first one for somebody new.
 bool VeriDosyasınıAl(TekKopya& kopya, const QString& programKlasörü) {
     const bool ilk = İlkBaşlatma();
-    if (ilk) KlasörYap(UygulamaYolu);
+    KlasörYap(UygulamaYolu);  // the launcher's, where it has never been or is lost; the backup goes there as well
     const QString dosya = UygulamaYolu + QStringLiteral("Varnek.vtb");
     if (!kopya.VeriyiKilitle(dosya)) {
         YoluylaBildir(2152, dosya);
