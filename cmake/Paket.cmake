@@ -1,13 +1,24 @@
 # What is installed, in two layouts:
-#   tasinabilir  one folder with everything in it, the libraries and an empty data file included: unpack and start
+#   tasinabilir  one folder with everything in it, the libraries included: unpack and start
 #   sistem       the Debian package: program folder /usr/lib/varnek, launcher, menu entry, icon, guide
-# Made by scripts/package.sh.
+# Both bring an empty data file under a name of its own, which the program copies into the data file's place at a user's
+# very first start. Made by scripts/package.sh.
 set(simge_klasoru "${CMAKE_SOURCE_DIR}/src/resources/simge")
 set(kilavuz_klasoru "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/kilavuz")
 
 set_target_properties(Varnek varnek-veri PROPERTIES INSTALL_RPATH "$ORIGIN:$ORIGIN/kitaplik")
 
+set(bos_dosya "${CMAKE_BINARY_DIR}/bos/Varnek-bos.vtb")
+add_custom_command(OUTPUT "${bos_dosya}"
+    COMMAND "${CMAKE_COMMAND}" -E make_directory "${CMAKE_BINARY_DIR}/bos"
+    COMMAND "${CMAKE_COMMAND}" -E rm -f "${bos_dosya}"
+    COMMAND varnek-veri yeni "${bos_dosya}"
+    DEPENDS varnek-veri varnek-motor VERBATIM)
+add_custom_target(varnek-bos DEPENDS "${bos_dosya}")
+set(bos_izinleri PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
+
 install(TARGETS Varnek varnek-veri varnek-motor DESTINATION . COMPONENT tasinabilir)
+install(FILES "${bos_dosya}" DESTINATION bos ${bos_izinleri} COMPONENT tasinabilir)
 install(FILES "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/odbcinst.ini" paket/qt.conf paket/BENIOKU.txt
     "${simge_klasoru}/varnek.svg" DESTINATION . COMPONENT tasinabilir)
 install(DIRECTORY "${kilavuz_klasoru}" DESTINATION . COMPONENT tasinabilir)
@@ -19,6 +30,7 @@ endforeach()
 install(SCRIPT cmake/Kitapliklar.cmake COMPONENT tasinabilir)
 
 install(TARGETS Varnek varnek-veri varnek-motor DESTINATION lib/varnek COMPONENT sistem)
+install(FILES "${bos_dosya}" DESTINATION lib/varnek/bos ${bos_izinleri} COMPONENT sistem)
 install(FILES "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/odbcinst.ini" DESTINATION lib/varnek COMPONENT sistem)
 install(DIRECTORY "${kilavuz_klasoru}" DESTINATION share/varnek COMPONENT sistem)
 install(PROGRAMS paket/varnek.sh DESTINATION bin RENAME varnek COMPONENT sistem)

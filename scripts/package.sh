@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Makes what people install, into build/paket/:
-#   varnek-<version>-linux-x86_64.tar.gz   unpack and start; an empty data file lies beside the program
+#   varnek-<version>-linux-x86_64.tar.gz   unpack and start
 #   varnek_<version>-<revision>_amd64.deb  for Debian, with menu entry, icon and guide
 # The guide's pictures come from the tour, which runs first where it has not. An argument sets the Debian revision.
 set -euo pipefail
@@ -9,7 +9,7 @@ revizyon=${1:-1}
 
 compgen -G 'build/tour/*.png' >/dev/null || scripts/tour.sh
 scripts/kur.sh
-derle release Varnek varnek-motor varnek-veri varnek-kilavuz
+derle release Varnek varnek-motor varnek-veri varnek-kilavuz varnek-bos
 
 surum=$(sed -n 's/^project(Varnek VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 ad="varnek-$surum-linux-$(uname -m)"
@@ -20,8 +20,6 @@ mkdir -p "$paket"
 bildir "The portable folder"
 cmake --install build/release --strip --component tasinabilir --prefix "$paket/$ad" >"$paket/kurulum.log"
 scripts/kosu-yolu.sh "$paket/$ad"/{Varnek,varnek-veri,libvarnek-motor.so}
-kendi_ortami paket-ortami
-"$paket/$ad/varnek-veri" yeni "$paket/$ad/Varnek.vtb"
 tar --create --gzip --owner=0 --group=0 --sort=name --file "$paket/$ad.tar.gz" --directory "$paket" "$ad"
 rm -rf "${paket:?}/$ad"
 

@@ -49,13 +49,46 @@ sleep 1
 bildir "The portable archive: unpack, start"
 kullanici tar -C "$ev" -xzf /varnek.tar.gz
 tasinan=$(echo "$ev"/varnek-2*)
-for dosya in Varnek libvarnek-motor.so odbcinst.ini varnek-veri Varnek.vtb kilavuz/index.html kilavuz/AnaForm.html \
-    BENIOKU.txt; do
+for dosya in Varnek libvarnek-motor.so odbcinst.ini varnek-veri bos/Varnek-bos.vtb kilavuz/index.html \
+    kilavuz/AnaForm.html BENIOKU.txt; do
     olmali test -e "$tasinan/$dosya"
 done
+olmali test ! -e "$tasinan/Varnek.vtb" # nothing that could be taken for the user's
 olmali test "$(ls -A "$ev/.local" 2>/dev/null | wc -l)" -eq 0
 ac_kapat "$tasinan/Varnek"
 olmali test -s "$yedek"
+olmali test -s "$tasinan/Varnek.vtb"
+
+bildir "The folder is lost and unpacked again: the backup with its rows comes back and stays"
+rm -rf "$tasinan"
+rm "$yedek"
+kullanici tar -C "$ev" -xzf /varnek.tar.gz
+kullanici "$tasinan/varnek-veri" ornek "$yedek"
+ilk=$(sha256sum <"$yedek")
+kullanici "$tasinan/Varnek" &
+surec=$!
+olmali pencere 'Tovrek - Varnek 2.24'
+tus Escape
+tus Return
+wait $surec
+olmali test "$(sha256sum <"$tasinan/Varnek.vtb")" = "$ilk"
+olmali test "$(sha256sum <"$yedek")" = "$ilk"
+
+bildir "An empty data file beside that backup: the program asks, and keeps both"
+rm "$tasinan/Varnek.vtb"
+kullanici "$tasinan/varnek-veri" yeni "$tasinan/Varnek.vtb"
+kullanici touch -d '10 days ago' "$tasinan/Varnek.vtb"
+kullanici "$tasinan/Varnek" &
+surec=$!
+olmali pencere 'Tovrek - Varnek 2.24'
+tus Return # restore: yes
+olmali pencere '^Tovrek - Varnek 2.24$'
+sleep 3
+tus Escape
+tus Return
+wait $surec
+olmali test "$(sha256sum <"$tasinan/Varnek.vtb")" = "$ilk"
+olmali test -n "$(ls "$tasinan"/Varnek-bos-*.vtb)"
 rm -rf "$tasinan" "$ev/.local" "$ev/.config"
 
 bildir "The Debian package: install, first start"

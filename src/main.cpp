@@ -6,8 +6,10 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 #include <memory>
+#include <utility>
 
 #include "AnaForm.h"
+#include "ApilerModulu.h"
 #include "BaslatModulu.h"
 #include "KapanisModulu.h"
 #include "Simge.h"
@@ -35,14 +37,26 @@ int main(int argc, char** argv) {
 
     TekKopya kopya;
     std::unique_ptr<AnaForm> anaForm;
+    std::unique_ptr<BitirmeDinleyicisi> bitirmeDinleyicisi;
+    bool bitiyor = false;
+    // Settings and connection first; then every open form and box is left where it is.
+    const auto sormadanBitir = [&anaForm, &bitiyor] {
+        if (std::exchange(bitiyor, true)) return;
+        Kapan(anaForm->isMinimized(), anaForm->pos());
+        QApplication::exit();
+    };
     BaşlatmaBağları bağlar;
     bağlar.ProgramKlasörü = QApplication::applicationDirPath();
-    bağlar.AnaFormuYükle = [&anaForm](std::function<void()> karşılamayıKapat) {
+    bağlar.AnaFormuYükle = [&](std::function<void()> karşılamayıKapat) {
         anaForm = std::make_unique<AnaForm>(AnaFormBağları{std::move(karşılamayıKapat), KapanışıOnayla});
+        bitirmeDinleyicisi = std::make_unique<BitirmeDinleyicisi>(sormadanBitir);
+        OturumSonunuDinle(uygulama, {[&] { return bitiyor = anaForm->close(); },
+                                     [&] { AyarlarıKaydet(anaForm->isMinimized(), anaForm->pos()); }, sormadanBitir});
         anaForm->Yükle();
     };
     switch (Main(kopya, bağlar)) {
         case BaşlatmaSonucu::Başladı:
+            if (bitiyor) return 0;  // in a box of the main form's start
             QApplication::setQuitOnLastWindowClosed(true);
             return QApplication::exec();
         case BaşlatmaSonucu::BaşkaKopyaVar:

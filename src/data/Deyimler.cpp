@@ -149,6 +149,10 @@ QString FiyatDeğiştir(const QString& malzeme, const QString& fiyat) {
            MalzemeKoşulu(malzeme);
 }
 
+QString KullanılanMalzemeSayısı() {
+    return QStringLiteral("SELECT Count(UrunAdi) AS KayitSayisi FROM UrunMalzemeTablosu");
+}
+
 QString KullanılanMalzemeler(const QString& grup, const QString& ürün) {
     return QStringLiteral(
                "SELECT KullanilanMalzemeMiktari, KullanilanMalzemeAdi, KullanilanMalzemeFiyati FROM "

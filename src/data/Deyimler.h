@@ -48,6 +48,7 @@ struct KullanılanMalzeme {
     QString Fiyat;
     QString Tarih;  // date literal
 };
+QString KullanılanMalzemeSayısı();  // over all products
 QString KullanılanMalzemeler(const QString& grup, const QString& ürün);
 QString KullanılanMalzemeEkle(const KullanılanMalzeme& satır);
 QString KullanılanMalzemeDeğiştir(const KullanılanMalzeme& satır);

@@ -1,9 +1,12 @@
 #include "OdbcModulu.h"
 
 #include <QByteArray>
-
+#include <QFile>
 #include <QScopeGuard>
 #include <odbcinst.h>
+#include <optional>
+#include <sql.h>
+#include <sqlext.h>
 
 #include "DegiskenModulu.h"
 #include "MesajKutusu.h"
@@ -15,19 +18,51 @@ namespace {
 
 constexpr std::int16_t Başarı = 0;
 constexpr std::int16_t SatırKalmadı = 100;
+// Bytes that the file library takes for a data file's path, with room for what is written beside it (".yeni").
+constexpr qsizetype EN_UZUN_YOL = 499;
 
 // One connection and one statement for the whole run.
 OdbcBağlantısı Bağlantı;
 OdbcDeyimi Deyim;
 
-QString BağlantıMetni(const QString& dosya) {
-    return VeriKaynağıTanımı() + QStringLiteral(";DBQ=") + dosya + QStringLiteral(";UID=Admin;PWD=Kumsaldaki");
+// In braces a value may hold ";" and blanks at its ends; a closing brace is doubled.
+QString Süslü(QString değer) {
+    return QLatin1Char('{') + değer.replace(QLatin1Char('}'), QLatin1String("}}")) + QLatin1Char('}');
+}
+
+QString BağlantıMetni(const QString& kaynak, const QString& dosya) {
+    return kaynak + QStringLiteral(";DBQ=") + Süslü(dosya) + QStringLiteral(";UID=Admin;PWD=Kumsaldaki");
+}
+
+// The connection to a file without a data source.
+QString SürücüTanımı() {
+    return QStringLiteral("DRIVER=") + Süslü(SürücüAdı());
+}
+
+// Whether the data source stands in the user's ODBC settings as it is to be. The file itself is read: the driver
+// manager remembers for a while what it once read, also that there was nothing. Where no file is named, nothing can be
+// told.
+std::optional<bool> VeriKaynağıKayıtlı() {
+    QFile dosya(QFile::decodeName(qgetenv("ODBCINI")));
+    if (dosya.fileName().isEmpty()) return std::nullopt;
+    if (!dosya.open(QIODevice::ReadOnly)) return false;
+    const QString bölüm = QLatin1Char('[') + Sürüm().ÜrünAdı + QLatin1Char(']');
+    bool bölümde = false;
+    while (!dosya.atEnd()) {
+        const QString satır = QString::fromUtf8(dosya.readLine()).trimmed();
+        if (satır.startsWith(QLatin1Char('['))) bölümde = satır == bölüm;
+        if (bölümde && satır.section(QLatin1Char('='), 0, 0).trimmed() == QLatin1String("Driver"))
+            return satır.section(QLatin1Char('='), 1).trimmed() == SürücüAdı();
+    }
+    return false;
 }
 
 void BilgiKutusu(int metin) {
     MesajKutusuOrtala();
     MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(metin));
 }
+
+}  // namespace
 
 void HatalarıGöster(const QStringList& hatalar) {
     for (const QString& hata : hatalar) {
@@ -36,6 +71,8 @@ void HatalarıGöster(const QStringList& hatalar) {
                             hata.isEmpty() ? Metin(190) : hata, Metin(180));
     }
 }
+
+namespace {
 
 // Besides the end of the rows, a column of the row before that could not be read whole ends them.
 bool SatırGetir() {
@@ -83,8 +120,12 @@ bool ODBCBağlan() {
         BilgiKutusu(170);
         return false;
     }
-    VeriKaynağıKaydet(VeriKaynağıİsteği::Ekle);
-    SonDönüşKodu = Bağlantı.Bağlan(BağlantıMetni(UygulamaYolu + QStringLiteral("Varnek.vtb")));
+    // What stands there already is not written again: the driver manager cuts the whole file and writes it anew.
+    if (!VeriKaynağıKayıtlı().value_or(false)) VeriKaynağıKaydet(VeriKaynağıİsteği::Ekle);
+    // Where the settings cannot be written (no home folder, a read-only one) there is no data source; the driver opens
+    // the file all the same.
+    const QString kaynak = VeriKaynağıKayıtlı().value_or(true) ? VeriKaynağıTanımı() : SürücüTanımı();
+    SonDönüşKodu = Bağlantı.Bağlan(BağlantıMetni(kaynak, UygulamaYolu + QStringLiteral("Varnek.vtb")));
     if (SonDönüşKodu != Başarı) {
         ODBCHatasıGöster();
         Bağlantı.Kapat();
@@ -116,11 +157,22 @@ bool SürücüKayıtlı() {
            0;
 }
 
-bool VeriDosyasıAçılıyor(const QString& yol) {
-    OdbcBağlantısı deneme;
-    return deneme.OrtamAç() == Başarı && deneme.BağlantıAç() == Başarı &&
-           deneme.Bağlan(QStringLiteral("DRIVER={") + SürücüAdı() + QStringLiteral("};DBQ=") + yol +
-                         QStringLiteral(";UID=Admin;PWD=Kumsaldaki")) == Başarı;
+QString SürücüKurulumHatası() {
+    DWORD kod = 0;
+    char ileti[SQL_MAX_MESSAGE_LENGTH] = "";
+    WORD uzunluk = 0;
+    SQLInstallerError(1, &kod, ileti, sizeof ileti, &uzunluk);
+    const QString metin = QString::fromUtf8(ileti);
+    return metin.isEmpty() ? Metin(190) : metin;
+}
+
+bool VeriDosyasıYoluSığıyor(const QString& yol) {
+    return yol.toUtf8().size() <= EN_UZUN_YOL;
+}
+
+std::int16_t VeriDosyasınaBağlan(OdbcBağlantısı& bağlantı, const QString& yol) {
+    if (bağlantı.OrtamAç() != Başarı || bağlantı.BağlantıAç() != Başarı) return SQL_ERROR;
+    return bağlantı.Bağlan(BağlantıMetni(SürücüTanımı(), yol));
 }
 
 bool SorguÇalıştır() {

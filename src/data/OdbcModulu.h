@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <cstdint>
 #include <functional>
 
@@ -30,15 +31,26 @@ void ODBCBağlantısınıKapat();
 enum class VeriKaynağıİsteği : std::uint16_t { Ekle = 1, Kaldır = 3 };
 void VeriKaynağıKaydet(VeriKaynağıİsteği istek);
 
-// Asks the driver to write a compacted copy of one data file to another place (both in the form of KısaYolAl).
-// 1 = success.
+// Asks the driver to write a compacted copy of one data file to another place (both in the form of KısaYolAl); a file
+// and itself: to compact it where it is, while others may go on using it. The driver reads the whole source first and
+// refuses a damaged one. 1 = success; otherwise the target is as it was, and SürücüKurulumHatası says why.
 std::int16_t VeritabanınıSıkıştır(const QString& kaynak, const QString& hedef);
 
 // Whether the driver manager knows the driver.
 bool SürücüKayıtlı();
 
-// Whether the driver can open this data file; shows nothing.
-bool VeriDosyasıAçılıyor(const QString& yol);
+// The driver's reason for a SQLConfigDataSource that has just failed; never empty.
+QString SürücüKurulumHatası();
+
+// Whether the file library takes a path of this length (the real path: links followed).
+bool VeriDosyasıYoluSığıyor(const QString& yol);
+
+// Connects to any data file, beside the program's own connection and without a data source; shows nothing. 0 = success.
+class OdbcBağlantısı;
+std::int16_t VeriDosyasınaBağlan(OdbcBağlantısı& bağlantı, const QString& yol);
+
+// An ODBC error box each; an empty one says that there is nothing to be read.
+void HatalarıGöster(const QStringList& hatalar);
 
 // Runs SQLMetni. False: the statement's and the connection's errors have been shown and the statement is dropped.
 bool SorguÇalıştır();

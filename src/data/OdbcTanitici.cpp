@@ -99,9 +99,9 @@ void OdbcDeyimi::Bırak() {
     m_deyim = nullptr;
 }
 
-QStringList OdbcHatalarınıAl(void* bağlantı, void* deyim) {
-    QStringList hatalar;
-    std::array<SQLCHAR, 16> durum;
+QList<OdbcHatası> OdbcHataKayıtlarınıAl(void* bağlantı, void* deyim) {
+    QList<OdbcHatası> hatalar;
+    std::array<SQLCHAR, 16> durum{};
     std::array<SQLCHAR, 256> ileti;
     for (;;) {
         SQLINTEGER yerelHata = 0;
@@ -112,6 +112,13 @@ QStringList OdbcHatalarınıAl(void* bağlantı, void* deyim) {
         if (!SQL_SUCCEEDED(sonuç)) return hatalar;
         const int boy = qBound(0, static_cast<int>(uzunluk), static_cast<int>(ileti.size()) - 1);
         const auto* veri = reinterpret_cast<const char*>(ileti.data());
-        hatalar.append(QString::fromUtf8(veri, TamKarakterSonu(veri, boy)));
+        hatalar.append({QString::fromLatin1(reinterpret_cast<const char*>(durum.data())), yerelHata,
+                        QString::fromUtf8(veri, TamKarakterSonu(veri, boy))});
     }
+}
+
+QStringList OdbcHatalarınıAl(void* bağlantı, void* deyim) {
+    QStringList iletiler;
+    for (const OdbcHatası& hata : OdbcHataKayıtlarınıAl(bağlantı, deyim)) iletiler.append(hata.İleti);
+    return iletiler;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <cstdint>
@@ -50,6 +51,15 @@ class OdbcDeyimi {
     void* m_deyim = nullptr;
 };
 
-// Takes every pending error off one handle (the other is null), in the order in which the driver keeps them. A message
-// that the driver gives with length 0 is an empty text.
+// One error as the driver reported it.
+struct OdbcHatası {
+    QString Durum;           // state code, five characters
+    std::int32_t Yerel = 0;  // the driver's own number; 0: none
+    QString İleti;           // a message that the driver gives with length 0 is an empty text
+};
+
+// Takes every pending error off one handle (the other is null), in the order in which the driver keeps them.
+QList<OdbcHatası> OdbcHataKayıtlarınıAl(void* bağlantı, void* deyim);
+
+// The same, the messages alone.
 QStringList OdbcHatalarınıAl(void* bağlantı, void* deyim);

@@ -239,6 +239,47 @@ constexpr Satır Tablo[] = {
      "Silmek için, listede bırakılan satırı yeniden siliniz."},
     {2175, "Bu malzemeler ürüne aktarılamadı:"},
 
+    // Later additions: data file and backup at the start
+    {2150,
+     "Bugünün yedeği alınamadı! \n"
+     "Nedeni: %1\n\n"
+     "Veri dosyanız: %2\n"
+     "Yedeğin yeri: %3"},
+    {2151,
+     "Son yedeğinize dokunulmadı. Veri dosyanız zarar gördüyse programdan çıkıp ona başka bir ad verin; sonraki "
+     "açılışta "
+     "son yedek geri yüklenir."},
+    {2152,
+     "Veri dosyanız Varnek'in başka bir kopyasında açık; ikinci bir kopya başlayamaz! \n"
+     "Lütfen, öbür oturumda açık olan programı kullanınız ya da kapatıp tekrar deneyiniz:"},
+    {2153,
+     "Veri dosyanız salt okunur; yapacağınız değişiklikler kaydedilemeyecek! \n"
+     "Lütfen, bu dosyaya yazma izniniz olup olmadığını kontrol ediniz:"},
+    {2154,
+     "İlk veri dosyanız oluşturulamadı; program başlayamıyor! \n"
+     "Lütfen, diskte yer ve bu klasöre yazma izniniz olup olmadığını kontrol edip tekrar deneyiniz:"},
+    {2155,
+     "Veri dosyanızda hiç kayıt yok, ama %1 tarihli son yedeğinizde kayıtlar var.\n\n"
+     "Veri dosyanız: %2\n"
+     "Yedeğiniz: %3\n\n"
+     "Yedek geri yüklensin mi?\n\n"
+     "Evet: Yedekteki kayıtlar geri gelir; boş dosya şu adla saklanır:\n%4\n"
+     "Hayır: Boş dosyayla başlanır; yedeğiniz ayrıca şu adla saklanır:\n%5"},
+    {2156,
+     "Yedeğinizin eşi saklanamadı! \n"
+     "Boş veri dosyasına kayıt girmeden önce yedeğinizi kendiniz başka bir yere kopyalayınız:"},
+    {2157,
+     "Son yedeğiniz zarar görmüş; geri yüklenemedi ve program başlayamıyor! \n"
+     "Dosyalarınıza dokunulmadı. Boş dosyayla başlamak için tekrar açıp soruyu \"Hayır\" ile yanıtlayabilirsiniz:"},
+    {2158,
+     "Son yedeğiniz geri yüklenemedi; program başlayamıyor! \n"
+     "Lütfen, diskte yeterince boş yer olup olmadığını kontrol edip tekrar deneyiniz:"},
+    {2159, "Veri dosyanız boş ve son yedeğiniz okunamıyor; üzerine yazılmadı. %1"},
+    {2160,
+     "Veri dosyanızın bulunduğu klasörün yolu çok uzun; program başlayamıyor! \n"
+     "Lütfen, programı daha kısa yollu bir klasöre taşıyıp tekrar deneyiniz:"},
+    {2161, "Yedek klasörünün yolu çok uzun."},
+
     // Later additions: about, error report, guide
     {2200, "Programın simgesi"},
     {2201, "www.tovrek.example"},

@@ -7,6 +7,7 @@
 
 #include "Ayarlar.h"
 #include "DegiskenModulu.h"
+#include "IlkDosya.h"
 #include "KarsilamaFormu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
@@ -21,6 +22,12 @@ namespace {
 
 void Bildir(int metin) {
     MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam, Metin(metin));
+}
+
+void YoluylaBildir(int metin, const QString& yol) {
+    MesajKutusuOrtala();
+    MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam,
+                        Metin(metin) + QLatin1Char('\n') + yol);
 }
 
 bool WindowsSürümünüDenetle(const BaşlatmaBağları& bağlar) {
@@ -48,6 +55,15 @@ void SürücüyüTanıt(const QString& programKlasörü) {
     qunsetenv("ODBCINSTINI");
 }
 
+// The program's data source is registered in a file of its own beside its settings: the driver manager rewrites the
+// whole file each time, and a failure in between would take the user's other data sources along.
+void VeriKaynaklarınıAyır() {
+    if (!qEnvironmentVariableIsEmpty("ODBCINI")) return;
+    const QString klasör = QFileInfo(AyarDosyası()).absolutePath();
+    KlasörYap(klasör);
+    qputenv("ODBCINI", QFile::encodeName(klasör + QStringLiteral("/Varnek-odbc.ini")));
+}
+
 // Where the user cannot write to the program's folder, its launcher names a folder for the data file.
 QString VeriKlasörü(const QString& programKlasörü) {
     const QString seçilen = QFile::decodeName(qgetenv("VARNEK_VERI_KLASORU"));
@@ -60,6 +76,22 @@ void PaylaşılanlarıKur(const QString& programKlasörü) {
     AyarUygulamaAdı = Sürüm().ŞirketAdı + QLatin1Char('\\') + Sürüm().ÜrünAdı;
     OndalıkBasamak = KayıtlıOndalık();
     YazıcıVar = YazıcıSayısı() != 0;
+}
+
+// Takes the data file for this copy alone, and makes the first one for somebody new.
+bool VeriDosyasınıAl(TekKopya& kopya, const QString& programKlasörü) {
+    const bool ilk = İlkBaşlatma();
+    KlasörYap(UygulamaYolu);  // the launcher's, where it has never been or is lost; the backup goes there as well
+    const QString dosya = UygulamaYolu + QStringLiteral("Varnek.vtb");
+    if (!kopya.VeriyiKilitle(dosya)) {
+        YoluylaBildir(2152, dosya);
+        return false;
+    }
+    if (ilk && !İlkDosyayıKoy(programKlasörü)) {
+        YoluylaBildir(2154, UygulamaYolu);
+        return false;
+    }
+    return true;
 }
 
 }  // namespace
@@ -78,6 +110,8 @@ BaşlatmaSonucu Main(TekKopya& kopya, const BaşlatmaBağları& bağlar) {
     if (!WindowsSürümünüDenetle(bağlar)) return BaşlatmaSonucu::Başlayamadı;
     PaylaşılanlarıKur(bağlar.ProgramKlasörü);
     SürücüyüTanıt(bağlar.ProgramKlasörü);
+    VeriKaynaklarınıAyır();
+    if (!VeriDosyasınıAl(kopya, bağlar.ProgramKlasörü)) return BaşlatmaSonucu::Başlayamadı;
     if (!VeritabanınıHazırla()) return BaşlatmaSonucu::Başlayamadı;
     QCoreApplication::processEvents();
     bağlar.AnaFormuYükle([form = QPointer<QWidget>(&karşılama)] {

@@ -12,6 +12,7 @@ namespace {
 
 // How long the first copy may take from its lock to its socket, or from its socket's end to its own (milliseconds).
 constexpr int EN_UZUN_BEKLEME = 10000;
+constexpr int EN_UZUN_VERİ_BEKLEMESİ = 1000;  // for a copy that is just ending
 constexpr int BAĞLANMA_SÜRESİ = 1000;
 constexpr int YANIT_SÜRESİ = 3000;
 constexpr int ARA = 20;
@@ -52,6 +53,21 @@ bool TekKopya::Başla(const QString& başlık) {
     return false;
 }
 
+bool TekKopya::VeriyiKilitle(const QString& dosya) {
+    const QString yol = GerçekYol(dosya) + QStringLiteral(".kilit");
+    QElapsedTimer geçen;
+    geçen.start();
+    do {
+        const DosyaKilidi::Sonuç kilit = m_veriKilidi.Al(yol, DosyaKilidi::Artık::Silinir);
+        if (kilit == DosyaKilidi::Sonuç::Alındı) m_veriKilidi.NotYaz(m_soket);
+        if (kilit != DosyaKilidi::Sonuç::Başkasında) return true;
+        const QString soket = DosyaKilidi::NotOku(yol);
+        if (!soket.isEmpty() && ÖneÇağır(soket)) return false;
+        QThread::msleep(ARA);
+    } while (geçen.elapsed() < EN_UZUN_VERİ_BEKLEMESİ);
+    return false;
+}
+
 void TekKopya::Dinle(const QString& yol) {
     // What lies there is left from a copy that was killed: the lock is ours.
     QLocalServer::removeServer(yol);
@@ -66,7 +82,7 @@ void TekKopya::Dinle(const QString& yol) {
         PencereleriÖneGetir();
     });
     // Without a socket later copies still find the lock taken.
-    m_sunucu.listen(yol);
+    if (m_sunucu.listen(yol)) m_soket = m_sunucu.fullServerName();
 }
 
 void PencereleriÖneGetir() {

@@ -1,76 +1,80 @@
 #include "VeritabaniHazirlik.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QFileInfo>
 
 #include "ApilerModulu.h"
+#include "Ayarlar.h"
 #include "DegiskenModulu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "OdbcModulu.h"
 #include "OrtakFonksiyonlarModulu.h"
 #include "Saat.h"
+#include "VeriYollari.h"
+#include "YedektenDonus.h"
 
 namespace {
 
 constexpr std::int16_t SIKIŞTIRILDI = 1;
-const QString YEDEK_ADI = QStringLiteral("Varnek.ydk");
 
-struct Yollar {
-    QString Dosya;
-    QString YedekKlasörü;
-    QString Yedek;
-};
-
-Yollar YollarıBul() {
-    const QString yedekKlasörü = SondaTersBöluYap(ProgramDosyalarıKlasörü() + QStringLiteral("Tovrek") +
-                                                  QDir::separator() + QStringLiteral("Vtb Yedekleri"));
-    return {UygulamaYolu + QStringLiteral("Varnek.vtb"), yedekKlasörü, yedekKlasörü + YEDEK_ADI};
-}
-
-void KutuGöster(MesajKutusu::Simge simge, int metin, const QString& yol = {}) {
+void KutuGöster(MesajKutusu::Simge simge, const QString& metin) {
     MesajKutusuOrtala();
-    MesajKutusu::Göster(simge, MesajKutusu::Düğmeler::Tamam,
-                        yol.isEmpty() ? Metin(metin) : Metin(metin) + QLatin1Char('\n') + yol);
+    MesajKutusu::Göster(simge, MesajKutusu::Düğmeler::Tamam, metin);
 }
 
-// The backup as the new data file, with the backup's time of change: the day test goes by it.
-bool YedektenGeriYükle(const Yollar& yollar) {
-    if (!VeriDosyasıAçılıyor(yollar.Yedek)) {
-        KutuGöster(MesajKutusu::Simge::Kritik, 2122, yollar.Yedek);
-        return false;
-    }
-    if (!DosyaKopyala(yollar.Yedek, yollar.Dosya)) {
-        KutuGöster(MesajKutusu::Simge::Kritik, 2121, yollar.Dosya);
-        return false;
-    }
-    return true;
+void KutuGöster(MesajKutusu::Simge simge, int metin, const QString& yol) {
+    KutuGöster(simge, Metin(metin) + QLatin1Char('\n') + yol);
 }
 
-bool SıkıştırmaGünü(const Yollar& yollar) {
+// A backup that cannot be made is told once a day.
+void GündeBirUyar(const QString& metin) {
+    const QString bölüm = QStringLiteral("Ayarlar");
+    const QString anahtar = QStringLiteral("YedekUyarisi");
+    const QString bugün = AyMetni(Bugün());
+    if (AyarOku(bölüm, anahtar, {}) == bugün) return;
+    AyarYaz(bölüm, anahtar, bugün);
+    KutuGöster(MesajKutusu::Simge::Ünlem, metin);
+}
+
+void YedekAlınamadı(const VeriYolları& yollar, const QString& neden) {
+    QString metin = Metin(2150).arg(neden, yollar.Dosya, yollar.Yedek);
+    if (DosyaVar(yollar.Yedek)) metin += QStringLiteral("\n\n") + Metin(2151);
+    GündeBirUyar(metin);
+}
+
+bool SıkıştırmaGünü(const VeriYolları& yollar) {
     return !DosyaVar(yollar.Yedek) || Bugün() > QFileInfo(yollar.Dosya).lastModified().date();
 }
 
-// The compacted copy becomes the backup first and then the data file too. Failures leave either as it was and are
-// silent: the next start tries again.
-void Sıkıştır(const Yollar& yollar) {
-    SonDönüşKodu = VeritabanınıSıkıştır(KısaYolAl(yollar.Dosya), KısaYolAl(yollar.YedekKlasörü) + YEDEK_ADI);
-    if (SonDönüşKodu != SIKIŞTIRILDI) return;
-    // A crash's journal has been played back by now: this one is that of another client, which is writing just now and
-    // whose change the copy would swallow.
-    if (DosyaVar(yollar.Dosya + QStringLiteral("-journal"))) return;
-    DosyaKopyala(yollar.Yedek, yollar.Dosya);
+// The compacted copy becomes the backup, and then the data file is compacted where it is: another client's row can fall
+// between two files, but not out of one. If that second step fails, nothing is lost and the next start tries again.
+void Sıkıştır(const VeriYolları& yollar) {
+    if (!VeriDosyasıYoluSığıyor(yollar.GerçekYedek)) {
+        YedekAlınamadı(yollar, Metin(2161));
+        return;
+    }
+    const QString dosya = KısaYolAl(yollar.GerçekDosya);
+    SonDönüşKodu = VeritabanınıSıkıştır(dosya, KısaYolAl(yollar.GerçekYedek));
+    if (SonDönüşKodu == SIKIŞTIRILDI) {
+        VeritabanınıSıkıştır(dosya, dosya);
+    } else {
+        YedekAlınamadı(yollar, SürücüKurulumHatası());
+    }
 }
 
-}  // namespace
+void Yedekle(const VeriYolları& yollar, bool yedekKlasörüVar) {
+    if (!yedekKlasörüVar) {
+        GündeBirUyar(Metin(2123) + QLatin1Char('\n') + yollar.YedekKlasörü);
+    } else if (SıkıştırmaGünü(yollar)) {
+        Sıkıştır(yollar);
+    }
+}
 
-bool VeritabanınıHazırla() {
-    const Yollar yollar = YollarıBul();
-    const bool yedekKlasörüVar = QDir().mkpath(yollar.YedekKlasörü);
-    const bool dosyaVar = DosyaVar(yollar.Dosya);
-    if (!dosyaVar && !DosyaVar(yollar.Yedek)) {
-        KutuGöster(MesajKutusu::Simge::Kritik, 150);
+// What has to be right before the data file is touched.
+bool YerlerUygun(const VeriYolları& yollar) {
+    if (!DosyaVar(yollar.Dosya) && !DosyaVar(yollar.Yedek)) {
+        KutuGöster(MesajKutusu::Simge::Kritik, Metin(150));
         return false;
     }
     // Every statement needs to write beside the data file.
@@ -78,14 +82,35 @@ bool VeritabanınıHazırla() {
         KutuGöster(MesajKutusu::Simge::Kritik, 2120, UygulamaYolu);
         return false;
     }
-    YarımKopyayıSil(yollar.Dosya);
-    // Without the driver nothing can be said about the backup; connecting then shows what is wrong.
-    if (!SürücüKayıtlı()) return ODBCBağlan();
-    if (!dosyaVar && !YedektenGeriYükle(yollar)) return false;
-    if (!yedekKlasörüVar) {
-        KutuGöster(MesajKutusu::Simge::Ünlem, 2123, yollar.YedekKlasörü);
-    } else if (SıkıştırmaGünü(yollar)) {
-        Sıkıştır(yollar);
+    if (!VeriDosyasıYoluSığıyor(yollar.GerçekDosya)) {
+        KutuGöster(MesajKutusu::Simge::Kritik, 2160, UygulamaYolu);
+        return false;
     }
+    return true;
+}
+
+}  // namespace
+
+bool VeritabanınıHazırla() {
+    VeriYolları yollar = VeriYollarınıBul();
+    const bool yedekKlasörüVar = KlasörYap(yollar.YedekKlasörü);
+    yollar.GerçekYedek = GerçekYol(yollar.Yedek);
+    if (!YerlerUygun(yollar)) return false;
+    YarımKalanlarıSil(yollar);
+    // Without the driver nothing can be said about the files; connecting then shows what is wrong.
+    if (!SürücüKayıtlı()) return ODBCBağlan();
+    if (!DosyaVar(yollar.Dosya) && !EksikDosyayıGeriYükle(yollar)) return false;
+    QString neden;
+    switch (BoşDosyayıGözet(yollar, neden)) {
+        case BoşDosyaSonucu::Sorunsuz:
+            Yedekle(yollar, yedekKlasörüVar);
+            break;
+        case BoşDosyaSonucu::YedekKorunur:
+            if (!neden.isEmpty() && SıkıştırmaGünü(yollar)) YedekAlınamadı(yollar, neden);
+            break;
+        case BoşDosyaSonucu::Bitir:
+            return false;
+    }
+    if (!DosyayaYazılabilir(yollar.Dosya)) KutuGöster(MesajKutusu::Simge::Ünlem, 2153, yollar.Dosya);
     return ODBCBağlan();
 }

@@ -109,7 +109,6 @@ TEST_F(Odbc, AçılamayanDosyaHatayıGösterirVeYanlışDöner) {
     ASSERT_TRUE(dosya.open(QIODevice::WriteOnly | QIODevice::Truncate));
     dosya.write("bu bir veri dosyası değil");
     dosya.close();
-    EXPECT_FALSE(VeriDosyasıAçılıyor(VeriDosyası()));
     Kutular().Yanıtla(Yanıt::Tamam);
     EXPECT_FALSE(ODBCBağlan());
     const auto kutular = Kutular().Al();

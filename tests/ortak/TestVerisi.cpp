@@ -40,9 +40,7 @@ void VeriDosyasıOluştur(const QString& yol, const QString& tür) {
 }
 
 TestVerisi::TestVerisi(const QString& yol) {
-    const QString tanım = QStringLiteral("DRIVER={") + SürücüAdı() + QStringLiteral("};DBQ=") + yol +
-                          QStringLiteral(";UID=Admin;PWD=Kumsaldaki");
-    const bool açıldı = m_bağlantı.OrtamAç() == 0 && m_bağlantı.BağlantıAç() == 0 && m_bağlantı.Bağlan(tanım) == 0;
+    const bool açıldı = VeriDosyasınaBağlan(m_bağlantı, yol) == 0;
     EXPECT_TRUE(açıldı) << yol.toStdString() << ": "
                         << (m_bağlantı.Tanıtıcı() ? Hatalar(m_bağlantı.Tanıtıcı(), nullptr) : std::string());
 }

@@ -113,6 +113,21 @@ TEST_F(BaşlatTesti, VeriDosyasıBaşlatıcınınVerdiğiKlasördeOlabilir) {
     EXPECT_TRUE(QDir(ProgramKlasörü()).isEmpty());
 }
 
+TEST_F(BaşlatTesti, YalnızİlkBaşlangıçBoşDosyaKoyar) {
+    ASSERT_TRUE(QDir().mkpath(ProgramKlasörü() + QStringLiteral("bos")));
+    VeriDosyasıOluştur(ProgramKlasörü() + QStringLiteral("bos/Varnek-bos.vtb"));
+    EXPECT_EQ(Başlat(), BaşlatmaSonucu::Başladı);
+    ODBCBağlantısınıKapat();
+    EXPECT_TRUE(QFile::exists(VeriDosyası()));
+    // Whoever has been here lost the file, even without a backup.
+    ASSERT_TRUE(QFile::remove(VeriDosyası()));
+    QDir(KullanıcıKlasörü() + QStringLiteral("Tovrek")).removeRecursively();
+    Kutular().Yanıtla(Yanıt::Tamam);
+    EXPECT_EQ(Başlat(), BaşlatmaSonucu::Başlayamadı);
+    Kutular().TekKutu(Simge::Kritik, Metin(150));
+    EXPECT_FALSE(QFile::exists(VeriDosyası()));
+}
+
 TEST_F(BaşlatTesti, DenetimdenGeçmeyenBaşlangıçHiçbirŞeyYazmaz) {
     VeriDosyasıOluştur(VeriDosyası());
     const QStringList önce = Dosyalar();

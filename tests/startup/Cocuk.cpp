@@ -1,7 +1,7 @@
 // The program's start without its main form, as the tests' child process:
 //   hazirla FOLDER DAY     prepares and opens the data file in this program folder on this day (yyyy-MM-dd)
 //   yaz FOLDER STATEMENT   runs one statement on it
-//   basla FOLDER           the whole start; then says "basladi" and runs until it is killed
+//   basla FOLDER           the whole start; then says "basladi" and runs until it is killed or told to end
 // Message boxes are answered at once and their texts written to the standard error output.
 
 #include <QApplication>
@@ -11,6 +11,7 @@
 
 #include "BaslatModulu.h"
 #include "DegiskenModulu.h"
+#include "KapanisModulu.h"
 #include "MesajKutusu.h"
 #include "OdbcModulu.h"
 #include "Saat.h"
@@ -28,6 +29,10 @@ int Başla(const QString& klasör) {
     bağlar.ProgramKlasörü = klasör;
     bağlar.EkranGenişliğiAl = [] { return 800; };
     bağlar.AnaFormuYükle = [](const std::function<void()>& kapat) { kapat(); };
+    const BitirmeDinleyicisi dinleyici([] {
+        Kapan(false, {10, 20});
+        QApplication::exit();
+    });
     const BaşlatmaSonucu sonuç = Main(kopya, bağlar);
     if (sonuç == BaşlatmaSonucu::BaşkaKopyaVar) return BAŞKA_KOPYA;
     if (sonuç != BaşlatmaSonucu::Başladı) return 1;
@@ -50,6 +55,7 @@ int main(int argc, char** argv) {
         return kutu.düğmeler == MesajKutusu::Düğmeler::Tamam ? MesajKutusu::Yanıt::Tamam : MesajKutusu::Yanıt::Evet;
     });
     UygulamaYolu = istek.value(2);
+    AyarUygulamaAdı = QStringLiteral("Tovrek\\Varnek");
     BozucuyuKur();
     if (pencereli) return Başla(UygulamaYolu);
     if (istek.value(1) == QLatin1String("hazirla")) {

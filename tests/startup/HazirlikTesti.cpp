@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "ApilerModulu.h"
 #include "CocukSureci.h"
 #include "DegiskenModulu.h"
 #include "MetinTablosu.h"
@@ -20,15 +21,15 @@ QString İkiSatır(int metin, const QString& yol) {
 }
 
 TEST_F(HazırlıkTesti, İlkBaşlatmaTarihSormadanYedekAlır) {
-    // Blanks, a percent sign and Turkish letters in the path reach the driver whole.
-    UygulamaYolu = ProgramKlasörü() + QStringLiteral("Ağaç %20 işleri/");
+    // Blanks, a percent sign, Turkish letters and what parts or holds values reach the driver whole.
+    UygulamaYolu = ProgramKlasörü() + QStringLiteral("{Ağaç; %20 işleri}/");
     const QString dosya = UygulamaYolu + QStringLiteral("Varnek.vtb");
     DosyaYap(dosya, QStringLiteral("Çıta"), QDateTime::currentDateTime());
     const Satırlar önce = Oku(dosya);
     ASSERT_GT(önce.size(), 100);
     ASSERT_TRUE(VeritabanınıHazırla());
     EXPECT_EQ(Oku(Yedek()), önce);
-    EXPECT_EQ(Baytlar(dosya), Baytlar(Yedek()));
+    EXPECT_EQ(Oku(dosya), önce);
     EXPECT_EQ(QFileInfo(dosya).permissions() & 0x0077, 0) << "readable by others";
     EXPECT_TRUE(Baytlar(OdbcDosyası()).contains("[Varnek]"));
 }
@@ -52,7 +53,7 @@ TEST_F(HazırlıkTesti, GündeBirKezSıkıştırır) {
     }
     EXPECT_TRUE(başlat(Gün));
     EXPECT_EQ(Oku(Yedek()), önce);
-    EXPECT_EQ(Baytlar(VeriDosyası()), Baytlar(Yedek()));
+    EXPECT_EQ(Oku(VeriDosyası()), önce);
     // The second start of the day leaves both alone, the day's own changes included.
     TestVerisi(VeriDosyası()).Çalıştır(QStringLiteral("DELETE FROM MalzemeTablosu WHERE MalzemeAdi= 'Yeni'"));
     EXPECT_TRUE(başlat(Gün));
@@ -106,8 +107,81 @@ TEST_F(HazırlıkTesti, BağınUcundakiDosyaYenilenir) {
     const Satırlar önce = Oku(asıl);
     ASSERT_TRUE(VeritabanınıHazırla());
     EXPECT_TRUE(QFileInfo(VeriDosyası()).isSymLink());
-    EXPECT_EQ(Baytlar(asıl), Baytlar(Yedek()));
+    EXPECT_EQ(Oku(Yedek()), önce);
     EXPECT_EQ(Oku(asıl), önce);
+}
+
+TEST_F(HazırlıkTesti, BağOlanYedekUcundaYenilenir) {
+    // The link's ".." leads out of the folder that the backup's folder really is.
+    const QString asıl = Klasör() + QStringLiteral("baska/yedekler/Yedek.ydk");
+    DosyaYap(asıl, QStringLiteral("Eski"), ÖncekiGün.addDays(-3));
+    QDir().mkpath(Klasör() + QStringLiteral("baska/klasor"));
+    QDir().mkpath(KullanıcıKlasörü() + QStringLiteral("Tovrek"));
+    ASSERT_TRUE(QFile::link(Klasör() + QStringLiteral("baska/klasor"), YedekKlasörü().chopped(1)));
+    ASSERT_TRUE(QFile::link(QStringLiteral("../yedekler/Yedek.ydk"), Yedek()));
+    DosyaYap(VeriDosyası(), QStringLiteral("Yeni"), ÖncekiGün);
+    const Satırlar önce = Oku(VeriDosyası());
+    ASSERT_TRUE(VeritabanınıHazırla());
+    EXPECT_TRUE(QFileInfo(Yedek()).isSymLink());
+    EXPECT_EQ(Oku(asıl), önce);
+}
+
+TEST_F(HazırlıkTesti, BoşDosyaDoluYedeğinYeriniAlmaz) {
+    const QString boşAdı =
+        ProgramKlasörü() + QStringLiteral("Varnek-bos-") + Gün.toString(Qt::ISODate) + QStringLiteral(".vtb");
+    const QString yedekAdı =
+        YedekKlasörü() + QStringLiteral("Varnek-") + ÖncekiGün.date().toString(Qt::ISODate) + QStringLiteral(".ydk");
+    DosyaYap(Yedek(), QStringLiteral("Yedekteki"), ÖncekiGün);
+    const Satırlar dolu = Oku(Yedek());
+    const QByteArray yedek = Baytlar(Yedek());
+    VeriDosyasıOluştur(VeriDosyası());
+    // No, twice: the empty file stays, and the backup stays under both names.
+    for (const int gün : {0, 1}) {
+        SaatiAyarla([this, gün] { return Gün.addDays(gün); });
+        Kutular().Yanıtla(Yanıt::Hayır);
+        EXPECT_TRUE(VeritabanınıHazırla());
+        ODBCBağlantısınıKapat();
+        const auto kutular = Kutular().Al();
+        ASSERT_EQ(kutular.size(), 1u);
+        EXPECT_EQ(kutular[0].varsayılan, Yanıt::Evet);
+        for (const QString& ad :
+             {VeriDosyası(), Yedek(), QFileInfo(boşAdı).completeBaseName().chopped(2), QFileInfo(yedekAdı).fileName()})
+            EXPECT_TRUE(kutular[0].metin.contains(ad)) << ad.toStdString();
+        EXPECT_EQ(Oku(VeriDosyası()), Satırlar());
+        EXPECT_EQ(Baytlar(Yedek()), yedek);
+        EXPECT_EQ(QDir(YedekKlasörü()).entryList(QDir::Files).size(), 2);
+    }
+    // With its first row the data file is the user's work: the backup follows it, and its old content is still there.
+    DosyaYap(VeriDosyası(), QStringLiteral("Yeni"), ÖncekiGün);
+    EXPECT_TRUE(VeritabanınıHazırla());
+    ODBCBağlantısınıKapat();
+    EXPECT_EQ(Oku(Yedek()), Oku(VeriDosyası()));
+    EXPECT_EQ(Oku(yedekAdı), dolu);
+    // Yes: the backup's rows come back, the empty file is kept.
+    SaatiAyarla(nullptr);
+    DosyaYap(Yedek(), QStringLiteral("Yedekteki"), ÖncekiGün.addDays(-2));
+    QFile::remove(VeriDosyası());
+    VeriDosyasıOluştur(VeriDosyası());
+    const QByteArray boş = Baytlar(VeriDosyası());
+    Kutular().Yanıtla(Yanıt::Evet);
+    EXPECT_TRUE(VeritabanınıHazırla());
+    EXPECT_EQ(Oku(VeriDosyası()), dolu);
+    EXPECT_EQ(Baytlar(boşAdı), boş);
+    EXPECT_EQ(Oku(Yedek()), dolu);
+}
+
+TEST_F(HazırlıkTesti, BozukYedekBoşDosyanınÜzerineGelmez) {
+    DosyaYap(Yedek(), QStringLiteral("Yedekteki"), ÖncekiGün);
+    const QByteArray yedek = SayfasıBozuk(Baytlar(Yedek()));
+    Yaz(Yedek(), yedek);
+    VeriDosyasıOluştur(VeriDosyası());
+    const QByteArray boş = Baytlar(VeriDosyası());
+    Kutular().Yanıtla(Yanıt::Evet);
+    Kutular().Yanıtla(Yanıt::Tamam);
+    EXPECT_FALSE(VeritabanınıHazırla());
+    EXPECT_EQ(Kutular().Al().back().metin, İkiSatır(2157, Yedek()));
+    EXPECT_EQ(Baytlar(Yedek()), yedek);
+    EXPECT_EQ(Baytlar(VeriDosyası()), boş);
 }
 
 TEST_F(HazırlıkTesti, NeDosyaNeYedekVarsaBaşlamaz) {
@@ -121,8 +195,9 @@ TEST_F(HazırlıkTesti, NeDosyaNeYedekVarsaBaşlamaz) {
 TEST_F(HazırlıkTesti, BozukYedekGeriYüklenmez) {
     DosyaYap(Yedek(), QStringLiteral("Yedekteki"), ÖncekiGün);
     const QByteArray sağlam = Baytlar(Yedek());
-    for (const QByteArray& bozuk : {QByteArray(), QByteArray("bu bir veri dosyasi degil"),
-                                    sağlam.left(sağlam.size() / 2), QByteArray(100, '\0') + sağlam.mid(100)}) {
+    // Also one whose damage the opening does not see.
+    for (const QByteArray& bozuk : {QByteArray("bu bir veri dosyasi degil"), sağlam.left(sağlam.size() / 2),
+                                    QByteArray(100, '\0') + sağlam.mid(100), SayfasıBozuk(sağlam)}) {
         Yaz(Yedek(), bozuk);
         Kutular().Yanıtla(Yanıt::Tamam);
         EXPECT_FALSE(VeritabanınıHazırla());
@@ -130,21 +205,35 @@ TEST_F(HazırlıkTesti, BozukYedekGeriYüklenmez) {
         EXPECT_EQ(Baytlar(Yedek()), bozuk);
         EXPECT_TRUE(QDir(ProgramKlasörü()).isEmpty());
     }
+    // What is no damage keeps the driver's own words: a file of another version.
+    QByteArray başkaSürüm = sağlam;
+    başkaSürüm[63] = 99;
+    Yaz(Yedek(), başkaSürüm);
+    Kutular().Yanıtla(Yanıt::Tamam);
+    EXPECT_FALSE(VeritabanınıHazırla());
+    EXPECT_EQ(Kutular().Al().back().başlık, Metin(180));
+    EXPECT_TRUE(QDir(ProgramKlasörü()).isEmpty());
 }
 
 TEST_F(HazırlıkTesti, BozukDosyaSağlamYedeğinYeriniAlmaz) {
     DosyaYap(Yedek(), QStringLiteral("Yedekteki"), ÖncekiGün);
     const QByteArray yedek = Baytlar(Yedek());
     // A page in the middle is damaged: the file opens, but must not become the backup.
-    QByteArray dosya = yedek;
-    constexpr int sayfa = 4096;
-    dosya.replace(dosya.size() / 2 / sayfa * sayfa, sayfa, QByteArray(sayfa, '\xee'));
+    const QByteArray dosya = SayfasıBozuk(yedek);
     Yaz(VeriDosyası(), dosya);
     ZamanVer(VeriDosyası(), ÖncekiGün);
-    EXPECT_TRUE(VeritabanınıHazırla());
-    EXPECT_EQ(Baytlar(Yedek()), yedek);
-    EXPECT_EQ(Baytlar(VeriDosyası()), dosya);
-    ODBCBağlantısınıKapat();
+    // Told once a day.
+    Kutular().Yanıtla(Yanıt::Tamam);
+    for (int başlatma = 0; başlatma < 2; ++başlatma) {
+        EXPECT_TRUE(VeritabanınıHazırla());
+        EXPECT_EQ(Baytlar(Yedek()), yedek);
+        EXPECT_EQ(Baytlar(VeriDosyası()), dosya);
+        ODBCBağlantısınıKapat();
+    }
+    auto uyarı = Kutular().Al();
+    ASSERT_EQ(uyarı.size(), 1u);
+    for (const QString& parça : {VeriDosyası(), Yedek(), Metin(2151)})
+        EXPECT_TRUE(uyarı[0].metin.contains(parça)) << uyarı[0].metin.toStdString();
     // One that does not open at all ends the start with the driver's own words.
     for (const QByteArray& çöp : {QByteArray(), QByteArray("cop")}) {
         Yaz(VeriDosyası(), çöp);
@@ -163,11 +252,18 @@ TEST_F(HazırlıkTesti, KopyalanamayanYedekSöylenir) {
     DosyaYap(Yedek(), QStringLiteral("Yedekteki"), ÖncekiGün);
     const QByteArray yedek = Baytlar(Yedek());
     QDir().mkpath(VeriDosyası() + QStringLiteral(".yeni/dolu"));
+    const QString yabancı = Klasör() + QStringLiteral("yabanci");
+    Yaz(yabancı, "baskasinin");
     Kutular().Yanıtla(Yanıt::Tamam);
     EXPECT_FALSE(VeritabanınıHazırla());
     Kutular().TekKutu(Simge::Kritik, İkiSatır(2121, VeriDosyası()));
     EXPECT_FALSE(QFile::exists(VeriDosyası()));
     EXPECT_EQ(Baytlar(Yedek()), yedek);
+    // Another name of somebody's file in the copy's place is taken away, and the file stays as it is.
+    QDir(VeriDosyası() + QStringLiteral(".yeni")).removeRecursively();
+    ASSERT_EQ(::link(yabancı.toUtf8(), (VeriDosyası() + QStringLiteral(".yeni")).toUtf8()), 0);
+    EXPECT_TRUE(DosyaKopyala(Yedek(), VeriDosyası()));
+    EXPECT_EQ(Baytlar(yabancı), "baskasinin");
 }
 
 TEST_F(HazırlıkTesti, YedekKlasörüYapılamazsaYedeksizBaşlar) {
@@ -177,6 +273,24 @@ TEST_F(HazırlıkTesti, YedekKlasörüYapılamazsaYedeksizBaşlar) {
     EXPECT_TRUE(VeritabanınıHazırla());
     Kutular().TekKutu(Simge::Ünlem, İkiSatır(2123, YedekKlasörü()));
     EXPECT_EQ(DeğişmeZamanı(VeriDosyası()), ÖncekiGün);
+}
+
+TEST_F(HazırlıkTesti, OdbcAyarlarıYazılamazsaVeriKaynağıOlmadanBağlanır) {
+    DosyaYap(VeriDosyası(), QStringLiteral("Yeni"), QDateTime::currentDateTime());
+    qputenv("ODBCINI", QFile::encodeName(Klasör() + QStringLiteral("yok/odbc.ini")));
+    EXPECT_TRUE(VeritabanınıHazırla());
+    EXPECT_FALSE(QFile::exists(Klasör() + QStringLiteral("yok")));
+}
+
+TEST_F(HazırlıkTesti, ÇokUzunYolSöylenir) {
+    UygulamaYolu = ProgramKlasörü();
+    while (UygulamaYolu.size() < 500) UygulamaYolu += QString(60, QLatin1Char('u')) + QLatin1Char('/');
+    DosyaYap(Klasör() + QStringLiteral("kisa"), QStringLiteral("Yeni"), ÖncekiGün);
+    ASSERT_TRUE(QDir().mkpath(UygulamaYolu) &&
+                QFile::rename(Klasör() + QStringLiteral("kisa"), UygulamaYolu + QStringLiteral("Varnek.vtb")));
+    Kutular().Yanıtla(Yanıt::Tamam);
+    EXPECT_FALSE(VeritabanınıHazırla());
+    Kutular().TekKutu(Simge::Kritik, İkiSatır(2160, UygulamaYolu));
 }
 
 TEST_F(HazırlıkTesti, YazılamayanProgramKlasörüSöylenir) {
@@ -196,7 +310,7 @@ TEST_F(HazırlıkTesti, YazılamayanProgramKlasörüSöylenir) {
     EXPECT_EQ(QDir(UygulamaYolu).entryList(QDir::Files), QStringList(QStringLiteral("Varnek.vtb")));
 }
 
-TEST_F(HazırlıkTesti, BaşkasıYazarkenDosyaDeğiştirilmez) {
+TEST_F(HazırlıkTesti, SıkıştırmaBaşkasınınYazdığınıYutmaz) {
     DosyaYap(VeriDosyası(), QStringLiteral("Yeni"), ÖncekiGün);
     const Satırlar önce = Oku(VeriDosyası());
     TestVerisi başkası(VeriDosyası());
@@ -206,6 +320,13 @@ TEST_F(HazırlıkTesti, BaşkasıYazarkenDosyaDeğiştirilmez) {
     EXPECT_EQ(Oku(Yedek()), önce);
     başkası.Onayla();
     EXPECT_EQ(Oku(VeriDosyası()).size(), önce.size() + 1);
+    // One that stays connected while the file is compacted goes on working on it.
+    ODBCBağlantısınıKapat();
+    SaatiAyarla([this] { return Gün.addDays(1); });
+    EXPECT_TRUE(VeritabanınıHazırla());
+    başkası.Çalıştır(QStringLiteral("INSERT INTO MalzemeTablosu (MalzemeAdi, MalzemeFiyati) VALUES ('Sonra', '2')"));
+    başkası.Onayla();
+    EXPECT_EQ(Oku(VeriDosyası()).size(), önce.size() + 2);
 }
 
 }  // namespace

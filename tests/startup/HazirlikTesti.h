@@ -44,5 +44,10 @@ class HazırlıkTesti : public VarnekTesti {
         ASSERT_TRUE(dosya.open(QIODevice::WriteOnly));
         dosya.write(baytlar);
     }
+    // A page in the middle is damaged: the file opens.
+    static QByteArray SayfasıBozuk(QByteArray baytlar) {
+        constexpr int sayfa = 4096;
+        return baytlar.replace(baytlar.size() / 2 / sayfa * sayfa, sayfa, QByteArray(sayfa, '\xee'));
+    }
     static QDateTime DeğişmeZamanı(const QString& yol) { return QFileInfo(yol).lastModified(); }
 };

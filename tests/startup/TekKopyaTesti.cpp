@@ -4,9 +4,11 @@
 #include <QDialog>
 #include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
 #include <csignal>
 #include <memory>
 
+#include "Ayarlar.h"
 #include "CocukSureci.h"
 #include "MetinTablosu.h"
 #include "ModalBekleyici.h"
@@ -83,6 +85,66 @@ TEST_F(TekKopyaTesti, SorulurkenBitenKopyaYoluAçar) {
 TEST_F(TekKopyaTesti, KilitYapılamıyorsaYineBaşlar) {
     ASSERT_TRUE(QDir().mkpath(Yol(".kilit")));
     EXPECT_TRUE(ÇocukSüreci(Başla()).BaşladıMı());
+}
+
+TEST_F(TekKopyaTesti, BaşkaOturumdakiKopyaAynıVeriyiAçamaz) {
+    const QString kilit = VeriDosyası() + QStringLiteral(".kilit");
+    const QByteArray oturum = qgetenv("XDG_RUNTIME_DIR");
+    {
+        TekKopya kopya;
+        ASSERT_TRUE(kopya.Başla(Sürüm().Başlık()));
+        ASSERT_TRUE(kopya.VeriyiKilitle(VeriDosyası()));
+        QWidget pencere;
+        pencere.showMinimized();
+        const QTemporaryDir başkaOturum;
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(başkaOturum.path()));
+        // Also under another name of the same file.
+        const QString bağ = Klasör() + QStringLiteral("bag/");
+        ASSERT_TRUE(QDir().mkpath(bağ) && QFile::link(VeriDosyası(), bağ + QStringLiteral("Varnek.vtb")));
+        for (const QString& klasör : {ProgramKlasörü(), bağ}) {
+            ÇocukSüreci ikinci({QStringLiteral("basla"), klasör});
+            EXPECT_TRUE(Bekle([&] { return ikinci.Süreç().state() == QProcess::NotRunning; }));
+            EXPECT_EQ(ikinci.Sonuç(), 1);
+            EXPECT_TRUE(ikinci.Kutular().contains(Metin(2152)));
+        }
+        EXPECT_FALSE(pencere.isMinimized());
+    }
+    EXPECT_FALSE(QFile::exists(kilit));
+    // A killed copy's lock file hinders nobody.
+    ÇocukSüreci(Başla()).BaşladıMı();
+    EXPECT_TRUE(QFile::exists(kilit));
+    EXPECT_TRUE(ÇocukSüreci(Başla()).BaşladıMı());
+    qputenv("XDG_RUNTIME_DIR", oturum);
+}
+
+TEST_F(TekKopyaTesti, SinyalAyarlarıKaydedipBitirir) {
+    for (const int sinyal : {SIGTERM, SIGHUP, SIGINT}) {
+        ÇocukSüreci kopya(Başla());
+        ASSERT_TRUE(kopya.BaşladıMı());
+        ::kill(static_cast<pid_t>(kopya.Süreç().processId()), sinyal);
+        EXPECT_EQ(kopya.Sonuç(), 0) << sinyal;
+        QFile veriKaynakları(OdbcDosyası());
+        EXPECT_TRUE(veriKaynakları.open(QIODevice::ReadOnly) && !veriKaynakları.readAll().contains("[Varnek]"));
+        EXPECT_FALSE(QFile::exists(VeriDosyası() + QStringLiteral(".kilit")));
+        EXPECT_EQ(KayıtlıSol(), 10);
+        QFile::remove(AyarDosyası());
+    }
+}
+
+TEST_F(TekKopyaTesti, KullanıcınınVeriKaynaklarınaDokunmaz) {
+    const QString ayarlar = Klasör() + QStringLiteral("ayarlar/Tovrek/Varnek-odbc.ini");
+    qunsetenv("ODBCINI");
+    const QByteArray ev = qgetenv("HOME");
+    qputenv("HOME", QFile::encodeName(Klasör()));
+    {
+        ÇocukSüreci kopya(Başla());
+        EXPECT_TRUE(kopya.BaşladıMı());
+        QFile dosya(ayarlar);
+        EXPECT_TRUE(dosya.open(QIODevice::ReadOnly) && dosya.readAll().contains("[Varnek]"));
+        EXPECT_EQ(QFileInfo(ayarlar).dir().entryInfoList(QDir::Files).size(), 1);
+    }
+    EXPECT_FALSE(QFile::exists(Klasör() + QStringLiteral(".odbc.ini")));
+    qputenv("HOME", ev);
 }
 
 TEST_F(TekKopyaTesti, KendiSürücüsünüBulur) {

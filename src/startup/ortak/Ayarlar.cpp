@@ -47,6 +47,10 @@ void KenarıKaydet(const QString& anahtar, int piksel) {
 
 }  // namespace
 
+QString AyarDosyası() {
+    return Depo().fileName();
+}
+
 QString AyarOku(const QString& bölüm, const QString& anahtar, const QString& varsayılan) {
     return Depo().value(Yol(bölüm, anahtar), varsayılan).toString();
 }

@@ -8,6 +8,9 @@
 // The per-user settings store: texts under section and key of the application AyarUygulamaAdı ("Tovrek\Varnek").
 // Garbage in the store is met by the defaults; nothing here shows a message.
 
+// Where the settings lie; there is no such file until something has been set.
+QString AyarDosyası();
+
 QString AyarOku(const QString& bölüm, const QString& anahtar, const QString& varsayılan);
 void AyarYaz(const QString& bölüm, const QString& anahtar, const QString& değer);
 

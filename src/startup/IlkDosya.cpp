@@ -1,0 +1,22 @@
+#include "IlkDosya.h"
+
+#include "ApilerModulu.h"
+#include "Ayarlar.h"
+#include "DegiskenModulu.h"
+#include "OrtakFonksiyonlarModulu.h"
+#include "Saat.h"
+#include "VeriYollari.h"
+
+bool İlkBaşlatma() {
+    const VeriYolları yollar = VeriYollarınıBul();
+    return !DosyaVar(yollar.Dosya) && !DosyaVar(yollar.Yedek) && !DosyaVar(AyarDosyası());
+}
+
+bool İlkDosyayıKoy(const QString& programKlasörü) {
+    const QString boş = SondaTersBöluYap(programKlasörü) + QStringLiteral("bos/Varnek-bos.vtb");
+    if (!DosyaVar(boş)) return true;
+    if (!DosyaKopyala(boş, VeriYollarınıBul().Dosya)) return false;
+    // From here on a data file that is missing is a lost one, even if the program never comes to save its settings.
+    AyarYaz(QStringLiteral("Ayarlar"), QStringLiteral("IlkAcilis"), AyMetni(Bugün()));
+    return true;
+}
