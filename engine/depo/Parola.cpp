@@ -2,7 +2,8 @@
 
 #include "Hata.h"
 #include "Katalog.h"
-#include "Sha256.h"
+
+#include <nettle/pbkdf2.h>
 
 #include <algorithm>
 #include <random>
@@ -17,9 +18,13 @@ constexpr std::int64_t AzamiTekrar = 1000000;
 constexpr std::size_t TuzBoyu = 16;
 constexpr std::size_t ÖzetBoyu = 32;
 
+// PBKDF2 with HMAC-SHA256. The library asks for no memory, so nothing in it can fail.
 std::string Özet(std::string_view parola, std::string_view tuz, std::int64_t tekrar) {
-    const Sha256::Özet özet = ParolaÖzeti(parola, tuz, tekrar);
-    return {özet.begin(), özet.end()};
+    const auto baytlar = [](std::string_view metin) { return reinterpret_cast<const std::uint8_t*>(metin.data()); };
+    std::string özet(ÖzetBoyu, '\0');
+    pbkdf2_hmac_sha256(parola.size(), baytlar(parola), static_cast<unsigned>(tekrar), tuz.size(), baytlar(tuz),
+                       özet.size(), reinterpret_cast<std::uint8_t*>(özet.data()));
+    return özet;
 }
 
 std::string Tablo() {
