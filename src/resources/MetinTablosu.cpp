@@ -222,6 +222,7 @@ constexpr Satır Tablo[] = {
     {2141,
      "Bu sayının basamakları çok fazla! \n"
      "Virgülden önce ve sonra, toplam en çok 15 basamak girebilirsiniz."},
+    {2142, "Bu metin bir sayı olmadığı veya çok uzun olduğu için alınmadı."},
 
     // Later additions: catalogue forms
     {2170, "Bu malzeme veri dosyasında artık yok; fiyatı değiştirilemez!"},

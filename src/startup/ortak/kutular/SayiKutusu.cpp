@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QShortcutEvent>
 #include <QTimer>
+#include <QToolTip>
 #include <algorithm>
 #include <limits>
 
@@ -19,6 +20,7 @@ namespace {
 constexpr int SayıDeğilMetni = 2111;
 constexpr int ÇokBüyükMetni = 2140;
 constexpr int ÇokBasamakMetni = 2141;
+constexpr int AlınmadıMetni = 2142;
 
 // No text that the program sets is longer (27 digits grouped, with decimals). What is longer is cut there and then
 // refused: so a huge paste costs no more than a small one.
@@ -95,6 +97,8 @@ bool SayıKutusu::TuşGeçer(const QKeyEvent& tuş) const {
 bool SayıKutusu::Denetle(QString& metin, int& imleç) {
     const QString ek = Ek(metin, imleç);
     m_alındı = ek.isEmpty() || KabulEdilir(metin, ek);
+    // A key that does nothing explains itself; a paste that does nothing does not.
+    if (!m_alındı && ek.size() > 1) QToolTip::showText(mapToGlobal(QPoint(0, height())), Metin(AlınmadıMetni), this);
     return m_alındı;
 }
 
