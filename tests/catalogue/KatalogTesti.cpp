@@ -88,8 +88,3 @@ void KatalogTesti::Beklenen(Simge simge, int metin, Yanıt yanıt, std::function
         if (kutuAçıkken) kutuAçıkken();
     });
 }
-
-KatalogTesti::Yazan::Yazan(const QString& yol) : Veri(yol) {
-    Veri.ElleOnayla();
-    Veri.Çalıştır(QStringLiteral("DELETE FROM UrunTablosu WHERE UrunGrubu= 'yok'"));
-}

@@ -78,10 +78,12 @@ class KatalogTesti : public VarnekTesti {
     // The next box is answered; its icon, its text's number and its default button are looked at.
     void Beklenen(Simge simge, int metin, Yanıt yanıt, std::function<void()> kutuAçıkken = {});
     // Another program that writes as long as this lives, so that the form's statements fail.
-    struct Yazan {
-        explicit Yazan(const QString& yol);
-        ~Yazan() { Veri.Onayla(); }
-        TestVerisi Veri;
+    struct Yazan : TestVerisi {
+        explicit Yazan(const QString& yol) : TestVerisi(yol) {
+            ElleOnayla();
+            Çalıştır("DELETE FROM UrunTablosu WHERE UrunGrubu= 'yok'");
+        }
+        ~Yazan() { Onayla(); }
     };
 
     SahteAnaForm AnaForm;
