@@ -1,6 +1,7 @@
 #include "TekKopya.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
@@ -143,6 +144,10 @@ TEST_F(TekKopyaTesti, KullanıcınınVeriKaynaklarınaDokunmaz) {
         EXPECT_TRUE(dosya.open(QIODevice::ReadOnly) && dosya.readAll().contains("[Varnek]"));
         EXPECT_EQ(QFileInfo(ayarlar).dir().entryInfoList(QDir::Files).size(), 1);
     }
+    // Killed, it leaves its data source; what stands there as it should is not written again.
+    const QDateTime yazılma = QFileInfo(ayarlar).lastModified();
+    EXPECT_TRUE(ÇocukSüreci(Başla()).BaşladıMı());
+    EXPECT_EQ(QFileInfo(ayarlar).lastModified(), yazılma);
     EXPECT_FALSE(QFile::exists(Klasör() + QStringLiteral(".odbc.ini")));
     qputenv("HOME", ev);
 }
