@@ -44,7 +44,7 @@ class Sığdırıcı : public QObject {
         kutu->setCursorPosition(0);
         connect(kutu, &QLineEdit::textChanged, this, [this] {
             Sığdır();
-            if (!m_kutu.hasFocus()) m_kutu.setCursorPosition(0);
+            if (m_kutu.window()->focusWidget() != &m_kutu) m_kutu.setCursorPosition(0);
         });
     }
 
