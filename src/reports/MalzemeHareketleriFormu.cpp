@@ -11,7 +11,9 @@
 #include "OdbcModulu.h"
 #include "OrtakFonksiyonlarModulu.h"
 #include "RaporCiktilari.h"
+#include "RaporSatiri.h"
 #include "Saat.h"
+#include "SayiMetni.h"
 #include "TarihDegistirFormu.h"
 
 namespace {
@@ -23,7 +25,8 @@ Okuma GününSatırları(const QString& tarih, QList<QTreeWidgetItem*>& satırla
         const QString fiyat = SütunOku(3);
         const QString ürün = SütunOku(4);
         const HareketSatırı satır = HareketiBiçimle(miktar, fiyat, OndalıkBasamak);
-        satırlar.append(new QTreeWidgetItem(QStringList{malzeme, satır.Miktar, satır.Fiyat, satır.Tutar, ürün}));
+        satırlar.append(new RaporSatırı({malzeme, satır.Miktar, satır.Fiyat, satır.Tutar, ürün},
+                                        {QString(), miktar, NoktayıVirgüleÇevir(fiyat)}));
     });
 }
 

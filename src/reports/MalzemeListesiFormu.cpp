@@ -4,6 +4,7 @@
 #include "Deyimler.h"
 #include "OdbcModulu.h"
 #include "RaporCiktilari.h"
+#include "RaporSatiri.h"
 #include "SayiMetni.h"
 #include "YuklemeGosterFormu.h"
 
@@ -22,9 +23,9 @@ void MalzemeListesiFormu::Yükle() {
     QList<QTreeWidgetItem*> satırlar;
     const Okuma okuma = SatırlarıOku(Deyimler::MalzemeKataloğuRaporu(), [&] {
         const QString ad = SütunOku(1);
-        const std::optional<QString> fiyat =
-            SayıMetniBiçimle(NoktayıVirgüleÇevir(SütunOku(2)), OndalıkBasamak, NoktaKuralı::Yerinde);
-        satırlar.append(new QTreeWidgetItem(QStringList{ad, fiyat.value_or(QString())}));
+        const QString saklanan = NoktayıVirgüleÇevir(SütunOku(2));
+        const std::optional<QString> fiyat = SayıMetniBiçimle(saklanan, OndalıkBasamak, NoktaKuralı::Yerinde);
+        satırlar.append(new RaporSatırı({ad, fiyat.value_or(QString())}, {QString(), saklanan}));
         ilerleme.Arttır();
     });
     SatırlarıGöster(satırlar, okuma);

@@ -44,7 +44,7 @@ class Sığdırıcı : public QObject {
         kutu->setCursorPosition(0);
         connect(kutu, &QLineEdit::textChanged, this, [this] {
             Sığdır();
-            if (!m_kutu.hasFocus()) m_kutu.setCursorPosition(0);
+            if (m_kutu.window()->focusWidget() != &m_kutu) m_kutu.setCursorPosition(0);
         });
     }
 
@@ -121,7 +121,7 @@ class Sığdırıcı : public QObject {
             çizici.fillRect(im, m_kutu.palette().color(QPalette::Base));
             çizici.drawText(im, static_cast<int>(taraf | Qt::AlignVCenter), Kesik);
         };
-        if (solda) çiz(QRectF(yer.left(), yer.top(), imGenişliği, yer.height()), Qt::AlignLeft);
+        if (solda) çiz(QRectF(yer.left() - İçPay, yer.top(), imGenişliği + İçPay, yer.height()), Qt::AlignRight);
         if (!sağda) return;
         // Only whole digits stand before the mark where the beginning is shown.
         double baş = yer.right() + 1 - imGenişliği;
