@@ -48,7 +48,7 @@ int main(int argc, char** argv) {
     BaşlatmaBağları bağlar;
     bağlar.ProgramKlasörü = QApplication::applicationDirPath();
     bağlar.AnaFormuYükle = [&](std::function<void()> karşılamayıKapat) {
-        anaForm = std::make_unique<AnaForm>(AnaFormBağları{std::move(karşılamayıKapat), KapanışıOnayla});
+        anaForm = std::make_unique<AnaForm>(AnaFormBağları{std::move(karşılamayıKapat), ÇıkışıYürüt});
         bitirmeDinleyicisi = std::make_unique<BitirmeDinleyicisi>(sormadanBitir);
         OturumSonunuDinle(uygulama, {[&] { return bitiyor = anaForm->close(); },
                                      [&] { AyarlarıKaydet(anaForm->isMinimized(), anaForm->pos()); }, sormadanBitir});

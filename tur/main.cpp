@@ -67,7 +67,7 @@ int main(int argc, char** argv) {
             başarısız += Dene(karşılamaSahnesi, tur, *anaForm);
             karşılamayıKapat();
         };
-        anaForm = std::make_unique<AnaForm>(AnaFormBağları{önceResmi, KapanışıOnayla});
+        anaForm = std::make_unique<AnaForm>(AnaFormBağları{önceResmi, ÇıkışıYürüt});
         anaForm->Yükle();
     };
     if (Main(kopya, bağlar) != BaşlatmaSonucu::Başladı) {

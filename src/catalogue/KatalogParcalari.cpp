@@ -7,9 +7,8 @@
 
 #include "EnterTusu.h"
 #include "EtiketVurgusu.h"
-#include "HataYakala.h"
-#include "KomutDugmesi.h"
 #include "MesajKutusu.h"
+#include "KomutDugmesi.h"
 #include "MetinTablosu.h"
 #include "MetinTemsilcisi.h"
 

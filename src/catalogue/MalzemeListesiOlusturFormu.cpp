@@ -12,17 +12,16 @@
 #include "Deyimler.h"
 #include "EnterTusu.h"
 #include "GirisKutusu.h"
-#include "HataYakala.h"
+#include "MesajKutusu.h"
 #include "KatalogParcalari.h"
 #include "KomutDugmesi.h"
-#include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "MiktarTurleri.h"
 #include "OdbcModulu.h"
 #include "OnekArama.h"
 #include "OrtakFonksiyonlarModulu.h"
 #include "Saat.h"
-#include "RaporListesi.h"
+#include "SutunluListe.h"
 #include "SayiKutusu.h"
 #include "SayiMetni.h"
 #include "TurkceSira.h"
@@ -69,7 +68,7 @@ void MalzemeListesiOluşturFormu::KontrolleriKur() {
     m_tür = new MiktarTürüKutusu;
     m_tür->setObjectName(QStringLiteral("MiktarTürüListesi"));
     m_tür->lineEdit()->setMaxLength(EnUzunTür);
-    m_eklenecek = new RaporListesi({{412, 5.2, false, true}, {414, 3.0, false}, {416, 5.0, true}, {418, 4.6, true}});
+    m_eklenecek = new SütunluListe({{412, 5.2, false, true}, {414, 3.0, false}, {416, 5.0, true}, {418, 4.6, true}});
     m_eklenecek->setObjectName(QStringLiteral("EklenecekMalzemeListesi"));
     Enterİleİlerlesin(m_eklenecek);
     connect(m_eklenecek, &QTreeWidget::itemDoubleClicked, this,

@@ -10,7 +10,7 @@ class GirişKutusu;
 class KatalogListesi;
 class KomutDüğmesi;
 class MiktarTürüKutusu;
-class RaporListesi;
+class SütunluListe;
 class SayıKutusu;
 
 // Collects materials with their quantities in a list, then transfers the whole list into the product that is selected
@@ -49,7 +49,7 @@ class MalzemeListesiOluşturFormu : public QDialog {
     SayıKutusu* m_miktar;
     GirişKutusu* m_bul;
     KatalogListesi* m_katalog;
-    RaporListesi* m_eklenecek;
+    SütunluListe* m_eklenecek;
     KomutDüğmesi* m_ekle;
     KomutDüğmesi* m_çıkar;
     KomutDüğmesi* m_temizle;

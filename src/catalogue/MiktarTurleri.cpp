@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "Ayarlar.h"
+#include "OrtakFonksiyonlarModulu.h"
 #include "TurkceSira.h"
 
 namespace MiktarTürleri {

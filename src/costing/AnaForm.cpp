@@ -7,10 +7,9 @@
 
 #include "DegiskenModulu.h"
 #include "Deyimler.h"
-#include "HataYakala.h"
+#include "MesajKutusu.h"
 #include "KullanilanMalzemeler.h"
 #include "MaliyetAlani.h"
-#include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "MiktarAlani.h"
 #include "OdbcModulu.h"
@@ -49,11 +48,11 @@ void AnaForm::Yükle() {
         m_bağlar.KarşılamayıKapat();
         QApplication::processEvents();
         show();
-        GirişDenetimi();
+        AğacaGirildi();
     });
 }
 
-void AnaForm::GirişDenetimi() {
+void AnaForm::AğacaGirildi() {
     if (m_ağaç->Boş()) {
         // A list that could not be read is not an empty one.
         if (m_ağaç->Tam() && Sor(Metin(420))) İlkÜrünüEkle();
@@ -132,7 +131,7 @@ void AnaForm::AğacıYenidenYükle() {
     ÜrünAğacınıYenile();
     if (!m_ağaç->Tam()) return;
     m_ağaç->setFocus();
-    GirişDenetimi();
+    AğacaGirildi();
 }
 
 void AnaForm::ÜrünüYenidenYükle() {

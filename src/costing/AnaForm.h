@@ -55,7 +55,7 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void KomutlarıKur();
     void Yerleş();
 
-    void GirişDenetimi();
+    void AğacaGirildi();
     void DüğümTıklandı();
     void AğacıYenidenYükle();
     void ÜrünüYenidenYükle();

@@ -5,17 +5,19 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPainter>
 #include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "AnaForm.h"
-#include "Ayarlar.h"
+#include "AnaFormDuzeni.h"
+#include "OrtakFonksiyonlarModulu.h"
 #include "DegiskenModulu.h"
 #include "Denetimler.h"
-#include "EkranKonumu.h"
 #include "HakkindaFormu.h"
 #include "HataBildirmeFormu.h"
 #include "KomutDugmesi.h"
@@ -23,13 +25,23 @@
 #include "MaliyetAlani.h"
 #include "MetinTablosu.h"
 #include "MiktarAlani.h"
-#include "OyukCizgi.h"
+#include "Renk.h"
 #include "Saat.h"
 #include "UrunAgaci.h"
 #include "Yardim.h"
 #include "YuklenemediBildirimi.h"
 
 namespace {
+
+constexpr std::uint32_t DüğmeGölgesi = 0x80000000 + 16;  // the desktop's colour number 16
+constexpr std::uint32_t Beyaz = 0x00FFFFFF;
+
+constexpr int BaşlıkYüksekliği = 30;  // pixels
+constexpr int EnAzGörünen = 80;
+
+int Alan(const QRect& r) {
+    return r.isValid() ? r.width() * r.height() : 0;
+}
 
 constexpr int AğaçGenişliği = 240;  // pixels
 constexpr int NoktaGenişliği = 48;
@@ -52,7 +64,7 @@ AnaForm::AnaForm(AnaFormBağları bağlar) : m_bağlar(std::move(bağlar)) {
 
 void AnaForm::AlanlarıKur() {
     m_ağaç = new ÜrünAğacı;
-    m_ağaç->OlaylarıBağla({[this] { DüğümTıklandı(); }, [this] { ÜrünListesiTıkla(); }, [this] { GirişDenetimi(); },
+    m_ağaç->OlaylarıBağla({[this] { DüğümTıklandı(); }, [this] { ÜrünListesiTıkla(); }, [this] { AğacaGirildi(); },
                            [this] { m_ağaçBildirimi->setVisible(!m_ağaç->Tam()); }});
     m_ağaçBildirimi = new YüklenemediBildirimi(QStringLiteral("ÜrünListesiniTekrarYükle"), 2135, 2137,
                                                [this] { AğacıYenidenYükle(); });
@@ -240,4 +252,29 @@ void AnaForm::Yerleş() {
     QList<QRect> ekranlar;
     for (const QScreen* s : QGuiApplication::screens()) ekranlar.append(s->availableGeometry());
     move(EkranaGetir(QRect(konum, size()), ekranlar));
+}
+
+OyukÇizgi::OyukÇizgi(QWidget* sahip) : QWidget(sahip) {
+    setFixedHeight(2);
+}
+
+void OyukÇizgi::paintEvent(QPaintEvent*) {
+    QPainter çizici(this);
+    çizici.fillRect(0, 0, width(), 1, RenkÇöz(DüğmeGölgesi, palette()));
+    çizici.fillRect(0, 1, width(), 1, RenkÇöz(Beyaz, palette()));
+}
+
+QPoint EkranaGetir(const QRect& pencere, const QList<QRect>& ekranlar) {
+    if (ekranlar.isEmpty()) return pencere.topLeft();
+    const QRect başlık(pencere.topLeft(), QSize(pencere.width(), BaşlıkYüksekliği));
+    for (const QRect& ekran : ekranlar) {
+        const QRect görünen = başlık & ekran;
+        if (görünen.width() >= EnAzGörünen && görünen.height() == BaşlıkYüksekliği) return pencere.topLeft();
+    }
+    const QRect& ekran = *std::max_element(ekranlar.begin(), ekranlar.end(), [&](const QRect& a, const QRect& b) {
+        return Alan(a & pencere) < Alan(b & pencere);
+    });
+    const int sağ = std::max(ekran.left(), ekran.right() + 1 - pencere.width());
+    const int alt = std::max(ekran.top(), ekran.bottom() + 1 - pencere.height());
+    return {std::clamp(pencere.x(), ekran.left(), sağ), std::clamp(pencere.y(), ekran.top(), alt)};
 }

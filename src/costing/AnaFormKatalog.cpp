@@ -13,7 +13,7 @@
 #include "UrunAgaci.h"
 #include "UrunEkleSilFormu.h"
 #include "YuklemeGosterFormu.h"
-#include "YuzdeTutari.h"
+#include "MaliyetHesabi.h"
 
 void AnaForm::ÜrünAğacınıYenile() {
     m_ağaç->Yükle();

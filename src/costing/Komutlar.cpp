@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "GirisKutusu.h"
-#include "HataYakala.h"
+#include "MesajKutusu.h"
 
 void Komutlar::Bağla(Komut komut, QAction* giriş) {
     Satır& satır = m_satırlar[static_cast<std::size_t>(komut)];

@@ -3,10 +3,10 @@
 #include <QStringList>
 
 #include "MalzemeToplami.h"
-#include "RaporListesi.h"
+#include "SutunluListe.h"
 
 // The list of the materials that the selected product uses.
-class KullanılanMalzemeListesi : public RaporListesi {
+class KullanılanMalzemeListesi : public SütunluListe {
   public:
     explicit KullanılanMalzemeListesi(QWidget* sahip = nullptr);
 

@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "HataYakala.h"
+#include "MesajKutusu.h"
 #include "KomutDugmesi.h"
 #include "MetinTablosu.h"
 

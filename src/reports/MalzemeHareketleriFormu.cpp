@@ -6,12 +6,12 @@
 #include "DegiskenModulu.h"
 #include "Deyimler.h"
 #include "HareketSatiri.h"
-#include "HataYakala.h"
+#include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "OdbcModulu.h"
 #include "OrtakFonksiyonlarModulu.h"
 #include "RaporCiktilari.h"
-#include "RaporSatiri.h"
+#include "SutunluSatir.h"
 #include "Saat.h"
 #include "SayiMetni.h"
 #include "TarihDegistirFormu.h"
@@ -25,8 +25,8 @@ Okuma GününSatırları(const QString& tarih, QList<QTreeWidgetItem*>& satırla
         const QString fiyat = SütunOku(3);
         const QString ürün = SütunOku(4);
         const HareketSatırı satır = HareketiBiçimle(miktar, fiyat, OndalıkBasamak);
-        satırlar.append(new RaporSatırı({malzeme, satır.Miktar, satır.Fiyat, satır.Tutar, ürün},
-                                        {QString(), miktar, NoktayıVirgüleÇevir(fiyat)}));
+        satırlar.append(new SütunluSatır({malzeme, satır.Miktar, satır.Fiyat, satır.Tutar, ürün},
+                                         {QString(), miktar, NoktayıVirgüleÇevir(fiyat)}));
     });
 }
 

@@ -4,7 +4,7 @@
 #include "Deyimler.h"
 #include "OdbcModulu.h"
 #include "RaporCiktilari.h"
-#include "RaporSatiri.h"
+#include "SutunluSatir.h"
 #include "SayiMetni.h"
 #include "YuklemeGosterFormu.h"
 
@@ -25,7 +25,7 @@ void MalzemeListesiFormu::Yükle() {
         const QString ad = SütunOku(1);
         const QString saklanan = NoktayıVirgüleÇevir(SütunOku(2));
         const std::optional<QString> fiyat = SayıMetniBiçimle(saklanan, OndalıkBasamak, NoktaKuralı::Yerinde);
-        satırlar.append(new RaporSatırı({ad, fiyat.value_or(QString())}, {QString(), saklanan}));
+        satırlar.append(new SütunluSatır({ad, fiyat.value_or(QString())}, {QString(), saklanan}));
         ilerleme.Arttır();
     });
     SatırlarıGöster(satırlar, okuma);

@@ -5,7 +5,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
-#include "HataYakala.h"
+#include "MesajKutusu.h"
 #include "KomutDugmesi.h"
 #include "MetinTablosu.h"
 #include "SayfaYuzeyi.h"
@@ -13,7 +13,7 @@
 RaporFormu::RaporFormu(const Tanım& tanım, QWidget* sahip) : QDialog(sahip), m_yaz(tanım.Yaz) {
     setObjectName(tanım.Ad);
     setWindowTitle(Metin(tanım.Başlık));
-    m_liste = new RaporListesi(tanım.Sütunlar);
+    m_liste = new SütunluListe(tanım.Sütunlar);
     m_liste->setObjectName(tanım.ListeAdı);
     m_liste->setAccessibleName(windowTitle());
     m_çerçeve = new QGroupBox(Metin(tanım.ÇerçeveBaşlığı));

@@ -6,7 +6,7 @@
 #include <functional>
 
 #include "OdbcModulu.h"
-#include "RaporListesi.h"
+#include "SutunluListe.h"
 #include "Yazdirma.h"
 
 class KomutDüğmesi;
@@ -25,7 +25,7 @@ class RaporFormu : public QDialog {
         QString ListeAdı;
         int Başlık;          // number of the form's caption
         int ÇerçeveBaşlığı;  // number of the frame's caption
-        QList<RaporListesi::Sütun> Sütunlar;
+        QList<SütunluListe::Sütun> Sütunlar;
         Çıktı Yaz;
     };
     RaporFormu(const Tanım& tanım, QWidget* sahip);
@@ -46,7 +46,7 @@ class RaporFormu : public QDialog {
     // A button that runs a command, put at the front of the form's row of buttons.
     void BaşaDüğmeKoy(const QString& ad, int metin, std::function<void()> komut);
 
-    RaporListesi& Liste() const { return *m_liste; }
+    SütunluListe& Liste() const { return *m_liste; }
     QGroupBox& Çerçeve() const { return *m_çerçeve; }
 
   private:
@@ -59,7 +59,7 @@ class RaporFormu : public QDialog {
 
     Çıktı m_yaz;
     bool m_tamam = false;  // all rows are there
-    RaporListesi* m_liste;
+    SütunluListe* m_liste;
     QGroupBox* m_çerçeve;
     QHBoxLayout* m_düğmeler;
     KomutDüğmesi* m_yazdır;

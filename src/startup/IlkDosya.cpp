@@ -1,9 +1,8 @@
 #include "IlkDosya.h"
 
 #include "ApilerModulu.h"
-#include "Ayarlar.h"
-#include "DegiskenModulu.h"
 #include "OrtakFonksiyonlarModulu.h"
+#include "DegiskenModulu.h"
 #include "Saat.h"
 #include "VeriYollari.h"
 

@@ -5,7 +5,7 @@
 #include <QSessionManager>
 #include <utility>
 
-#include "Ayarlar.h"
+#include "OrtakFonksiyonlarModulu.h"
 #include "DegiskenModulu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
@@ -42,7 +42,7 @@ class OturumDinleyicisi : public QObject {
 
 }  // namespace
 
-bool KapanışıOnayla(bool simgeDurumunda, QPoint solÜst) {
+bool ÇıkışıYürüt(bool simgeDurumunda, QPoint solÜst) {
     if (!simgeDurumunda) MesajKutusuOrtala();
     const MesajKutusu::Yanıt yanıt =
         MesajKutusu::Göster(MesajKutusu::Simge::Soru, MesajKutusu::Düğmeler::EvetHayır, Metin(60));

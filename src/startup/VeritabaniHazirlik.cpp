@@ -4,12 +4,11 @@
 #include <QFileInfo>
 
 #include "ApilerModulu.h"
-#include "Ayarlar.h"
+#include "OrtakFonksiyonlarModulu.h"
 #include "DegiskenModulu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "OdbcModulu.h"
-#include "OrtakFonksiyonlarModulu.h"
 #include "Saat.h"
 #include "VeriYollari.h"
 #include "YedektenDonus.h"

@@ -1,6 +1,6 @@
 #include <QTreeWidget>
 
-#include "Ayarlar.h"
+#include "OrtakFonksiyonlarModulu.h"
 #include "DegiskenModulu.h"
 #include "KatalogTesti.h"
 #include "MalzemeListesiOlusturFormu.h"

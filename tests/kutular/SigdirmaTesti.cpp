@@ -4,8 +4,8 @@
 #include <QTextDocument>
 #include <QToolTip>
 
-#include "RaporListesi.h"
-#include "RaporSatiri.h"
+#include "SutunluListe.h"
+#include "SutunluSatir.h"
 #include "SayiSigdirma.h"
 #include "VarnekTesti.h"
 
@@ -74,13 +74,13 @@ TEST_F(Sığdırma, KutudakiSayıKüçülürSığmazsaİmiGörünür) {
 }
 
 TEST_F(Sığdırma, SatırKesileniVeGizleneniSöyler) {
-    RaporListesi liste({{412, 4, false, true}, {414, 4, false}, {416, 4, true}, {418, 4, true}});
+    SütunluListe liste({{412, 4, false, true}, {414, 4, false}, {416, 4, true}, {418, 4, true}});
     liste.resize(400, 200);
     liste.show();
     liste.SatırlarıKoy(
-        {new RaporSatırı({u"1.234,57 Metre"_s, u"Kablo"_s, u"0,10"_s, EnGeniş},
-                         {u"1234,5678 Metre"_s, QString(), u"0,0968"_s}),
-         new RaporSatırı({u"2,50 Metre"_s, u"Kablo"_s, u"0,10"_s, u"0,25"_s}, {u"2,5 Metre"_s, QString(), u"0,1"_s})});
+        {new SütunluSatır({u"1.234,57 Metre"_s, u"Kablo"_s, u"0,10"_s, EnGeniş},
+                          {u"1234,5678 Metre"_s, QString(), u"0,0968"_s}),
+         new SütunluSatır({u"2,50 Metre"_s, u"Kablo"_s, u"0,10"_s, u"0,25"_s}, {u"2,5 Metre"_s, QString(), u"0,1"_s})});
     const auto ipucu = [&](int satır, int sütun) {
         return İpucu(*liste.viewport(), liste.visualRect(liste.model()->index(satır, sütun)).center());
     };

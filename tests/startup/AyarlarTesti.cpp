@@ -1,7 +1,7 @@
 #include <QFile>
 #include <QSettings>
 
-#include "Ayarlar.h"
+#include "OrtakFonksiyonlarModulu.h"
 #include "DegiskenModulu.h"
 #include "KapanisModulu.h"
 #include "MetinTablosu.h"
@@ -64,7 +64,7 @@ TEST_F(AyarlarTesti, KonumTwipOlarakSaklanıyor) {
 TEST_F(AyarlarTesti, HayırDenirseHiçbirŞeyDeğişmez) {
     VeriyeBağlan();
     Kutular().Yanıtla(MesajKutusu::Yanıt::Hayır);
-    EXPECT_FALSE(KapanışıOnayla(false, {10, 20}));
+    EXPECT_FALSE(ÇıkışıYürüt(false, {10, 20}));
     Kutular().TekKutu(MesajKutusu::Simge::Soru, Metin(60));
     EXPECT_EQ(Kayıtlı("Ondalik"), QStringLiteral("yok"));
     SQLMetni = QStringLiteral("SELECT Count(UrunAdi) AS KayitSayisi FROM UrunTablosu");
@@ -86,7 +86,7 @@ TEST_F(AyarlarTesti, EvetDenirseBağlantıKapanırAyarlarKaydedilir) {
             EXPECT_EQ(kutu.düğmeler, MesajKutusu::Düğmeler::EvetHayır);
             EXPECT_TRUE(veriKaynağıVar());
         });
-        EXPECT_TRUE(KapanışıOnayla(simgeDurumunda, simgeDurumunda ? QPoint(50, 60) : QPoint(10, 20)));
+        EXPECT_TRUE(ÇıkışıYürüt(simgeDurumunda, simgeDurumunda ? QPoint(50, 60) : QPoint(10, 20)));
         EXPECT_FALSE(veriKaynağıVar());
         EXPECT_EQ(KayıtlıOndalık(), OndalıkBasamak);
         // Minimised, the place from before stays.

@@ -4,11 +4,10 @@
 #include <QDirIterator>
 #include <QLabel>
 
-#include "Ayarlar.h"
+#include "OrtakFonksiyonlarModulu.h"
 #include "DegiskenModulu.h"
 #include "MetinTablosu.h"
 #include "OdbcModulu.h"
-#include "SistemDenetimi.h"
 #include "TekKopya.h"
 #include "TestVerisi.h"
 #include "VarnekTesti.h"

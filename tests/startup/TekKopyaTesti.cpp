@@ -9,7 +9,7 @@
 #include <csignal>
 #include <memory>
 
-#include "Ayarlar.h"
+#include "OrtakFonksiyonlarModulu.h"
 #include "CocukSureci.h"
 #include "MetinTablosu.h"
 #include "ModalBekleyici.h"

@@ -3,7 +3,7 @@
 #include "MetinTablosu.h"
 #include "SayfaDuzeni.h"
 #include "SayiMetni.h"
-#include "YuzdeTutari.h"
+#include "MaliyetHesabi.h"
 
 namespace {
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <exception>
 #include <functional>
 
 // Every message box of the program goes through here, so that all look alike and tests can answer and read them.
@@ -36,3 +37,13 @@ bool Sor(const QString& soru);
 
 // The critical box for an error that nobody foresaw: what was being done, and what went wrong.
 void BeklenmeyenHataGöster(const QString& neOldu);
+
+// Runs a step of the form; an error that nobody foresaw is shown, and the form stays as far as it got.
+template <typename İş>
+void HataYakala(const İş& iş) {
+    try {
+        iş();
+    } catch (const std::exception& hata) {
+        BeklenmeyenHataGöster(QString::fromUtf8(hata.what()));
+    }
+}

@@ -1,11 +1,11 @@
-#include "RaporListesi.h"
+#include "SutunluListe.h"
 
 #include <QHeaderView>
 
 #include "MetinTablosu.h"
 #include "MetinTemsilcisi.h"
 
-RaporListesi::RaporListesi(const QList<Sütun>& sütunlar, QWidget* sahip) : TekSeçimli(sahip) {
+SütunluListe::SütunluListe(const QList<Sütun>& sütunlar, QWidget* sahip) : TekSeçimli(sahip) {
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
@@ -27,18 +27,18 @@ RaporListesi::RaporListesi(const QList<Sütun>& sütunlar, QWidget* sahip) : Tek
     header()->setSectionsMovable(false);
 }
 
-void RaporListesi::SatırlarıKoy(const QList<QTreeWidgetItem*>& satırlar) {
+void SütunluListe::SatırlarıKoy(const QList<QTreeWidgetItem*>& satırlar) {
     clear();
     addTopLevelItems(satırlar);
     setCurrentItem(topLevelItem(0));
 }
 
-QString RaporListesi::SeçiliMetin(int sütun) const {
+QString SütunluListe::SeçiliMetin(int sütun) const {
     const QTreeWidgetItem* seçili = SeçiliÖğe();
     return seçili ? seçili->text(sütun) : QString();
 }
 
-void RaporListesi::resizeEvent(QResizeEvent* olay) {
+void SütunluListe::resizeEvent(QResizeEvent* olay) {
     QTreeWidget::resizeEvent(olay);
     for (int sütun = 0; sütun < m_bölenler.size(); ++sütun) {
         header()->resizeSection(sütun, static_cast<int>(width() / m_bölenler.at(sütun)));

@@ -1,4 +1,4 @@
-#include "RaporSatiri.h"
+#include "SutunluSatir.h"
 
 #include <QTreeWidget>
 
@@ -25,14 +25,14 @@ QString Gizlenen(const QString& saklanan, const QString& gösterilen) {
 
 }  // namespace
 
-QVariant RaporSatırı::data(int sütun, int rol) const {
+QVariant SütunluSatır::data(int sütun, int rol) const {
     if (rol == Qt::DisplayRole || rol == Qt::EditRole) {
         return sütun >= 0 && sütun < m_hücreler.size() ? m_hücreler.at(sütun) : QString();
     }
     return rol == AyrıntıRolü ? Ayrıntı() : QTreeWidgetItem::data(sütun, rol);
 }
 
-QString RaporSatırı::Ayrıntı() const {
+QString SütunluSatır::Ayrıntı() const {
     QStringList satırlar;
     for (qsizetype sütun = 0; sütun < m_saklananlar.size(); ++sütun) {
         const QString gizlenen = Gizlenen(m_saklananlar.at(sütun), m_hücreler.value(sütun));

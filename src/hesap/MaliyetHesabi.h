@@ -37,3 +37,7 @@ std::optional<double> FireliMiktar(const QString& toplamMiktar, const QString& f
 
 // The material cost for one usable unit. nullopt: a text is no number, the quantity is 0.
 std::optional<double> FireliBirimMaliyet(const QString& malzemeMaliyeti, const QString& fireliMiktar);
+
+// A percentage's amount on the material cost as the amounts form and the cost sheet show it: computed in floating
+// point, not rounded to money. nullopt: a text is no number, or the result is not finite.
+std::optional<double> YüzdeTutarı(const QString& malzemeMaliyeti, const QString& yüzde);

@@ -7,7 +7,7 @@
 
 // A list of rows with columns. Each column's width is the list's own width divided by the column's divisor, also after
 // resizing; figures stand at the right; the first row is current once rows are put in.
-class RaporListesi : public TekSeçimli<QTreeWidget> {
+class SütunluListe : public TekSeçimli<QTreeWidget> {
   public:
     struct Sütun {
         int Başlık;           // number of the header's text
@@ -16,7 +16,7 @@ class RaporListesi : public TekSeçimli<QTreeWidget> {
         bool Miktar = false;  // figures with their unit: left-aligned
     };
 
-    explicit RaporListesi(const QList<Sütun>& sütunlar, QWidget* sahip = nullptr);
+    explicit SütunluListe(const QList<Sütun>& sütunlar, QWidget* sahip = nullptr);
 
     bool Boş() const { return topLevelItemCount() == 0; }
 

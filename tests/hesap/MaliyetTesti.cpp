@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "EkranKonumu.h"
 #include "MaliyetHesabi.h"
 #include "MalzemeToplami.h"
 #include "SayiMetni.h"
@@ -92,20 +91,6 @@ TEST(MalzemeToplamı, MiktarıAyrıBirimeKadarToplar) {
     const auto ayrı = Topla({{"2 Metre", "1"}, {"3 Adet", "1"}, {"4 Metre", "1"}});
     EXPECT_TRUE(ayrı.BirimlerFarklı());
     EXPECT_EQ(ayrı.ToplamMiktar(), 2);
-}
-
-TEST(EkranKonumu, UlaşılamayanPencereEkranaGelir) {
-    const QList<QRect> ekranlar = {QRect(0, 0, 1280, 800), QRect(1280, 0, 1920, 1080)};
-    const QSize boy(1000, 700);
-    const std::pair<QPoint, QPoint> durumlar[] = {
-        {{100, 50}, {100, 50}},      {{1200, 50}, {1200, 50}},    // across both
-        {{-900, 50}, {-900, 50}},                                 // enough of the title bar to take hold of
-        {{-990, 50}, {0, 50}},       {{5000, 4000}, {280, 100}},  // its screen is gone
-        {{1500, -20}, {1500, 0}},                                 // title bar above the screen
-        {{1400, 1070}, {1400, 380}},
-    };
-    for (const auto& [eski, yeni] : durumlar) EXPECT_EQ(EkranaGetir(QRect(eski, boy), ekranlar), yeni) << eski.x();
-    EXPECT_EQ(EkranaGetir(QRect(QPoint(900, 900), boy), {QRect(0, 0, 800, 600)}), QPoint(0, 0));
 }
 
 }  // namespace

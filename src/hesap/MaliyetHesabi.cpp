@@ -61,3 +61,11 @@ std::optional<double> FireliBirimMaliyet(const QString& malzemeMaliyeti, const Q
     if (!maliyet || !miktar || *miktar == 0) return std::nullopt;
     return Sonlu(*maliyet / *miktar);
 }
+
+std::optional<double> YüzdeTutarı(const QString& malzemeMaliyeti, const QString& yüzde) {
+    const std::optional<Para> malzeme = ParaOku(malzemeMaliyeti);
+    const std::optional<double> oran = DoubleOku(yüzde);
+    if (!malzeme || !oran) return std::nullopt;
+    const double tutar = malzeme->Double() * *oran / 100.0;
+    return Sonlu(tutar);
+}
