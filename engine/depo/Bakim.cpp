@@ -12,7 +12,7 @@ namespace {
 void BütünlüğüDenetle(sqlite3* vt) {
     SqliteDeyimi denetle(vt, "PRAGMA integrity_check(1)");
     const bool sağlam = denetle.Adım() && denetle.Metin(0) == "ok";
-    if (!sağlam) SqliteHatasıFırlat(vt, SQLITE_CORRUPT);
+    if (!sağlam) SqliteHatasıFırlat(SQLITE_CORRUPT);
 }
 
 // A journal beside the target belongs to the target's present content and must never meet the new one. If it is a
@@ -20,6 +20,7 @@ void BütünlüğüDenetle(sqlite3* vt) {
 // old target is still whole.
 void HedefinGünlüğünüBitir(const std::string& hedef) {
     if (!GünlükVar(hedef)) return;
+    GünlükleriDenetle(hedef);
     if (OlağanDosyaVar(hedef)) {
         try {
             const SqliteBağlantısı vt = SqliteAç(hedef);
@@ -29,13 +30,22 @@ void HedefinGünlüğünüBitir(const std::string& hedef) {
         }
     }
     GünlükleriSil(hedef);
+    // Should the new name reach the disk and the end of the old journal not, the journal would meet the new content.
+    if (!KlasörüEşitle(hedef)) SqliteHatasıFırlat(SQLITE_IOERR);
+}
+
+// Compacts within the file: one transaction of SQLite, so that other clients stay connected and a crash is undone. The
+// rows pass through temporary files, as they may be more than the memory takes.
+void YerindeSıkıştır(sqlite3* vt) {
+    SqliteYürüt(vt, "PRAGMA temp_store=FILE");
+    SqliteYürüt(vt, "VACUUM");
 }
 
 }  // namespace
 
 void VeriDosyasıOluştur(const std::string& yol, std::string_view parola) {
-    const std::string hedef = TamYol(yol);
-    if (YolVar(hedef)) throw Hata(Durum::Genel, "Bu adda bir dosya zaten var; üzerine yazılmadı: " + yol);
+    if (YolVar(yol)) throw Hata(Durum::Genel, "Bu adda bir dosya zaten var; üzerine yazılmadı: " + yol);
+    const std::string hedef = GerçekYol(yol);
     GeçiciDosya geçici(hedef);
     {
         const SqliteBağlantısı vt = SqliteAç(geçici.Yol());
@@ -45,17 +55,20 @@ void VeriDosyasıOluştur(const std::string& yol, std::string_view parola) {
         ParolayıYaz(vt.get(), parola);
         SqliteYürüt(vt.get(), "COMMIT");
     }
-    if (!YolVar(hedef)) GünlükleriSil(hedef);  // left by a file that is gone
+    if (!YolVar(hedef)) HedefinGünlüğünüBitir(hedef);  // left by a file that is gone
     geçici.Yerleştir(GeçiciDosya::Yerleştirme::Yeni);
 }
 
 void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hedefYolu, std::string_view parola) {
-    const std::string hedef = TamYol(hedefYolu);
-    if (AynıDosya(kaynak, hedef)) throw Hata(Durum::Genel, "Bir veri dosyası kendi üzerine sıkıştırılamaz.");
-    const SqliteBağlantısı vt = VeriDosyasıAç(kaynak, parola);
-    BütünlüğüDenetle(vt.get());
+    const AçıkDosya dosya = VeriDosyasıAç(kaynak, parola);
+    sqlite3* vt = dosya.Vt.get();
+    BütünlüğüDenetle(vt);
+    if (AynıDosya(kaynak, hedefYolu)) return YerindeSıkıştır(vt);
+    const std::string hedef = GerçekYol(hedefYolu);
+    if (YolVar(hedef) && !Yazılabilir(hedef))
+        throw Hata(Durum::Genel, "Hedef dosya salt okunur; üzerine yazılmadı: " + hedefYolu);
     GeçiciDosya geçici(hedef);
-    SqliteDeyimi sıkıştır(vt.get(), "VACUUM INTO ?1");
+    SqliteDeyimi sıkıştır(vt, "VACUUM INTO ?1");
     sıkıştır.Bağla(1, geçici.Yol());
     sıkıştır.Adım();
     HedefinGünlüğünüBitir(hedef);

@@ -11,7 +11,10 @@ void VeriDosyasıOluştur(const std::string& yol, std::string_view parola);
 
 // Writes a compacted copy of `kaynak` to `hedef`: same password, tables, indexes and order of rows. The source is
 // checked first, so that a damaged one never replaces a good target; an existing target stays until the copy is
-// complete. Throws Hata; the target is then as it was.
+// complete. A target that is a link is written through. Throws Hata; the target is then as it was.
+//
+// Where both lead to one file, it is compacted in place, in one transaction: other clients stay connected, mode and
+// owner stay, and a crash leaves the old content or the new.
 void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hedef, std::string_view parola);
 
 }  // namespace Motor

@@ -8,8 +8,11 @@ namespace Motor {
 
 namespace {
 
-std::string Tırnakla(const std::string& ad) {
-    return "\"" + ad + "\"";
+// A text of the statement within a message.
+std::string Alıntı(std::string_view metin) {
+    constexpr std::size_t enÇok = 60;
+    const std::string_view baş = BütünKarakterlerleKes(metin, enÇok);
+    return std::string(baş) + (baş.size() < metin.size() ? "…" : "");
 }
 
 [[noreturn]] void TürUymuyor(const SütunTanımı& sütun, const std::string& neden) {
@@ -17,7 +20,7 @@ std::string Tırnakla(const std::string& ad) {
 }
 
 Değer SayıyıÇevir(const SütunTanımı& sütun, const std::optional<OnlukSayı>& sayı, std::string_view metin) {
-    if (!sayı) TürUymuyor(sütun, "\"" + std::string(BütünKarakterlerleKes(metin, 60)) + "\" geçerli bir sayı değil.");
+    if (!sayı) TürUymuyor(sütun, "\"" + Alıntı(metin) + "\" geçerli bir sayı değil.");
     if (sütun.Tür == SütunTürü::Para) return ParayaÇevir(*sayı);
     return OndalığaÇevir(*sayı);
 }
@@ -51,7 +54,7 @@ void UzunluğuDenetle(const SütunTanımı& sütun, const Değer& değer) {
 // Builds one command; a value becomes the next parameter.
 class Çevirmen {
   public:
-    explicit Çevirmen(const TabloBulucu& tablolar) : m_tablolar(tablolar) {}
+    explicit Çevirmen(Şema& şema) : m_şema(şema) {}
 
     SqliteKomutu operator()(const SeçDeyimi& seç) {
         const TabloTanımı& tablo = Tablo(seç.Tablo);
@@ -102,7 +105,9 @@ class Çevirmen {
     }
 
     SqliteKomutu operator()(const TabloOluşturDeyimi& oluştur) {
-        if (m_tablolar(oluştur.Tablo)) throw Hata(Durum::TabloVar, oluştur.Tablo + " adında bir tablo zaten var.");
+        if (m_şema.Tablo(oluştur.Tablo))
+            throw Hata(Durum::TabloVar, Alıntı(oluştur.Tablo) + " adında bir tablo zaten var.");
+        DizinYok(oluştur.Tablo);
         std::string sütunlar;
         for (const SütunBildirimi& sütun : oluştur.Sütunlar)
             sütunlar += (sütunlar.empty() ? "" : ", ") + SütunSql(sütun);
@@ -113,6 +118,7 @@ class Çevirmen {
 
     SqliteKomutu operator()(const DizinOluşturDeyimi& oluştur) {
         const TabloTanımı& tablo = Tablo(oluştur.Tablo);
+        DizinYok(oluştur.Dizin);
         m_komut.Tür = SqliteKomutu::Sınıf::Tanım;
         m_komut.Sql = std::string(oluştur.Tekil ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + Tırnakla(oluştur.Dizin) +
                       " ON " + Tırnakla(tablo.Ad) + " (" + Sıralar(tablo, oluştur.Sütunlar) + ")";
@@ -121,8 +127,12 @@ class Çevirmen {
 
   private:
     const TabloTanımı& Tablo(const std::string& ad) const {
-        if (const TabloTanımı* tablo = m_tablolar(ad)) return *tablo;
-        throw Hata(Durum::TabloYok, ad.substr(0, 64) + " adında bir tablo yok.");
+        if (const TabloTanımı* tablo = m_şema.Tablo(ad)) return *tablo;
+        throw Hata(Durum::TabloYok, Alıntı(ad) + " adında bir tablo yok.");
+    }
+
+    void DizinYok(const std::string& ad) const {
+        if (m_şema.DizinVar(ad)) throw Hata(Durum::DizinVar, Alıntı(ad) + " adında bir dizin zaten var.");
     }
 
     std::string Parametre(Değer değer) {
@@ -174,6 +184,9 @@ class Çevirmen {
             m_komut.Sütunlar = tablo.Sütunlar;
         else
             for (const std::string& ad : seç.Sütunlar) m_komut.Sütunlar.push_back(tablo.Sütun(ad));
+        if (m_komut.Sütunlar.size() > AzamiSütun)
+            throw Hata(Durum::SözDizimi,
+                       "Bir deyimde en çok " + std::to_string(AzamiSütun) + " sütun okunabilir; işlem yapılmadı.");
         std::string liste;
         for (const SütunTanımı& sütun : m_komut.Sütunlar) liste += (liste.empty() ? "" : ", ") + Tırnakla(sütun.Ad);
         m_komut.Sql += liste;
@@ -206,15 +219,15 @@ class Çevirmen {
         return std::string("(") + (sayı.Eksi ? "-" : "") + sayı.Tam + "." + sayı.Kesir + "0)";
     }
 
-    const TabloBulucu& m_tablolar;
+    Şema& m_şema;
     SqliteKomutu m_komut;
     std::vector<const SütunTanımı*> m_yazılanlar;
 };
 
 }  // namespace
 
-SqliteKomutu Çevir(const Deyim& deyim, const TabloBulucu& tablolar) {
-    return std::visit(Çevirmen(tablolar), deyim);
+SqliteKomutu Çevir(const Deyim& deyim, Şema& şema) {
+    return std::visit(Çevirmen(şema), deyim);
 }
 
 }  // namespace Motor

@@ -3,7 +3,7 @@
 #include "Deyim.h"
 #include "Katalog.h"
 
-#include <functional>
+#include <cstddef>
 
 namespace Motor {
 
@@ -17,12 +17,20 @@ struct SqliteKomutu {
     std::vector<SütunTanımı> Sütunlar;  // of a query
 };
 
-// Looks a table up; nullptr when there is none.
-using TabloBulucu = std::function<const TabloTanımı*(std::string_view)>;
+// What a statement may refer to.
+class Şema {
+  public:
+    virtual ~Şema() = default;
+    virtual const TabloTanımı* Tablo(std::string_view ad) = 0;  // nullptr when there is none
+    virtual bool DizinVar(std::string_view ad) = 0;
+};
 
-// Checks the statement against the tables, turns its literals into the columns' stored values and writes the SQL.
-// Throws Hata: unknown table or column (S0001, S0002, S0022), a literal that does not suit its column (22005, 22003),
-// a text too long to be stored (22001).
-SqliteKomutu Çevir(const Deyim& deyim, const TabloBulucu& tablolar);
+// Most columns that a statement may name: what SQLite takes, and few enough for ODBC's 16 bits.
+inline constexpr std::size_t AzamiSütun = 2000;
+
+// Checks the statement against the schema, turns its literals into the columns' stored values and writes the SQL.
+// Throws Hata: unknown table or column, a name in use (S0001, S0002, S0011, S0022), too many columns (37000), a literal
+// that does not suit its column (22005, 22003), a text too long to be stored (22001).
+SqliteKomutu Çevir(const Deyim& deyim, Şema& şema);
 
 }  // namespace Motor

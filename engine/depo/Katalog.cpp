@@ -1,31 +1,10 @@
 #include "Katalog.h"
 
 #include "Hata.h"
+#include "SaklananTanim.h"
 #include "Utf8.h"
 
-#include <charconv>
-
 namespace Motor {
-
-namespace {
-
-SütunTanımı SütunOku(const SqliteDeyimi& satır) {
-    SütunTanımı sütun;
-    sütun.Ad = satır.Metin(1);
-    const std::string_view tür = satır.Metin(2);
-    if (tür == "CURRENCY")
-        sütun.Tür = SütunTürü::Para;
-    else if (tür == "DOUBLE")
-        sütun.Tür = SütunTürü::Ondalık;
-    else if (tür == "DATETIME")
-        sütun.Tür = SütunTürü::Tarih;
-    else if (tür.starts_with("TEXT("))
-        std::from_chars(tür.data() + 5, tür.data() + tür.size(), sütun.Uzunluk);
-    sütun.BoşOlamaz = satır.TamSayı(3) != 0;
-    return sütun;
-}
-
-}  // namespace
 
 const SütunTanımı& TabloTanımı::Sütun(std::string_view ad) const {
     for (const SütunTanımı& sütun : Sütunlar)
@@ -34,15 +13,25 @@ const SütunTanımı& TabloTanımı::Sütun(std::string_view ad) const {
 }
 
 Katalog::Katalog(sqlite3* vt) {
-    SqliteDeyimi tablolar(vt, "SELECT name FROM sqlite_schema WHERE type='table' AND name<>?1 ORDER BY name");
-    tablolar.Bağla(1, std::string(GizliTablo));
-    while (tablolar.Adım()) {
-        TabloTanımı tablo;
-        tablo.Ad = tablolar.Metin(0);
-        SqliteDeyimi sütunlar(vt, "SELECT * FROM pragma_table_info(?1)");
-        sütunlar.Bağla(1, tablo.Ad);
-        while (sütunlar.Adım()) tablo.Sütunlar.push_back(SütunOku(sütunlar));
-        m_tablolar.push_back(std::move(tablo));
+    SqliteDeyimi şema(vt, "SELECT type, name, tbl_name, sql FROM sqlite_schema");
+    while (şema.Adım()) {
+        const std::string_view tür = şema.Metin(0);
+        const std::string_view ad = şema.Metin(1);
+        const std::string_view sql = şema.Metin(3);
+        if (tür == "table" && ad == GizliTablo && sql == GizliTabloSql) {
+            m_parolaTablosuVar = true;
+            continue;
+        }
+        std::optional<TabloTanımı> tablo = tür == "table" ? SaklananTabloyuOku(sql) : std::nullopt;
+        if (tablo && tablo->Ad == ad) {
+            m_tablolar.push_back(std::move(*tablo));
+            continue;
+        }
+        if (tür != "index" || !SaklananDizinMi(sql, ad, şema.Metin(2)))
+            throw Hata(Durum::Bağlanamadı,
+                       "Veri dosyasında bu programın yazmadığı bir öğe var; dosya güvenli olmadığı için açılmadı.",
+                       SQLITE_NOTADB);
+        m_dizinler.emplace_back(ad);
     }
 }
 
@@ -50,6 +39,12 @@ const TabloTanımı* Katalog::Bul(std::string_view tablo) const {
     for (const TabloTanımı& aday : m_tablolar)
         if (AsciiEşit(aday.Ad, tablo)) return &aday;
     return nullptr;
+}
+
+bool Katalog::DizinVar(std::string_view dizin) const {
+    for (const std::string& aday : m_dizinler)
+        if (AsciiEşit(aday, dizin)) return true;
+    return false;
 }
 
 }  // namespace Motor

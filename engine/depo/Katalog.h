@@ -32,16 +32,26 @@ struct TabloTanımı {
     const SütunTanımı& Sütun(std::string_view ad) const;
 };
 
-// The tables of a data file that clients see. The engine's own table has a name that no statement can spell.
+// The tables and indexes of a data file that clients see. The engine's own table has a name that no statement can
+// spell.
 class Katalog {
   public:
-    static constexpr const char* GizliTablo = "Varnek#Parola";
+    static constexpr std::string_view GizliTablo = "Varnek#Parola";
+    static constexpr std::string_view GizliTabloSql =
+        R"(CREATE TABLE "Varnek#Parola" (Tuz BLOB, Tekrar INTEGER, Ozet BLOB))";
 
+    // Reads the file's schema. Throws Hata (08001, native SQLITE_NOTADB) when it holds anything that the engine does
+    // not write: a view, a trigger, a virtual table or an expression would run as part of the program's statements.
     explicit Katalog(sqlite3* vt);
+
     const TabloTanımı* Bul(std::string_view tablo) const;
+    bool DizinVar(std::string_view dizin) const;
+    bool ParolaTablosuVar() const { return m_parolaTablosuVar; }
 
   private:
     std::vector<TabloTanımı> m_tablolar;
+    std::vector<std::string> m_dizinler;
+    bool m_parolaTablosuVar = false;
 };
 
 }  // namespace Motor

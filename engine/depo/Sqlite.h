@@ -17,12 +17,20 @@ struct SqliteKapatıcı {
 };
 using SqliteBağlantısı = std::unique_ptr<sqlite3, SqliteKapatıcı>;
 
+// How long a statement waits for another program's lock, in milliseconds.
+inline constexpr int KilitBekleme = 2000;
+
 // Opens an existing file (never creates one) with the engine's settings: every transaction on disk before it is
-// confirmed, Turkish order known, two seconds of patience with a locked file. Nothing is read from the file yet.
+// confirmed, Turkish order known, two seconds of patience with a locked file, nothing in the file trusted. Nothing is
+// read from the file yet. `yol` is a real path (GerçekYol). Throws Hata.
 SqliteBağlantısı SqliteAç(const std::string& yol);
 
-// Turns SQLite's result code into a diagnostic for the user.
-[[noreturn]] void SqliteHatasıFırlat(sqlite3* vt, int kod);
+// A name of the file as SQL takes it.
+std::string Tırnakla(std::string_view ad);
+
+// Turns SQLite's result code into a diagnostic for the user; damage has the native code SQLITE_CORRUPT or
+// SQLITE_NOTADB.
+[[noreturn]] void SqliteHatasıFırlat(int kod);
 
 // Runs SQL that gives no rows.
 void SqliteYürüt(sqlite3* vt, const char* sql);

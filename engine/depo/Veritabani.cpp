@@ -4,6 +4,7 @@
 #include "Hata.h"
 #include "Parola.h"
 
+#include <filesystem>
 #include <new>
 
 namespace Motor {
@@ -15,33 +16,60 @@ std::int64_t PragmaOku(sqlite3* vt, const char* sql) {
     return oku.Adım() ? oku.TamSayı(0) : 0;
 }
 
+// What a crash before the journal's first sync leaves: a journal that says nothing, which SQLite neither plays back nor
+// clears. Holding the write lock after a read, it is nobody's. A client that is writing just now keeps its own.
+void BoşGünlüğüSil(sqlite3* vt, const std::string& yol) {
+    if (!GünlükVar(yol) || sqlite3_db_readonly(vt, "main") == 1) return;
+    sqlite3_busy_timeout(vt, 0);
+    if (sqlite3_exec(vt, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) == SQLITE_OK) {
+        RollbackGünlüğünüSil(yol);
+        SqliteYürüt(vt, "ROLLBACK");
+    }
+    sqlite3_busy_timeout(vt, KilitBekleme);
+}
+
 }  // namespace
 
-SqliteBağlantısı VeriDosyasıAç(const std::string& yol, std::string_view parola) {
-    if (!OlağanDosyaVar(yol)) throw Hata(Durum::Bağlanamadı, "Veri dosyası bulunamadı: " + yol);
-    SqliteBağlantısı vt = SqliteAç(TamYol(yol));
-    if (PragmaOku(vt.get(), "PRAGMA application_id") != DosyaKimliği)
-        throw Hata(Durum::Bağlanamadı, "Bu dosya bir veri dosyası değil ya da bozulmuş.");
+AçıkDosya VeriDosyasıAç(const std::string& verilen, std::string_view parola) {
+    if (!OlağanDosyaVar(verilen)) throw Hata(Durum::Bağlanamadı, "Veri dosyası bulunamadı: " + verilen);
+    const std::string yol = GerçekYol(verilen);
+    GünlükleriDenetle(yol);
+    SqliteBağlantısı vt = SqliteAç(yol);
+    if (PragmaOku(vt.get(), "PRAGMA application_id") != DosyaKimliği) SqliteHatasıFırlat(SQLITE_NOTADB);
     if (PragmaOku(vt.get(), "PRAGMA user_version") != DosyaSürümü)
         throw Hata(Durum::Bağlanamadı, "Veri dosyasını programın başka bir sürümü yazmış; bu sürüm onu okuyamıyor.");
+    Katalog şema(vt.get());
+    if (!şema.ParolaTablosuVar()) ParolaBilgisiBozuk();
     if (!ParolaDoğru(vt.get(), parola)) throw Hata(Durum::YetkiYok, "Veri dosyasının parolası yanlış.");
-    return vt;
+    GeçiciDosya::KalıntıyıSil(yol);
+    BoşGünlüğüSil(vt.get(), yol);
+    return {std::move(vt), std::move(şema)};
 }
 
 std::optional<std::string_view> Sorgu::Metin(std::size_t sütun, DeğerTamponu tampon) const {
     sqlite3_value* değer = m_deyim.SütunDeğeri(static_cast<int>(sütun));
-    if (sqlite3_value_type(değer) == SQLITE_NULL) return std::nullopt;
+    const int tür = sqlite3_value_type(değer);
+    if (tür == SQLITE_NULL) return std::nullopt;
+    // A value of another kind than its column was not written by the engine; turned into a number it would be a wrong
+    // one.
+    const auto türüGerek = [tür](int gerekli) {
+        if (tür != gerekli) SqliteHatasıFırlat(SQLITE_CORRUPT);
+    };
     switch (m_sütunlar[sütun].Tür) {
         case SütunTürü::Metin: {
+            türüGerek(SQLITE_TEXT);
             const auto* metin = reinterpret_cast<const char*>(sqlite3_value_text(değer));
             if (!metin) throw std::bad_alloc();
             return std::string_view(metin, static_cast<std::size_t>(sqlite3_value_bytes(değer)));
         }
         case SütunTürü::Para:
+            türüGerek(SQLITE_INTEGER);
             return ParaYaz(sqlite3_value_int64(değer), tampon);
         case SütunTürü::Ondalık:
+            if (tür != SQLITE_INTEGER) türüGerek(SQLITE_FLOAT);
             return OndalıkYaz(sqlite3_value_double(değer), tampon);
         case SütunTürü::Tarih:
+            türüGerek(SQLITE_INTEGER);
             return TarihYaz(sqlite3_value_int64(değer), tampon);
         case SütunTürü::TamSayı:
             break;
@@ -49,19 +77,78 @@ std::optional<std::string_view> Sorgu::Metin(std::size_t sütun, DeğerTamponu t
     return TamSayıYaz(sqlite3_value_int64(değer), tampon);
 }
 
-Veritabanı::Veritabanı(const std::string& yol, std::string_view parola) : m_vt(VeriDosyasıAç(yol, parola)) {
-    m_katalog.emplace(m_vt.get());
+Veritabanı::Veritabanı(const std::string& yol, std::string_view parola)
+    : m_yol(std::filesystem::absolute(yol).string()), m_parola(parola) {
+    Bağlan();
 }
 
-const TabloTanımı* Veritabanı::TabloBul(std::string_view tablo) {
-    const TabloTanımı* bulunan = m_katalog ? m_katalog->Bul(tablo) : nullptr;
-    if (bulunan) return bulunan;
-    m_katalog.emplace(m_vt.get());  // another connection may have created it meanwhile
-    return m_katalog->Bul(tablo);
+void Veritabanı::Bağlan() {
+    constexpr int adım = 1000;  // instructions of SQLite between two looks at the flag
+    AçıkDosya dosya = VeriDosyasıAç(m_yol, m_parola);
+    m_vt = std::move(dosya.Vt);
+    m_katalog = std::move(dosya.Şema);
+    const auto iptalEdildi = [](void* nesne) -> int {
+        const std::atomic<bool>* bayrak = static_cast<Veritabanı*>(nesne)->m_nöbetçi.load();
+        return bayrak && bayrak->load() ? 1 : 0;
+    };
+    sqlite3_progress_handler(m_vt.get(), adım, iptalEdildi, this);
+}
+
+bool Veritabanı::Taşındı() const {
+    int taşındı = 0;
+    sqlite3_file_control(m_vt.get(), "main", SQLITE_FCNTL_HAS_MOVED, &taşındı);
+    return taşındı != 0;
+}
+
+// After a change: a file that went from its place meanwhile took the change with it.
+void Veritabanı::YerindeMi() const {
+    if (Taşındı())
+        throw Hata(Durum::Genel,
+                   "Bu sırada veri dosyasının yerine başka bir dosya konmuş; değişikliğin yeni dosyada olup olmadığını "
+                   "denetleyin.",
+                   SQLITE_READONLY_DBMOVED);
+}
+
+bool Veritabanı::OkumaSürüyor() const {
+    for (sqlite3_stmt* deyim = sqlite3_next_stmt(m_vt.get(), nullptr); deyim;
+         deyim = sqlite3_next_stmt(m_vt.get(), deyim))
+        if (sqlite3_stmt_busy(deyim)) return true;
+    return false;
+}
+
+// Before every statement.
+void Veritabanı::Hazırlan() {
+    if (KendiliğindenGeriAlındı())
+        throw Hata(Durum::GeriAlındı,
+                   "Bir hata yüzünden onaylanmamış değişikliklerin tümü geri alındı; önce geri alma (ROLLBACK) "
+                   "istenmeli.");
+    if (HareketAçık() || !Taşındı()) return;
+    if (m_elleOnay || OkumaSürüyor()) SqliteHatasıFırlat(SQLITE_READONLY_DBMOVED);
+    try {
+        Bağlan();
+    } catch (const Hata& hata) {
+        throw Hata(hata.Durum(), "Veri dosyası değiştirilmiş. " + std::string(hata.Mesaj()), hata.Yerel());
+    }
+}
+
+const Katalog& Veritabanı::KataloğuAl() {
+    if (!m_katalog) m_katalog.emplace(m_vt.get());
+    return *m_katalog;
+}
+
+const TabloTanımı* Veritabanı::Tablo(std::string_view ad) {
+    if (const TabloTanımı* bulunan = KataloğuAl().Bul(ad)) return bulunan;
+    m_katalog.reset();  // another connection may have created it meanwhile
+    return KataloğuAl().Bul(ad);
+}
+
+bool Veritabanı::DizinVar(std::string_view ad) {
+    return KataloğuAl().DizinVar(ad);
 }
 
 SqliteKomutu Veritabanı::Çevir(std::string_view deyim) {
-    return Motor::Çevir(Çözümle(deyim), [this](std::string_view tablo) { return TabloBul(tablo); });
+    Hazırlan();
+    return Motor::Çevir(Çözümle(deyim), *this);
 }
 
 SqliteDeyimi Veritabanı::Hazırla(const SqliteKomutu& komut) {
@@ -71,17 +158,33 @@ SqliteDeyimi Veritabanı::Hazırla(const SqliteKomutu& komut) {
 }
 
 Sorgu Veritabanı::Sorgula(const SqliteKomutu& komut) {
+    Hazırlan();
     return {Hazırla(komut), komut.Sütunlar};
 }
 
+// Runs a change to its end; says so when a failure undid the whole transaction.
+void Veritabanı::Yürüt(SqliteDeyimi& deyim) {
+    try {
+        deyim.Adım();
+    } catch (const Hata& hata) {
+        if (!KendiliğindenGeriAlındı()) throw;
+        throw Hata(hata.Durum(), std::string(hata.Mesaj()) + " Onaylanmamış değişikliklerin tümü geri alındı.",
+                   hata.Yerel());
+    }
+}
+
 std::int64_t Veritabanı::Uygula(const SqliteKomutu& komut) {
+    Hazırlan();
     SqliteDeyimi deyim = Hazırla(komut);
-    if (m_elleOnay && !HareketAçık()) SqliteYürüt(m_vt.get(), "BEGIN");
+    if (m_elleOnay && !HareketAçık()) {
+        SqliteYürüt(m_vt.get(), "BEGIN");
+        m_hareket = true;
+    }
     const std::int64_t önceki = sqlite3_total_changes64(m_vt.get());
-    deyim.Adım();
-    if (komut.Tür != SqliteKomutu::Sınıf::Tanım) return sqlite3_total_changes64(m_vt.get()) - önceki;
-    m_katalog.reset();
-    return 0;
+    Yürüt(deyim);
+    if (komut.Tür == SqliteKomutu::Sınıf::Tanım) m_katalog.reset();
+    if (!HareketAçık()) YerindeMi();
+    return komut.Tür == SqliteKomutu::Sınıf::Tanım ? 0 : sqlite3_total_changes64(m_vt.get()) - önceki;
 }
 
 void Veritabanı::ElleOnayla(bool açık) {
@@ -90,12 +193,19 @@ void Veritabanı::ElleOnayla(bool açık) {
 }
 
 void Veritabanı::Onayla() {
-    if (HareketAçık()) SqliteYürüt(m_vt.get(), "COMMIT");
+    if (KendiliğindenGeriAlındı()) Hazırlan();
+    if (!HareketAçık()) return;
+    if (Taşındı()) SqliteHatasıFırlat(SQLITE_READONLY_DBMOVED);
+    SqliteDeyimi onayla(m_vt.get(), "COMMIT");
+    Yürüt(onayla);
+    m_hareket = false;
+    YerindeMi();
 }
 
 void Veritabanı::GeriAl() {
     m_katalog.reset();
     if (HareketAçık()) SqliteYürüt(m_vt.get(), "ROLLBACK");
+    m_hareket = false;
 }
 
 }  // namespace Motor

@@ -5,9 +5,11 @@
 #include "Katalog.h"
 #include "Sqlite.h"
 
+#include <atomic>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <thread>
 
 namespace Motor {
 
@@ -15,9 +17,16 @@ namespace Motor {
 inline constexpr int DosyaKimliği = 0x56524E4B;  // "VRNK"
 inline constexpr int DosyaSürümü = 1;
 
-// Opens an existing data file and checks that it is one and that the password is right. Throws Hata (08001, 28000 and
-// what SQLite reports).
-SqliteBağlantısı VeriDosyasıAç(const std::string& yol, std::string_view parola);
+// An open data file with what its schema holds.
+struct AçıkDosya {
+    SqliteBağlantısı Vt;
+    Katalog Şema;
+};
+
+// Opens an existing data file, checks that it is one, that it holds nothing foreign and that the password is right, and
+// clears what crashes left beside it. Throws Hata (08001, 28000 and what SQLite reports; native SQLITE_CORRUPT or
+// SQLITE_NOTADB for a damaged one).
+AçıkDosya VeriDosyasıAç(const std::string& yol, std::string_view parola);
 
 // The rows of a running query.
 class Sorgu {
@@ -37,10 +46,20 @@ class Sorgu {
     std::vector<SütunTanımı> m_sütunlar;
 };
 
-// An open data file. One statement is one transaction, on disk before the call returns, unless manual commit is on.
-class Veritabanı {
+// A connection to a data file. One statement is one transaction, on disk before the call returns, unless manual commit
+// is on.
+//
+// Where another file was put in the data file's place meanwhile, the next statement connects to that one if nothing can
+// be lost: no manual commit, no open transaction, no open query. Otherwise it is refused (S1000) and the client
+// decides.
+//
+// Where SQLite itself undid the open transaction (disk full, read error, no memory), every statement and the commit are
+// refused (40001) until the client rolls back: what it has not noticed must not look like a whole.
+class Veritabanı : private Şema {
   public:
     Veritabanı(const std::string& yol, std::string_view parola);
+    Veritabanı(const Veritabanı&) = delete;
+    Veritabanı& operator=(const Veritabanı&) = delete;
 
     SqliteKomutu Çevir(std::string_view deyim);
 
@@ -58,15 +77,52 @@ class Veritabanı {
     void Onayla();
     void GeriAl();
 
-    void Kes() { sqlite3_interrupt(m_vt.get()); }
+    bool SaltOkunur() const { return sqlite3_db_readonly(m_vt.get(), "main") == 1; }
+
+    // Who is at work on the connection: it gives a flag that ends its work (S1008) when it is set from another thread.
+    // False while someone else is.
+    bool NöbetAl(std::atomic<bool>& iptal) noexcept {
+        std::atomic<bool>* kimse = nullptr;
+        return m_nöbetçi.compare_exchange_strong(kimse, &iptal, std::memory_order_acquire);
+    }
+    void NöbetBırak() noexcept { m_nöbetçi.store(nullptr, std::memory_order_release); }
 
   private:
-    const TabloTanımı* TabloBul(std::string_view tablo);
+    const TabloTanımı* Tablo(std::string_view ad) override;
+    bool DizinVar(std::string_view ad) override;
+    const Katalog& KataloğuAl();
     SqliteDeyimi Hazırla(const SqliteKomutu& komut);
+    void Yürüt(SqliteDeyimi& deyim);
 
+    void Bağlan();
+    bool Taşındı() const;
+    void YerindeMi() const;
+    bool OkumaSürüyor() const;
+    void Hazırlan();
+    bool KendiliğindenGeriAlındı() const { return m_hareket && !HareketAçık(); }
+
+    std::atomic<std::atomic<bool>*> m_nöbetçi = nullptr;
+    std::string m_yol;
+    std::string m_parola;
     SqliteBağlantısı m_vt;
     std::optional<Katalog> m_katalog;  // none: to be read again
     bool m_elleOnay = false;
+    bool m_hareket = false;  // begun, and neither committed nor rolled back by the client
+};
+
+// At work on the connection for as long as it lives. The driver manager lets one call at a time into a connection,
+// except for the moment in which SQLCancel closes an idle cursor, which is waited for.
+class Nöbet {
+  public:
+    Nöbet(Veritabanı& veri, std::atomic<bool>& iptal) noexcept : m_veri(veri) {
+        while (!m_veri.NöbetAl(iptal)) std::this_thread::yield();
+    }
+    ~Nöbet() { m_veri.NöbetBırak(); }
+    Nöbet(const Nöbet&) = delete;
+    Nöbet& operator=(const Nöbet&) = delete;
+
+  private:
+    Veritabanı& m_veri;
 };
 
 }  // namespace Motor

@@ -4,13 +4,16 @@
 #include "Sozcukleyici.h"
 #include "Utf8.h"
 
+#include <algorithm>
 #include <charconv>
+#include <iterator>
 
 namespace Motor {
 
 namespace {
 
 constexpr int AzamiMetinUzunluğu = 255;
+constexpr std::size_t AzamiDeyimBoyu = 1'000'000;  // bytes
 
 // A recursive-descent parser with one word of look-ahead; each function reads one piece of the grammar in Deyim.h.
 class Çözümleyici {
@@ -24,9 +27,23 @@ class Çözümleyici {
     }
 
   private:
-    void İlerle() { m_sözcük = m_sözcükleyici.Sonraki(); }
+    void İlerle() {
+        m_metinBitti = m_sözcük.Tür == SözcükTürü::Metin;
+        m_sözcük = m_sözcükleyici.Sonraki();
+    }
+
+    // Whether the text before the word that was not understood is the beginning of a name with an apostrophe: what
+    // follows it is neither the end nor what could have been meant there.
+    bool KesmeİşaretindenBozuk() const {
+        if (!m_metinBitti || m_sözcük.Tür == SözcükTürü::Son || m_sözcük.Metin == ";") return false;
+        if (m_metin[m_sözcük.Yer - 1] == '\'') return true;
+        constexpr std::string_view sqlSözcükleri[] = {"AND", "OR", "NOT", "WHERE", "ORDER", "GROUP", "UNION", "LIKE"};
+        return std::none_of(std::begin(sqlSözcükleri), std::end(sqlSözcükleri),
+                            [this](std::string_view sözcük) { return AsciiEşit(m_sözcük.Metin, sözcük); });
+    }
 
     [[noreturn]] void Bekleniyordu(std::string_view ne) const {
+        if (KesmeİşaretindenBozuk()) Sözcükleyici::KesmeİşaretiHatası();
         const std::size_t sıra = Sözcükleyici::KarakterSırası(m_metin, m_sözcük.Yer);
         throw Hata(Durum::SözDizimi, "Deyim anlaşılamadı: " + std::to_string(sıra) + ". karakterde " + std::string(ne) +
                                          " bekleniyordu.");
@@ -253,12 +270,19 @@ class Çözümleyici {
     std::string_view m_metin;
     Sözcükleyici m_sözcükleyici;
     Sözcük m_sözcük;
+    bool m_metinBitti = false;  // the word before was a text literal
 };
 
 }  // namespace
 
 Deyim Çözümle(std::string_view metin) {
-    return Çözümleyici(metin).Oku();
+    if (metin.size() > AzamiDeyimBoyu) throw Hata(Durum::SözDizimi, "Deyim çok uzun; işlem yapılmadı.");
+    try {
+        return Çözümleyici(metin).Oku();
+    } catch (const Hata&) {
+        if (std::count(metin.begin(), metin.end(), '\'') % 2 != 0) Sözcükleyici::KesmeİşaretiHatası();
+        throw;
+    }
 }
 
 }  // namespace Motor

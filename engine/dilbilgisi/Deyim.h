@@ -89,7 +89,8 @@ using Deyim = std::variant<SeçDeyimi, EkleDeyimi, GüncelleDeyimi, SilDeyimi, T
 //   CREATE TABLE table (column TEXT[(n)] | CURRENCY | DOUBLE | DATETIME [DEFAULT number] [NOT NULL], ...)
 //   CREATE [UNIQUE] INDEX name ON table (column [ASC | DESC], ...)
 // Keywords and names are ASCII and know no case. A literal is 'text', a number with a decimal point, or #m/d/yyyy#; a
-// text cannot contain its quote, and nothing may follow the statement. Throws Hata (37000, 22008) otherwise.
+// text cannot contain its quote, nothing may follow the statement, and it has at most a million bytes. Throws Hata
+// (37000, 22008) otherwise.
 Deyim Çözümle(std::string_view metin);
 
 }  // namespace Motor

@@ -16,9 +16,6 @@ bool Boşluk(char harf) {
 bool RakamMı(char harf) {
     return harf >= '0' && harf <= '9';
 }
-bool AdHarfi(char harf) {
-    return (harf >= 'A' && harf <= 'Z') || (harf >= 'a' && harf <= 'z') || harf == '_' || RakamMı(harf);
-}
 
 // Takes a number of at most `azami` digits off the front; -1 when there is none.
 int SayıAl(std::string_view& metin, std::size_t azami) {
@@ -48,6 +45,10 @@ std::int64_t TarihÇöz(std::string_view metin) {
 
 }  // namespace
 
+bool Sözcükleyici::AdHarfi(char harf) noexcept {
+    return (harf >= 'A' && harf <= 'Z') || (harf >= 'a' && harf <= 'z') || harf == '_' || RakamMı(harf);
+}
+
 std::size_t Sözcükleyici::KarakterSırası(std::string_view metin, std::size_t yer) noexcept {
     std::size_t sıra = 1;
     for (const char harf : metin.substr(0, yer))
@@ -65,12 +66,15 @@ Sözcük Sözcükleyici::Oku(SözcükTürü tür, std::size_t son) {
     return sözcük;
 }
 
+void Sözcükleyici::KesmeİşaretiHatası() {
+    throw Hata(Durum::SözDizimi,
+               "Adlarda kesme işareti (') kullanılamaz; işlem yapılmadı. İşareti silip yeniden deneyin.");
+}
+
 Sözcük Sözcükleyici::MetinOku() {
     const std::size_t son = m_metin.find('\'', m_yer + 1);
-    if (son == std::string_view::npos)
-        throw Hata(Durum::SözDizimi, "Deyim anlaşılamadı: tek tırnakla başlayan metin kapatılmamış.");
-    if (son + 1 < m_metin.size() && m_metin[son + 1] == '\'')
-        throw Hata(Durum::SözDizimi, "Deyim anlaşılamadı: metinlerde tek tırnak (') kullanılamaz.");
+    const bool çift = son != std::string_view::npos && son + 1 < m_metin.size() && m_metin[son + 1] == '\'';
+    if (son == std::string_view::npos || çift) KesmeİşaretiHatası();
     Sözcük sözcük = Oku(SözcükTürü::Metin, son + 1);
     sözcük.Metin = sözcük.Metin.substr(1, sözcük.Metin.size() - 2);
     if (!Utf8Geçerli(sözcük.Metin) || sözcük.Metin.find('\0') != std::string_view::npos)

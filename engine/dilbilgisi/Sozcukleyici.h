@@ -24,8 +24,15 @@ class Sözcükleyici {
     // closing quote, a bad date, a character that no statement has, and bytes that are no UTF-8.
     Sözcük Sonraki();
 
+    // Whether a name of a table, a column or an index may hold this byte.
+    static bool AdHarfi(char harf) noexcept;
+
     // "N. karakterde" for a byte offset, counted in characters from 1.
     static std::size_t KarakterSırası(std::string_view metin, std::size_t yer) noexcept;
+
+    // A statement is put together around names, so the one that breaks it is a name with an apostrophe; its user never
+    // sees the statement.
+    [[noreturn]] static void KesmeİşaretiHatası();
 
   private:
     Sözcük Oku(SözcükTürü tür, std::size_t son);

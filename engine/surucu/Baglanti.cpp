@@ -20,12 +20,19 @@ SQLRETURN Bağlantı::Bağlan(std::string_view veriKaynağı, std::string_view p
     öznitelikler.Ekle("DSN", std::string(veriKaynağı));
     if (!parola.empty()) öznitelikler.Ekle("PWD", std::string(parola));
     Aç(öznitelikler);
-    return SQL_SUCCESS;
+    return BağlantıyıAnlat(SQL_SUCCESS);
 }
 
 SQLRETURN Bağlantı::MetinleBağlan(std::string_view metin, SQLCHAR* çıkış, SQLSMALLINT boy, SQLSMALLINT* uzunluk) {
     Aç(Öznitelikler::BağlantıMetninden(metin));
-    return MetinVer(Tanı, metin, çıkış, boy, uzunluk);
+    return BağlantıyıAnlat(MetinVer(Tanı, metin, çıkış, boy, uzunluk));
+}
+
+// A file that cannot be written to is told while connecting, not only at the first change.
+SQLRETURN Bağlantı::BağlantıyıAnlat(SQLRETURN sonuç) {
+    if (!m_veri->SaltOkunur()) return sonuç;
+    Tanı.Ekle(Hata(Durum::Uyarı, "Veri dosyası salt okunur; değişiklikler kaydedilemez.", SQLITE_READONLY));
+    return SQL_SUCCESS_WITH_INFO;
 }
 
 SQLRETURN Bağlantı::Ayrıl() {
@@ -46,18 +53,23 @@ Veritabanı& Bağlantı::Veri() {
 }
 
 SQLRETURN Bağlantı::HareketiBitir(SQLUSMALLINT tür) {
+    Veritabanı& veri = Veri();
+    const Nöbet nöbet(veri, m_iptalsiz);
     if (tür == SQL_COMMIT)
-        Veri().Onayla();
+        veri.Onayla();
     else
-        Veri().GeriAl();
+        veri.GeriAl();
     return SQL_SUCCESS;
 }
 
 SQLRETURN Bağlantı::AyarYaz(SQLUSMALLINT ayar, SQLULEN değer) {
     switch (ayar) {
-        case SQL_AUTOCOMMIT:
-            Veri().ElleOnayla(değer == SQL_AUTOCOMMIT_OFF);
+        case SQL_AUTOCOMMIT: {
+            Veritabanı& veri = Veri();
+            const Nöbet nöbet(veri, m_iptalsiz);
+            veri.ElleOnayla(değer == SQL_AUTOCOMMIT_OFF);
             return SQL_SUCCESS;
+        }
         case SQL_ACCESS_MODE:
         case SQL_LOGIN_TIMEOUT:
         case SQL_QUIET_MODE:
@@ -77,7 +89,7 @@ SQLRETURN Bağlantı::AyarOku(SQLUSMALLINT ayar, SQLPOINTER değer) {
         case SQL_AUTOCOMMIT:
             return yaz(m_veri && m_veri->ElleOnaylanıyor() ? SQL_AUTOCOMMIT_OFF : SQL_AUTOCOMMIT_ON);
         case SQL_ACCESS_MODE:
-            return yaz(SQL_MODE_READ_WRITE);
+            return yaz(m_veri && m_veri->SaltOkunur() ? SQL_MODE_READ_ONLY : SQL_MODE_READ_WRITE);
         case SQL_LOGIN_TIMEOUT:
             return yaz(0);
         case SQL_TXN_ISOLATION:

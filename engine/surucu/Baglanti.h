@@ -4,6 +4,7 @@
 #include "Tani.h"
 #include "Veritabani.h"
 
+#include <atomic>
 #include <memory>
 #include <vector>
 
@@ -30,7 +31,14 @@ class Bağlantı {
     SQLRETURN MetinleBağlan(std::string_view metin, SQLCHAR* çıkış, SQLSMALLINT boy, SQLSMALLINT* uzunluk);
     SQLRETURN Ayrıl();
 
-    void Sahiplen(std::unique_ptr<BağlıNesne> nesne) { m_bağlılar.push_back(std::move(nesne)); }
+    // Makes an object of this connection; nothing is left behind when that fails.
+    template <class Nesne>
+    Nesne* Doğur() {
+        auto nesne = std::make_unique<Nesne>(*this);
+        Nesne* ham = nesne.get();
+        m_bağlılar.push_back(std::move(nesne));
+        return ham;
+    }
     void Bırak(const BağlıNesne* nesne) noexcept;
 
     SQLRETURN HareketiBitir(SQLUSMALLINT tür);
@@ -43,8 +51,10 @@ class Bağlantı {
 
   private:
     void Aç(const Öznitelikler& öznitelikler);
+    SQLRETURN BağlantıyıAnlat(SQLRETURN sonuç);
 
     std::unique_ptr<Veritabanı> m_veri;
+    std::atomic<bool> m_iptalsiz = false;  // no statement's work
     std::vector<std::unique_ptr<BağlıNesne>> m_bağlılar;
     std::string m_veriKaynağı;
     std::string m_yol;

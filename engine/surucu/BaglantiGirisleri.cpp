@@ -19,6 +19,7 @@ SQLRETURN SQL_API SQLFreeEnv(SQLHENV ortam) {
 
 SQLRETURN SQL_API SQLAllocConnect(SQLHENV ortam, SQLHDBC* bağlantı) {
     return Koru<Ortam>(ortam, [&](Ortam&) {
+        *bağlantı = nullptr;
         *bağlantı = new Bağlantı;
         return SQL_SUCCESS;
     });

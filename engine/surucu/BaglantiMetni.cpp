@@ -1,10 +1,12 @@
 #include "BaglantiMetni.h"
 
+#include "Hata.h"
 #include "Utf8.h"
 
 #include <odbcinst.h>
 
 #include <array>
+#include <cstring>
 
 namespace Motor {
 
@@ -86,6 +88,8 @@ std::string VeriKaynağıDeğeri(const std::string& veriKaynağı, const std::st
     if (!veriKaynağı.empty())
         SQLGetPrivateProfileString(veriKaynağı.c_str(), anahtar.c_str(), "", değer.data(),
                                    static_cast<int>(değer.size()), "odbc.ini");
+    if (std::strlen(değer.data()) + 1 == değer.size())  // cut, most likely
+        throw Hata(Durum::Bağlanamadı, "Veri kaynağının \"" + anahtar + "\" değeri çok uzun.");
     return değer.data();
 }
 

@@ -25,7 +25,8 @@ class Öznitelikler {
     std::vector<std::pair<std::string, std::string>> m_çiftler;
 };
 
-// A value that the user's or the system's odbc.ini holds for a data source; "" when it has none.
+// A value that the user's or the system's odbc.ini holds for a data source; "" when it has none. Throws Hata (08001)
+// for one longer than any path.
 std::string VeriKaynağıDeğeri(const std::string& veriKaynağı, const std::string& anahtar);
 
 }  // namespace Motor

@@ -71,7 +71,6 @@ constexpr MetinBilgisi MetinBilgileri[] = {
     {SQL_DRIVER_ODBC_VER, "02.50"},
     {SQL_DBMS_NAME, "Varnek"},
     {SQL_DBMS_VER, "02.02.0004"},
-    {SQL_DATA_SOURCE_READ_ONLY, "N"},
     {SQL_ACCESSIBLE_TABLES, "Y"},
     {SQL_ACCESSIBLE_PROCEDURES, "N"},
     {SQL_COLUMN_ALIAS, "Y"},
@@ -112,6 +111,8 @@ SQLRETURN Bağlantı::BilgiVer(SQLUSMALLINT bilgi, SQLPOINTER değer, SQLSMALLIN
     for (const MetinBilgisi& metin : MetinBilgileri)
         if (metin.Bilgi == bilgi) return MetinVer(Tanı, metin.Değer, değer, boy, uzunluk);
     switch (bilgi) {
+        case SQL_DATA_SOURCE_READ_ONLY:
+            return MetinVer(Tanı, m_veri && m_veri->SaltOkunur() ? "Y" : "N", değer, boy, uzunluk);
         case SQL_DATA_SOURCE_NAME:
             return MetinVer(Tanı, m_veriKaynağı, değer, boy, uzunluk);
         case SQL_DATABASE_NAME:

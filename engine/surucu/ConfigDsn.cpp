@@ -1,11 +1,11 @@
 // What the installer calls: registering the data source, creating and compacting data files.
 #include "Bakim.h"
 #include "BaglantiMetni.h"
-#include "Hata.h"
+#include "Tani.h"
 
 #include <odbcinst.h>
 
-#include <exception>
+#include <new>
 
 namespace {
 
@@ -57,8 +57,12 @@ bool İsteğiYürüt(WORD istek, const char* sürücü, const Öznitelikler& öz
 extern "C" BOOL INSTAPI ConfigDSN(HWND, WORD istek, LPCSTR sürücü, LPCSTR liste) {
     try {
         return İsteğiYürüt(istek, sürücü, Öznitelikler::Listeden(liste));
-    } catch (const std::exception& hata) {
+    } catch (const Hata& hata) {
         SQLPostInstallerError(ODBC_ERROR_REQUEST_FAILED, hata.what());
+    } catch (const std::bad_alloc&) {
+        SQLPostInstallerError(ODBC_ERROR_OUT_OF_MEM, "Bellek yetmedi.");
+    } catch (...) {
+        SQLPostInstallerError(ODBC_ERROR_REQUEST_FAILED, BeklenmeyenHata.data());
     }
     return false;
 }

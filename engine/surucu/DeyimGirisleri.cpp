@@ -7,9 +7,8 @@ extern "C" {
 
 SQLRETURN SQL_API SQLAllocStmt(SQLHDBC bağlantı, SQLHSTMT* deyim) {
     return Koru<Bağlantı>(bağlantı, [&](Bağlantı& nesne) {
-        auto yeni = std::make_unique<DeyimNesnesi>(nesne);
-        *deyim = yeni.get();
-        nesne.Sahiplen(std::move(yeni));
+        *deyim = nullptr;
+        *deyim = nesne.Doğur<DeyimNesnesi>();
         return SQL_SUCCESS;
     });
 }
@@ -62,8 +61,11 @@ SQLRETURN SQL_API SQLMoreResults(SQLHSTMT deyim) {
     return Koru<DeyimNesnesi>(deyim, [](DeyimNesnesi&) { return SQL_NO_DATA; });
 }
 
+// May be called while the statement is at work in another thread, so its diagnostics are left alone.
 SQLRETURN SQL_API SQLCancel(SQLHSTMT deyim) {
-    return Koru<DeyimNesnesi>(deyim, [](DeyimNesnesi& nesne) { return nesne.Kes(); });
+    if (!deyim) return SQL_INVALID_HANDLE;
+    static_cast<DeyimNesnesi*>(deyim)->Kes();
+    return SQL_SUCCESS;
 }
 
 SQLRETURN SQL_API SQLNumResultCols(SQLHSTMT deyim, SQLSMALLINT* sayı) {

@@ -8,46 +8,59 @@
 namespace Motor {
 
 SQLRETURN DeyimNesnesi::Hazırla(std::string_view metin) {
-    İmleciKapat();
+    const Nöbet nöbet(m_veri, m_iptal);
+    YenidenBaşla();
     m_komut.reset();
-    m_komut = m_bağlantı.Veri().Çevir(metin);
+    m_komut = m_veri.Çevir(metin);
     return SQL_SUCCESS;
 }
 
 SQLRETURN DeyimNesnesi::HazırıÇalıştır() {
+    const Nöbet nöbet(m_veri, m_iptal);
+    YenidenBaşla();
     if (!m_komut) throw Hata(Durum::SıraHatası, "Hazırlanmış bir deyim yok.");
     return Başlat(*m_komut);
 }
 
 SQLRETURN DeyimNesnesi::Çalıştır(std::string_view metin) {
-    return Başlat(m_bağlantı.Veri().Çevir(metin));
+    const Nöbet nöbet(m_veri, m_iptal);
+    YenidenBaşla();
+    return Başlat(m_veri.Çevir(metin));
 }
 
 SQLRETURN DeyimNesnesi::TablolarıListele(std::string_view tablo, std::string_view türler) {
+    const Nöbet nöbet(m_veri, m_iptal);
+    YenidenBaşla();
     return Başlat(TablolarKomutu(tablo, türler));
 }
 
 SQLRETURN DeyimNesnesi::SütunlarıListele(std::string_view tablo, std::string_view sütun) {
+    const Nöbet nöbet(m_veri, m_iptal);
+    YenidenBaşla();
     return Başlat(SütunlarKomutu(tablo, sütun));
+}
+
+void DeyimNesnesi::YenidenBaşla() noexcept {
+    İmleciKapat();
+    m_iptal = false;
 }
 
 // A query's first row is fetched at once: a locked or damaged file shows while the statement is executed, where clients
 // look for errors. A query without rows gives the file's lock back at once.
 SQLRETURN DeyimNesnesi::Başlat(SqliteKomutu komut) {
-    İmleciKapat();
     m_komut = std::move(komut);
     if (m_komut->Tür != SqliteKomutu::Sınıf::Sorgu) {
-        m_etkilenen = m_bağlantı.Veri().Uygula(*m_komut);
+        m_etkilenen = m_veri.Uygula(*m_komut);
         return SQL_SUCCESS;
     }
-    Sorgu sorgu = m_bağlantı.Veri().Sorgula(*m_komut);
+    Sorgu sorgu = m_veri.Sorgula(*m_komut);
     m_ilkSatırBekliyor = sorgu.Adım();
     m_sorgu = std::move(sorgu);
     m_bitti = !m_ilkSatırBekliyor;
     return SQL_SUCCESS;
 }
 
-void DeyimNesnesi::İmleciKapat() {
+void DeyimNesnesi::İmleciKapat() noexcept {
     m_sorgu.reset();
     m_etkilenen = -1;
     m_ilkSatırBekliyor = m_satırda = m_bitti = false;
@@ -55,16 +68,34 @@ void DeyimNesnesi::İmleciKapat() {
 }
 
 SQLRETURN DeyimNesnesi::Kapat(SQLUSMALLINT seçenek) {
+    const Nöbet nöbet(m_veri, m_iptal);
     if (seçenek == SQL_CLOSE) İmleciKapat();
     return SQL_SUCCESS;
 }
 
-SQLRETURN DeyimNesnesi::Kes() {
-    m_bağlantı.Veri().Kes();
-    return SQL_SUCCESS;
+void DeyimNesnesi::Kes() noexcept {
+    if (!m_veri.NöbetAl(m_iptal)) {
+        m_iptal = true;  // should another statement be at work just now, this one's cursor closes at its next use
+        return;
+    }
+    İmleciKapat();
+    m_veri.NöbetBırak();
+}
+
+void DeyimNesnesi::Bırak() noexcept {
+    {
+        const Nöbet nöbet(m_veri, m_iptal);
+        İmleciKapat();
+    }
+    m_bağlantı.Bırak(this);
 }
 
 SQLRETURN DeyimNesnesi::Getir() {
+    const Nöbet nöbet(m_veri, m_iptal);
+    if (m_iptal.exchange(false)) {
+        İmleciKapat();
+        throw Hata(Durum::İptal, "İşlem iptal edildi.");
+    }
     if (!m_sorgu) throw Hata(Durum::İmleçDurumu, "Okunacak bir sorgu sonucu yok.");
     m_okunanSütun = 0;
     m_satırda = false;
@@ -79,6 +110,7 @@ SQLRETURN DeyimNesnesi::Getir() {
 
 SQLRETURN DeyimNesnesi::VeriAl(SQLUSMALLINT sütun, SQLSMALLINT hedefTürü, SQLPOINTER tampon, SQLLEN boy,
                                SQLLEN* uzunluk) {
+    const Nöbet nöbet(m_veri, m_iptal);
     if (!m_satırda) throw Hata(Durum::İmleçDurumu, "Okunacak bir satır yok.");
     const SütunTürü tür = Sütun(sütun).Tür;
     const bool metinOlarak =
@@ -121,7 +153,7 @@ SQLRETURN DeyimNesnesi::ParçaVer(std::string_view metin, SQLPOINTER tampon, SQL
 }
 
 SQLRETURN DeyimNesnesi::SütunSayısı(SQLSMALLINT* sayı) {
-    if (sayı) *sayı = m_komut ? static_cast<SQLSMALLINT>(m_komut->Sütunlar.size()) : 0;
+    if (sayı) *sayı = m_komut ? KısaUzunluk(m_komut->Sütunlar.size()) : 0;
     return SQL_SUCCESS;
 }
 

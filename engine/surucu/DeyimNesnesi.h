@@ -2,6 +2,7 @@
 
 #include "Baglanti.h"
 
+#include <atomic>
 #include <optional>
 
 namespace Motor {
@@ -9,7 +10,7 @@ namespace Motor {
 // An ODBC statement: at most one running query or one finished change.
 class DeyimNesnesi : public BağlıNesne {
   public:
-    explicit DeyimNesnesi(Bağlantı& bağlantı) : m_bağlantı(bağlantı) {}
+    explicit DeyimNesnesi(Bağlantı& bağlantı) : m_bağlantı(bağlantı), m_veri(bağlantı.Veri()) {}
 
     Tanılar Tanı;
 
@@ -19,8 +20,12 @@ class DeyimNesnesi : public BağlıNesne {
     SQLRETURN TablolarıListele(std::string_view tablo, std::string_view türler);
     SQLRETURN SütunlarıListele(std::string_view tablo, std::string_view sütun);
     SQLRETURN Kapat(SQLUSMALLINT seçenek);
-    SQLRETURN Kes();
-    void Bırak() noexcept { m_bağlantı.Bırak(this); }  // ends the object
+
+    // From any thread: ends what this statement is doing (S1008), or closes its cursor when it does nothing. Other
+    // statements of the connection go on.
+    void Kes() noexcept;
+
+    void Bırak() noexcept;  // ends the object
 
     SQLRETURN Getir();
 
@@ -39,11 +44,14 @@ class DeyimNesnesi : public BağlıNesne {
 
   private:
     const SütunTanımı& Sütun(SQLUSMALLINT sıra) const;
+    void YenidenBaşla() noexcept;
     SQLRETURN Başlat(SqliteKomutu komut);
-    void İmleciKapat();
+    void İmleciKapat() noexcept;
     SQLRETURN ParçaVer(std::string_view metin, SQLPOINTER tampon, SQLLEN boy, SQLLEN* uzunluk);
 
     Bağlantı& m_bağlantı;
+    Veritabanı& m_veri;
+    std::atomic<bool> m_iptal = false;
     std::optional<SqliteKomutu> m_komut;  // prepared or running
     std::optional<Sorgu> m_sorgu;         // open cursor
     std::int64_t m_etkilenen = -1;

@@ -4,19 +4,17 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 
 namespace Motor {
 
-void Tanılar::Ekle(Hata hata) noexcept {
-    try {
-        m_kayıtlar.push_back(std::move(hata));
-    } catch (...) {  // without memory the return code alone tells
-    }
+void Tanılar::Ekle(const Hata& hata) noexcept {
+    if (m_sayı < m_kayıtlar.size()) m_kayıtlar[m_sayı++] = hata;
 }
 
 SQLRETURN Tanılar::Al(SQLCHAR* durum, SQLINTEGER* yerel, SQLCHAR* mesaj, SQLSMALLINT boy,
                       SQLSMALLINT* uzunluk) noexcept {
-    if (m_kayıtlar.empty()) {
+    if (m_sayı == 0) {
         MetinKopyala("00000", durum, SQL_SQLSTATE_SIZE + 1);
         MetinKopyala("", mesaj, boy);
         if (uzunluk) *uzunluk = 0;
@@ -26,8 +24,9 @@ SQLRETURN Tanılar::Al(SQLCHAR* durum, SQLINTEGER* yerel, SQLCHAR* mesaj, SQLSMA
     MetinKopyala(hata.Durum(), durum, SQL_SQLSTATE_SIZE + 1);
     if (yerel) *yerel = hata.Yerel();
     const bool kesildi = MetinKopyala(hata.Mesaj(), mesaj, boy);
-    if (uzunluk) *uzunluk = static_cast<SQLSMALLINT>(hata.Mesaj().size());
-    m_kayıtlar.erase(m_kayıtlar.begin());
+    if (uzunluk) *uzunluk = KısaUzunluk(hata.Mesaj().size());
+    std::copy(m_kayıtlar.begin() + 1, m_kayıtlar.begin() + m_sayı, m_kayıtlar.begin());
+    --m_sayı;
     return kesildi ? SQL_SUCCESS_WITH_INFO : SQL_SUCCESS;
 }
 
@@ -40,8 +39,13 @@ bool MetinKopyala(std::string_view metin, void* tampon, SQLLEN boy) noexcept {
     return sığan.size() < metin.size();
 }
 
+SQLSMALLINT KısaUzunluk(std::size_t uzunluk) noexcept {
+    constexpr std::size_t enÇok = std::numeric_limits<SQLSMALLINT>::max();
+    return static_cast<SQLSMALLINT>(std::min(uzunluk, enÇok));
+}
+
 SQLRETURN MetinVer(Tanılar& tanılar, std::string_view metin, void* tampon, SQLSMALLINT boy, SQLSMALLINT* uzunluk) {
-    if (uzunluk) *uzunluk = static_cast<SQLSMALLINT>(metin.size());
+    if (uzunluk) *uzunluk = KısaUzunluk(metin.size());
     if (!MetinKopyala(metin, tampon, boy)) return SQL_SUCCESS;
     tanılar.Ekle(Hata(Durum::Kesildi, "Metin tampona sığmadığı için kesildi."));
     return SQL_SUCCESS_WITH_INFO;

@@ -1,6 +1,7 @@
 #include "BuyukVeri.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "VeriDeyimleri.h"
 #include "VeriBaglantisi.h"
@@ -38,6 +39,9 @@ void BüyükVeriYaz(VeriBağlantısı& bağlantı, int satırSayısı, QDate bug
         YarıdaKesildiMi();
         bağlantı.Çalıştır(VeriDeyimleri::MalzemeEkle(BüyükMalzemeAdı(i), Fiyat(i)));
     }
+    // A step without a common divisor with the catalogue's size keeps a product's materials apart and uses them all.
+    int adım = 7919;
+    while (std::gcd(adım, malzemeSayısı) != 1) ++adım;
     QString grup;
     QString ürün;
     QString tarih;
@@ -51,8 +55,7 @@ void BüyükVeriYaz(VeriBağlantısı& bağlantı, int satırSayısı, QDate bug
             bağlantı.Çalıştır(VeriDeyimleri::ÜrünEkle(grup, ürün));
             bağlantı.Çalıştır(VeriDeyimleri::YüzdeleriYaz(grup, ürün, u"12,50", u"20,00", u"-3,25", u"4,75"));
         }
-        // A step without a common divisor with the catalogue's size keeps a product's materials apart.
-        const int malzeme = int(qint64(satır) * 7919 % malzemeSayısı);
+        const int malzeme = int(qint64(satır) * adım % malzemeSayısı);
         const QString miktar = u"%1,%2 Adet"_s.arg(satır % 90 + 1).arg(satır % 100, 2, 10, QChar(u'0'));
         bağlantı.Çalıştır(
             VeriDeyimleri::KullanılanMalzemeEkle(tarih, grup, ürün, BüyükMalzemeAdı(malzeme), miktar, Fiyat(malzeme)));

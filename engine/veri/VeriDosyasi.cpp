@@ -7,7 +7,6 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
-#include <cstring>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -44,7 +43,7 @@ constexpr const char16_t* KULLANIM_DİZİNLERİ[] = {
 // QFile::rename would copy over a file that appears in the last moment.
 void ÜzerineYazmadanTaşı(const QString& kaynak, const QString& hedef) {
     if (renameat2(AT_FDCWD, QFile::encodeName(kaynak), AT_FDCWD, QFile::encodeName(hedef), RENAME_NOREPLACE) != 0) {
-        throw VeriHatası(u"%1 adı verilemedi: %2"_s.arg(hedef, QString::fromLocal8Bit(std::strerror(errno))));
+        throw VeriHatası(u"%1 adı verilemedi (sistem hatası %2); klasörü ve diski denetleyin."_s.arg(hedef).arg(errno));
     }
 }
 
@@ -74,7 +73,7 @@ void VeriDosyasıYap(const QString& hedef, const std::function<void(VeriBağlant
     }
     const QTemporaryDir klasör(yol + u".yapiliyor-XXXXXX"_s);
     if (!klasör.isValid()) {
-        throw VeriHatası(u"%1 klasörüne yazılamıyor: %2"_s.arg(bilgi.absolutePath(), klasör.errorString()));
+        throw VeriHatası(u"%1 klasörüne yazılamıyor; yazma iznini ve diski denetleyin."_s.arg(bilgi.absolutePath()));
     }
     const QString geçici = klasör.filePath(u"Yeni.vtb"_s);
     BoşVeriDosyasıOluştur(geçici);

@@ -26,7 +26,7 @@ class AnaFormErişimi {
     // no node has changes nothing.
     virtual void DüğümüSeç(std::int32_t sıra) = 0;
 
-    // The selected product; nothing while a group or no node is selected.
+    // The selected product; nothing while a group or no node is selected, or while the product is not loaded whole.
     virtual std::optional<Ürün> SeçiliÜrün() const = 0;
 
     // Names in the selected product's list of used materials, as shown.

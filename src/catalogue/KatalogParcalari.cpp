@@ -2,7 +2,6 @@
 
 #include <QDialog>
 #include <QLabel>
-#include <QListWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -12,6 +11,7 @@
 #include "KomutDugmesi.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
+#include "MetinTemsilcisi.h"
 
 using MesajKutusu::Düğmeler;
 using MesajKutusu::Simge;
@@ -38,14 +38,19 @@ QLabel* KatalogEtiketi(int sıra, int metin, QWidget* kutu) {
     return etiket;
 }
 
-QListWidget* KatalogListesi(const QString& ad) {
-    auto* liste = new QListWidget;
-    liste->setObjectName(ad);
-    liste->setUniformItemSizes(true);
-    liste->setTextElideMode(Qt::ElideRight);
-    liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    Enterİleİlerlesin(liste);
-    return liste;
+KatalogListesi::KatalogListesi(const QString& ad) {
+    setObjectName(ad);
+    setUniformItemSizes(true);
+    setTextElideMode(Qt::ElideRight);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setItemDelegate(new MetinTemsilcisi(this));
+    Enterİleİlerlesin(this);
+}
+
+void TutaraYerAç(QWidget* kutu) {
+    constexpr int çerçeve = 16;  // pixels of the box beside its text
+    kutu->setMinimumWidth(kutu->fontMetrics().horizontalAdvance(QStringLiteral("922.337.203.685.477,580800")) +
+                          çerçeve);
 }
 
 QWidget* KatalogAltlığı(QDialog* form) {
@@ -57,6 +62,11 @@ QWidget* KatalogAltlığı(QDialog* form) {
     düzen->setContentsMargins(0, 0, 0, 0);
     düzen->addWidget(altlık);
     return altlık;
+}
+
+void YarımKaldı(int metin, const QString& ek) {
+    MesajKutusuOrtala();
+    MesajKutusu::Göster(Simge::Ünlem, Düğmeler::Tamam, Metin(metin) + ek);
 }
 
 bool Uyar(int metin, QWidget& kutu) {

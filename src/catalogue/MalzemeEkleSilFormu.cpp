@@ -4,7 +4,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListWidget>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -12,11 +11,11 @@
 #include "DegiskenModulu.h"
 #include "Deyimler.h"
 #include "GirisKutusu.h"
+#include "HataYakala.h"
 #include "KatalogParcalari.h"
 #include "KomutDugmesi.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
-#include "OdbcModulu.h"
 #include "OnekArama.h"
 #include "SayiKutusu.h"
 #include "SayiMetni.h"
@@ -25,6 +24,16 @@
 using MesajKutusu::Düğmeler;
 using MesajKutusu::Simge;
 using MesajKutusu::Yanıt;
+
+namespace {
+
+// Texts for what ended half way, and for a row that is no longer stored.
+constexpr int SilinmişMalzemeMetni = 2170;
+constexpr int FiyatÜrünlerdeEskiMetni = 2171;
+constexpr int FiyatKatalogdaEskiMetni = 2172;
+constexpr int ÜrünlerdenSilinemediMetni = 2173;
+
+}  // namespace
 
 MalzemeEkleSilFormu::MalzemeEkleSilFormu(AnaFormErişimi& anaForm, QWidget* sahip) : QDialog(sahip), m_anaForm(anaForm) {
     setObjectName(QStringLiteral("MalzemeEkleSilFormu"));
@@ -38,8 +47,8 @@ void MalzemeEkleSilFormu::KontrolleriKur() {
     m_bul->setObjectName(QStringLiteral("MalzemeBulKutusu"));
     m_bul->setMaxLength(EnUzunAd);
     connect(m_bul, &QLineEdit::textChanged, this, [this] { MalzemeBulKutusu_Change(); });
-    m_liste = KatalogListesi(QStringLiteral("MalzemeListesi"));
-    connect(m_liste, &QListWidget::currentRowChanged, this, [this] { SeçileniGöster(); });
+    m_liste = new KatalogListesi(QStringLiteral("MalzemeListesi"));
+    m_liste->Seçilince([this] { HataYakala([this] { SeçileniGöster(); }); });
 
     m_çerçeve = new QFrame;
     m_çerçeve->setObjectName(QStringLiteral("Çerçeve"));
@@ -49,6 +58,7 @@ void MalzemeEkleSilFormu::KontrolleriKur() {
     m_ad->setObjectName(QStringLiteral("MalzemeAdıKutusu"));
     m_fiyat = new SayıKutusu(SayıKutusu::Tür::Tutar);
     m_fiyat->setObjectName(QStringLiteral("MalzemeFiyatıKutusu"));
+    TutaraYerAç(m_fiyat);
 
     m_ekleKaydet = KatalogDüğmesi(QStringLiteral("MalzemeEkleKaydetButonu"), {650, 520},
                                   [this] { MalzemeEkleKaydetButonu_Click(); });
@@ -113,20 +123,23 @@ void MalzemeEkleSilFormu::SatırıSeç(int satır) {
     SeçileniGöster();
 }
 
-void MalzemeEkleSilFormu::SeçileniGöster() {
+Kayıt MalzemeEkleSilFormu::SeçileniGöster() {
     m_ad->clear();
     m_fiyat->clear();
-    const QListWidgetItem* seçili = m_liste->currentItem();
-    if (!seçili) return;
+    const QListWidgetItem* seçili = m_liste->SeçiliÖğe();
+    if (!seçili) return Kayıt::Yok;
     QString ad;
     QString fiyat;
     const Kayıt kayıt = KaydıOku(Deyimler::MalzemeVeFiyatı(seçili->text()), [&] {
         ad = SütunOku(1);
         fiyat = NoktayıVirgüleÇevir(SütunOku(2));
     });
-    if (kayıt != Kayıt::Var) return;
-    m_ad->setText(ad);
-    m_fiyat->setText(SayıMetniBiçimle(fiyat, OndalıkBasamak).value_or(fiyat));
+    if (kayıt == Kayıt::Var) {
+        m_ad->setText(ad);
+        m_ad->home(false);  // of a long name the beginning is seen
+        m_fiyat->setText(SayıMetniBiçimle(fiyat, OndalıkBasamak).value_or(fiyat));
+    }
+    return kayıt;
 }
 
 void MalzemeEkleSilFormu::MalzemeBulKutusu_Change() {
@@ -178,7 +191,8 @@ bool MalzemeEkleSilFormu::GirilenlerUygun() {
     if (m_ad->text().isEmpty()) return Uyar(680, *m_ad);
     if (m_fiyat->text().isEmpty()) return Uyar(690, *m_fiyat);
     const Kayıt aynısı = KaydıOku(Deyimler::MalzemeVarMı(m_ad->text()));
-    return aynısı == Kayıt::Var ? Uyar(700, *m_ad) : aynısı == Kayıt::Yok;
+    if (aynısı == Kayıt::Var) return Uyar(700, *m_ad);
+    return aynısı == Kayıt::Yok && m_fiyat->Saklanır();
 }
 
 void MalzemeEkleSilFormu::MalzemeEkleKaydetButonu_Click() {
@@ -202,7 +216,7 @@ void MalzemeEkleSilFormu::MalzemeEkleKaydetButonu_Click() {
 }
 
 void MalzemeEkleSilFormu::MalzemeSilButonu_Click() {
-    const QListWidgetItem* seçili = m_liste->currentItem();
+    const QListWidgetItem* seçili = m_liste->SeçiliÖğe();
     if (!seçili) {
         Uyar(710, *m_liste);
         return;
@@ -214,10 +228,14 @@ void MalzemeEkleSilFormu::MalzemeSilButonu_Click() {
     MesajKutusuOrtala();
     // Products keep the material's name, quantity and price unless the user agrees; No is the safe default.
     if (MesajKutusu::Göster(Simge::Soru, Düğmeler::EvetHayır, Metin(720), {}, Yanıt::Hayır) == Yanıt::Evet) {
-        DeyimiYürüt(Deyimler::MalzemeyiÜrünlerdenSil(ad));
+        if (!DeyimiYürüt(Deyimler::MalzemeyiÜrünlerdenSil(ad))) {
+            // The row stays: through it the material can still be taken out of the products.
+            YarımKaldı(ÜrünlerdenSilinemediMetni);
+            return;
+        }
         SeçiliÜrünüYenile();
     }
-    ListedenKaldır(m_liste->currentRow());
+    ListedenKaldır(m_liste->row(seçili));
 }
 
 void MalzemeEkleSilFormu::ListedenKaldır(int satır) {
@@ -241,24 +259,35 @@ void MalzemeEkleSilFormu::SeçiliÜrünüYenile() {
 
 void MalzemeEkleSilFormu::MalzemeFiyatıDeğiştirButonu_Click() {
     if (GeçerliKip() == Kip::Gözatma) {
-        if (!m_liste->currentItem()) {
-            Uyar(710, *m_liste);
-            return;
-        }
-        SeçileniGöster();
-        FiyatKipineGeç();
-        return;
-    }
-    if (m_fiyat->text().isEmpty()) {
+        FiyatDeğişimineBaşla();
+    } else if (m_fiyat->text().isEmpty()) {
         Uyar(690, *m_fiyat);
+    } else if (m_fiyat->Saklanır()) {
+        FiyatıKaydet();
+    }
+}
+
+void MalzemeEkleSilFormu::FiyatDeğişimineBaşla() {
+    if (!m_liste->SeçiliÖğe()) {
+        Uyar(710, *m_liste);
         return;
     }
-    const QString ad = m_liste->currentItem()->text();
+    // The boxes may hold what was typed and given up; the change begins with what is stored.
+    const Kayıt kayıt = SeçileniGöster();
+    if (kayıt == Kayıt::Yok) Uyar(SilinmişMalzemeMetni, *m_liste);
+    if (kayıt == Kayıt::Var) FiyatKipineGeç();
+}
+
+void MalzemeEkleSilFormu::FiyatıKaydet() {
+    const QString ad = m_liste->SeçiliÖğe()->text();
+    const QString fiyat = m_fiyat->text();
     // The second statement runs whatever became of the first.
-    DeyimiYürüt(Deyimler::FiyatDeğiştir(ad, m_fiyat->text()));
-    DeyimiYürüt(Deyimler::ÜrünlerdeFiyatDeğiştir(ad, m_fiyat->text()));
+    const bool katalogda = DeyimiYürüt(Deyimler::FiyatDeğiştir(ad, fiyat));
+    const bool ürünlerde = DeyimiYürüt(Deyimler::ÜrünlerdeFiyatDeğiştir(ad, fiyat));
+    if (katalogda != ürünlerde) YarımKaldı(katalogda ? FiyatÜrünlerdeEskiMetni : FiyatKatalogdaEskiMetni);
     SeçiliÜrünüYenile();
     FiyattanDön();
+    SeçileniGöster();
     m_fiyatDeğiştir->setFocus();
 }
 

@@ -2,12 +2,14 @@
 
 #include <QDialog>
 
+#include "OdbcModulu.h"
+
 class AdKutusu;
 class AnaFormErişimi;
 class GirişKutusu;
+class KatalogListesi;
 class KomutDüğmesi;
 class QFrame;
-class QListWidget;
 class SayıKutusu;
 
 // Keeps the material catalogue: adds a material with its price, deletes one (from every product too, if the user
@@ -41,15 +43,17 @@ class MalzemeEkleSilFormu : public QDialog {
     void FiyatKipineGeç();
     void FiyattanDön();
     void ListeyiEtkinleştir(bool etkin);
-    void SeçileniGöster();
+    Kayıt SeçileniGöster();
     void SatırıSeç(int satır);
     void ListedenKaldır(int satır);
+    void FiyatDeğişimineBaşla();
+    void FiyatıKaydet();
     void SeçiliÜrünüYenile();
     bool GirilenlerUygun();
 
     AnaFormErişimi& m_anaForm;
     GirişKutusu* m_bul;
-    QListWidget* m_liste;
+    KatalogListesi* m_liste;
     QFrame* m_çerçeve;
     AdKutusu* m_ad;
     SayıKutusu* m_fiyat;

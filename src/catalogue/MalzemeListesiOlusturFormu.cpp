@@ -3,7 +3,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListWidget>
 #include <QVBoxLayout>
 #include <set>
 
@@ -34,9 +33,11 @@ namespace {
 // Columns of the list that is to be transferred.
 enum Sütun { MiktarSütunu, AdSütunu, FiyatSütunu, TutarSütunu };
 
-// Quantity, blank and type together fit a stored text: a quantity of 40 characters has at most 60 once it is formatted.
-constexpr int EnUzunMiktar = 40;
-constexpr int EnUzunTür = EnUzunAd - 1 - 60;
+constexpr int AktarılamayanlarMetni = 2175;
+constexpr qsizetype EnÇokSayılanSatır = 10;  // rows that a message box names
+
+// Quantity, blank and type together fit a stored text: no quantity that can be stored is longer than the box's length.
+constexpr int EnUzunTür = EnUzunAd - 1 - EnUzunSayı;
 
 struct TürkçeKüçük {
     bool operator()(const QString& a, const QString& b) const {
@@ -59,18 +60,16 @@ void MalzemeListesiOluşturFormu::KontrolleriKur() {
     m_bul->setObjectName(QStringLiteral("MalzemeBulKutusu"));
     m_bul->setMaxLength(EnUzunAd);
     connect(m_bul, &QLineEdit::textChanged, this, [this] { MalzemeBulKutusu_Change(); });
-    m_katalog = KatalogListesi(QStringLiteral("MalzemeListesi"));
+    m_katalog = new KatalogListesi(QStringLiteral("MalzemeListesi"));
     connect(m_katalog, &QListWidget::itemDoubleClicked, this,
             [this] { HataYakala([this] { ListeyeEkleButonu_Click(); }); });
-    m_miktar = new SayıKutusu(SayıKutusu::Tür::Tutar);
+    m_miktar = new SayıKutusu(SayıKutusu::Tür::Miktar);
     m_miktar->setObjectName(QStringLiteral("MalzemeMiktarıKutusu"));
-    m_miktar->Düzenlenince([this] {
-        if (m_miktar->text().size() > EnUzunMiktar) m_miktar->setText(m_miktar->text().left(EnUzunMiktar));
-    });
+    TutaraYerAç(m_miktar);
     m_tür = new MiktarTürüKutusu;
     m_tür->setObjectName(QStringLiteral("MiktarTürüListesi"));
     m_tür->lineEdit()->setMaxLength(EnUzunTür);
-    m_eklenecek = new RaporListesi({{412, 5.2, false}, {414, 3.0, false}, {416, 5.0, true}, {418, 4.6, true}});
+    m_eklenecek = new RaporListesi({{412, 5.2, false, true}, {414, 3.0, false}, {416, 5.0, true}, {418, 4.6, true}});
     m_eklenecek->setObjectName(QStringLiteral("EklenecekMalzemeListesi"));
     Enterİleİlerlesin(m_eklenecek);
     connect(m_eklenecek, &QTreeWidget::itemDoubleClicked, this,
@@ -101,8 +100,8 @@ void MalzemeListesiOluşturFormu::Yerleştir() {
     giriş->addWidget(m_ekle, 0, Qt::AlignRight);
     giriş->addStretch();
     auto* üst = new QHBoxLayout;
-    üst->addLayout(katalog, 3);
-    üst->addLayout(giriş, 2);
+    üst->addLayout(katalog, 5);
+    üst->addLayout(giriş, 4);
 
     auto* düğmeler = new QHBoxLayout;
     for (KomutDüğmesi* düğme : {m_çıkar, m_temizle, m_aktar}) düğmeler->addWidget(düğme);
@@ -120,7 +119,7 @@ void MalzemeListesiOluşturFormu::Yerleştir() {
 void MalzemeListesiOluşturFormu::Yükle() {
     const QStringList türler = MiktarTürleri::Oku();
     m_tür->Doldur(türler);
-    MalzemeListesiniYükle(*m_katalog);
+    m_katalogOkundu = MalzemeListesiniYükle(*m_katalog) == Okuma::Tamam;
     if (m_katalog->count() > 0) m_katalog->setCurrentRow(0);
     m_tür->setCurrentIndex(türler.isEmpty() ? -1 : 0);
     ListeDüğmeleriniAyarla();
@@ -144,19 +143,24 @@ void MalzemeListesiOluşturFormu::ListeDüğmeleriniAyarla() {
 }
 
 bool MalzemeListesiOluşturFormu::GirilenlerUygun() {
-    if (!m_katalog->currentItem()) return Uyar(710, *m_katalog);
+    if (!m_katalog->SeçiliÖğe()) return Uyar(710, *m_katalog);
     if (m_miktar->text().isEmpty()) return Uyar(820, *m_miktar);
     const QString tür = m_tür->currentText().trimmed();
     if (tür.isEmpty()) return Uyar(830, *m_tür);
-    // The type is remembered before the quantity is judged.
+    TürüHatırla(tür);  // before the quantity is judged
+    // Only zero is refused, though the message speaks of 1.
+    if (DoubleOku(m_miktar->text()).value_or(0) == 0) return Uyar(840, *m_miktar);
+    return m_miktar->Saklanır();
+}
+
+void MalzemeListesiOluşturFormu::TürüHatırla(const QString& tür) {
     QStringList türler;
     for (int sıra = 0; sıra < m_tür->count(); ++sıra) türler.append(m_tür->itemText(sıra));
     MiktarTürleri::Hatırla(türler, tür);
     m_tür->Doldur(türler);
+    // The list goes on from the type that the box shows.
+    m_tür->setCurrentIndex(static_cast<int>(türler.indexOf(tür)));
     m_tür->setEditText(tür);
-    // Only zero is refused, though the message speaks of 1.
-    if (DoubleOku(m_miktar->text()).value_or(0) == 0) return Uyar(840, *m_miktar);
-    return true;
 }
 
 bool MalzemeListesiOluşturFormu::ZatenEklenmiş(const QString& malzeme) const {
@@ -181,7 +185,7 @@ std::optional<Para> MalzemeListesiOluşturFormu::BirimFiyat(const QString& malze
 
 void MalzemeListesiOluşturFormu::ListeyeEkleButonu_Click() {
     if (!GirilenlerUygun()) return;
-    const QString malzeme = m_katalog->currentItem()->text();
+    const QString malzeme = m_katalog->SeçiliÖğe()->text();
     if (ZatenEklenmiş(malzeme) && !Sor(Metin(850))) return;
     const std::optional<Para> fiyat = BirimFiyat(malzeme);
     if (!fiyat) return;
@@ -195,8 +199,12 @@ void MalzemeListesiOluşturFormu::ListeyeEkleButonu_Click() {
 }
 
 void MalzemeListesiOluşturFormu::ListedenÇıkarButonu_Click() {
-    QTreeWidgetItem* satır = m_eklenecek->currentItem();
-    if (!satır) return;
+    if (m_eklenecek->Boş()) return;
+    QTreeWidgetItem* satır = m_eklenecek->SeçiliÖğe();
+    if (!satır) {
+        Uyar(710, *m_eklenecek);
+        return;
+    }
     if (!Sor(Metin(440) + QLatin1Char(' ') + satır->text(MiktarSütunu) + QLatin1Char(' ') + satır->text(AdSütunu)))
         return;
     delete satır;
@@ -221,14 +229,21 @@ void MalzemeListesiOluşturFormu::Aktar() {
     // What the product already uses is rewritten, the rest is new; names compare as the data file compares them.
     const QStringList adlar = m_anaForm.KullanılanMalzemeAdları();
     const std::set<QString, TürkçeKüçük> kullanılan(adlar.cbegin(), adlar.cend());
+    QStringList aktarılamayanlar;
     for (int sıra = 0; sıra < m_eklenecek->topLevelItemCount(); ++sıra) {
         const QTreeWidgetItem& satır = *m_eklenecek->topLevelItem(sıra);
         const Deyimler::KullanılanMalzeme kayıt{
             ürün->Grup,      ürün->Ad, satır.text(AdSütunu), satır.text(MiktarSütunu), satır.text(FiyatSütunu),
             HareketTarihiSQL};
         // A failing statement has been reported; the others still go.
-        DeyimiYürüt(kullanılan.count(kayıt.Malzeme) ? Deyimler::KullanılanMalzemeDeğiştir(kayıt)
-                                                    : Deyimler::KullanılanMalzemeEkle(kayıt));
+        if (!DeyimiYürüt(kullanılan.count(kayıt.Malzeme) ? Deyimler::KullanılanMalzemeDeğiştir(kayıt)
+                                                         : Deyimler::KullanılanMalzemeEkle(kayıt)))
+            aktarılamayanlar.append(kayıt.Miktar + QLatin1Char(' ') + kayıt.Malzeme);
     }
     m_anaForm.MalzemeTablosuYükle();
+    if (aktarılamayanlar.isEmpty()) return;
+    // The list goes with the form: what has to be entered again is named.
+    QString ek = QLatin1Char('\n') + aktarılamayanlar.mid(0, EnÇokSayılanSatır).join(QLatin1Char('\n'));
+    if (aktarılamayanlar.size() > EnÇokSayılanSatır) ek += QStringLiteral("\n...");
+    YarımKaldı(AktarılamayanlarMetni, ek);
 }

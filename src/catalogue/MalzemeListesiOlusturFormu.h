@@ -7,9 +7,9 @@
 
 class AnaFormErişimi;
 class GirişKutusu;
+class KatalogListesi;
 class KomutDüğmesi;
 class MiktarTürüKutusu;
-class QListWidget;
 class RaporListesi;
 class SayıKutusu;
 
@@ -24,6 +24,8 @@ class MalzemeListesiOluşturFormu : public QDialog {
 
     // Whether there is a catalogue to choose from.
     bool KatalogBoş() const;
+    // Whether all of it could be read.
+    bool KatalogOkundu() const { return m_katalogOkundu; }
 
   private:
     void KontrolleriKur();
@@ -35,16 +37,18 @@ class MalzemeListesiOluşturFormu : public QDialog {
     void ListeyiAktarButonu_Click();
 
     bool GirilenlerUygun();
+    void TürüHatırla(const QString& tür);
     bool ZatenEklenmiş(const QString& malzeme) const;
     std::optional<Para> BirimFiyat(const QString& malzeme) const;
     void Aktar();
     void ListeDüğmeleriniAyarla();
 
     AnaFormErişimi& m_anaForm;
+    bool m_katalogOkundu = false;
     MiktarTürüKutusu* m_tür;
     SayıKutusu* m_miktar;
     GirişKutusu* m_bul;
-    QListWidget* m_katalog;
+    KatalogListesi* m_katalog;
     RaporListesi* m_eklenecek;
     KomutDüğmesi* m_ekle;
     KomutDüğmesi* m_çıkar;

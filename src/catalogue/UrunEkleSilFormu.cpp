@@ -2,10 +2,7 @@
 
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
-#include <QSignalBlocker>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 #include <tuple>
 
@@ -31,6 +28,8 @@ using MesajKutusu::Yanıt;
 
 namespace {
 
+constexpr int MalzemeleriKaldıMetni = 2174;
+
 bool Aynı(const QString& a, const QString& b) {
     return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) == 0;
 }
@@ -45,18 +44,14 @@ bool Aynı(const QString& a, const QString& b) {
 }
 
 void ÜrünEkleSilFormu::KontrolleriKur() {
-    m_ağaç = new QTreeWidget;
+    m_ağaç = new TekSeçimli<QTreeWidget>;
     m_ağaç->setObjectName(QStringLiteral("ÜrünListesi"));
     m_ağaç->setHeaderHidden(true);
     m_ağaç->setUniformRowHeights(true);
     m_ağaç->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_ağaç->setItemDelegate(new MetinTemsilcisi(m_ağaç));
     Enterİleİlerlesin(m_ağaç);
-    connect(m_ağaç, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* düğüm) {
-        // Coming by Tab makes a node current without selecting it; what is current is what is deleted.
-        if (düğüm) düğüm->setSelected(true);
-        SilDüğmesiniAdlandır();
-    });
+    m_ağaç->Seçilince([this] { SilDüğmesiniAdlandır(); });
     connect(m_ağaç, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* grup) { m_ağaç->setCurrentItem(grup); });
 
     m_çerçeve = new QFrame;
@@ -127,7 +122,8 @@ void ÜrünEkleSilFormu::EklemeKipineGeç() {
 void ÜrünEkleSilFormu::GözatmaKipineDön() {
     m_ekleKaydet->setText(Metin(500));
     m_kapatİptal->setText(Metin(510));
-    m_grup->setEditText(QString());
+    m_grup->setCurrentIndex(-1);  // the next use of the list begins at its first entry
+    m_grup->clearEditText();
     m_ad->clear();
     m_çerçeve->setEnabled(false);
     ListeDurumunuAyarla();
@@ -140,7 +136,7 @@ void ÜrünEkleSilFormu::ListeDurumunuAyarla() {
 }
 
 void ÜrünEkleSilFormu::SilDüğmesiniAdlandır() {
-    const QTreeWidgetItem* düğüm = m_ağaç->currentItem();
+    const QTreeWidgetItem* düğüm = m_ağaç->SeçiliÖğe();
     m_sil->setText(Metin(düğüm && düğüm->parent() ? 470 : 460));
 }
 
@@ -150,7 +146,7 @@ void ÜrünEkleSilFormu::ÜrünEkleKaydetButonu_Click() {
         return;
     }
     if (!GirilenlerUygun()) return;
-    const QString grup = m_grup->currentText();
+    const QString grup = KayıtlıGrup(m_grup->currentText());
     const QString ürün = m_ad->text();
     if (!DeyimiYürüt(Deyimler::ÜrünEkle(grup, ürün))) return;
     EkleneniYerleştir(grup, ürün);
@@ -167,6 +163,13 @@ bool ÜrünEkleSilFormu::GirilenlerUygun() {
     if (ürün.isEmpty()) return Uyar(570, *m_ad);
     const Kayıt aynısı = KaydıOku(Deyimler::ÜrünVarMı(grup, ürün));
     return aynısı == Kayıt::Var ? Uyar(580, *m_ad) : aynısı == Kayıt::Yok;
+}
+
+QString ÜrünEkleSilFormu::KayıtlıGrup(const QString& grup) const {
+    for (int sıra = 0; sıra < m_grup->count(); ++sıra) {
+        if (Aynı(m_grup->itemText(sıra), grup)) return m_grup->itemText(sıra);
+    }
+    return grup;
 }
 
 QTreeWidgetItem* ÜrünEkleSilFormu::GrupDüğümü(const QString& grup) const {
@@ -200,7 +203,7 @@ bool ÜrünEkleSilFormu::SilmeOnayı(bool grupMu) {
 }
 
 void ÜrünEkleSilFormu::ÜrünSilButonu_Click() {
-    const QTreeWidgetItem* düğüm = m_ağaç->currentItem();
+    const QTreeWidgetItem* düğüm = m_ağaç->SeçiliÖğe();
     if (!düğüm) {
         Uyar(538, *m_ağaç);
         return;
@@ -210,7 +213,12 @@ void ÜrünEkleSilFormu::ÜrünSilButonu_Click() {
     const QString ürün = grupMu ? QString() : düğüm->text(0);
     if (!SilmeOnayı(grupMu)) return;
     if (!DeyimiYürüt(grupMu ? Deyimler::GrubuSil(grup) : Deyimler::ÜrünüSil(grup, ürün))) return;
-    DeyimiYürüt(grupMu ? Deyimler::GrubunMalzemeleriniSil(grup) : Deyimler::ÜrününMalzemeleriniSil(grup, ürün));
+    if (!DeyimiYürüt(grupMu ? Deyimler::GrubunMalzemeleriniSil(grup) : Deyimler::ÜrününMalzemeleriniSil(grup, ürün))) {
+        // The node stays here: through it the materials left behind can still be deleted.
+        YarımKaldı(MalzemeleriKaldıMetni);
+        m_anaForm.ÜrünAğacınıYenile();
+        return;
+    }
     SilineniKaldır(grup, ürün, grupMu);
     m_anaForm.ÜrünAğacınıYenile();
     SilDüğmesiniAdlandır();

@@ -1,14 +1,15 @@
 #pragma once
 
 #include <QDialog>
+#include <QTreeWidget>
+
+#include "TekSecimli.h"
 
 class AdKutusu;
 class AnaFormErişimi;
 class GrupKutusu;
 class KomutDüğmesi;
 class QFrame;
-class QTreeWidget;
-class QTreeWidgetItem;
 
 // Adds products, each in a group, and deletes a product or a whole group. Browse mode while the frame around the entry
 // boxes is disabled, add mode while it is enabled; the form closes only from browse mode.
@@ -41,6 +42,9 @@ class ÜrünEkleSilFormu : public QDialog {
     void EkleneniYerleştir(const QString& grup, const QString& ürün);
     bool SilmeOnayı(bool grupMu);
     void SilineniKaldır(const QString& grup, const QString& ürün, bool grupMu);
+    // The group as the data file spells it, which compares without regard to case; a second spelling would show the one
+    // group as two.
+    QString KayıtlıGrup(const QString& grup) const;
     QTreeWidgetItem* GrupDüğümü(const QString& grup) const;
 
     AnaFormErişimi& m_anaForm;
@@ -50,5 +54,5 @@ class ÜrünEkleSilFormu : public QDialog {
     QFrame* m_çerçeve;
     GrupKutusu* m_grup;
     AdKutusu* m_ad;
-    QTreeWidget* m_ağaç;
+    TekSeçimli<QTreeWidget>* m_ağaç;
 };

@@ -15,6 +15,7 @@
 #include "MiktarAlani.h"
 #include "OdbcModulu.h"
 #include "UrunAgaci.h"
+#include "YuklenemediBildirimi.h"
 
 namespace {
 
@@ -54,7 +55,8 @@ void AnaForm::Yükle() {
 
 void AnaForm::GirişDenetimi() {
     if (m_ağaç->Boş()) {
-        if (Sor(Metin(420))) İlkÜrünüEkle();
+        // A list that could not be read is not an empty one.
+        if (m_ağaç->Tam() && Sor(Metin(420))) İlkÜrünüEkle();
         return;
     }
     m_miktar->SeçimiKaldır();
@@ -70,49 +72,72 @@ void AnaForm::ÜrünListesiTıkla() {
     HataYakala([this] {
         m_miktar->Boşalt();
         m_miktar->MiktarıAyarla(0, false);
-        if (!m_ağaç->ÜrünSeçili()) {
-            GrubuGöster();
-            return;
+        if (m_ağaç->ÜrünSeçili()) {
+            MalzemeTablosuYükle();
+        } else {
+            m_liste->clear();
+            YüklemeyiUygula(false);
         }
-        MalzemeTablosuYükle();
-        m_komutlar.İzinVer(Komut::ListeyeMalzemeEkle, true);
-        m_komutlar.İzinVer(Komut::MiktarlarıGöster, true);
-        m_miktar->SeçeneğeİzinVer(true);
     });
 }
 
-void AnaForm::GrubuGöster() {
-    m_maliyet->setEnabled(false);
-    for (const Komut komut :
-         {Komut::ListeyeMalzemeEkle, Komut::ListedenMalzemeSil, Komut::MiktarlarıGöster, Komut::DeğişiklikleriKaydet}) {
-        m_komutlar.İzinVer(komut, false);
-    }
-    YazdırmayaİzinVer(false);
-    m_miktar->SeçeneğeİzinVer(false);
-    m_maliyet->Boşalt();
-    m_liste->clear();
-}
-
 void AnaForm::MalzemeTablosuYükle() {
-    if (m_ağaç->ÜrünSeçili()) HataYakala([this] { SeçiliÜrünüYükle(); });
+    if (!m_ağaç->ÜrünSeçili()) return;
+    bool yüklendi = false;
+    QStringList sayılmayanlar;
+    HataYakala([&] { yüklendi = SeçiliÜrünüYükle(sayılmayanlar); });
+    HataYakala([&] {
+        YüklemeyiUygula(yüklendi);
+        if (m_miktar->Seçili()) yüklendi ? m_miktar->SeçeneğiUygula() : m_miktar->SeçimiKaldır();
+        if (!sayılmayanlar.isEmpty()) SayılmayanlarıGöster(sayılmayanlar);
+    });
 }
 
-void AnaForm::SeçiliÜrünüYükle() {
+bool AnaForm::SeçiliÜrünüYükle(QStringList& sayılmayanlar) {
     const QString grup = m_ağaç->SeçiliGrup();
     const QString ürün = m_ağaç->SeçiliÜrün();
+    // Nothing of the product before stands there while a box tells that this one cannot be loaded.
     m_miktar->MiktarıAyarla(0, false);
+    m_miktar->Boşalt();
+    m_maliyet->Boşalt();
     const KullanılanMalzemeListesi::Yüklenen yüklenen = m_liste->Yükle(grup, ürün, OndalıkBasamak);
+    if (!yüklenen.Tamam) return false;
     m_miktar->MiktarıAyarla(yüklenen.Toplam.ToplamMiktar(), yüklenen.Toplam.BirimlerFarklı());
     m_maliyet->MalzemeMaliyetiniGöster(yüklenen.Toplam.Tutar());
-    const bool malzemeVar = !m_liste->Boş();
-    m_komutlar.İzinVer(Komut::ListedenMalzemeSil, malzemeVar);
-    YazdırmayaİzinVer(malzemeVar && yüklenen.Tamam);  // an incomplete cost sheet would look like a whole one
-    m_maliyet->setEnabled(malzemeVar);
-    m_maliyet->YüzdeleriYükle(grup, ürün);
+    if (!m_maliyet->YüzdeleriYükle(grup, ürün)) return false;
     ToplamMaliyetHesapla();
+    sayılmayanlar = yüklenen.Sayılmayanlar;
+    return true;
+}
+
+// What may be done with the selection, once it has been loaded or not. While a group is selected nothing is.
+void AnaForm::YüklemeyiUygula(bool yüklendi) {
+    m_ürünYüklendi = yüklendi;
+    const bool malzemeVar = yüklendi && !m_liste->Boş();
+    m_komutlar.İzinVer(Komut::ListeyeMalzemeEkle, yüklendi);
+    m_komutlar.İzinVer(Komut::MiktarlarıGöster, yüklendi);
+    m_komutlar.İzinVer(Komut::ListedenMalzemeSil, malzemeVar);
     m_komutlar.İzinVer(Komut::DeğişiklikleriKaydet, false);
-    if (m_miktar->Seçili()) m_miktar->SeçeneğiUygula();
-    if (!yüklenen.Sayılmayanlar.isEmpty()) SayılmayanlarıGöster(yüklenen.Sayılmayanlar);
+    YazdırmayaİzinVer(malzemeVar);
+    m_maliyet->setEnabled(malzemeVar);
+    m_miktar->SeçeneğeİzinVer(yüklendi);
+    m_ürünBildirimi->setVisible(!yüklendi && m_ağaç->ÜrünSeçili());
+    if (yüklendi) return;
+    m_miktar->MiktarıAyarla(0, false);
+    m_miktar->Boşalt();
+    m_maliyet->Boşalt();
+}
+
+void AnaForm::AğacıYenidenYükle() {
+    ÜrünAğacınıYenile();
+    if (!m_ağaç->Tam()) return;
+    m_ağaç->setFocus();
+    GirişDenetimi();
+}
+
+void AnaForm::ÜrünüYenidenYükle() {
+    ÜrünListesiTıkla();
+    if (m_ürünYüklendi) m_ağaç->setFocus();
 }
 
 void AnaForm::SayılmayanlarıGöster(const QStringList& satırlar) {
@@ -137,6 +162,7 @@ void AnaForm::ListedenMalzemeSil() {
 }
 
 void AnaForm::DeğişiklikleriKaydet() {
+    if (!m_maliyet->YüzdelerSaklanır()) return;
     const MaliyetGirdisi yüzdeler = m_maliyet->Girdi();
     if (DeyimiYürüt(Deyimler::YüzdeleriKaydet(yüzdeler.İşçilik, yüzdeler.Kâr, yüzdeler.Diğer, yüzdeler.Vade,
                                               m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()))) {

@@ -12,6 +12,7 @@ class MaliyetAlanı;
 class MiktarAlanı;
 struct MaliyetFişi;
 class QComboBox;
+class YüklenemediBildirimi;
 class ÜrünAğacı;
 
 // What the form needs of the program around it.
@@ -32,7 +33,8 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
 
     // Shows what the tree's current node stands for; for other forms too, after they changed the data.
     void ÜrünListesiTıkla();
-    // Loads used materials and percentages of the selected product anew; does nothing while a group is selected.
+    // Loads used materials and percentages of the selected product anew; does nothing while a group is selected. What
+    // could not be loaded whole is neither shown as figures nor changed nor printed, until a load has succeeded.
     void MalzemeTablosuYükle() override;
     void ToplamMaliyetHesapla();
 
@@ -55,8 +57,10 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
 
     void GirişDenetimi();
     void DüğümTıklandı();
-    void GrubuGöster();
-    void SeçiliÜrünüYükle();
+    void AğacıYenidenYükle();
+    void ÜrünüYenidenYükle();
+    bool SeçiliÜrünüYükle(QStringList& sayılmayanlar);
+    void YüklemeyiUygula(bool yüklendi);
     void SayılmayanlarıGöster(const QStringList& satırlar);
 
     // For the catalogue forms.
@@ -80,8 +84,11 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     AnaFormBağları m_bağlar;
     Komutlar m_komutlar;
     bool m_kapandı = false;
+    bool m_ürünYüklendi = false;  // the selected product is on screen, whole
 
     ÜrünAğacı* m_ağaç;
+    YüklenemediBildirimi* m_ağaçBildirimi;
+    YüklenemediBildirimi* m_ürünBildirimi;
     KullanılanMalzemeListesi* m_liste;
     QComboBox* m_haneSayısı;
     MaliyetAlanı* m_maliyet;

@@ -27,6 +27,7 @@
 #include "Saat.h"
 #include "UrunAgaci.h"
 #include "Yardim.h"
+#include "YuklenemediBildirimi.h"
 
 namespace {
 
@@ -51,7 +52,12 @@ AnaForm::AnaForm(AnaFormBağları bağlar) : m_bağlar(std::move(bağlar)) {
 
 void AnaForm::AlanlarıKur() {
     m_ağaç = new ÜrünAğacı;
-    m_ağaç->OlaylarıBağla({[this] { DüğümTıklandı(); }, [this] { ÜrünListesiTıkla(); }, [this] { GirişDenetimi(); }});
+    m_ağaç->OlaylarıBağla({[this] { DüğümTıklandı(); }, [this] { ÜrünListesiTıkla(); }, [this] { GirişDenetimi(); },
+                           [this] { m_ağaçBildirimi->setVisible(!m_ağaç->Tam()); }});
+    m_ağaçBildirimi = new YüklenemediBildirimi(QStringLiteral("ÜrünListesiniTekrarYükle"), 2135, 2137,
+                                               [this] { AğacıYenidenYükle(); });
+    m_ürünBildirimi =
+        new YüklenemediBildirimi(QStringLiteral("ÜrünüTekrarYükle"), 2136, 2138, [this] { ÜrünüYenidenYükle(); });
     m_liste = new KullanılanMalzemeListesi;
     connect(m_liste, &QTreeWidget::itemDoubleClicked, this, [this] { m_komutlar.Çalıştır(Komut::ListedenMalzemeSil); });
 
@@ -99,8 +105,9 @@ void AnaForm::MenüleriKur() {
 // Controls are added as one reads, left to right and top to bottom: that is the order of Tab too.
 void AnaForm::DüzeniKur() {
     auto* maliyetSatırı = new QHBoxLayout;
-    maliyetSatırı->addWidget(MaliyetAltlığı(), 1);
-    maliyetSatırı->addWidget(m_miktar, 1);
+    // On the smallest screen both have room for the largest amount.
+    maliyetSatırı->addWidget(MaliyetAltlığı(), 9);
+    maliyetSatırı->addWidget(m_miktar, 7);
     auto* sağ = new QWidget;
     auto* sağDüzen = new QVBoxLayout(sağ);
     sağDüzen->setContentsMargins(0, 0, 0, 0);
@@ -136,6 +143,7 @@ QWidget* AnaForm::AğaçAltlığı() {
     auto* düzen = new QVBoxLayout(altlık);
     düzen->setContentsMargins(0, 0, 0, 0);
     düzen->addWidget(VurgulananEtiket(0, m_ağaç));
+    düzen->addWidget(m_ağaçBildirimi);
     düzen->addWidget(m_ağaç, 1);
     return altlık;
 }
@@ -158,6 +166,7 @@ QWidget* AnaForm::ListeAltlığı() {
     auto* düzen = new QVBoxLayout(altlık);
     düzen->setContentsMargins(0, 0, 0, 0);
     düzen->addLayout(başlık);
+    düzen->addWidget(m_ürünBildirimi);
     düzen->addWidget(m_liste, 1);
     düzen->addLayout(düğmeler);
     return altlık;

@@ -25,7 +25,7 @@ void AnaForm::DüğümüSeç(std::int32_t sıra) {
 }
 
 std::optional<AnaFormErişimi::Ürün> AnaForm::SeçiliÜrün() const {
-    if (!m_ağaç->ÜrünSeçili()) return std::nullopt;
+    if (!m_ürünYüklendi) return std::nullopt;
     return Ürün{m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()};
 }
 
@@ -60,6 +60,7 @@ void AnaForm::ListeyeMalzemeEkle() {
         form.exec();
         return;
     }
+    if (!form.KatalogOkundu()) return;  // not known to be empty; the user has been told
     if (!Sor(Metin(430))) return;
     SeçiliÜrünSırası = m_ağaç->SeçiliSıra();
     MalzemeEkleSilFormu malzemeler(*this, this);

@@ -6,6 +6,7 @@
 
 #include "EtiketVurgusu.h"
 #include "MetinTablosu.h"
+#include "SayiSigdirma.h"
 
 namespace {
 
@@ -47,6 +48,7 @@ QLineEdit* GösterimKutusu(const QString& ad) {
     kutu->setReadOnly(true);
     kutu->setFocusPolicy(Qt::ClickFocus);
     kutu->setAlignment(Qt::AlignRight);
+    SayıyıSığdır(kutu);
     // Shaded, so that one sees which boxes can be typed into.
     QPalette renkler = kutu->palette();
     renkler.setColor(QPalette::Active, QPalette::Base, renkler.color(QPalette::Active, QPalette::Window));

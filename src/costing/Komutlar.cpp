@@ -4,6 +4,7 @@
 #include <QAction>
 #include <utility>
 
+#include "GirisKutusu.h"
 #include "HataYakala.h"
 
 void Komutlar::Bağla(Komut komut, QAction* giriş) {
@@ -38,7 +39,9 @@ bool Komutlar::Etkin(Komut komut) const {
 }
 
 void Komutlar::Çalıştır(Komut komut) {
-    if (Etkin(komut)) HataYakala(m_satırlar[static_cast<std::size_t>(komut)].İş);
+    if (!Etkin(komut)) return;
+    // The end of the program drops what is in the boxes anyway.
+    if (komut == Komut::Çıkış || OdaktakiKutuBitti()) HataYakala(m_satırlar[static_cast<std::size_t>(komut)].İş);
 }
 
 void Komutlar::Uygula(const Satır& satır) {

@@ -43,7 +43,7 @@ class Komutlar {
     // The command's button; null: it has none.
     QAbstractButton* Düğme(Komut komut) const { return m_satırlar[static_cast<std::size_t>(komut)].Düğme; }
 
-    // Does nothing while the command is not enabled.
+    // Does nothing while the command is not enabled, nor where the box that the user is in cannot be read.
     void Çalıştır(Komut komut);
 
   private:

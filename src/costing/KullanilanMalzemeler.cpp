@@ -2,6 +2,7 @@
 
 #include "Deyimler.h"
 #include "OdbcModulu.h"
+#include "RaporSatiri.h"
 #include "SayiMetni.h"
 
 namespace {
@@ -11,7 +12,7 @@ enum Sütunlar { MiktarSütunu, AdSütunu };
 }  // namespace
 
 KullanılanMalzemeListesi::KullanılanMalzemeListesi(QWidget* sahip)
-    : RaporListesi({{412, 5, false}, {414, 3, false}, {416, 5, true}, {418, 4.6, true}}, sahip) {
+    : RaporListesi({{412, 5, false, true}, {414, 3, false}, {416, 5, true}, {418, 4.6, true}}, sahip) {
     setObjectName(QStringLiteral("KullanılanMalzemeListesi"));
     setMinimumHeight(120);
 }
@@ -27,7 +28,7 @@ KullanılanMalzemeListesi::Yüklenen KullanılanMalzemeListesi::Yükle(const QSt
         const QString fiyat = NoktayıVirgüleÇevir(SütunOku(3));
         const MalzemeSatırı satır = sonuç.Toplam.Ekle(miktar, fiyat, basamak);
         if (!satır.Sayıldı) sonuç.Sayılmayanlar.append(miktar + QLatin1Char(' ') + ad);
-        satırlar.append(new QTreeWidgetItem(QStringList{satır.Miktar, ad, satır.Fiyat, satır.Tutar}));
+        satırlar.append(new RaporSatırı({satır.Miktar, ad, satır.Fiyat, satır.Tutar}, {miktar, QString(), fiyat}));
     });
     sonuç.Tamam = okuma == Okuma::Tamam;
     SatırlarıKoy(satırlar);

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "DegiskenModulu.h"
 #include "Denetimler.h"
@@ -64,6 +65,7 @@ QLayout* MaliyetAlanı::YüzdeleriYerleştir() {
     const std::array adlar = {"İşçilikYüzdesiKutusu", "KarYüzdesiKutusu", "DiğerMaliyetYüzdesiKutusu",
                               "VadeFarkıYüzdesiKutusu"};
     auto* düzen = new QGridLayout;
+    for (const int kutuSütunu : {1, 3}) düzen->setColumnStretch(kutuSütunu, 1);
     for (int i = İşçilik; i <= Vade; ++i) {
         // Only other costs may be negative (a discount).
         auto* kutu = new SayıKutusu(i == Diğer ? SayıKutusu::Tür::EksiliYüzde : SayıKutusu::Tür::Yüzde);
@@ -97,6 +99,10 @@ bool MaliyetAlanı::YüzdeleriYükle(const QString& grup, const QString& ürün)
     if (kayıt != Kayıt::Var) return false;
     for (int i = İşçilik; i <= Vade; ++i) m_yüzdeler[i]->setText(YüzdeMetni(saklanan[i]));
     return true;
+}
+
+bool MaliyetAlanı::YüzdelerSaklanır() {
+    return std::all_of(m_yüzdeler.begin(), m_yüzdeler.end(), [](SayıKutusu* kutu) { return kutu->Saklanır(); });
 }
 
 void MaliyetAlanı::ToplamMaliyetHesapla() {

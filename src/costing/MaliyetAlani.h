@@ -24,6 +24,9 @@ class MaliyetAlanı : public QFrame {
     // Reads the product's stored percentages into the boxes. False: they stay as they were.
     bool YüzdeleriYükle(const QString& grup, const QString& ürün);
 
+    // To be asked before the percentages are stored; false: one cannot be, and the user has been told.
+    bool YüzdelerSaklanır();
+
     void ToplamMaliyetHesapla();
     void Boşalt();
 

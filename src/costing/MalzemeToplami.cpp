@@ -9,22 +9,25 @@ MiktarParçaları MiktarıAyır(QStringView miktar) {
 }
 
 MalzemeSatırı MalzemeToplamı::Ekle(const QString& miktar, const QString& fiyat, int basamak) {
-    MalzemeSatırı satır{miktar, fiyat, SayıBiçimle(Para(), basamak)};
+    MalzemeSatırı satır{miktar, fiyat, {}};
     const MiktarParçaları parçalar = MiktarıAyır(miktar);
     BirimeBak(parçalar.Birim);
 
     // In a stored number a dot can only part thousands: "12.5" must not count as 125.
-    const std::optional<double> sayı = DoubleOku(parçalar.Sayı, NoktaKuralı::Yerinde);
-    if (sayı) satır.Miktar = *SayıMetniBiçimle(parçalar.Sayı, basamak) + parçalar.Kalan.toString();
+    const std::optional<Ondalık> adet = OndalıkOku(parçalar.Sayı, NoktaKuralı::Yerinde);
+    const std::optional<double> sayı = adet ? EnYakınDouble(*adet) : std::nullopt;
+    if (sayı) satır.Miktar = SayıBiçimle(*adet, basamak).append(parçalar.Kalan);
     const std::optional<Para> birimFiyat = ParaOku(fiyat, NoktaKuralı::Yerinde);
     if (birimFiyat) satır.Fiyat = SayıBiçimle(*birimFiyat, basamak);
 
     std::optional<Para> toplam;
     if (sayı && birimFiyat) {
-        const double tutar = birimFiyat->Double() * *sayı;
-        satır.Tutar = SayıBiçimle(tutar, basamak).value_or(satır.Tutar);
-        if (const std::optional<Para> para = Para::Doubledan(tutar)) toplam = Topla(m_tutar, *para);
+        if (const std::optional<Ondalık> tutar = OnBeşHaneyle(birimFiyat->Double() * *sayı)) {
+            satır.Tutar = SayıBiçimle(*tutar, basamak);
+            if (const std::optional<Para> para = Para::Ondalıktan(*tutar)) toplam = Topla(m_tutar, *para);
+        }
     }
+    if (satır.Tutar.isEmpty()) satır.Tutar = SayıBiçimle(Para(), basamak);
     satır.Sayıldı = toplam.has_value();
     m_tutar = toplam.value_or(m_tutar);
     if (sayı && !m_birimlerFarklı) m_miktar += *sayı;

@@ -107,8 +107,8 @@ void MiktarAlanı::ToplamDeğişti() {
 }
 
 void MiktarAlanı::Boşalt() {
-    m_miktar->clear();
-    m_birimMaliyet->clear();
+    for (QLineEdit* kutu : {m_miktar, m_birimMaliyet, m_fireliMiktar, m_fireliBirimMaliyet}) kutu->clear();
+    m_fireOranı->clear();
 }
 
 void MiktarAlanı::MiktarVeMaliyetiGöster() {

@@ -27,7 +27,7 @@ class MiktarAlanı : public QWidget {
     void SeçimiKaldır();    // unticks the option and empties the boxes
     void SeçeneğiUygula();  // sets frame and boxes from the tick
     void ToplamDeğişti();   // the total cost has changed
-    void Boşalt();          // total quantity and unit cost
+    void Boşalt();          // all boxes, the waste rate's too
 
     struct Metinler {  // of the boxes, as displayed
         QString Miktar;

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "MetinTablosu.h"
+#include "SayiSigdirma.h"
 
 namespace {
 
@@ -16,6 +17,9 @@ struct Satır {
     int Etiket;
     QString MiktarGösterFormu::Tutarlar::*Metin;
 };
+
+const QString EnGenişTutar = QStringLiteral("-922.337.203.685.477,580800");  // money with the most decimals
+constexpr int KutuPayı = 16;                                                 // pixels of a box beside its text
 
 constexpr Satır Satırlar[] = {
     {"MalzemeMaliyetiKutusu", 1351, &MiktarGösterFormu::Tutarlar::MalzemeMaliyeti},
@@ -42,6 +46,8 @@ MiktarGösterFormu::MiktarGösterFormu(const Tutarlar& tutarlar, QWidget* sahip)
         kutu->setObjectName(QString::fromUtf8(satır.Ad));
         kutu->setReadOnly(true);
         kutu->setAlignment(Qt::AlignRight);
+        kutu->setMinimumWidth(kutu->fontMetrics().horizontalAdvance(EnGenişTutar) + KutuPayı);
+        SayıyıSığdır(kutu);
         auto* etiket = new QLabel(Metin(satır.Etiket));
         etiket->setObjectName(QStringLiteral("Etiket(%1)").arg(sıra++));
         etiket->setBuddy(kutu);

@@ -7,7 +7,9 @@
 #include <QSet>
 #include <QSignalBlocker>
 #include <QTimer>
+#include <set>
 
+#include "DuzenlemeDenetcisi.h"
 #include "GirisKutusu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
@@ -28,6 +30,7 @@ class AdTemsilcisi : public MetinTemsilcisi {
         QWidget* düzenleyici = QStyledItemDelegate::createEditor(sahip, seçenek, yer);
         if (auto* kutu = qobject_cast<QLineEdit*>(düzenleyici)) {
             kutu->setMaxLength(EnUzunAd);
+            TekSatırlıOlsun(kutu);
             kutu->setObjectName(QStringLiteral("AdDüzenleyici"));
         }
         return düzenleyici;
@@ -41,25 +44,26 @@ class AdTemsilcisi : public MetinTemsilcisi {
     std::function<void(const QModelIndex&, const QString&)> m_adVerildi;
 };
 
+constexpr qsizetype EnÇokSayılanÜrün = 10;  // products that a message box names
+
 bool Aynı(const QString& a, const QString& b) {
     return Türkçe::Karşılaştır(a, b) == 0;
 }
 
+struct TürkçeÖnce {
+    bool operator()(const QString& a, const QString& b) const { return Türkçe::Karşılaştır(a, b) < 0; }
+};
+
 }  // namespace
 
-ÜrünAğacı::ÜrünAğacı(QWidget* sahip) : QTreeWidget(sahip) {
+ÜrünAğacı::ÜrünAğacı(QWidget* sahip) : TekSeçimli(sahip) {
     setObjectName(QStringLiteral("ÜrünListesi"));
     setHeaderHidden(true);
     setUniformRowHeights(true);
-    setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed);
     setItemDelegate(new AdTemsilcisi(this, [this](const QModelIndex& yer, const QString& ad) { AdıSıraya(yer, ad); }));
 
-    connect(this, &QTreeWidget::currentItemChanged, this, [this] { m_olaylar.DüğümTıklandı(); });
-    connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* düğüm) {
-        // A click that changed the current node has been answered already.
-        if (düğüm == m_basılmadanÖnce) m_olaylar.DüğümTıklandı();
-    });
+    Seçilince([this] { m_olaylar.DüğümTıklandı(); });
     connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* grup) {
         SessizceSeç(grup);
         m_olaylar.SeçimiYükle();
@@ -67,8 +71,9 @@ bool Aynı(const QString& a, const QString& b) {
 }
 
 void ÜrünAğacı::Yükle() {
-    ÜrünAğacınıYükle(*this);
+    m_tam = ÜrünAğacınıYükle(*this) == Okuma::Tamam;
     SessizceSeç(topLevelItem(0));
+    m_olaylar.Dolduruldu();
 }
 
 bool ÜrünAğacı::ÜrünSeçili() const {
@@ -112,6 +117,7 @@ void ÜrünAğacı::Sustur() {
 }
 
 bool ÜrünAğacı::edit(const QModelIndex& yer, EditTrigger neden, QEvent* olay) {
+    if (!m_tam) return false;
     // Nodes are made editable as they are needed: marking each of a large tree's would cost its filling dear.
     QTreeWidgetItem* düğüm = itemFromIndex(yer);
     if (düğüm && !(düğüm->flags() & Qt::ItemIsEditable)) {
@@ -121,19 +127,13 @@ bool ÜrünAğacı::edit(const QModelIndex& yer, EditTrigger neden, QEvent* olay
     return QTreeWidget::edit(yer, neden, olay);
 }
 
-QItemSelectionModel::SelectionFlags ÜrünAğacı::selectionCommand(const QModelIndex& yer, const QEvent*) const {
-    // The current node is the selected one, with Ctrl held down too.
-    return yer.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
-}
-
 void ÜrünAğacı::mousePressEvent(QMouseEvent* olay) {
-    m_basılmadanÖnce = currentItem();
     m_boşaBasıldı = !indexAt(olay->position().toPoint()).isValid();
-    QTreeWidget::mousePressEvent(olay);
+    TekSeçimli::mousePressEvent(olay);
 }
 
 void ÜrünAğacı::mouseReleaseEvent(QMouseEvent* olay) {
-    QTreeWidget::mouseReleaseEvent(olay);
+    TekSeçimli::mouseReleaseEvent(olay);
     const bool boşta = m_boşaBasıldı && !indexAt(olay->position().toPoint()).isValid();
     if (boşta && olay->button() == Qt::LeftButton && !m_sustu) m_olaylar.BoşlukTıklandı();
 }
@@ -174,9 +174,11 @@ void ÜrünAğacı::Adlandır(QTreeWidgetItem* düğüm, const QString& yeni) {
     const QString eski = düğüm->text(0);
     if (yeni == eski || yeni.trimmed().isEmpty()) return;
     const QTreeWidgetItem* grup = düğüm->parent();
-    switch (grup ? ÜrünüAdlandır(grup->text(0), eski, yeni) : GrubuAdlandır(eski, yeni)) {
+    const QString gönderilen = grup ? yeni : GrubunYazımı(düğüm, yeni);
+    if (!grup && !Birleşsin(düğüm, gönderilen)) return;
+    switch (grup ? ÜrünüAdlandır(grup->text(0), eski, gönderilen) : GrubuAdlandır(eski, gönderilen)) {
         case AdlandırmaSonucu::Değişti:
-            AdıYerleştir(düğüm, yeni);
+            AdıYerleştir(düğüm, gönderilen);
             break;
         case AdlandırmaSonucu::Yinelenen:
             MesajKutusuOrtala();
@@ -186,6 +188,46 @@ void ÜrünAğacı::Adlandır(QTreeWidgetItem* düğüm, const QString& yeni) {
         case AdlandırmaSonucu::Değişmedi:
             break;
     }
+}
+
+// The data file takes names that differ in their letters' case for one: another group's rows bear its name as it is
+// written there, so that those which join them belong to the same node.
+QString ÜrünAğacı::GrubunYazımı(const QTreeWidgetItem* grup, const QString& yeni) const {
+    if (Aynı(grup->text(0), yeni)) return yeni;
+    QString yazım;
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        const QString ad = topLevelItem(i)->text(0);
+        if (ad == yeni) return yeni;
+        if (yazım.isEmpty() && Aynı(ad, yeni)) yazım = ad;
+    }
+    return yazım.isEmpty() ? yeni : yazım;
+}
+
+// Products that both groups have become one, which nothing takes apart again: the user is asked. True without a
+// question where there are none.
+bool ÜrünAğacı::Birleşsin(const QTreeWidgetItem* grup, const QString& yeni) const {
+    if (Aynı(grup->text(0), yeni)) return true;
+    const QStringList buradakiler = GrubunÜrünleri(grup->text(0));
+    const std::set<QString, TürkçeÖnce> buradaki(buradakiler.begin(), buradakiler.end());
+    QStringList ortaklar = GrubunÜrünleri(yeni);
+    ortaklar.removeIf([&](const QString& ad) { return !buradaki.count(ad); });
+    if (ortaklar.isEmpty()) return true;
+    if (ortaklar.size() > EnÇokSayılanÜrün) {
+        ortaklar.resize(EnÇokSayılanÜrün);
+        ortaklar.append(QStringLiteral("..."));
+    }
+    ortaklar.prepend(Metin(2134));
+    return Sor(ortaklar.join(QLatin1Char('\n')));
+}
+
+QStringList ÜrünAğacı::GrubunÜrünleri(const QString& ad) const {
+    QStringList ürünler;
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        const QTreeWidgetItem* grup = topLevelItem(i);
+        if (!Aynı(grup->text(0), ad)) continue;
+        for (int j = 0; j < grup->childCount(); ++j) ürünler.append(grup->child(j)->text(0));
+    }
+    return ürünler;
 }
 
 void ÜrünAğacı::AdıYerleştir(QTreeWidgetItem* düğüm, const QString& yeni) {

@@ -4,21 +4,26 @@
 #include <cstdint>
 #include <functional>
 
+#include "TekSecimli.h"
+
 // The product tree: groups without a parent, products beneath them. The text is a node's name and, with its group's,
 // its key in the data file. It is renamed in place.
-class ÜrünAğacı : public QTreeWidget {
+class ÜrünAğacı : public TekSeçimli<QTreeWidget> {
   public:
     struct Olaylar {
         std::function<void()> DüğümTıklandı;   // another node became current, or the current one was clicked again
         std::function<void()> SeçimiYükle;     // what the current node stands for must be loaded, nothing else changes
         std::function<void()> BoşlukTıklandı;  // a click beside the nodes, or on the empty tree
+        std::function<void()> Dolduruldu;      // the tree was filled anew, whole or not
     };
 
     explicit ÜrünAğacı(QWidget* sahip = nullptr);
     void OlaylarıBağla(Olaylar olaylar) { m_olaylar = std::move(olaylar); }
 
-    // Fills the tree anew and makes the first node current. No event comes from it.
+    // Fills the tree anew and makes the first node current. No event of a selection comes from it.
     void Yükle();
+    // Whether the last filling brought all nodes. As long as it did not, nothing is renamed.
+    bool Tam() const { return m_tam; }
 
     bool Boş() const { return topLevelItemCount() == 0; }
     bool ÜrünSeçili() const;  // false: a group is current, or nothing is
@@ -35,7 +40,6 @@ class ÜrünAğacı : public QTreeWidget {
 
   protected:
     bool edit(const QModelIndex& yer, EditTrigger neden, QEvent* olay) override;
-    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& yer, const QEvent* olay) const override;
     void mousePressEvent(QMouseEvent* olay) override;
     void mouseReleaseEvent(QMouseEvent* olay) override;
 
@@ -49,11 +53,14 @@ class ÜrünAğacı : public QTreeWidget {
     void SessizceSeç(QTreeWidgetItem* düğüm);
     void AdıSıraya(const QModelIndex& yer, const QString& yeni);
     void Adlandır(QTreeWidgetItem* düğüm, const QString& yeni);
+    QString GrubunYazımı(const QTreeWidgetItem* grup, const QString& yeni) const;
+    bool Birleşsin(const QTreeWidgetItem* grup, const QString& yeni) const;
+    QStringList GrubunÜrünleri(const QString& ad) const;
     void AdıYerleştir(QTreeWidgetItem* düğüm, const QString& yeni);
     bool BaşkaDüğümüEtkiler(const QTreeWidgetItem* düğüm, const QString& yeni) const;
 
     Olaylar m_olaylar;
-    QTreeWidgetItem* m_basılmadanÖnce = nullptr;  // current before the press; only compared
     bool m_boşaBasıldı = false;
+    bool m_tam = false;
     bool m_sustu = false;
 };

@@ -4,7 +4,6 @@
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QTreeWidget>
-#include <tuple>
 
 #include "Deyimler.h"
 #include "OdbcModulu.h"
@@ -39,29 +38,31 @@ class GrupDüğümleri {
 
 }  // namespace
 
-void ÜrünAğacınıYükle(QTreeWidget& ağaç) {
+Okuma ÜrünAğacınıYükle(QTreeWidget& ağaç) {
     const QSignalBlocker sessiz(ağaç);
     ağaç.clear();
     SQLMetni = Deyimler::ÜrünSayısı();
     Yüklemeİlerlemesi ilerleme(KayıtSayısıAl());
     GrupDüğümleri gruplar;
-    std::ignore = SatırlarıOku(Deyimler::ÜrünAğacı(), [&] {
+    const Okuma okuma = SatırlarıOku(Deyimler::ÜrünAğacı(), [&] {
         QTreeWidgetItem* grup = gruplar.Düğüm(SütunOku(1));
         new QTreeWidgetItem(grup, QStringList(SütunOku(2)));
         ilerleme.Arttır();
     });
     ağaç.addTopLevelItems(gruplar.Sıra());
+    return okuma;
 }
 
-void MalzemeListesiniYükle(QListWidget& liste) {
+Okuma MalzemeListesiniYükle(QListWidget& liste) {
     const QSignalBlocker sessiz(liste);
     liste.clear();
     SQLMetni = Deyimler::MalzemeSayısı();
     Yüklemeİlerlemesi ilerleme(KayıtSayısıAl());
     QStringList adlar;
-    std::ignore = SatırlarıOku(Deyimler::MalzemeListesi(), [&] {
+    const Okuma okuma = SatırlarıOku(Deyimler::MalzemeListesi(), [&] {
         adlar.append(SütunOku(1));
         ilerleme.Arttır();
     });
     liste.addItems(adlar);
+    return okuma;
 }

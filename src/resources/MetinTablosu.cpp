@@ -208,6 +208,36 @@ constexpr Satır Tablo[] = {
     {2130, "Bu malzemelerin miktarı veya fiyatı okunamadığı için maliyete katılmadılar:"},
     {2132, "Kayıtların hepsi okunamadı; gösterilenler eksik!"},
     {2133, "Kayıt okunamadı!"},
+    {2134,
+     "Birleşecek iki grupta aynı adlı ürünler var! Bunlar tek ürün olur: malzemeleri birlikte listelenir, yüzdeleri "
+     "birlikte değişir, biri silinince öteki de silinir. \n"
+     "Bu işlem geri alınamaz; yine de grupları birleştirmek istiyor musunuz?"},
+    {2135, "Ürün listesinin tamamı okunamadı!"},
+    {2136, "Bu ürünün bilgileri okunamadı; okunana kadar değiştirilemez ve yazdırılamaz!"},
+    {2137, "Tekrar Yük&le"},
+    {2138, "&Tekrar Yükle"},
+
+    // Later additions: number boxes
+    {2140, "Bu sayı çok büyük! \nGirebileceğiniz en büyük sayı:"},
+    {2141,
+     "Bu sayının basamakları çok fazla! \n"
+     "Virgülden önce ve sonra, toplam en çok 15 basamak girebilirsiniz."},
+
+    // Later additions: catalogue forms
+    {2170, "Bu malzeme veri dosyasında artık yok; fiyatı değiştirilemez!"},
+    {2171,
+     "Yeni fiyat malzeme listesine yazıldı, ancak ürünlere yazılamadı! \n"
+     "Lütfen, fiyat değişimini yeniden deneyiniz."},
+    {2172,
+     "Yeni fiyat ürünlere yazıldı, ancak malzeme listesine yazılamadı! \n"
+     "Lütfen, fiyat değişimini yeniden deneyiniz."},
+    {2173,
+     "Malzeme silindi, ancak ürünlerin listesinden çıkarılamadı! \n"
+     "Çıkarmak için, listede bırakılan malzemeyi yeniden siliniz."},
+    {2174,
+     "Ürün kaydı silindi, ancak kullanılan malzemeleri silinemedi! \n"
+     "Silmek için, listede bırakılan satırı yeniden siliniz."},
+    {2175, "Bu malzemeler ürüne aktarılamadı:"},
 
     // Later additions: about, error report, guide
     {2200, "Programın simgesi"},

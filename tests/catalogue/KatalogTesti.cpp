@@ -1,56 +1,95 @@
 #include "KatalogTesti.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
 
 #include "MetinTablosu.h"
 
-void KatalogTesti::Tıkla(const char* düğme) {
-    QTest::mouseClick(&Bul(düğme), Qt::LeftButton);
+void KatalogTesti::SatıraTıkla(const char* liste, const QModelIndex& satır, Qt::KeyboardModifiers ile) {
+    auto& görünüm = Bul<QAbstractItemView>(liste);
+    QTest::mouseClick(görünüm.viewport(), Qt::LeftButton, ile, görünüm.visualRect(satır).center());
 }
 
-void KatalogTesti::Yaz(const char* ad, const QString& metin) {
+void KatalogTesti::Yaz(const char* ad, const char* metin) {
     QWidget& kutu = Bul(ad);
+    ASSERT_TRUE(kutu.isEnabled()) << ad;
     kutu.setFocus();
-    auto* satır = qobject_cast<QLineEdit*>(&kutu);
-    if (auto* açılır = qobject_cast<QComboBox*>(&kutu)) satır = açılır->lineEdit();
-    ASSERT_TRUE(satır && kutu.isEnabled()) << ad;
-    satır->selectAll();
-    QTest::keyClick(&kutu, Qt::Key_Delete);
-    for (const QChar harf : metin) {
+    Tuş(Qt::Key_A, Qt::ControlModifier);
+    Tuş(Qt::Key_Delete);
+    for (const QChar harf : QString::fromUtf8(metin)) {
         QKeyEvent bas(QEvent::KeyPress, 0, Qt::NoModifier, QString(harf));
         QApplication::sendEvent(&kutu, &bas);
     }
 }
 
-QString KatalogTesti::Başlık(const char* düğme) {
-    return Bul<QAbstractButton>(düğme).text();
+QString KatalogTesti::Yazı(const char* ad) {
+    const auto* açılır = qobject_cast<QComboBox*>(&Bul(ad));
+    return açılır ? açılır->currentText() : Bul<QLineEdit>(ad).text();
 }
 
-QString KatalogTesti::Etkinler(std::initializer_list<const char*> adlar) {
-    QStringList etkin;
-    for (const char* ad : adlar) {
-        if (Bul(ad).isEnabled()) etkin.append(QString::fromUtf8(ad));
+QString KatalogTesti::Durum(Adlar denetimler, Adlar düğmeler) {
+    QStringList durum;
+    for (const char* ad : denetimler)
+        if (Bul(ad).isEnabled()) durum.append(QString::fromUtf8(ad));
+    for (const char* ad : düğmeler) durum.append(QLatin1Char('/') + Bul<QAbstractButton>(ad).text());
+    return durum.join(QLatin1Char(' '));
+}
+
+QString KatalogTesti::Seçili(const char* liste) {
+    const QItemSelectionModel& seçim = *Bul<QAbstractItemView>(liste).selectionModel();
+    QStringList satır;
+    for (const QModelIndex& yer : seçim.selectedIndexes()) satır.append(yer.data().toString());
+    EXPECT_TRUE(satır.isEmpty() ? !seçim.currentIndex().isValid() : seçim.isSelected(seçim.currentIndex()));
+    return satır.isEmpty() ? QStringLiteral("-") : satır.join(QLatin1Char('|'));
+}
+
+void KatalogTesti::Denetle(Adlar kutular, const char* düğme, std::initializer_list<Denetim> denetimler) {
+    for (const Denetim& denetim : denetimler) {
+        for (std::size_t i = 0; i < kutular.size(); ++i) Yaz(kutular.begin()[i], denetim.Yazılanlar.begin()[i]);
+        Beklenen(Simge::Bilgi, denetim.Metin, Yanıt::Tamam);
+        Tıkla(düğme);
+        EXPECT_EQ(Kutular().Al().size(), 1u);
+        EXPECT_TRUE(Odakta(denetim.Odak)) << denetim.Metin;
     }
-    return etkin.join(QLatin1Char(' '));
 }
 
-QStringList KatalogTesti::Oku(const char* sql) {
+void KatalogTesti::Çalıştır(Adlar deyimler) {
+    TestVerisi veri(VeriDosyası());
+    for (const char* sql : deyimler) veri.Çalıştır(QString::fromUtf8(sql));
+}
+
+void KatalogTesti::MalzemeEkle(const char* ad, const char* fiyat) {
+    Çalıştır({qPrintable(
+        QStringLiteral("INSERT INTO MalzemeTablosu (MalzemeAdi, MalzemeFiyati) VALUES ('%1', '%2')").arg(ad, fiyat))});
+}
+
+void KatalogTesti::KullanımEkle(const char* tarih, const char* ürün, const char* malzeme) {
+    Çalıştır({qPrintable(QStringLiteral("INSERT INTO UrunMalzemeTablosu (KullanimTarihi, UrunGrubu, UrunAdi, "
+                                        "KullanilanMalzemeAdi, KullanilanMalzemeMiktari, KullanilanMalzemeFiyati) "
+                                        "VALUES (#%1#, 'MASA', '%2', '%3', '4 Adet', '12,5')")
+                             .arg(tarih, ürün, malzeme))});
+}
+
+QString KatalogTesti::Oku(const char* sql) {
     QStringList satırlar;
-    for (const QStringList& satır : TestVerisi(VeriDosyası()).Oku(QString::fromUtf8(sql))) {
+    for (const QStringList& satır : TestVerisi(VeriDosyası()).Oku(QString::fromUtf8(sql)))
         satırlar.append(satır.join(QLatin1Char('|')));
-    }
-    return satırlar;
+    return satırlar.join(QLatin1Char(' '));
 }
 
-void KatalogTesti::Beklenen(MesajKutusu::Simge simge, int metin, MesajKutusu::Yanıt yanıt) {
-    Kutular().Yanıtla(yanıt, [simge, metin](const MesajKutusu::İstek& kutu) {
+void KatalogTesti::Beklenen(Simge simge, int metin, Yanıt yanıt, std::function<void()> kutuAçıkken) {
+    Kutular().Yanıtla(yanıt, [simge, metin, kutuAçıkken](const MesajKutusu::İstek& kutu) {
         EXPECT_EQ(kutu.simge, simge);
-        EXPECT_EQ(kutu.metin, Metin(metin));
-        EXPECT_TRUE(kutu.ortala);
-        EXPECT_EQ(kutu.varsayılan, metin == 720                                    ? MesajKutusu::Yanıt::Hayır
-                                   : kutu.düğmeler == MesajKutusu::Düğmeler::Tamam ? MesajKutusu::Yanıt::Tamam
-                                                                                   : MesajKutusu::Yanıt::Evet);
+        EXPECT_TRUE(kutu.ortala && kutu.metin.startsWith(Metin(metin))) << kutu.metin.toStdString();
+        const bool tekDüğme = kutu.düğmeler == MesajKutusu::Düğmeler::Tamam;
+        EXPECT_EQ(kutu.varsayılan, tekDüğme ? Yanıt::Tamam : metin == 720 ? Yanıt::Hayır : Yanıt::Evet);
+        if (kutuAçıkken) kutuAçıkken();
     });
+}
+
+KatalogTesti::Yazan::Yazan(const QString& yol) : Veri(yol) {
+    Veri.ElleOnayla();
+    Veri.Çalıştır(QStringLiteral("DELETE FROM UrunTablosu WHERE UrunGrubu= 'yok'"));
 }

@@ -8,9 +8,12 @@
 #include "Ayarlar.h"
 #include "DegiskenModulu.h"
 #include "FormOrtami.h"
+#include "MetinTemsilcisi.h"
 #include "MetinTablosu.h"
 #include "ModalBekleyici.h"
 #include "OdbcModulu.h"
+#include "OyukCizgi.h"
+#include "Renk.h"
 #include "Saat.h"
 
 using MesajKutusu::Simge;
@@ -87,6 +90,8 @@ TEST_F(AnaFormu, OrtadaYaDaSaklananKonumdaAçılır) {
     EXPECT_EQ(Etkinler(), "");
     EXPECT_EQ(Bul<QStatusBar>("DurumÇubuğu").findChild<QLabel*>()->text(), "22 Kasım 2026 Pazar   ");
     EXPECT_EQ(QApplication::focusWidget(), &Ağaç());
+    OyukÇizgi çizgi;
+    EXPECT_EQ(çizgi.grab().toImage().pixel(0, 0), RenkÇöz(0x80000010, çizgi.palette()).rgb());
     const QSize boşluk = Form().screen()->geometry().size() - Form().size();
     EXPECT_EQ(Form().pos(), QPoint(boşluk.width() / 2, boşluk.height() / 2));
 
@@ -116,14 +121,64 @@ TEST_F(AnaFormu, SeçiminHerDeğişmesiVeYineTıklanmasıBirKezYükler) {
     EXPECT_EQ(Satırlar().size(), 0);
 }
 
-TEST_F(AnaFormu, BoşÜrünListesiniSorar) {
-    Kutular().Yanıtla(Yanıt::Hayır);
+// Not loaded is not empty: nothing of the product before stays, nothing can be written or printed.
+TEST_F(AnaFormu, YüklenemeyenDeğiştirilemezTekrarYüklenir) {
+    Örnek();
+    const auto yüklenemedi = [this](const QStringList& satırlar) {
+        EXPECT_EQ(Maliyet(), "     ");
+        EXPECT_EQ(Satırlar(), satırlar);
+        EXPECT_EQ(Etkinler(), "");
+        for (const char* ad : {"ListeyeMalzemeEkleButonu", "MiktarlarıGösterDüğmesi", "ÖnizlemeButonu"}) {
+            EXPECT_FALSE(Etkin(ad)) << ad;
+        }
+        EXPECT_TRUE(Bul("ÜrünüTekrarYükle").isVisible());
+    };
+    ÜrünSeç("MASA", "Sehpa");
+    ODBCBağlantısınıKapat();
+    ÜrünSeç("MASA", "Yemek Masası");
+    yüklenemedi({});
+    ASSERT_TRUE(ODBCBağlan());
+    QTest::keyClick(&Ağaç(), Qt::Key_T, Qt::AltModifier);
+    EXPECT_FALSE(Bul("ÜrünüTekrarYükle").isVisible());
+    EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "1.280,00");
+    EXPECT_EQ(Etkinler(), "Çsg");
+    // Rows that stop early are shown, but make no figures.
+    Malzeme("MASA", "Yemek Masası", QString(255, QChar(u'a')), "1 Adet", "1");
+    Kutular().Yanıtla(Yanıt::Tamam);
+    Tıkla(Düğüm("MASA", "Yemek Masası"));
+    yüklenemedi({"1,00 Adet|" + QString(254, QChar(u'a')) + "|1,00|1,00"});
+
+    // An unread list of products asks for no first one.
+    ODBCBağlantısınıKapat();
     Aç();
-    Kutular().TekKutu(Simge::Soru, Metin(420));
-    EXPECT_EQ(Etkinler(), "");
-    Kutular().Yanıtla(Yanıt::Hayır);
+    EXPECT_TRUE(Bul("ÜrünListesiniTekrarYükle").isVisible());
     QTest::mouseClick(Ağaç().viewport(), Qt::LeftButton, {}, QPoint(20, 20));
-    Kutular().TekKutu(Simge::Soru, Metin(420));
+    ASSERT_TRUE(ODBCBağlan());
+    QTest::mouseClick(&Bul("ÜrünListesiniTekrarYükleDüğmesi"), Qt::LeftButton);
+    EXPECT_FALSE(Bul("ÜrünListesiniTekrarYükle").isVisible());
+    EXPECT_EQ(Düğümler().size(), 5);
+    EXPECT_EQ(QApplication::focusWidget(), &Ağaç());
+}
+
+TEST_F(AnaFormu, EnBüyükSayılarKüçükEkrandaSığarGizlenenHanelerSöylenir) {
+    Ürün("MASA", "Altın", "0", "0", "-112,25");
+    Malzeme("MASA", "Altın", "Külçe", "1 Adet", "922337203685477");
+    Ürün("MASA", "Kablo");
+    Malzeme("MASA", "Kablo", "Bakır", "450 Metre", "0,0968");
+    OndalıkBasamak = 6;
+    Aç();
+    Form().resize(800, 560);
+    ÜrünSeç("MASA", "Altın");
+    EXPECT_EQ(Yazı("MalzemeMaliyetiToplamıKutusu"), "922.337.203.685.477,000000");
+    QTest::keyClick(&Bul("MalzemeMiktarıveBirimVarnekGösterSeçeneği"), Qt::Key_Space);
+    for (const auto* kutu : Form().findChildren<QLineEdit*>()) {
+        EXPECT_LT(kutu->fontMetrics().horizontalAdvance(kutu->text()), kutu->width() - 4)
+            << kutu->objectName().toStdString();
+    }
+    OndalıkBasamak = 2;
+    ÜrünSeç("MASA", "Kablo");
+    EXPECT_EQ(Satırlar(), QStringList("450,00 Metre|Bakır|0,10|43,56"));
+    EXPECT_EQ(Liste().topLevelItem(0)->data(1, AyrıntıRolü).toString(), "Fiyatı: 0,0968");
 }
 
 TEST_F(AnaFormu, YazarkenHesaplarVeDeğişikliğiİşaretler) {
@@ -154,15 +209,30 @@ TEST_F(AnaFormu, YazarkenHesaplarVeDeğişikliğiİşaretler) {
 TEST_F(AnaFormu, YalnızDiğerMaliyetEksiOlabilir) {
     Örnek();
     ÜrünSeç("MASA", "Yemek Masası");
-    Yaz("KarYüzdesiKutusu", "-1");
-    EXPECT_EQ(Yazı("KarYüzdesiKutusu"), "1");
+    for (const char* kutu : {"İşçilikYüzdesiKutusu", "KarYüzdesiKutusu", "VadeFarkıYüzdesiKutusu"}) {
+        Yaz(kutu, "-1");
+        EXPECT_EQ(Yazı(kutu), "1") << kutu;
+    }
     Yaz("DiğerMaliyetYüzdesiKutusu", "-");
-    EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "1.140,00");  // counts 0
-    // Leaving tells that it is no number; the command that the click was meant for does not run.
+    EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "1.030,00");  // counts 0
     Kutular().Yanıtla(Yanıt::Tamam);
     QTest::mouseClick(&Bul("DeğişiklikleriKaydetButonu"), Qt::LeftButton);
     Kutular().TekKutu(Simge::Kritik, Metin(2111));
     EXPECT_EQ(Yazı("DiğerMaliyetYüzdesiKutusu"), "-");
+    EXPECT_TRUE(Etkin("DeğişiklikleriKaydetButonu"));
+    // Nor does one that takes the focus from no box.
+    Bul("DiğerMaliyetYüzdesiKutusu").setFocus();
+    Kutular().Yanıtla(Yanıt::Tamam);
+    QTest::keyClick(&Bul("DiğerMaliyetYüzdesiKutusu"), Qt::Key_F4);
+    Kutular().TekKutu(Simge::Kritik, Metin(2111));
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+
+    Yaz("DiğerMaliyetYüzdesiKutusu", "-1000000000000000000000");
+    Kutular().Yanıtla(Yanıt::Tamam);
+    QTest::mouseClick(&Bul("DeğişiklikleriKaydetButonu"), Qt::LeftButton);
+    Kutular().TekKutu(Simge::Bilgi, Metin(2140) + " 1.000.000");
+    EXPECT_EQ(Yazı("DiğerMaliyetYüzdesiKutusu"), "-1.000.000.000.000.000.000.000,00");
+    EXPECT_EQ(QApplication::focusWidget(), &Bul("DiğerMaliyetYüzdesiKutusu"));
     EXPECT_TRUE(Etkin("DeğişiklikleriKaydetButonu"));
 }
 

@@ -19,17 +19,20 @@ class KatalogKomutları : public FormOrtamı {
     }
     // In add mode the frame is open and the button saves.
     static void EklemeKipinde(QWidget& form, const char* düğme) {
-        EXPECT_TRUE(form.findChild<QWidget*>(QStringLiteral("Çerçeve"))->isEnabled());
-        EXPECT_EQ(form.findChild<QAbstractButton*>(QString::fromUtf8(düğme))->text(), QStringLiteral("Kaydet"));
+        EXPECT_TRUE(form.findChild<QWidget*>("Çerçeve")->isEnabled());
+        EXPECT_EQ(form.findChild<QAbstractButton*>(QString::fromUtf8(düğme))->text(), "Kaydet");
     }
     static void Kapat(QWidget& form) {
         for (int i = 0; i < 2 && form.isVisible(); ++i) QTest::keyClick(&form, Qt::Key_Escape);
     }
 };
 
-TEST_F(KatalogKomutları, BoşÜrünListesindeEvetEklemeKipindeAçar) {
+TEST_F(KatalogKomutları, BoşÜrünListesiSorulurEvetEklemeKipindeAçar) {
+    Kutular().Yanıtla(Yanıt::Hayır);
+    Aç();
+    Kutular().TekKutu(Simge::Soru, Metin(420));
     Kutular().Yanıtla(Yanıt::Evet);
-    ModalAç([this] { Aç(); }, QStringLiteral("ÜrünEkleSilFormu"),
+    ModalAç([this] { QTest::mouseClick(Ağaç().viewport(), Qt::LeftButton, {}, QPoint(20, 20)); }, "ÜrünEkleSilFormu",
             [](QWidget& form) {
                 EklemeKipinde(form, "ÜrünEkleKaydetButonu");
                 Kapat(form);
@@ -38,14 +41,14 @@ TEST_F(KatalogKomutları, BoşÜrünListesindeEvetEklemeKipindeAçar) {
 }
 
 TEST_F(KatalogKomutları, BoşKatalogÖnceMalzemeEklemeyiSorar) {
-    Ürün(QStringLiteral("MASA"), QStringLiteral("Sehpa"));
+    Ürün("MASA", "Sehpa");
     Aç();
-    ÜrünSeç(QStringLiteral("MASA"), QStringLiteral("Sehpa"));
+    ÜrünSeç("MASA", "Sehpa");
     Kutular().Yanıtla(Yanıt::Hayır);
     Bas("ListeyeMalzemeEkleButonu");
     Kutular().TekKutu(Simge::Soru, Metin(430));
     Kutular().Yanıtla(Yanıt::Evet);
-    ModalAç([this] { Bas("ListeyeMalzemeEkleButonu"); }, QStringLiteral("MalzemeEkleSilFormu"),
+    ModalAç([this] { Bas("ListeyeMalzemeEkleButonu"); }, "MalzemeEkleSilFormu",
             [](QWidget& form) {
                 EklemeKipinde(form, "MalzemeEkleKaydetButonu");
                 Kapat(form);
@@ -54,19 +57,17 @@ TEST_F(KatalogKomutları, BoşKatalogÖnceMalzemeEklemeyiSorar) {
 
 TEST_F(KatalogKomutları, MiktarFormuTutarlarıKendiKuralıylaGösterir) {
     // 24,99 at 0,50 % is 0,1250 inside the total, but 0,12 on the amounts form.
-    Ürün(QStringLiteral("MASA"), QStringLiteral("Sehpa"), QStringLiteral("0,5"), QStringLiteral("20"),
-         QStringLiteral("-4"), QStringLiteral("0"));
-    Malzeme(QStringLiteral("MASA"), QStringLiteral("Sehpa"), QStringLiteral("Cam"), QStringLiteral("1 Adet"),
-            QStringLiteral("24,99"));
+    Ürün("MASA", "Sehpa", "0,5", "20", "-4", "0");
+    Malzeme("MASA", "Sehpa", "Cam", "1 Adet", "24,99");
     Aç();
-    ÜrünSeç(QStringLiteral("MASA"), QStringLiteral("Sehpa"));
-    ModalAç([this] { Bas("MiktarlarıGösterDüğmesi"); }, QStringLiteral("MiktarGösterFormu"),
+    ÜrünSeç("MASA", "Sehpa");
+    ModalAç([this] { Bas("MiktarlarıGösterDüğmesi"); }, "MiktarGösterFormu",
             [this](QWidget& form) {
-                EXPECT_EQ(Kutu(form, "MalzemeMaliyetiKutusu"), QStringLiteral("24,99"));
-                EXPECT_EQ(Kutu(form, "İşçilikMaliyetiKutusu"), QStringLiteral("0,12"));
-                EXPECT_EQ(Kutu(form, "KarMaliyetiKutusu"), QStringLiteral("5,00"));
-                EXPECT_EQ(Kutu(form, "VadeMaliyetiKutusu"), QStringLiteral("0,00"));
-                EXPECT_EQ(Kutu(form, "DiğerVarnekKutusu"), QStringLiteral("-1,00"));
+                EXPECT_EQ(Kutu(form, "MalzemeMaliyetiKutusu"), "24,99");
+                EXPECT_EQ(Kutu(form, "İşçilikMaliyetiKutusu"), "0,12");
+                EXPECT_EQ(Kutu(form, "KarMaliyetiKutusu"), "5,00");
+                EXPECT_EQ(Kutu(form, "VadeMaliyetiKutusu"), "0,00");
+                EXPECT_EQ(Kutu(form, "DiğerVarnekKutusu"), "-1,00");
                 EXPECT_EQ(Kutu(form, "ToplamMaliyetKutusu").toStdString(), Yazı("ToplamMaliyetKutusu"));
                 Kapat(form);
             });

@@ -48,6 +48,11 @@ TEST_F(Miktarlar, İşaretliykenGösterirVeYüzdeyiİzler) {
     ÜrünSeç("MASA", "Boş");
     SeçeneğeBas();
     EXPECT_EQ(Kutucuklar(), "    ");  // no quantity, nothing to show
+    Yaz("FireOranıKutusu", "5");
+    ÜrünSeç("MASA", "Tek");
+    EXPECT_EQ(Kutucuklar(), "    ") << "a waste rate belongs to its product";
+    ÜrünSeç("MASA", "Boş");
+    SeçeneğeBas();
     EXPECT_TRUE(Seçenek().isChecked());
     QTest::mouseClick(Ağaç().viewport(), Qt::LeftButton, {}, Ağaç().viewport()->rect().bottomLeft() + QPoint(5, -5));
     EXPECT_FALSE(Seçenek().isChecked());

@@ -161,10 +161,16 @@ void Model::Adlandır() {
     if (Belki()) yeni = yeni.toUpper();
     const QString eski = grupMu ? m_grup : m_ürün;
     VeriModeli sonra = m_model;
+    // Groups that have a product in common become one only if the user wants it.
+    const bool sorulacak = grupMu && m_model.OrtakÜrünVar(eski, yeni);
+    const bool vazgeç = sorulacak && Belki();
     bool tamam = true;
     if (yeni != eski && grupMu) sonra.GrubuAdlandır(m_grup, yeni);
     if (yeni != eski && !grupMu) tamam = sonra.ÜrünüAdlandır(m_grup, m_ürün, yeni);
     bool soruldu = false;
+    if (sorulacak) {
+        Kutular().Yanıtla(vazgeç ? Yanıt::Hayır : Yanıt::Evet, [&](const MesajKutusu::İstek&) { soruldu = true; });
+    }
     if (!tamam) Kutular().Yanıtla(Yanıt::Tamam, [&](const MesajKutusu::İstek&) { soruldu = true; });
     // An editor that has closed lives on unseen for a while.
     const auto düzenleyici = [this]() -> QLineEdit* {
@@ -178,7 +184,9 @@ void Model::Adlandır() {
     ASSERT_TRUE(düzenleyici());
     Yazı(*düzenleyici(), yeni);
     QTest::keyClick(düzenleyici(), Qt::Key_Return);
-    if (tamam) {
+    if (vazgeç) {
+        EXPECT_TRUE(Bekle([&] { return soruldu; }));
+    } else if (tamam) {
         // A rename that makes groups one builds the tree anew.
         EXPECT_TRUE(Bekle([&] { return Ağaç().currentItem() != düğüm || düğüm->text(0) == yeni; }));
     } else {
@@ -186,7 +194,7 @@ void Model::Adlandır() {
         QTest::keyClick(düzenleyici(), Qt::Key_Escape);
     }
     EXPECT_TRUE(Bekle([&] { return !düzenleyici(); }));
-    if (tamam) m_model = sonra;
+    if (tamam && !vazgeç) m_model = sonra;
 }
 
 void Model::MalzemeEkle() {

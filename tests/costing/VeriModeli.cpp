@@ -43,6 +43,11 @@ void VeriModeli::ÜrünüSil(const QString& grup, const QString& ad) {
     Kullanımlar.removeIf([&](const Kullanım& k) { return Eş(k.Grup, grup) && Eş(k.Ürün, ad); });
 }
 
+bool VeriModeli::OrtakÜrünVar(const QString& grup, const QString& öteki) const {
+    return !Eş(grup, öteki) && std::any_of(Ürünler.begin(), Ürünler.end(),
+                                           [&](const Ürün& ü) { return Eş(ü.Grup, grup) && ÜrünVar(öteki, ü.Ad); });
+}
+
 void VeriModeli::GrubuAdlandır(const QString& eski, const QString& yeni) {
     for (Ürün& ü : Ürünler) {
         if (Eş(ü.Grup, eski)) ü.Grup = yeni;

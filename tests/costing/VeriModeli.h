@@ -40,6 +40,8 @@ class VeriModeli {
     bool MalzemeVar(const QString& ad) const;
     void GrubuSil(const QString& grup);
     void ÜrünüSil(const QString& grup, const QString& ad);
+    // Whether two groups that are not one already have a product of the same name.
+    bool OrtakÜrünVar(const QString& grup, const QString& öteki) const;
     void GrubuAdlandır(const QString& eski, const QString& yeni);
     // False: another product of the group bears the name.
     bool ÜrünüAdlandır(const QString& grup, const QString& eski, const QString& yeni);

@@ -1,71 +1,27 @@
 #include "MotorTesti.h"
 
-// The program's statements, word for word, in the order of a working day.
-TEST_F(MotorTesti, ProgramınDeyimleri) {
+// One product's rows through a working day: values come back in the driver's form, statements that find nothing are no
+// failure, and one group in two spellings is one.
+TEST_F(MotorTesti, BirGününDeyimleri) {
     Bağ bağ(m_dosya);
-    const auto yap = [&](const std::string& sql) {
-        const Sonuç sonuç = bağ.Çalıştır(sql);
-        EXPECT_EQ(sonuç.Kod, SQL_SUCCESS) << sql << ": " << sonuç.Mesaj;
-    };
     const std::string koşul = "WHERE UrunGrubu= 'MASA' AND UrunAdi= 'Çalışma Masası'";
-    const std::string malzemeler =
-        "SELECT KullanilanMalzemeMiktari, KullanilanMalzemeAdi, KullanilanMalzemeFiyati FROM UrunMalzemeTablosu " +
-        koşul + " ORDER BY KullanilanMalzemeAdi ASC";
-
-    EXPECT_EQ(bağ.Tek("SELECT Count(UrunAdi) AS KayitSayisi FROM UrunTablosu"), "0");
-    yap("INSERT INTO UrunTablosu (UrunGrubu, UrunAdi) VALUES ('MASA', 'Çalışma Masası')");
-    yap("INSERT INTO UrunTablosu (UrunGrubu, UrunAdi) VALUES ('DOLAP', 'Gardırop')");
-    yap(MalzemeEkle("Çam Kereste", "1.250,50"));
-    yap(MalzemeEkle("Vida", "0,1255"));
-    EXPECT_EQ(bağ.Oku("SELECT UrunGrubu, UrunAdi FROM UrunTablosu ORDER BY UrunGrubu ASC, UrunAdi"),
-              (Satırlar{{"DOLAP", "Gardırop"}, {"MASA", "Çalışma Masası"}}));
-    EXPECT_EQ(bağ.Oku("SELECT DISTINCT UrunGrubu FROM UrunTablosu ORDER BY UrunGrubu ASC"),
-              (Satırlar{{"DOLAP"}, {"MASA"}}));
-    EXPECT_EQ(bağ.Oku("SELECT MalzemeAdi, MalzemeFiyati FROM MalzemeTablosu WHERE MalzemeAdi= 'VİDA'"),
-              (Satırlar{{"Vida", "0.1255"}}));
-    const std::string yüzdeler =
-        "SELECT IscilikYuzdesi, KarYuzdesi, DigerVarnekYuzdesi, VadeFarkiYuzdesi FROM UrunTablosu " + koşul;
-    EXPECT_EQ(bağ.Oku(yüzdeler), (Satırlar{{"0", "0", "0", "0"}}));
-    yap("UPDATE UrunTablosu SET IscilikYuzdesi= '12,5', KarYuzdesi= '20', DigerVarnekYuzdesi= '-3,25', "
-        "VadeFarkiYuzdesi= '0,1' " +
-        koşul);
-    EXPECT_EQ(bağ.Oku(yüzdeler), (Satırlar{{"12.5", "20", "-3.25", "0.1"}}));
-
-    yap("INSERT INTO UrunMalzemeTablosu (KullanimTarihi, UrunGrubu, UrunAdi, KullanilanMalzemeAdi, "
-        "KullanilanMalzemeMiktari, KullanilanMalzemeFiyati) VALUES (#3/7/2004#, 'MASA', 'Çalışma Masası', 'Vida', "
-        "'20 Adet', '0,1255')");
-    yap("INSERT INTO UrunMalzemeTablosu (KullanimTarihi, UrunGrubu, UrunAdi, KullanilanMalzemeAdi, "
-        "KullanilanMalzemeMiktari, KullanilanMalzemeFiyati) VALUES (#3/7/2004#, 'MASA', 'Çalışma Masası', "
-        "'Çam Kereste', '2,50 Metre', '1.250,50')");
-    EXPECT_EQ(bağ.Oku(malzemeler), (Satırlar{{"2,50 Metre", "Çam Kereste", "1250.5"}, {"20 Adet", "Vida", "0.1255"}}));
-    yap("UPDATE UrunMalzemeTablosu SET KullanimTarihi= #12/31/2004#, UrunGrubu= 'MASA', UrunAdi= 'Çalışma Masası', "
-        "KullanilanMalzemeAdi= 'Vida', KullanilanMalzemeMiktari= '24 Adet', KullanilanMalzemeFiyati= '0,13' "
-        "WHERE UrunGrubu= 'MASA' AND UrunAdi= 'Çalışma Masası' AND KullanilanMalzemeAdi= 'Vida'");
-    EXPECT_EQ(bağ.Oku("SELECT KullanilanMalzemeAdi, KullanilanMalzemeMiktari, KullanilanMalzemeFiyati, UrunAdi FROM "
-                      "UrunMalzemeTablosu WHERE KullanimTarihi = #12/31/2004# ORDER BY UrunAdi ASC"),
-              (Satırlar{{"Vida", "24 Adet", "0.13", "Çalışma Masası"}}));
-    EXPECT_EQ(bağ.Tek("SELECT KullanimTarihi FROM UrunMalzemeTablosu WHERE KullanilanMalzemeAdi= 'Çam Kereste'"),
-              "2004-03-07 00:00:00");
-
-    yap("UPDATE MalzemeTablosu SET MalzemeFiyati= '2' WHERE MalzemeAdi= 'Vida'");
-    yap("UPDATE UrunMalzemeTablosu SET KullanilanMalzemeFiyati= '2' WHERE KullanilanMalzemeAdi= 'Vida'");
-    EXPECT_EQ(bağ.Oku(malzemeler).at(1).at(2), "2");
-    yap("DELETE FROM UrunMalzemeTablosu WHERE UrunGrubu= 'MASA' AND UrunAdi='Çalışma Masası' AND "
-        "KullanilanMalzemeAdi= 'Çam Kereste'");
-    EXPECT_EQ(bağ.Oku(malzemeler).size(), 1u);
-    yap("UPDATE UrunTablosu SET UrunGrubu= 'Dolap' WHERE UrunGrubu= 'MASA'");
-    yap("UPDATE UrunMalzemeTablosu SET UrunGrubu= 'Dolap' WHERE UrunGrubu= 'MASA'");
-    yap("UPDATE UrunTablosu SET UrunAdi= 'Gardırop' WHERE UrunAdi= 'Çalışma Masası' AND UrunGrubu= 'Dolap'");
-    // Merged groups: the same product twice, and one group in two spellings, which DISTINCT takes for one.
-    EXPECT_EQ(bağ.Oku("SELECT UrunAdi, UrunGrubu FROM UrunTablosu WHERE UrunGrubu= 'DOLAP' AND UrunAdi= 'GARDIROP'"),
-              (Satırlar{{"Gardırop", "Dolap"}, {"Gardırop", "DOLAP"}}));
+    for (const std::string& sql :
+         {std::string("INSERT INTO UrunTablosu (UrunGrubu, UrunAdi) VALUES ('MASA', 'Çalışma Masası')"),
+          std::string("INSERT INTO UrunTablosu (UrunGrubu, UrunAdi) VALUES ('masa', 'Gardırop')"),
+          "UPDATE UrunTablosu SET IscilikYuzdesi= '12,5', DigerVarnekYuzdesi= '-3,25' " + koşul,
+          std::string("INSERT INTO UrunMalzemeTablosu (KullanimTarihi, UrunGrubu, UrunAdi, KullanilanMalzemeAdi, "
+                      "KullanilanMalzemeMiktari, KullanilanMalzemeFiyati) VALUES (#3/7/2004#, 'MASA', "
+                      "'Çalışma Masası', 'Vida', '20 Adet', '1.250,50')"),
+          std::string("DELETE FROM MalzemeTablosu WHERE MalzemeAdi= 'yok'"),
+          std::string("UPDATE MalzemeTablosu SET MalzemeFiyati= '1' WHERE MalzemeAdi= 'yok'")})
+        EXPECT_EQ(bağ.Çalıştır(sql).Kod, SQL_SUCCESS) << sql;
+    EXPECT_EQ(bağ.Oku("SELECT IscilikYuzdesi, KarYuzdesi, DigerVarnekYuzdesi FROM UrunTablosu " + koşul),
+              (Satırlar{{"12.5", "0", "-3.25"}}));
+    EXPECT_EQ(bağ.Oku("SELECT KullanimTarihi, KullanilanMalzemeMiktari, KullanilanMalzemeFiyati FROM "
+                      "UrunMalzemeTablosu WHERE KullanimTarihi = #3/7/2004# AND KullanilanMalzemeAdi= 'VİDA'"),
+              (Satırlar{{"2004-03-07 00:00:00", "20 Adet", "1250.5"}}));
     EXPECT_EQ(bağ.Oku("SELECT DISTINCT UrunGrubu FROM UrunTablosu ORDER BY UrunGrubu ASC").size(), 1u);
-    yap("DELETE FROM UrunTablosu WHERE UrunGrubu= 'dolap'");
-    EXPECT_EQ(bağ.Tek("SELECT Count(UrunAdi) AS KayitSayisi FROM UrunTablosu"), "0");
-
-    // Nothing to change is no failure and no information either.
-    yap("DELETE FROM MalzemeTablosu WHERE MalzemeAdi= 'yok'");
-    yap("UPDATE MalzemeTablosu SET MalzemeFiyati= '1' WHERE MalzemeAdi= 'yok'");
+    EXPECT_EQ(bağ.Tek("SELECT Count(UrunAdi) AS KayitSayisi FROM UrunTablosu"), "2");
 }
 
 TEST_F(MotorTesti, TürkçeSıraVeEşitlik) {
@@ -111,13 +67,8 @@ TEST_F(MotorTesti, ReddedilenHiçbirŞeyiDeğiştirmez) {
         std::string Mesaj;  // its beginning
     } durumlar[] = {
         {sil + "a' OR '1'='1'", "37000", "Deyim anlaşılamadı"},
-        {sil + "x' OR 'a'='a'", "37000", "Deyim anlaşılamadı"},
-        {sil + "a''", "37000", "Deyim anlaşılamadı"},
         {sil + "a'; DELETE FROM UrunTablosu WHERE UrunAdi= 'a'", "37000", "Deyim anlaşılamadı"},
-        {sil + "a", "37000", "Deyim anlaşılamadı"},
         {fiyat + "12.5' WHERE MalzemeAdi= 'a'", "22005", "Data type mismatch"},
-        {fiyat + "' WHERE MalzemeAdi= 'a'", "22005", "Data type mismatch"},
-        {fiyat + "bin' WHERE MalzemeAdi= 'a'", "22005", "Data type mismatch"},
         {fiyat + "922.337.203.685.477,5808' WHERE MalzemeAdi= 'a'", "22003", "Sayı çok büyük"},
         {fiyat + "1' WHERE MalzemeFiyati= '1.5'", "22005", "Data type mismatch"},
         {"UPDATE MalzemeTablosu SET MalzemeFiyati= #3/7/2004# WHERE MalzemeAdi= 'a'", "22005", "Data type mismatch"},
@@ -133,6 +84,8 @@ TEST_F(MotorTesti, ReddedilenHiçbirŞeyiDeğiştirmez) {
         {"SELECT X FROM Y", "S0002", "Y adında"},
         {"SELECT * FROM sqlite_schema", "S0002", "sqlite_schema adında"},
         {"CREATE TABLE urunTablosu (A TEXT)", "S0001", "urunTablosu adında"},
+        {"CREATE INDEX urunSirasi ON UrunTablosu (KarYuzdesi)", "S0011", "urunSirasi adında"},
+        {"CREATE TABLE T (A TEXT, A TEXT)", "S1000", "Deyim bu veri dosyasında çalıştırılamadı"},
     };
     for (const auto& durum : durumlar) {
         const Sonuç sonuç = bağ.Çalıştır(durum.Sql);
@@ -163,9 +116,7 @@ TEST_F(MotorTesti, SayılarTamOlarakGeriGelir) {
     Bağ bağ(m_dosya);
     for (const auto& [yazılan, okunan] : {std::pair("-922.337.203.685.477,5808", "-922337203685477.5808"),
                                           {"922337203685477,5807", "922337203685477.5807"},
-                                          {"0,0001", "0.0001"},
                                           {"1.250,50", "1250.5"},
-                                          {"7", "7"},
                                           {"2,00025", "2.0002"}}) {
         ASSERT_EQ(bağ.Çalıştır(MalzemeEkle(yazılan, yazılan)).Kod, SQL_SUCCESS) << yazılan;
         EXPECT_EQ(bağ.Tek(std::string("SELECT MalzemeFiyati FROM MalzemeTablosu WHERE MalzemeAdi= '") + yazılan + "'"),
@@ -181,11 +132,4 @@ TEST_F(MotorTesti, SayılarTamOlarakGeriGelir) {
         SQL_SUCCESS);
     ASSERT_EQ(bağ.Çalıştır("INSERT INTO Deneme (Ad) VALUES ('')").Kod, SQL_SUCCESS);
     EXPECT_EQ(bağ.Oku("SELECT * FROM Deneme"), (Satırlar{{"", "-2.5", "1.25", "<NULL>"}}));
-    for (const auto& [yazılan, okunan] : {std::pair("0,1", "0.1"),
-                                          {"123456789,987654321", "123456789.98765433"},
-                                          {"100000000000000000000", "100000000000000000000"},
-                                          {"0,000001", "0.000001"}}) {
-        ASSERT_EQ(bağ.Çalıştır(std::string("UPDATE Deneme SET Oran= '") + yazılan + "' WHERE Ad= ''").Kod, SQL_SUCCESS);
-        EXPECT_EQ(bağ.Tek("SELECT Oran FROM Deneme"), okunan);
-    }
 }

@@ -9,14 +9,10 @@ TEST_F(MotorTesti, HerDeyimDizindenYürür) {
         std::string Sql;
         std::string Plan;
     } durumlar[] = {
-        {"SELECT UrunGrubu, UrunAdi FROM UrunTablosu ORDER BY UrunGrubu ASC, UrunAdi",
-         "SCAN UrunTablosu USING COVERING INDEX UrunSirasi"},
         {"SELECT DISTINCT UrunGrubu FROM UrunTablosu ORDER BY UrunGrubu ASC",
          "SCAN UrunTablosu USING COVERING INDEX UrunSirasi"},
-        {"SELECT MalzemeAdi FROM MalzemeTablosu ORDER BY MalzemeAdi ASC",
-         "SCAN MalzemeTablosu USING COVERING INDEX MalzemeSirasi"},
         {HerMalzeme, "SCAN MalzemeTablosu USING INDEX MalzemeSirasi"},
-        {"SELECT MalzemeFiyati FROM MalzemeTablosu WHERE MalzemeAdi= 'M'",
+        {"UPDATE MalzemeTablosu SET MalzemeFiyati= '1' WHERE MalzemeAdi= 'M'",
          "SEARCH MalzemeTablosu USING INDEX MalzemeSirasi (MalzemeAdi=?)"},
         {"SELECT IscilikYuzdesi FROM UrunTablosu " + ürün,
          "SEARCH UrunTablosu USING INDEX UrunSirasi (UrunGrubu=? AND UrunAdi=?)"},
@@ -25,26 +21,13 @@ TEST_F(MotorTesti, HerDeyimDizindenYürür) {
          "SEARCH UrunMalzemeTablosu USING INDEX UrununMalzemeleri (UrunGrubu=? AND UrunAdi=?)"},
         {"SELECT KullanilanMalzemeAdi FROM UrunMalzemeTablosu WHERE KullanimTarihi = #3/7/2004# ORDER BY UrunAdi ASC",
          "SEARCH UrunMalzemeTablosu USING INDEX GununHareketleri (KullanimTarihi=?)"},
-        {"UPDATE MalzemeTablosu SET MalzemeFiyati= '1' WHERE MalzemeAdi= 'M'",
-         "SEARCH MalzemeTablosu USING INDEX MalzemeSirasi (MalzemeAdi=?)"},
         {"UPDATE UrunMalzemeTablosu SET KullanilanMalzemeFiyati= '1' WHERE KullanilanMalzemeAdi= 'M'",
-         "SEARCH UrunMalzemeTablosu USING INDEX MalzemeninUrunleri (KullanilanMalzemeAdi=?)"},
-        {"UPDATE UrunTablosu SET KarYuzdesi= '1' " + ürün,
-         "SEARCH UrunTablosu USING INDEX UrunSirasi (UrunGrubu=? AND UrunAdi=?)"},
-        {"UPDATE UrunMalzemeTablosu SET UrunGrubu= 'Y' WHERE UrunGrubu= 'G'",
-         "SEARCH UrunMalzemeTablosu USING INDEX UrununMalzemeleri (UrunGrubu=?)"},
-        {"UPDATE UrunMalzemeTablosu SET KullanilanMalzemeMiktari= '1 Adet' " + ürün + " AND KullanilanMalzemeAdi= 'M'",
-         "SEARCH UrunMalzemeTablosu USING INDEX UrununMalzemeleri (UrunGrubu=? AND UrunAdi=? AND "
-         "KullanilanMalzemeAdi=?)"},
-        {"DELETE FROM UrunMalzemeTablosu " + ürün,
-         "SEARCH UrunMalzemeTablosu USING INDEX UrununMalzemeleri (UrunGrubu=? AND UrunAdi=?)"},
-        {"DELETE FROM UrunMalzemeTablosu WHERE KullanilanMalzemeAdi= 'M'",
          "SEARCH UrunMalzemeTablosu USING INDEX MalzemeninUrunleri (KullanilanMalzemeAdi=?)"},
     };
     Motor::Veritabanı veri(m_dosya, Parola);
-    const Motor::SqliteBağlantısı vt = Motor::VeriDosyasıAç(m_dosya, Parola);
+    const Motor::AçıkDosya dosya = Motor::VeriDosyasıAç(m_dosya, Parola);
     for (const auto& durum : durumlar) {
-        Motor::SqliteDeyimi açıkla(vt.get(), "EXPLAIN QUERY PLAN " + veri.Çevir(durum.Sql).Sql);
+        Motor::SqliteDeyimi açıkla(dosya.Vt.get(), "EXPLAIN QUERY PLAN " + veri.Çevir(durum.Sql).Sql);
         std::string plan;
         while (açıkla.Adım()) plan += std::string(açıkla.Metin(3)) + ";";
         EXPECT_EQ(plan, durum.Plan + ";") << durum.Sql;

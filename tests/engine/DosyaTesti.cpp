@@ -4,13 +4,18 @@
 
 #include <chrono>
 
+#include "Ariza.h"
 #include "MotorTesti.h"
 
 namespace {
 
 // Another program with the file open.
 struct YabancıBağlantı {
-    explicit YabancıBağlantı(const std::string& yol) { EXPECT_EQ(sqlite3_open(yol.c_str(), &Vt), SQLITE_OK); }
+    explicit YabancıBağlantı(const std::string& yol, bool sıralı = false) {
+        EXPECT_EQ(sqlite3_open(yol.c_str(), &Vt), SQLITE_OK);
+        const auto sıra = [](void*, int a, const void*, int b, const void*) { return a - b; };
+        if (sıralı) sqlite3_create_collation(Vt, "TURKCE", SQLITE_UTF8, nullptr, sıra);
+    }
     ~YabancıBağlantı() { sqlite3_close(Vt); }
     void Çalıştır(const char* sql) {
         EXPECT_EQ(sqlite3_exec(Vt, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(Vt);
@@ -18,10 +23,19 @@ struct YabancıBağlantı {
     sqlite3* Vt = nullptr;
 };
 
-mode_t İzinler(const std::string& yol) {
+struct stat Bilgi(const std::string& yol) {
     struct stat bilgi {};
     stat(yol.c_str(), &bilgi);
-    return bilgi.st_mode & 07777;
+    return bilgi;
+}
+
+mode_t İzinler(const std::string& yol) {
+    return Bilgi(yol).st_mode & 07777;
+}
+
+Sonuç BağlanmayıDene(const std::string& yol, const std::string& parola = Parola) {
+    Bağ bağ;
+    return bağ.Bağlan(Tanım(yol, parola));
 }
 
 bool İçinde(const std::string& metin, const std::string& parça) {
@@ -31,29 +45,68 @@ bool İçinde(const std::string& metin, const std::string& parça) {
 }  // namespace
 
 TEST_F(MotorTesti, BağlanmakDosyaYaratmazVeParolaİster) {
-    const auto bağlan = [](const std::string& tanım) {
-        Bağ bağ;
-        return bağ.Bağlan(tanım);
-    };
-    const Sonuç yok = bağlan(Tanım(Yol("yok.vtb")));
+    const Sonuç yok = BağlanmayıDene(Yol("yok.vtb"));
     EXPECT_EQ(yok.Durum, "08001");
     EXPECT_TRUE(İçinde(yok.Mesaj, "bulunamadı")) << yok.Mesaj;
-    EXPECT_EQ(bağlan(Tanım(m_klasör)).Durum, "08001");
+    EXPECT_EQ(BağlanmayıDene(m_klasör).Durum, "08001");
     for (const char* parola : {"", "kumsaldaki", "Kumsaldaki1"})
-        EXPECT_EQ(bağlan(Tanım(m_dosya, parola)).Durum, "28000") << parola;
+        EXPECT_EQ(BağlanmayıDene(m_dosya, parola).Durum, "28000") << parola;
 
     DosyaYaz(Yol("bos.vtb"), "");
     DosyaYaz(Yol("metin.vtb"), Tekrar("bu bir veri dosyası değil\n", 500));
     YabancıBağlantı(Yol("sqlite.vtb")).Çalıştır("CREATE TABLE T (A)");
     for (const char* ad : {"bos.vtb", "metin.vtb", "sqlite.vtb"}) {
         const std::string önce = DosyaOku(Yol(ad));
-        const Sonuç sonuç = bağlan(Tanım(Yol(ad)));
+        const Sonuç sonuç = BağlanmayıDene(Yol(ad));
         EXPECT_EQ(sonuç.Durum, "08001") << ad;
+        EXPECT_EQ(sonuç.Yerel, SQLITE_NOTADB) << ad;
         EXPECT_TRUE(İçinde(sonuç.Mesaj, "veri dosyası değil")) << sonuç.Mesaj;
         EXPECT_EQ(DosyaOku(Yol(ad)), önce);
     }
     EXPECT_EQ(Klasördekiler(), (std::vector<std::string>{"Varnek.vtb", "bos.vtb", "metin.vtb", "sqlite.vtb"}));
     EXPECT_EQ(İzinler(m_dosya), 0600u);
+}
+
+// With the right header and the right password a file may still hold what would run along with the program's
+// statements.
+TEST_F(MotorTesti, YabancıÖğeliDosyaAçılmaz) {
+    const struct {
+        const char* Sql;
+        int Yerel;
+    } durumlar[] = {
+        {"CREATE TRIGGER T AFTER UPDATE ON MalzemeTablosu BEGIN DELETE FROM UrunTablosu; END", SQLITE_NOTADB},
+        {"CREATE VIEW V AS SELECT * FROM MalzemeTablosu", SQLITE_NOTADB},
+        {"CREATE VIRTUAL TABLE V USING fts5(A)", SQLITE_NOTADB},
+        {"CREATE TABLE \"G\" (\"A\" CURRENCY, \"B\" CURRENCY AS (A + 1))", SQLITE_NOTADB},
+        {"CREATE TABLE \"G\" (\"A\" CURRENCY CHECK (A > 1))", SQLITE_NOTADB},
+        {"CREATE TABLE \"G\" (\"A\" CURRENCY DEFAULT (random()))", SQLITE_NOTADB},
+        {"CREATE TABLE \"G\"\"; x\" (\"A\" CURRENCY)", SQLITE_NOTADB},
+        {"CREATE INDEX \"D\" ON \"UrunTablosu\" (abs(KarYuzdesi))", SQLITE_NOTADB},
+        {"CREATE INDEX \"D\" ON \"UrunTablosu\" (\"KarYuzdesi\") WHERE KarYuzdesi > 1", SQLITE_NOTADB},
+        {"DROP TABLE \"Varnek#Parola\"", SQLITE_CORRUPT},
+        {"DELETE FROM \"Varnek#Parola\"", SQLITE_CORRUPT},
+        {"UPDATE \"Varnek#Parola\" SET Tuz = 5", SQLITE_CORRUPT},
+        {"UPDATE \"Varnek#Parola\" SET Tekrar = 9223372036854775807", SQLITE_CORRUPT},
+        {"INSERT INTO \"Varnek#Parola\" SELECT * FROM \"Varnek#Parola\"", SQLITE_CORRUPT},
+    };
+    for (const auto& durum : durumlar) {
+        const std::string yol = Yol("yabancı.vtb");
+        std::filesystem::copy_file(m_dosya, yol, std::filesystem::copy_options::overwrite_existing);
+        YabancıBağlantı(yol, true).Çalıştır(durum.Sql);
+        const Sonuç sonuç = BağlanmayıDene(yol);
+        EXPECT_EQ(sonuç.Durum, "08001") << durum.Sql;
+        EXPECT_EQ(sonuç.Yerel, durum.Yerel) << durum.Sql << sonuç.Mesaj;
+        EXPECT_TRUE(Sıkıştır(yol, Yol("a.ydk"))) << durum.Sql;
+    }
+    // A value of another kind than its column's never comes out as a number.
+    YabancıBağlantı(m_dosya, true).Çalıştır("INSERT INTO MalzemeTablosu VALUES ('a', 12.5)");
+    Bağ bağ(m_dosya);
+    Deyim deyim(bağ.Bağlantı);
+    EXPECT_EQ(deyim.Çalıştır(HerMalzeme), SQL_SUCCESS);
+    EXPECT_EQ(SQLFetch(deyim.Tanıtıcı), SQL_SUCCESS);
+    char tampon[64];
+    SQLLEN uzunluk = 0;
+    EXPECT_EQ(SQLGetData(deyim.Tanıtıcı, 2, SQL_C_CHAR, tampon, sizeof tampon, &uzunluk), SQL_ERROR);
 }
 
 TEST_F(MotorTesti, KilitliDosya) {
@@ -100,13 +153,16 @@ TEST_F(MotorTesti, BozukDosya) {
             bağ.Çalıştır("UPDATE UrunMalzemeTablosu SET KullanilanMalzemeFiyati= '1' WHERE UrunGrubu= 'Masa'");
         EXPECT_EQ(sonuç.Kod, SQL_ERROR);
         EXPECT_EQ(sonuç.Durum, "S1000");
+        EXPECT_EQ(sonuç.Yerel, SQLITE_CORRUPT);
         EXPECT_TRUE(İçinde(sonuç.Mesaj, "bozulmuş")) << sonuç.Mesaj;
     }
+    // A damaged file never replaces a good backup, nor is it changed itself.
+    for (const std::string& hedef : {Yol("yedek.ydk"), m_dosya}) {
+        const std::optional<std::string> hata = Sıkıştır(m_dosya, hedef);
+        ASSERT_TRUE(hata);
+        EXPECT_TRUE(İçinde(*hata, "bozulmuş")) << *hata;
+    }
     EXPECT_EQ(DosyaOku(m_dosya), bozuk);
-    // A damaged file never replaces a good backup.
-    const std::optional<std::string> hata = Sıkıştır(m_dosya, Yol("yedek.ydk"));
-    ASSERT_TRUE(hata);
-    EXPECT_TRUE(İçinde(*hata, "bozulmuş")) << *hata;
     EXPECT_EQ(DosyaOku(Yol("yedek.ydk")), yedek);
 
     DosyaYaz(m_dosya, bozuk.substr(0, bozuk.size() / 2));
@@ -119,15 +175,13 @@ TEST_F(MotorTesti, Oluşturma) {
     const std::string içerik = DosyaOku(m_dosya);
     EXPECT_TRUE(VeriDosyasıOluştur(m_dosya));
     EXPECT_EQ(DosyaOku(m_dosya), içerik);
-    EXPECT_TRUE(VeriDosyasıOluştur(Yol("yok/a.vtb")));
 
     // What crashes left: a file in the making with its journal, and the journal of a file that is gone.
     const std::string yeni = Yol("boşluklu ad %20.vtb");
     for (const char* ek : {".yeni", ".yeni-journal", "-journal"}) DosyaYaz(yeni + ek, "kalıntı");
     EXPECT_EQ(VeriDosyasıOluştur(yeni), std::nullopt);
     EXPECT_EQ(İzinler(yeni), 0600u);
-    Bağ bağ(yeni);
-    EXPECT_EQ(bağ.Çalıştır("CREATE TABLE T (A TEXT)").Kod, SQL_SUCCESS);
+    EXPECT_EQ(Bağ(yeni).Çalıştır("CREATE TABLE T (A TEXT)").Kod, SQL_SUCCESS);
     EXPECT_EQ(Klasördekiler(), (std::vector<std::string>{"Varnek.vtb", "boşluklu ad %20.vtb"}));
 }
 
@@ -158,12 +212,125 @@ TEST_F(MotorTesti, Sıkıştırma) {
     const std::string önce = DosyaOku(yedek);
     EXPECT_TRUE(Sıkıştır(m_dosya, yedekSözü, "yanlış"));
     EXPECT_TRUE(Sıkıştır(Yol("yok.vtb"), yedekSözü));
-    EXPECT_TRUE(Sıkıştır(m_dosya, m_dosya));
     EXPECT_TRUE(Sıkıştır(m_dosya, Yol("yok/a.ydk")));
     EXPECT_TRUE(Sıkıştır(m_dosya, yedekSözü + " fazla"));
     EXPECT_EQ(DosyaOku(yedek), önce);
     EXPECT_EQ(bağ.Oku(HerMalzeme).size(), 1u);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Yol("Vtb Yedekleri")), {}), 1);
+}
+
+// Both paths lead to one file: it is compacted within itself, under the hands of other clients.
+TEST_F(MotorTesti, YerindeSıkıştırma) {
+    Bağ bağ(m_dosya);
+    KullanılanEkle(bağ, 2000);
+    ASSERT_EQ(bağ.Çalıştır("DELETE FROM UrunMalzemeTablosu WHERE UrunGrubu= 'Masa'").Kod, SQL_SUCCESS);
+    ASSERT_EQ(bağ.Çalıştır(MalzemeEkle("Işık", "1,5")).Kod, SQL_SUCCESS);
+    std::filesystem::create_directories(Yol("a/b"));
+    std::filesystem::create_directory_symlink(Yol("a/b"), Yol("bağ"));
+    std::filesystem::create_hard_link(m_dosya, Yol("a/sabit.vtb"));
+    ASSERT_EQ(chmod(m_dosya.c_str(), 0640), 0);
+    const auto eskiZaman = std::filesystem::file_time_type::clock::now() - std::chrono::hours(48);
+    std::filesystem::last_write_time(m_dosya, eskiZaman);
+    const auto düğüm = Bilgi(m_dosya).st_ino;
+    const auto boy = std::filesystem::file_size(m_dosya);
+
+    YabancıBağlantı yabancı(m_dosya);
+    yabancı.Çalıştır("BEGIN IMMEDIATE");
+    const std::string önce = DosyaOku(m_dosya);
+    EXPECT_TRUE(İçinde(Sıkıştır(m_dosya, m_dosya).value_or(""), "kullanılıyor"));
+    EXPECT_EQ(DosyaOku(m_dosya), önce);
+    yabancı.Çalıştır("COMMIT");
+
+    // "bağ/.." is a/, as the system takes it.
+    ASSERT_EQ(Sıkıştır(m_dosya, Yol("bağ/../sabit.vtb")), std::nullopt);
+    EXPECT_LT(std::filesystem::file_size(m_dosya), boy / 4);
+    EXPECT_EQ(Bilgi(m_dosya).st_ino, düğüm);
+    EXPECT_EQ(İzinler(m_dosya), 0640u);
+    EXPECT_GT(std::filesystem::last_write_time(m_dosya), eskiZaman + std::chrono::hours(47));
+    EXPECT_EQ(bağ.Çalıştır(MalzemeEkle("İpek", "2")).Kod, SQL_SUCCESS);
+    EXPECT_EQ(Bağ(m_dosya).Oku(HerMalzeme), (Satırlar{{"Işık", "1.5"}, {"İpek", "2"}}));
+}
+
+// Another file in the data file's place: a client goes on with it where nothing can be lost and is told otherwise.
+TEST_F(MotorTesti, YerineBaşkaDosyaKonursa) {
+    const auto değiştir = [&] {
+        ASSERT_EQ(Sıkıştır(m_dosya, Yol("yeni")), std::nullopt);
+        std::filesystem::rename(Yol("yeni"), m_dosya);
+    };
+    const auto değişmiş = [](const Sonuç& sonuç) { return İçinde(sonuç.Mesaj, "yerine başka bir dosya konmuş"); };
+    Bağ bağ(m_dosya);
+    KullanılanEkle(bağ, 500);
+    değiştir();
+    EXPECT_EQ(bağ.Çalıştır(MalzemeEkle("a", "1")).Kod, SQL_SUCCESS);
+    EXPECT_EQ(Bağ(m_dosya).Oku(HerMalzeme).size(), 1u);
+    {
+        Deyim deyim(bağ.Bağlantı);
+        deyim.Çalıştır("SELECT * FROM UrunMalzemeTablosu");
+        ASSERT_EQ(SQLFetch(deyim.Tanıtıcı), SQL_SUCCESS);
+        değiştir();
+        EXPECT_TRUE(değişmiş(bağ.Çalıştır(MalzemeEkle("b", "1"))));
+        EXPECT_EQ(SQLFetch(deyim.Tanıtıcı), SQL_SUCCESS);
+    }
+    EXPECT_EQ(bağ.Çalıştır(MalzemeEkle("b", "1")).Kod, SQL_SUCCESS);
+    // In the middle of a transaction: what would go to the file that is no longer there is not confirmed.
+    SQLSetConnectOption(bağ.Bağlantı, SQL_AUTOCOMMIT, SQL_AUTOCOMMIT_OFF);
+    ASSERT_EQ(bağ.Çalıştır(MalzemeEkle("c", "1")).Kod, SQL_SUCCESS);
+    std::filesystem::rename(m_dosya, Yol("eski"));
+    std::filesystem::copy_file(Yol("eski"), m_dosya);
+    EXPECT_EQ(SQLTransact(nullptr, bağ.Bağlantı, SQL_COMMIT), SQL_ERROR);
+    EXPECT_EQ(SQLTransact(nullptr, bağ.Bağlantı, SQL_ROLLBACK), SQL_SUCCESS);
+    EXPECT_TRUE(değişmiş(bağ.Çalıştır(MalzemeEkle("c", "1"))));
+    SQLSetConnectOption(bağ.Bağlantı, SQL_AUTOCOMMIT, SQL_AUTOCOMMIT_ON);
+    EXPECT_EQ(bağ.Çalıştır(MalzemeEkle("c", "1")).Kod, SQL_SUCCESS);
+    EXPECT_EQ(Bağ(m_dosya).Oku(HerMalzeme).size(), 3u);
+}
+
+// What lies under the names that the engine uses beside its files.
+TEST_F(MotorTesti, KomşuAdlardaBaşkaŞeyler) {
+    // The file in the making is another name of a file that matters; the backup is a link.
+    std::filesystem::create_directory(Yol("yedek"));
+    std::filesystem::create_symlink("yedek/asıl.ydk", Yol("a.ydk"));
+    DosyaYaz(Yol("değerli"), "değerli");
+    std::filesystem::create_hard_link(Yol("değerli"), Yol("yedek/asıl.ydk.yeni"));
+    ASSERT_EQ(Sıkıştır(m_dosya, Yol("a.ydk")), std::nullopt);
+    EXPECT_EQ(DosyaOku(Yol("değerli")), "değerli");
+    EXPECT_TRUE(std::filesystem::is_symlink(Yol("a.ydk")));
+    EXPECT_TRUE(std::filesystem::is_regular_file(Yol("yedek/asıl.ydk")));
+    EXPECT_FALSE(std::filesystem::exists(Yol("yedek/asıl.ydk.yeni")));
+
+    // A journal that says nothing goes, as does what a crash left; a writer's own stays.
+    DosyaYaz(m_dosya + "-journal", std::string(512, '\0'));
+    DosyaYaz(m_dosya + ".yeni", "kalıntı");
+    {
+        YabancıBağlantı yabancı(m_dosya);
+        yabancı.Çalıştır("BEGIN IMMEDIATE");
+        Bağ bağ(m_dosya);
+        EXPECT_TRUE(std::filesystem::exists(m_dosya + "-journal"));
+    }
+    Bağ bağ(m_dosya);
+    EXPECT_EQ(Klasördekiler(), (std::vector<std::string>{"Varnek.vtb", "a.ydk", "değerli", "yedek"}));
+
+    ASSERT_EQ(mkfifo((m_dosya + "-journal").c_str(), 0600), 0);
+    EXPECT_TRUE(İçinde(BağlanmayıDene(m_dosya).Mesaj, "Varnek.vtb-journal"));
+    ASSERT_EQ(mkfifo(Yol("yedek/asıl.ydk-journal").c_str(), 0600), 0);
+    std::filesystem::remove(m_dosya + "-journal");
+    EXPECT_TRUE(Sıkıştır(m_dosya, Yol("a.ydk")));
+    EXPECT_FALSE(std::filesystem::exists(Yol("yedek/asıl.ydk.yeni")));
+}
+
+TEST_F(MotorTesti, SaltOkunurDosya) {
+    ASSERT_EQ(Sıkıştır(m_dosya, Yol("a.ydk")), std::nullopt);
+    for (const std::string& yol : {m_dosya, Yol("a.ydk")}) ASSERT_EQ(chmod(yol.c_str(), 0444), 0);
+    EXPECT_TRUE(AyrıcalıksızSüreçte([&] {
+        Bağ bağ;
+        const Sonuç sonuç = bağ.Bağlan(Tanım(m_dosya));
+        return sonuç.Kod == SQL_SUCCESS_WITH_INFO && İçinde(sonuç.Mesaj, "salt okunur") &&
+               bağ.Oku(HerMalzeme).empty() && İçinde(bağ.Çalıştır(MalzemeEkle("a", "1")).Mesaj, "salt okunur") &&
+               İçinde(Sıkıştır(m_dosya, m_dosya).value_or(""), "salt okunur") &&
+               İçinde(Sıkıştır(m_dosya, Yol("a.ydk")).value_or(""), "salt okunur");
+    }));
+    EXPECT_EQ(İzinler(m_dosya), 0444u);
+    EXPECT_EQ(İzinler(Yol("a.ydk")), 0444u);
 }
 
 // The target's half transaction is undone before its journal goes, so that being cut off leaves the old content whole.
@@ -185,34 +352,28 @@ TEST_F(MotorTesti, HedefinYarımKalanHareketi) {
     EXPECT_EQ(Bağ(Yol("a.ydk")).Oku(HerMalzeme).size(), 0u);
 }
 
-TEST_F(MotorTesti, DiskDolu) {
-    {
-        Bağ bağ(m_dosya);
-        KullanılanEkle(bağ, 500);
-    }
-    const std::string önce = DosyaOku(m_dosya);
-    const auto boy = static_cast<std::size_t>(std::filesystem::file_size(m_dosya));
-    const std::string oku = "SELECT * FROM UrunMalzemeTablosu";
-    EXPECT_TRUE(DoluDisktekiSüreçte(boy, [&] {
-        Bağ bağ(m_dosya);
-        // Room within the file may take the first rows; the statement that needs more is refused, reading goes on.
-        for (int i = 0; i < 1000; ++i) {
-            const Sonuç sonuç = bağ.Çalıştır(MalzemeEkle(std::to_string(i) + Tekrar("x", 200), "1"));
-            if (sonuç.Kod == SQL_SUCCESS) continue;
-            return sonuç.Durum == "S1000" && İçinde(sonuç.Mesaj, "disk") &&
-                   bağ.Oku(HerMalzeme).size() == static_cast<std::size_t>(i) && bağ.Oku(oku).size() == 500;
-        }
-        return false;
-    }));
-    EXPECT_EQ(Bağ(m_dosya).Oku(oku).size(), 500u);
-
-    const std::size_t sıkışıkBoy = 2 * 4096;
+// Wherever the disk fails while a file is made or compacted, nothing half is left and the old content stays whole.
+TEST_F(MotorTesti, SıkıştırırkenDiskBozulursa) {
+    Bağ bağ(m_dosya);
+    KullanılanEkle(bağ, 500);
+    ASSERT_EQ(bağ.Çalıştır(MalzemeEkle("a", "1")).Kod, SQL_SUCCESS);
     ASSERT_EQ(Sıkıştır(m_dosya, Yol("a.ydk")), std::nullopt);
     const std::string yedek = DosyaOku(Yol("a.ydk"));
-    EXPECT_TRUE(DoluDisktekiSüreçte(sıkışıkBoy, [&] {
-        return Sıkıştır(m_dosya, Yol("a.ydk")).has_value() && VeriDosyasıOluştur(Yol("b.vtb")).has_value() == false;
-    }));
-    EXPECT_TRUE(DoluDisktekiSüreçte(4096, [&] { return VeriDosyasıOluştur(Yol("c.vtb")).has_value(); }));
-    EXPECT_EQ(DosyaOku(Yol("a.ydk")), yedek);
+    ASSERT_EQ(bağ.Çalıştır("DELETE FROM UrunMalzemeTablosu WHERE UrunGrubu= 'Masa'").Kod, SQL_SUCCESS);
+    const std::function<std::optional<std::string>()> işler[] = {[&] { return VeriDosyasıOluştur(Yol("b.vtb")); },
+                                                                 [&] { return Sıkıştır(m_dosya, Yol("a.ydk")); },
+                                                                 [&] { return Sıkıştır(m_dosya, m_dosya); }};
+    for (const auto& iş : işler) {
+        bool vurdu = true;
+        for (int n = 1; vurdu; ++n) {
+            Arıza::Başlat(Arıza::Tür::Yazma, n, true);
+            const auto hata = iş();
+            vurdu = Arıza::Bitir();
+            ASSERT_EQ(hata.has_value(), vurdu) << n;
+            ASSERT_TRUE(!vurdu || std::filesystem::exists(Yol("b.vtb")) || Klasördekiler().size() == 2) << n;
+            ASSERT_TRUE(!vurdu || &iş == &işler[2] || DosyaOku(Yol("a.ydk")) == yedek) << n;
+            ASSERT_EQ(bağ.Oku(HerMalzeme).size(), 1u) << n;
+        }
+    }
     EXPECT_EQ(Klasördekiler(), (std::vector<std::string>{"Varnek.vtb", "a.ydk", "b.vtb"}));
 }

@@ -1,6 +1,10 @@
 #include <odbcinst.h>
 
+#include <unistd.h>
+
+#include <atomic>
 #include <cstring>
+#include <thread>
 
 #include "MotorTesti.h"
 
@@ -41,9 +45,7 @@ TEST_F(MotorTesti, UzunDeğerParçaParçaOkunur) {
     int okuma = 0;
     while (SQLGetData(deyim.Tanıtıcı, 1, SQL_C_CHAR, tampon, 2, &uzunluk) == SQL_SUCCESS_WITH_INFO) ++okuma;
     EXPECT_EQ(okuma, 200);
-    EXPECT_EQ(SQLGetData(deyim.Tanıtıcı, 3, SQL_C_CHAR, tampon, 2, &uzunluk), SQL_ERROR);
     EXPECT_EQ(SQLGetData(deyim.Tanıtıcı, 1, SQL_C_DOUBLE, tampon, 8, &uzunluk), SQL_ERROR);
-    EXPECT_EQ(SQLFetch(deyim.Tanıtıcı), SQL_NO_DATA);
     EXPECT_EQ(SQLFetch(deyim.Tanıtıcı), SQL_NO_DATA);
 }
 
@@ -63,55 +65,60 @@ TEST_F(MotorTesti, Tanılar) {
     EXPECT_GT(uzunluk, 20);
     EXPECT_EQ(hata(256), SQL_NO_DATA);
 
-    EXPECT_EQ(deyim.Çalıştır("SELECT X FROM Y"), SQL_ERROR);
-    EXPECT_EQ(hata(256), SQL_SUCCESS);
-    EXPECT_STREQ(reinterpret_cast<char*>(mesaj), "Y adında bir tablo yok.");
-    EXPECT_EQ(uzunluk, static_cast<SQLSMALLINT>(std::strlen("Y adında bir tablo yok.")));
-    EXPECT_EQ(yerel, 0);
-
     // A long message fits the usual buffer.
     EXPECT_EQ(
         deyim.Çalıştır("UPDATE MalzemeTablosu SET MalzemeFiyati= '" + Tekrar("ş", 250) + "' WHERE MalzemeAdi= 'x'"),
         SQL_ERROR);
     EXPECT_EQ(hata(256), SQL_SUCCESS);
+    EXPECT_NE(std::string_view(reinterpret_cast<char*>(mesaj)).find("ş…\""), std::string::npos) << mesaj;
+
+    // ODBC counts columns in 16 bits.
+    EXPECT_EQ(deyim.Çalıştır("SELECT " + Tekrar("MalzemeAdi, ", 40'000) + "MalzemeAdi FROM MalzemeTablosu"), SQL_ERROR);
+    EXPECT_EQ(hata(256), SQL_SUCCESS);
+    EXPECT_STREQ(reinterpret_cast<char*>(durum), "37000");
 }
 
-TEST_F(MotorTesti, BağlantıMetni) {
-    Bağ bağ;
-    SQLCHAR çıkış[32] = "";
-    SQLSMALLINT uzunluk = 0;
-    const std::string tanım = Tanım(m_dosya);
-    auto* metin = reinterpret_cast<SQLCHAR*>(const_cast<char*>(tanım.c_str()));
-    EXPECT_EQ(SQLDriverConnect(bağ.Bağlantı, nullptr, metin, SQL_NTS, nullptr, 0, &uzunluk, SQL_DRIVER_NOPROMPT),
-              SQL_SUCCESS);
-    EXPECT_EQ(SQLDisconnect(bağ.Bağlantı), SQL_SUCCESS);
-    EXPECT_EQ(
-        SQLDriverConnect(bağ.Bağlantı, nullptr, metin, SQL_NTS, çıkış, sizeof çıkış, &uzunluk, SQL_DRIVER_NOPROMPT),
-        SQL_SUCCESS_WITH_INFO);
-    EXPECT_EQ(uzunluk, static_cast<SQLSMALLINT>(tanım.size()));
-    EXPECT_EQ(tanım.compare(0, 31, reinterpret_cast<char*>(çıkış)), 0);
-    SQLDisconnect(bağ.Bağlantı);
+// Cancelling ends the one statement, whichever thread asks, and disturbs no other.
+TEST_F(MotorTesti, İptal) {
+    Bağ bağ(m_dosya);
+    KullanılanEkle(bağ, 3000);
+    const std::string oku = "SELECT * FROM UrunMalzemeTablosu";
+    Deyim açık(bağ.Bağlantı);
+    Deyim diğer(bağ.Bağlantı);
+    ASSERT_EQ(açık.Çalıştır(oku), SQL_SUCCESS);
+    ASSERT_EQ(diğer.Çalıştır(oku), SQL_SUCCESS);
+    EXPECT_EQ(SQLCancel(diğer.Tanıtıcı), SQL_SUCCESS);
+    int satır = 0;
+    while (SQLFetch(açık.Tanıtıcı) == SQL_SUCCESS) ++satır;
+    EXPECT_EQ(satır, 3000);
+    SQLFreeStmt(açık.Tanıtıcı, SQL_CLOSE);
+    EXPECT_EQ(Bağ(m_dosya).Çalıştır(MalzemeEkle("a", "1")).Kod, SQL_SUCCESS) << "the cancelled cursor holds its lock";
 
-    EXPECT_EQ(bağ.Bağlan(std::string("DRIVER={") + Sürücü + "};PWD=x").Durum, "08001");
-    const Sonuç sonuç =
-        bağ.Bağlan("DRIVER={" + std::string(Sürücü) + "}; dbq = {" + m_dosya + "} ; Pwd={" + Parola + "}");
-    EXPECT_EQ(sonuç.Kod, SQL_SUCCESS) << sonuç.Mesaj;
+    Deyim uzun(bağ.Bağlantı);
+    std::atomic<bool> bitti = false;
+    std::thread iptalci([&] {
+        while (!bitti) {
+            SQLCancel(uzun.Tanıtıcı);
+            usleep(200);
+        }
+    });
+    std::string durum;
+    for (int i = 0; i < 2000 && durum.empty(); ++i)
+        if (uzun.Çalıştır("UPDATE UrunMalzemeTablosu SET UrunAdi= 'x' WHERE UrunGrubu= 'Masa'") == SQL_ERROR)
+            durum = bağ.İlkTanı(uzun.Tanıtıcı).Durum;
+    bitti = true;
+    iptalci.join();
+    EXPECT_EQ(durum, "S1008");
 }
 
 TEST_F(MotorTesti, VeriKaynağı) {
-    EXPECT_EQ(KaynakAyarla(ODBC_ADD_DSN, {"DSN=Varnek"}), std::nullopt);
-    {
-        Bağ bağ;
-        EXPECT_EQ(bağ.Bağlan("DSN=Varnek;DBQ=" + m_dosya + ";UID=Admin;PWD=" + Parola).Kod, SQL_SUCCESS);
-    }
     EXPECT_EQ(KaynakAyarla(ODBC_ADD_DSN, {"DSN=Varnek", "DBQ=" + m_dosya}), std::nullopt);
-    const auto bağlan = [](const char* parola) {
-        Bağ bağ;
-        const auto metin = [](const char* harfler) { return reinterpret_cast<SQLCHAR*>(const_cast<char*>(harfler)); };
-        return SQLConnect(bağ.Bağlantı, metin("Varnek"), SQL_NTS, metin("Admin"), SQL_NTS, metin(parola), SQL_NTS);
-    };
-    EXPECT_EQ(bağlan(Parola), SQL_SUCCESS);
-    EXPECT_EQ(bağlan("x"), SQL_ERROR);
+    for (const std::string& tanım :
+         {std::string("DSN=Varnek;PWD=") + Parola,
+          "DRIVER={" + std::string(Sürücü) + "}; dbq = {" + m_dosya + "} ; Pwd={Kumsaldaki}"})
+        EXPECT_EQ(Bağ().Bağlan(tanım).Kod, SQL_SUCCESS) << tanım;
+    EXPECT_EQ(Bağ().Bağlan("DSN=Varnek;PWD=x").Durum, "28000");
+    EXPECT_EQ(Bağ().Bağlan(std::string("DRIVER={") + Sürücü + "};PWD=x").Durum, "08001");
     EXPECT_EQ(DosyaOku(getenv("ODBCINI")).find(Parola), std::string::npos);
     EXPECT_EQ(KaynakAyarla(ODBC_REMOVE_DSN, {"DSN=Varnek"}), std::nullopt);
     EXPECT_EQ(DosyaOku(getenv("ODBCINI")).find("Varnek"), std::string::npos);
@@ -154,16 +161,7 @@ TEST_F(MotorTesti, OdbcÜçİstemcisi) {
         EXPECT_EQ(SQLDescribeCol(deyim, i + 1, ad, sizeof ad, nullptr, &tür, nullptr, nullptr, nullptr), SQL_SUCCESS);
         EXPECT_EQ(tür, türler[i]) << ad;
     }
-    SQLLEN genişlik = 0;
-    EXPECT_EQ(SQLColAttribute(deyim, 2, SQL_DESC_DISPLAY_SIZE, nullptr, 0, nullptr, &genişlik), SQL_SUCCESS);
-    EXPECT_EQ(genişlik, 255);
     EXPECT_EQ(say(), 0);
-
-    EXPECT_EQ(SQLExecDirect(deyim, metin("DELETE FROM UrunTablosu WHERE UrunAdi= 'yok'"), SQL_NTS), SQL_SUCCESS);
-    EXPECT_EQ(SQLProcedures(deyim, nullptr, 0, nullptr, 0, nullptr, 0), SQL_ERROR);
-    SQLCHAR durum[6] = "";
-    SQLGetDiagRec(SQL_HANDLE_STMT, deyim, 1, durum, nullptr, nullptr, 0, nullptr);
-    EXPECT_STREQ(reinterpret_cast<char*>(durum), "IM001");
     SQLFreeHandle(SQL_HANDLE_STMT, deyim);
     SQLDisconnect(bağlantı);
     SQLFreeHandle(SQL_HANDLE_DBC, bağlantı);

@@ -1,7 +1,8 @@
 #include "MotorTesti.h"
 
 #include <odbcinst.h>
-#include <sys/resource.h>
+#include <linux/capability.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -20,11 +21,13 @@ SQLCHAR* Metin(const std::string& metin) {
 }
 
 Sonuç SonucuAl(SQLRETURN kod, SQLHDBC bağlantı, SQLHSTMT deyim) {
-    Sonuç sonuç{kod, {}, {}};
+    Sonuç sonuç{kod, {}, {}, 0};
     if (kod == SQL_SUCCESS) return sonuç;
     SQLCHAR durum[6] = "";
     SQLCHAR mesaj[512] = "";
-    SQLError(SQL_NULL_HENV, bağlantı, deyim, durum, nullptr, mesaj, sizeof mesaj, nullptr);
+    SQLINTEGER yerel = 0;
+    SQLError(SQL_NULL_HENV, bağlantı, deyim, durum, &yerel, mesaj, sizeof mesaj, nullptr);
+    sonuç.Yerel = yerel;
     sonuç.Durum = reinterpret_cast<char*>(durum);
     sonuç.Mesaj = reinterpret_cast<char*>(mesaj);
     return sonuç;
@@ -59,16 +62,23 @@ Bağ::~Bağ() {
     SQLFreeEnv(Ortam);
 }
 
-Sonuç Bağ::Bağlan(const std::string& tanım) {
+SQLRETURN Bağ::Dene(const std::string& tanım) {
     SQLCHAR boş[1];
-    return SonucuAl(SQLDriverConnect(Bağlantı, nullptr, Metin(tanım), static_cast<SQLSMALLINT>(tanım.size()), boş, 0,
-                                     nullptr, SQL_DRIVER_COMPLETE),
-                    Bağlantı, nullptr);
+    return SQLDriverConnect(Bağlantı, nullptr, Metin(tanım), static_cast<SQLSMALLINT>(tanım.size()), boş, 0, nullptr,
+                            SQL_DRIVER_COMPLETE);
+}
+
+Sonuç Bağ::Bağlan(const std::string& tanım) {
+    return SonucuAl(Dene(tanım), Bağlantı, nullptr);
 }
 
 Sonuç Bağ::Çalıştır(const std::string& sql) {
     Deyim deyim(Bağlantı);
     return SonucuAl(deyim.Çalıştır(sql), nullptr, deyim.Tanıtıcı);
+}
+
+Sonuç Bağ::İlkTanı(SQLHSTMT deyim) {
+    return SonucuAl(SQL_ERROR, nullptr, deyim);
 }
 
 Satırlar Bağ::Oku(const std::string& sql) {
@@ -132,13 +142,12 @@ void ÖldürülenSüreçte(const std::function<void()>& iş, const std::function
     waitpid(çocuk, nullptr, 0);
 }
 
-bool DoluDisktekiSüreçte(std::size_t bayt, const std::function<bool()>& iş) {
+bool AyrıcalıksızSüreçte(const std::function<bool()>& iş) {
     const pid_t çocuk = fork();
     if (çocuk == 0) {
-        const rlimit sınır{bayt, bayt};
-        setrlimit(RLIMIT_FSIZE, &sınır);
-        std::signal(SIGXFSZ, SIG_IGN);
-        _exit(iş() ? 0 : 1);
+        __user_cap_header_struct başlık{_LINUX_CAPABILITY_VERSION_3, 0};
+        __user_cap_data_struct hiçbiri[2]{};
+        _exit(syscall(SYS_capset, &başlık, hiçbiri) == 0 && iş() ? 0 : 1);
     }
     int durum = 0;
     waitpid(çocuk, &durum, 0);

@@ -22,6 +22,7 @@ struct Sonuç {
     SQLRETURN Kod = SQL_SUCCESS;
     std::string Durum;
     std::string Mesaj;
+    int Yerel = 0;
 };
 
 std::string Tanım(const std::string& yol, const std::string& parola = Parola);
@@ -35,8 +36,10 @@ class Bağ {
     Bağ(const Bağ&) = delete;
     Bağ& operator=(const Bağ&) = delete;
 
+    SQLRETURN Dene(const std::string& tanım);  // takes no memory of its own
     Sonuç Bağlan(const std::string& tanım);
     Sonuç Çalıştır(const std::string& sql);
+    static Sonuç İlkTanı(SQLHSTMT deyim);  // of a statement that failed
     Satırlar Oku(const std::string& sql);  // NULL reads "<NULL>"; a failure fails the test
     std::string Tek(const std::string& sql);
 
@@ -61,8 +64,8 @@ std::optional<std::string> Sıkıştır(const std::string& kaynak, const std::st
 // Runs `iş` in a child process and kills it (SIGKILL) once `bekle` has come back here.
 void ÖldürülenSüreçte(const std::function<void()>& iş, const std::function<void()>& bekle);
 
-// Runs `iş` in a child process that cannot make any file larger than `bayt`; true when `iş` gave true.
-bool DoluDisktekiSüreçte(std::size_t bayt, const std::function<bool()>& iş);
+// Runs `iş` in a child process that file modes bind, the superuser's too; true when `iş` gave true.
+bool AyrıcalıksızSüreçte(const std::function<bool()>& iş);
 
 std::string Tekrar(const std::string& metin, int kez);
 std::string DosyaOku(const std::string& yol);

@@ -8,25 +8,39 @@
 #include "TurkceMetin.h"
 #include "TurkceSira.h"
 
+namespace {
+
+class AçılırKutuSatırı : public GirişKutusu {
+  public:
+    explicit AçılırKutuSatırı(const AçılırGirişKutusu& kutu) : m_kutu(kutu) {}
+
+    bool Denetle(QString& metin, int& imleç) override {
+        GirişKutusu::Denetle(metin, imleç);
+        imleç = static_cast<int>(m_kutu.Düzelt(metin.left(imleç)).size());
+        metin = m_kutu.Düzelt(metin);
+        return true;
+    }
+
+  private:
+    const AçılırGirişKutusu& m_kutu;
+};
+
+}  // namespace
+
 AçılırGirişKutusu::AçılırGirişKutusu(QWidget* sahip)
     : QComboBox(sahip),
-      m_satır(new GirişKutusu),
+      m_satır(new AçılırKutuSatırı(*this)),
       m_odak(
-          this, [this](Qt::FocusReason neden) { m_satır->Girildi(neden); }, [](Odakİzleyici::Çıkış) {}) {
+          this, [this](Qt::FocusReason neden) { m_satır->Girildi(neden); },
+          [this](Odakİzleyici::Çıkış çıkış) {
+              if (çıkış != Odakİzleyici::Çıkış::FormKapanıyor) Bitir();
+          }) {
     setLineEdit(m_satır);  // makes the box editable
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);
     m_satır->setMaxLength(EnUzunAd);
     m_satır->setAcceptDrops(false);
     Enterİleİlerlesin(this);
-    m_satır->Düzenlenince([this] {
-        const QString metin = m_satır->text();
-        const QString düzeltilmiş = Düzelt(metin);
-        if (düzeltilmiş == metin) return;
-        const auto imleç = Düzelt(metin.left(m_satır->cursorPosition())).size();
-        m_satır->setText(düzeltilmiş);
-        m_satır->setCursorPosition(static_cast<int>(imleç));
-    });
 }
 
 void AçılırGirişKutusu::Doldur(const QStringList& öğeler) {
@@ -56,6 +70,11 @@ int AçılırGirişKutusu::ÖnEkleBul(const QString& ön) const {
 
 QString GrupKutusu::Düzelt(const QString& metin) const {
     return TürkçeBüyükHarf(metin);
+}
+
+void GrupKutusu::Bitir() {
+    const bool listede = findText(currentText(), Qt::MatchFixedString | Qt::MatchCaseSensitive) >= 0;
+    if (!listede) setEditText(currentText().trimmed());
 }
 
 // A digit is swallowed before it can take the place of a selected text.

@@ -2,14 +2,13 @@
 
 #include <QComboBox>
 #include <QStringList>
-#include <functional>
 
 #include "OdakIzleyici.h"
 
 class GirişKutusu;
 
 // A list that the user may also type into. It completes nothing, and whatever becomes of the list, the typed text
-// stays. Enter, selection and length as in the other entry boxes.
+// stays. Enter, selection, length and pasted line breaks as in the other entry boxes.
 class AçılırGirişKutusu : public QComboBox {
   public:
     explicit AçılırGirişKutusu(QWidget* sahip = nullptr);
@@ -22,22 +21,27 @@ class AçılırGirişKutusu : public QComboBox {
     // Position of the first item that begins with the text, by the Turkish rules; -1 when there is none.
     int ÖnEkleBul(const QString& ön) const;
 
-  protected:
-    // What the user's text becomes after each edit; the cursor keeps its place in it.
+    // What a text becomes when the user types or pastes it.
     virtual QString Düzelt(const QString& metin) const { return metin; }
+
+  protected:
+    // Formats the text on leaving.
+    virtual void Bitir() {}
 
   private:
     GirişKutusu* m_satır;
     Odakİzleyici m_odak;
 };
 
-// Product groups: upper case as typed; a text chosen from the list stays as it is.
+// Product groups: upper case as typed, trimmed on leaving; a text chosen from the list stays as it is.
 class GrupKutusu : public AçılırGirişKutusu {
   public:
     using AçılırGirişKutusu::AçılırGirişKutusu;
 
-  protected:
     QString Düzelt(const QString& metin) const override;
+
+  protected:
+    void Bitir() override;
 };
 
 // Quantity types: hold no digits, however they come in.
@@ -45,7 +49,8 @@ class MiktarTürüKutusu : public AçılırGirişKutusu {
   public:
     using AçılırGirişKutusu::AçılırGirişKutusu;
 
+    QString Düzelt(const QString& metin) const override;
+
   protected:
     void keyPressEvent(QKeyEvent* olay) override;
-    QString Düzelt(const QString& metin) const override;
 };

@@ -1,11 +1,28 @@
 #include "GirisKutusu.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <utility>
 
+#include "DuzenlemeDenetcisi.h"
 #include "EnterTusu.h"
 #include "TurkceMetin.h"
+
+namespace {
+
+class KutuDenetçisi : public DüzenlemeDenetçisi {
+  public:
+    explicit KutuDenetçisi(GirişKutusu* kutu) : DüzenlemeDenetçisi(kutu), m_kutu(kutu) {}
+
+  protected:
+    bool Denetle(QString& metin, int& imleç) const override { return m_kutu->Denetle(metin, imleç); }
+
+  private:
+    GirişKutusu* m_kutu;
+};
+
+}  // namespace
 
 QString YazılanMetin(const QKeyEvent& tuş) {
     const auto değiştirici = tuş.modifiers();
@@ -18,23 +35,26 @@ GirişKutusu::GirişKutusu(QWidget* sahip)
       m_odak(
           this, [this](Qt::FocusReason neden) { Girildi(neden); },
           [this](Odakİzleyici::Çıkış çıkış) {
-              if (çıkış == Odakİzleyici::Çıkış::FormKapanıyor) return;
-              ÇıkıştaBiçimle();
-              if (m_bırakılınca) m_bırakılınca();
+              if (çıkış != Odakİzleyici::Çıkış::FormKapanıyor) m_bitti = Bitir();
           }) {
+    new KutuDenetçisi(this);
     Enterİleİlerlesin(this);
-    connect(this, &QLineEdit::textEdited, this, [this] {
-        if (m_denetleniyor) return;
-        m_denetleniyor = true;
-        DüzenlemeyiDenetle();
-        m_denetleniyor = false;
-        if (m_düzenlenince) m_düzenlenince();
-    });
+    connect(this, &QLineEdit::textEdited, this, [this] { DüzenlendiğiniBildir(); });
 }
 
 void GirişKutusu::Girildi(Qt::FocusReason neden) {
+    m_bitti = true;
     selectAll();
     m_tıklamaylaGirildi = neden == Qt::MouseFocusReason;
+}
+
+bool GirişKutusu::Denetle(QString& metin, int& imleç) {
+    TekSatıraİndir(metin, imleç);
+    return true;
+}
+
+void GirişKutusu::DüzenlendiğiniBildir() {
+    if (m_düzenlenince) m_düzenlenince();
 }
 
 // The press that brought the focus has set the cursor by now and so taken the selection away.
@@ -43,10 +63,16 @@ void GirişKutusu::mouseReleaseEvent(QMouseEvent* olay) {
     if (std::exchange(m_tıklamaylaGirildi, false) && !hasSelectedText()) selectAll();
 }
 
+bool OdaktakiKutuBitti() {
+    auto* kutu = dynamic_cast<GirişKutusu*>(QApplication::focusWidget());
+    return !kutu || kutu->Bitir();
+}
+
 AdKutusu::AdKutusu(QWidget* sahip) : GirişKutusu(sahip) {
     setMaxLength(EnUzunAd);
 }
 
-void AdKutusu::ÇıkıştaBiçimle() {
+bool AdKutusu::Bitir() {
     setText(TürkçeBaşHarfBüyüt(text()));
+    return true;
 }

@@ -12,41 +12,50 @@ inline constexpr int EnUzunAd = 254;
 // The printable characters that a key brings; none for a command such as Ctrl+C.
 QString YazılanMetin(const QKeyEvent& tuş);
 
-// A line of text as all forms have it: Enter moves on as Tab does, and entering selects the whole text, also by a
-// mouse click (unless the mouse was dragged over it).
+// A line of text as all forms have it: Enter moves on as Tab does, entering selects the whole text, also by a mouse
+// click (unless the mouse was dragged over it), and line breaks and tabs that are pasted become blanks.
 class GirişKutusu : public QLineEdit {
   public:
     explicit GirişKutusu(QWidget* sahip = nullptr);
 
     // Runs after each edit of the user, once the box has corrected it; never for a text that the program sets.
     void Düzenlenince(std::function<void()> yapılacak) { m_düzenlenince = std::move(yapılacak); }
-    // Runs when the user has left the box, once the box has formatted its text.
-    void Bırakılınca(std::function<void()> yapılacak) { m_bırakılınca = std::move(yapılacak); }
+
+    // The program empties the box; undo brings nothing back.
+    void clear() { setText(QString()); }
 
     // What entering does; a combo box calls it for the line edit in it.
     void Girildi(Qt::FocusReason neden);
 
+    // The box's answer to leaving it: formats its text. False: the text cannot be read and stays, the user has been
+    // told, and whatever the box was left for must not happen.
+    virtual bool Bitir() { return true; }
+
+    // What the box makes of an edit of the user (`imleç` is the cursor); false: the edit is refused.
+    virtual bool Denetle(QString& metin, int& imleç);
+
   protected:
     void mouseReleaseEvent(QMouseEvent* olay) override;
 
-    // Corrects the text after an edit of the user.
-    virtual void DüzenlemeyiDenetle() {}
-    // Formats the text on leaving.
-    virtual void ÇıkıştaBiçimle() {}
+    void DüzenlendiğiniBildir();
+    // The answer to the last leaving; true while the user is in the box.
+    bool Bitti() const { return m_bitti; }
 
   private:
     std::function<void()> m_düzenlenince;
-    std::function<void()> m_bırakılınca;
-    bool m_denetleniyor = false;
+    bool m_bitti = true;
     bool m_tıklamaylaGirildi = false;
     Odakİzleyici m_odak;
 };
+
+// For a command that is reached without moving the focus (a menu entry, a function key): the answer of the box which
+// the user is in. True where there is none.
+bool OdaktakiKutuBitti();
 
 // The name of a product or material: put in title case on leaving.
 class AdKutusu : public GirişKutusu {
   public:
     explicit AdKutusu(QWidget* sahip = nullptr);
 
-  protected:
-    void ÇıkıştaBiçimle() override;
+    bool Bitir() override;
 };

@@ -3,8 +3,8 @@
 #include <QPushButton>
 
 // A button that runs a command. A click or its mnemonic moves the focus to it first, so that the box which the user was
-// in is left and formatted before the command runs; if that fails, the command does not run. Enter presses the button
-// that has the focus and no other: there are no default buttons.
+// in is left and formatted before the command runs; a number box that cannot be left stops them. Enter presses the
+// button that has the focus and no other: there are no default buttons.
 class KomutDüğmesi : public QPushButton {
   public:
     explicit KomutDüğmesi(const QString& metin, QWidget* sahip = nullptr);
@@ -13,5 +13,4 @@ class KomutDüğmesi : public QPushButton {
   protected:
     bool event(QEvent* olay) override;
     void keyPressEvent(QKeyEvent* olay) override;
-    void mousePressEvent(QMouseEvent* olay) override;
 };

@@ -3,12 +3,20 @@
 #include <QList>
 #include <QStyledItemDelegate>
 
-// Draws the texts of trees and lists: figures stand at the right, and a text that its column cuts is told in full by a
-// tooltip, as plain text.
+// What a row tells besides the texts in its cells, as plain text; asked for when a tooltip comes up. Empty: nothing.
+inline constexpr int AyrıntıRolü = Qt::UserRole + 1;
+
+// Draws the texts of trees and lists. A figure that is too wide for its column is written smaller; a text that its
+// column cuts even so ends in "…" and is told in full by a tooltip, as plain text.
 class MetinTemsilcisi : public QStyledItemDelegate {
   public:
-    explicit MetinTemsilcisi(QObject* sahip, QList<int> sayıSütunları = {});
+    struct Sütunlar {
+        QList<int> Sağda;    // texts that stand at the right
+        QList<int> Sayılar;  // figures
+    };
+    explicit MetinTemsilcisi(QObject* sahip, Sütunlar sütunlar = {});
 
+    void paint(QPainter* çizici, const QStyleOptionViewItem& seçenek, const QModelIndex& yer) const override;
     QSize sizeHint(const QStyleOptionViewItem& seçenek, const QModelIndex& yer) const override;
     bool helpEvent(QHelpEvent* olay, QAbstractItemView* görünüm, const QStyleOptionViewItem& seçenek,
                    const QModelIndex& yer) override;
@@ -17,5 +25,5 @@ class MetinTemsilcisi : public QStyledItemDelegate {
     void initStyleOption(QStyleOptionViewItem* seçenek, const QModelIndex& yer) const override;
 
   private:
-    QList<int> m_sayıSütunları;
+    Sütunlar m_sütunlar;
 };

@@ -5,23 +5,24 @@
 #include "MetinTablosu.h"
 #include "MetinTemsilcisi.h"
 
-RaporListesi::RaporListesi(const QList<Sütun>& sütunlar, QWidget* sahip) : QTreeWidget(sahip) {
+RaporListesi::RaporListesi(const QList<Sütun>& sütunlar, QWidget* sahip) : TekSeçimli(sahip) {
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
-    setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setTabKeyNavigation(false);
     QStringList başlıklar;
-    QList<int> sayılar;
+    MetinTemsilcisi::Sütunlar yerler;
     for (const Sütun& sütun : sütunlar) {
-        if (sütun.Sayı) sayılar.append(static_cast<int>(m_bölenler.size()));
+        const int sıra = static_cast<int>(m_bölenler.size());
+        if (sütun.Sayı) yerler.Sağda.append(sıra);
+        if (sütun.Sayı || sütun.Miktar) yerler.Sayılar.append(sıra);
         başlıklar.append(Metin(sütun.Başlık));
         m_bölenler.append(sütun.Bölen);
     }
     setHeaderLabels(başlıklar);
-    for (const int sayı : sayılar) headerItem()->setTextAlignment(sayı, Qt::AlignRight | Qt::AlignVCenter);
-    setItemDelegate(new MetinTemsilcisi(this, sayılar));
+    for (const int sıra : yerler.Sağda) headerItem()->setTextAlignment(sıra, Qt::AlignRight | Qt::AlignVCenter);
+    setItemDelegate(new MetinTemsilcisi(this, yerler));
     header()->setStretchLastSection(false);
     header()->setSectionsMovable(false);
 }
@@ -33,7 +34,8 @@ void RaporListesi::SatırlarıKoy(const QList<QTreeWidgetItem*>& satırlar) {
 }
 
 QString RaporListesi::SeçiliMetin(int sütun) const {
-    return currentItem() ? currentItem()->text(sütun) : QString();
+    const QTreeWidgetItem* seçili = SeçiliÖğe();
+    return seçili ? seçili->text(sütun) : QString();
 }
 
 void RaporListesi::resizeEvent(QResizeEvent* olay) {

@@ -3,14 +3,17 @@
 #include <QList>
 #include <QTreeWidget>
 
+#include "TekSecimli.h"
+
 // A list of rows with columns. Each column's width is the list's own width divided by the column's divisor, also after
 // resizing; figures stand at the right; the first row is current once rows are put in.
-class RaporListesi : public QTreeWidget {
+class RaporListesi : public TekSeçimli<QTreeWidget> {
   public:
     struct Sütun {
-        int Başlık;    // number of the header's text
-        double Bölen;  // list width / Bölen = column width
-        bool Sayı;     // figures: right-aligned
+        int Başlık;           // number of the header's text
+        double Bölen;         // list width / Bölen = column width
+        bool Sayı;            // figures: right-aligned
+        bool Miktar = false;  // figures with their unit: left-aligned
     };
 
     explicit RaporListesi(const QList<Sütun>& sütunlar, QWidget* sahip = nullptr);
@@ -20,7 +23,7 @@ class RaporListesi : public QTreeWidget {
     // Replaces the rows; takes ownership of them.
     void SatırlarıKoy(const QList<QTreeWidgetItem*>& satırlar);
 
-    // A text of the current row; empty when there is no row.
+    // A text of the marked row; empty when there is none.
     QString SeçiliMetin(int sütun) const;
 
   protected:

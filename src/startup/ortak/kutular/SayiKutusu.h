@@ -1,33 +1,53 @@
 #pragma once
 
 #include "GirisKutusu.h"
+#include "Para.h"
+
+// The longest number that can be put into a number box: the largest amount of money with its sign, grouped, with six
+// decimals (-922.337.203.685.477,580700). A shorter text may hold a larger number; that is refused on saving.
+inline constexpr int EnUzunSayı = 27;
 
 // A box for a number. Of the characters the keyboard brings it takes digits and ",", and "-" where negative numbers
-// are allowed. Whatever else comes in (pasted text) loses characters before the cursor until it is a number. On leaving
-// the number is shown with OndalıkBasamak decimals.
+// are allowed; a "," in front of all digits becomes "0,". What is pasted or dropped is taken as a whole or not at all.
+// On leaving the number is shown with OndalıkBasamak decimals.
 class SayıKutusu : public GirişKutusu {
   public:
     enum class Tür {
         Yüzde,        // an empty box becomes 0 on leaving; a text that cannot be read is reported and stays
         EksiliYüzde,  // the same, and "-" is allowed
-        Tutar         // a price or quantity: an empty or unreadable text stays as it is
+        Tutar,        // a price, stored as money: an empty or unreadable text stays as it is
+        Miktar        // the same for a quantity, which is computed with as a double
     };
 
     explicit SayıKutusu(Tür tür, QWidget* sahip = nullptr);
 
-    // Gives the focus to `hedef`. False when that made the user leave a number box whose text cannot be read: the
-    // command that the focus was moved for must then not run.
-    static bool OdağıTaşı(QWidget* hedef, Qt::FocusReason neden);
+    // To be asked before the text is stored. False: it is no number, or one that would be refused, or come back as
+    // another; the user has been told, the text stays and the box has the focus.
+    bool Saklanır();
+
+    bool Bitir() override;
+    bool Denetle(QString& metin, int& imleç) override;
+
+    bool eventFilter(QObject* hedef, QEvent* olay) override;
 
   protected:
     void keyPressEvent(QKeyEvent* olay) override;
-    void DüzenlemeyiDenetle() override;
-    void ÇıkıştaBiçimle() override;
+    void inputMethodEvent(QInputMethodEvent* olay) override;
+    void focusInEvent(QFocusEvent* olay) override;
+    void focusOutEvent(QFocusEvent* olay) override;
 
   private:
+    bool Yüzdeli() const { return m_tür == Tür::Yüzde || m_tür == Tür::EksiliYüzde; }
+    void YeriSakla();
     bool TuşGeçer(const QKeyEvent& tuş) const;
-    bool KabulEdilir(int ekinBaşı, bool geriAlma) const;
+    QString Ek(const QString& metin, int imleç) const;
+    bool KabulEdilir(const QString& metin, const QString& ek) const;
+    Para EnBüyük() const;
+    QString SığmamaNedeni() const;
 
     Tür m_tür;
-    int m_ekinYeri = 0;  // where the next inserted text will begin
+    QString m_önceki;      // the text before the edit that is going on
+    int m_ekinYeri = 0;    // where an inserted text begins
+    bool m_alındı = true;  // the last edit was not refused
+    bool m_yöntemYazıyor = false;
 };

@@ -18,8 +18,11 @@ std::optional<Para> Sığdır(GenişSayı onBindeBir) {
 
 std::optional<Para> Para::Doubledan(double değer) {
     const auto sayı = OnBeşHaneyle(değer);
-    if (!sayı) return std::nullopt;
-    const auto onBindeBir = Ölçeğe(Yuvarla(*sayı, 4, Yarım::Çifte), 4);
+    return sayı ? Ondalıktan(*sayı) : std::nullopt;
+}
+
+std::optional<Para> Para::Ondalıktan(const Ondalık& sayı) {
+    const auto onBindeBir = Ölçeğe(Yuvarla(sayı, 4, Yarım::Çifte), 4);
     if (!onBindeBir) return std::nullopt;
     return Para(*onBindeBir);
 }

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <optional>
 
+struct Ondalık;
+
 // An amount of money, exact: a signed 64-bit count of ten-thousandths of the currency unit (four fixed decimals), so
 // from -922.337.203.685.477,5808 to 922.337.203.685.477,5807. No conversion is implicit, every rounding is named, and
 // whatever leaves the range gives std::nullopt instead of a wrapped value.
@@ -19,6 +21,9 @@ class Para {
     // From floating point, judged on the value's 15 significant digits, halves to the even ten-thousandth
     // (0,00015 -> 0,0002; 0,00025 -> 0,0002). Not finite or out of range: nullopt.
     static std::optional<Para> Doubledan(double değer);
+
+    // From decimals, halves to the even ten-thousandth. Out of range: nullopt.
+    static std::optional<Para> Ondalıktan(const Ondalık& sayı);
 
     // The nearest double.
     double Double() const noexcept;

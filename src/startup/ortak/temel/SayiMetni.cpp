@@ -1,6 +1,6 @@
 #include "SayiMetni.h"
 
-#include "Ondalik.h"
+#include <limits>
 
 namespace {
 
@@ -8,8 +8,10 @@ bool RakamMı(QChar harf) {
     return harf >= u'0' && harf <= u'9';
 }
 
-// The dots before the comma: every group behind a dot has three digits, the first one to three.
+// The dots before the comma: every group behind a dot has three digits, the first one to three and no 0 in front
+// ("0.500" is somebody's decimal point).
 bool NoktalarYerinde(QStringView tam) {
+    if (tam.startsWith(u'0') && tam.contains(u'.')) return false;
     qsizetype sağdan = 0;
     bool noktaVar = false;
     for (qsizetype yer = tam.size() - 1; yer >= 0; --yer, ++sağdan) {
@@ -35,6 +37,21 @@ bool RakamlarıAl(QStringView metin, bool noktaOlur, std::string& rakamlar) {
     return true;
 }
 
+// Lists show tens of thousands of figures: the text is put together at once.
+QString Biçimle(const Ondalık& sayı, int basamak) {
+    const Ondalık yuvarlanmış = Yuvarla(sayı, basamak, Yarım::SıfırdanUzağa);
+    const std::string& tam = yuvarlanmış.Tam;
+    std::string metin(yuvarlanmış.Eksi ? "-" : "");
+    for (std::size_t yer = 0; yer < tam.size(); ++yer) {
+        if (yer > 0 && (tam.size() - yer) % 3 == 0) metin += '.';
+        metin += tam[yer];
+    }
+    if (basamak > 0) metin.append(1, ',').append(yuvarlanmış.Kesir);
+    return QString::fromLatin1(metin);
+}
+
+}  // namespace
+
 std::optional<Ondalık> OndalıkOku(QStringView metin, NoktaKuralı kural) {
     metin = metin.trimmed();
     Ondalık sayı;
@@ -55,31 +72,13 @@ std::optional<Ondalık> OndalıkOku(QStringView metin, NoktaKuralı kural) {
     return Yuvarla(std::move(sayı), basamak, Yarım::Çifte);  // takes the sign from a zero
 }
 
-// Lists show tens of thousands of figures: the text is put together at once.
-QString Biçimle(const Ondalık& sayı, int basamak) {
-    const Ondalık yuvarlanmış = Yuvarla(sayı, basamak, Yarım::SıfırdanUzağa);
-    const std::string& tam = yuvarlanmış.Tam;
-    std::string metin(yuvarlanmış.Eksi ? "-" : "");
-    for (std::size_t yer = 0; yer < tam.size(); ++yer) {
-        if (yer > 0 && (tam.size() - yer) % 3 == 0) metin += '.';
-        metin += tam[yer];
-    }
-    if (basamak > 0) metin.append(1, ',').append(yuvarlanmış.Kesir);
-    return QString::fromLatin1(metin);
-}
-
-}  // namespace
-
 bool SayıMı(QStringView metin, NoktaKuralı kural) {
     return OndalıkOku(metin, kural).has_value();
 }
 
 std::optional<Para> ParaOku(QStringView metin, NoktaKuralı kural) {
     const auto sayı = OndalıkOku(metin, kural);
-    if (!sayı) return std::nullopt;
-    const auto onBindeBir = Ölçeğe(Yuvarla(*sayı, 4, Yarım::Çifte), 4);
-    if (!onBindeBir) return std::nullopt;
-    return Para::OnBindeBirden(*onBindeBir);
+    return sayı ? Para::Ondalıktan(*sayı) : std::nullopt;
 }
 
 std::optional<double> DoubleOku(QStringView metin, NoktaKuralı kural) {
@@ -87,8 +86,20 @@ std::optional<double> DoubleOku(QStringView metin, NoktaKuralı kural) {
     return sayı ? EnYakınDouble(*sayı) : std::nullopt;
 }
 
+bool DoubleSaklar(QStringView metin, NoktaKuralı kural) {
+    const auto sayı = OndalıkOku(metin, kural);
+    if (!sayı) return false;
+    const std::string rakamlar = sayı->Tam + sayı->Kesir;
+    const std::size_t ilk = rakamlar.find_first_not_of('0');
+    return ilk == std::string::npos || rakamlar.find_last_not_of('0') - ilk < std::numeric_limits<double>::digits10;
+}
+
 QString SayıBiçimle(Para değer, int basamak) {
     return Biçimle(Ölçekten(değer.OnBindeBir(), 4), basamak);
+}
+
+QString SayıBiçimle(const Ondalık& değer, int basamak) {
+    return Biçimle(değer, basamak);
 }
 
 std::optional<QString> SayıBiçimle(double değer, int basamak) {

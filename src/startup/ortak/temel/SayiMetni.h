@@ -4,6 +4,7 @@
 #include <QStringView>
 #include <optional>
 
+#include "Ondalik.h"
 #include "Para.h"
 
 // Numbers as the user reads and writes them: "," before the decimals, "." between the thousands, "-" as the sign.
@@ -12,8 +13,10 @@
 
 // Where a "." may stand before the comma.
 enum class NoktaKuralı {
-    Yerinde,  // only between groups of three digits, as in 1.250.000 ("12.5" is no number)
-    Serbest   // anywhere: the text of a box while the user edits it (1.25,00 after a Backspace)
+    // Only between groups of three digits, the first group not beginning with 0, as in 1.250.000; "12.5" and "0.500"
+    // are no numbers. The data file takes the same ones.
+    Yerinde,
+    Serbest  // anywhere: the text of a box while the user edits it (1.25,00 after a Backspace)
 };
 
 // The numeric test: blanks around, an optional sign ("-" or "+", blanks may follow), digits with dots as the rule
@@ -27,9 +30,16 @@ std::optional<Para> ParaOku(QStringView metin, NoktaKuralı kural = NoktaKuralı
 // The text as the nearest double. nullopt: no number, or not finite.
 std::optional<double> DoubleOku(QStringView metin, NoktaKuralı kural = NoktaKuralı::Serbest);
 
+// Whether a double gives the number back digit by digit: it does for 15 significant digits, and for more it may not.
+bool DoubleSaklar(QStringView metin, NoktaKuralı kural = NoktaKuralı::Serbest);
+
+// The text's decimals, however many. nullopt: no number.
+std::optional<Ondalık> OndalıkOku(QStringView metin, NoktaKuralı kural = NoktaKuralı::Serbest);
+
 // FormatNumber: exactly `basamak` decimals (0 and up), thousands grouped, leading zero, "-" in front; halves are
 // rounded away from zero on the decimal value; a value that rounds to zero never bears a sign.
 QString SayıBiçimle(Para değer, int basamak);
+QString SayıBiçimle(const Ondalık& değer, int basamak);
 // A double is taken at its 15 significant digits (2,675 with two decimals gives 2,68). Not finite: nullopt.
 std::optional<QString> SayıBiçimle(double değer, int basamak);
 // A text is taken at its exact decimals, however long. No number: nullopt.

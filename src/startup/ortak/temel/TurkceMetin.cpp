@@ -2,6 +2,28 @@
 
 #include "TurkceSira.h"
 
+namespace {
+
+bool SatırKeser(QChar harf) {
+    return (harf >= u'\t' && harf <= u'\r') || harf == QChar(0x85) || harf == QChar::LineSeparator ||
+           harf == QChar::ParagraphSeparator;
+}
+
+}  // namespace
+
+QString TekSatır(const QString& metin) {
+    QString sonuç;
+    sonuç.reserve(metin.size());
+    bool öncekiKeser = false;
+    for (const QChar harf : metin) {
+        const bool keser = SatırKeser(harf);
+        if (!keser) sonuç += harf;
+        if (keser && !öncekiKeser) sonuç += u' ';
+        öncekiKeser = keser;
+    }
+    return sonuç;
+}
+
 QString TürkçeBaşHarfBüyüt(const QString& metin) {
     QString sonuç = metin.trimmed();
     bool sözBaşı = true;

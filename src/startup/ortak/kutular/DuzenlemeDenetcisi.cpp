@@ -1,0 +1,50 @@
+#include "DuzenlemeDenetcisi.h"
+
+#include <QLineEdit>
+#include <utility>
+
+#include "TurkceMetin.h"
+
+DüzenlemeDenetçisi::DüzenlemeDenetçisi(QLineEdit* satır) : QValidator(satır), m_satır(satır) {
+    satır->setValidator(this);
+    connect(satır, &QLineEdit::textChanged, this, [this] { YinelemeyiOnar(); });
+}
+
+// The toolkit undoes a refused edit and takes it out of the undo history. Setting a text empties that history, and
+// while something can be redone the text came by undo or redo.
+QValidator::State DüzenlemeDenetçisi::validate(QString& metin, int& imleç) const {
+    const bool düzenleme = !m_onarılıyor && m_satır->isUndoAvailable() && !m_satır->isRedoAvailable();
+    m_reddedildi = düzenleme && !Denetle(metin, imleç);
+    return m_reddedildi ? Invalid : Acceptable;
+}
+
+// The last redo looks like an edit. It joins several edits, and what each of them was allowed may be refused to all at
+// once; the text stays nevertheless, but the toolkit would now let the next refused edit stay as well. Seeing the text
+// again as what redo brings sets that right.
+void DüzenlemeDenetçisi::YinelemeyiOnar() {
+    if (!std::exchange(m_reddedildi, false)) return;
+    const QSignalBlocker sessiz(m_satır);
+    m_onarılıyor = true;
+    m_satır->undo();
+    while (m_satır->isRedoAvailable()) m_satır->redo();
+    m_onarılıyor = false;
+}
+
+void TekSatıraİndir(QString& metin, int& imleç) {
+    imleç = static_cast<int>(TekSatır(metin.left(imleç)).size());
+    metin = TekSatır(metin);
+}
+
+void TekSatırlıOlsun(QLineEdit* satır) {
+    class TekSatırDenetçisi : public DüzenlemeDenetçisi {
+      public:
+        using DüzenlemeDenetçisi::DüzenlemeDenetçisi;
+
+      protected:
+        bool Denetle(QString& metin, int& imleç) const override {
+            TekSatıraİndir(metin, imleç);
+            return true;
+        }
+    };
+    new TekSatırDenetçisi(satır);
+}
