@@ -140,6 +140,7 @@ TEST_F(Hareketler, YazılanTarihAlınır) {
         SaatiAyarla([gün = durum.Günü] { return gün; });
         Aç<MalzemeHareketleriFormu>();
         TarihDeğiştir([&](QWidget& form) {
+            QApplication::setActiveWindow(&form);  // so that leaving the box is felt there
             auto& tarih = *form.findChild<QDateEdit*>(U("TarihKutusu"));
             QTest::keyClick(&tarih, Qt::Key_Delete);  // all of it is selected
             QTest::keyClicks(&tarih, U(durum.Yazılan));
@@ -148,7 +149,7 @@ TEST_F(Hareketler, YazılanTarihAlınır) {
             if (durum.Alınan.isValid()) return;
             Kutular().TekKutu(MesajKutusu::Simge::Bilgi, Metin(2310));
             EXPECT_EQ(tarih.text(), U(durum.Yazılan));
-            EXPECT_EQ(form.focusWidget(), &tarih);
+            EXPECT_TRUE(tarih.hasFocus());
             Bas(form, "İptalButonu");
         });
         EXPECT_EQ(HareketTarihi, durum.Alınan.isValid() ? durum.Alınan : durum.Günü) << durum.Yazılan;
