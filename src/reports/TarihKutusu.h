@@ -20,6 +20,7 @@ class TarihKutusu : public QDateEdit {
   protected:
     StepEnabled stepEnabled() const override { return StepUpEnabled | StepDownEnabled; }
     QValidator::State validate(QString& metin, int& yer) const override;
+    void fixup(QString& /*metin*/) const override {}
     QDateTime dateTimeFromText(const QString& metin) const override;
     bool eventFilter(QObject* nesne, QEvent* olay) override;
     void keyPressEvent(QKeyEvent* olay) override;

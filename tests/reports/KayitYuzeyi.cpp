@@ -14,7 +14,6 @@ QString Sayı(double değer) {
 }  // namespace
 
 void KayıtYüzeyi::Çiz(double x1, double y1, double x2, double y2, QColor renk) {
-    Çizgiler.append({SayfaNo(), x1, y1, x2, y2, renk});
     m_döküm.append(QStringList{QStringLiteral("çizgi"), Sayı(x1), Sayı(y1), Sayı(x2), Sayı(y2), renk.name()}.join(
         QLatin1Char(' ')));
 }

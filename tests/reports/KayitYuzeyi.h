@@ -19,11 +19,6 @@ class KayıtYüzeyi : public SayfaYüzeyi {
         Yer yer;
         double Sağ() const { return X + Genişlik; }
     };
-    struct Çizgi {
-        int Sayfa;
-        double X1, Y1, X2, Y2;
-        QColor Renk;
-    };
 
     explicit KayıtYüzeyi(double genişlik = 210, double yükseklik = 297, bool başlar = true)
         : m_genişlik(genişlik), m_yükseklik(yükseklik), m_başlar(başlar) {}
@@ -39,7 +34,6 @@ class KayıtYüzeyi : public SayfaYüzeyi {
     void Çiz(double x1, double y1, double x2, double y2, QColor renk) override;
 
     QList<BasılıMetin> Metinler;
-    QList<Çizgi> Çizgiler;
 
     // The printed texts with exactly this content.
     QList<BasılıMetin> Bul(const QString& metin) const;

@@ -48,35 +48,22 @@ TEST(MaliyetFişi, TekSayfa) {
     AltınlaKarşılaştır(U("maliyet-fisi"), yüzey.Döküm());
 }
 
-// Each percentage alone: zero, negative, empty and unreadable ones have no line, and the text stands as it was typed.
+// Zero, negative, empty and unreadable percentages have no line; the text stands as it was typed.
 TEST(MaliyetFişi, YüzdeSatırları) {
     const struct {
-        QString MaliyetFişi::*Kutu;
-        const char* Etiket;
-    } kutular[] = {
-        {&MaliyetFişi::İşçilikYüzdesi, "İşçilik (%"},
-        {&MaliyetFişi::KârYüzdesi, "Kar (%"},
-        {&MaliyetFişi::DiğerYüzdesi, "Diğer Varnek (%"},
-        {&MaliyetFişi::VadeYüzdesi, "Vade Farkı (%"},
-    };
-    const struct {
-        const char* Yüzde;
-        const char* Tutar;  // null: no line
-    } durumlar[] = {
-        {"20", "5,00"}, {"12,5", "3,12"},  {"0,001", "0,00"}, {"1.000", "249,90"}, {"0,50", "0,12"},
-        {"0", nullptr}, {"0,00", nullptr}, {"-5", nullptr},   {"", nullptr},       {"-", nullptr},
-    };
-    for (const auto& kutu : kutular) {
-        for (const auto& durum : durumlar) {
-            MaliyetFişi fiş;
-            fiş.MalzemeMaliyeti = U("24,99");
-            fiş.ToplamMaliyet = U("25,00");
-            fiş.*kutu.Kutu = U(durum.Yüzde);
-            QStringList beklenen{U("Malzeme Maliyeti:"), U("24,99")};
-            if (durum.Tutar) beklenen += {U(kutu.Etiket) + U(durum.Yüzde) + U("):"), U(durum.Tutar)};
-            beklenen += {U("Toplam:"), U("25,00")};
-            EXPECT_EQ(Özet(fiş), beklenen) << kutu.Etiket << durum.Yüzde;
+        const char *Yüzde, *Tutar;  // null: no line
+    } durumlar[] = {{"20", "5,00"}, {"12,5", "3,12"}, {"1.000", "249,90"}, {"0,001", "0,00"},
+                    {"0", nullptr}, {"-5", nullptr},  {"", nullptr},       {"-", nullptr}};
+    for (const auto& durum : durumlar) {
+        MaliyetFişi fiş;
+        fiş.MalzemeMaliyeti = U("24,99");
+        fiş.ToplamMaliyet = U("25,00");
+        fiş.KârYüzdesi = fiş.VadeYüzdesi = U(durum.Yüzde);
+        QStringList beklenen{U("Malzeme Maliyeti:"), U("24,99")};
+        for (const char* etiket : {"Kar (%", "Vade Farkı (%"}) {
+            if (durum.Tutar) beklenen += {U(etiket) + U(durum.Yüzde) + U("):"), U(durum.Tutar)};
         }
+        EXPECT_EQ(Özet(fiş), beklenen + QStringList({U("Toplam:"), U("25,00")})) << durum.Yüzde;
     }
 }
 

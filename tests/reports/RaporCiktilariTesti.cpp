@@ -18,8 +18,8 @@ TEST(RaporÇıktıları, MalzemeHareketleri) {
 
 TEST(RaporÇıktıları, MalzemeListesi) {
     QList<QStringList> satırlar;
-    for (int i = 1; i <= 12; ++i) satırlar.append({U("Malzeme %1").arg(i), U("%1,50").arg(i * 100)});
-    KayıtYüzeyi yüzey(205, 80);
+    for (int i = 1; i <= 5; ++i) satırlar.append({U("Malzeme %1").arg(i), U("%1,50").arg(i * 100)});
+    KayıtYüzeyi yüzey(205, 58);
     MalzemeListesiniYaz(yüzey, U("Malzeme Listesi"), satırlar);
     AltınlaKarşılaştır(U("malzeme-listesi"), yüzey.Döküm());
 }

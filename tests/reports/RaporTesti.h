@@ -47,13 +47,8 @@ class RaporTesti : public VarnekTesti {
     QStringList Satırlar(const char* liste);
     // Frame and print buttons are all enabled (or all disabled).
     void EtkinlikBeklenen(bool etkin);
-    // Each column is the list's width divided by its divisor, right-aligned or not, headed by its caption.
-    struct Sütun {
-        const char* Başlık;
-        double Bölen;
-        bool Sağa;
-    };
-    void SütunlarBeklenen(const char* liste, const QList<Sütun>& sütunlar);
+    // The headers, joined by "|"; one with ">" is right-aligned.
+    QString Başlıklar(const char* liste);
 
     // The focus stands on the first of these and Tab moves it through the others.
     void OdakSırasıBeklenen(std::initializer_list<const char*> adlar);

@@ -50,7 +50,7 @@ double AygıtYüzeyi::Yükseklik() const {
 }
 
 double AygıtYüzeyi::MetinGenişliği(const QString& metin) const {
-    return GeçerliYüz().Ölçü.horizontalAdvance(metin) / m_ölçek;
+    return GeçerliYüz().Genişlik(metin) / m_ölçek;
 }
 
 double AygıtYüzeyi::SatırYüksekliği() const {
@@ -63,9 +63,9 @@ void AygıtYüzeyi::Çiz(double x1, double y1, double x2, double y2, QColor renk
 }
 
 double AygıtYüzeyi::MetniKoy(const QString& metin, Yer yer) {
-    const Yüz& yüz = GeçerliYüz();
+    Yüz& yüz = GeçerliYüz();
     const Sığdırılan sığan = MetniSığdır(metin, {yer.Genişlik * m_ölçek, yer.Korunan},
-                                         [&yüz](const QString& parça) { return yüz.Ölçü.horizontalAdvance(parça); });
+                                         [&yüz](const QString& parça) { return yüz.Genişlik(parça); });
     const QPointF taban(X() * m_ölçek, Y() * m_ölçek + yüz.Ölçü.ascent());
     m_boyacı.setFont(yüz.Font);
     m_boyacı.setPen(Qt::black);
@@ -90,13 +90,13 @@ void AygıtYüzeyi::SayfaAç() {
     m_aygıt.newPage();
 }
 
-const AygıtYüzeyi::Yüz& AygıtYüzeyi::GeçerliYüz() const {
+AygıtYüzeyi::Yüz& AygıtYüzeyi::GeçerliYüz() const {
     const Yazı& yazı = GeçerliYazı();
-    for (const Yüz& yüz : std::as_const(m_yüzler)) {
+    for (Yüz& yüz : m_yüzler) {
         if (yüz.Punto == yazı.Punto && yüz.Kalın == yazı.Kalın) return yüz;
     }
     m_yüzler.append(YüzOluştur(yazı));
-    return m_yüzler.constLast();
+    return m_yüzler.last();
 }
 
 AygıtYüzeyi::Yüz AygıtYüzeyi::YüzOluştur(const Yazı& yazı) const {
@@ -105,5 +105,14 @@ AygıtYüzeyi::Yüz AygıtYüzeyi::YüzOluştur(const Yazı& yazı) const {
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setPointSize(yazı.Punto);
     font.setBold(yazı.Kalın);
-    return {yazı.Punto, yazı.Kalın, font, QFontMetricsF(font, &m_aygıt), TasarımSatırYüksekliği(font, yazı.Punto)};
+    return {yazı.Punto, yazı.Kalın, font, QFontMetricsF(font, &m_aygıt), TasarımSatırYüksekliği(font, yazı.Punto), {}};
+}
+
+// A text is laid out before it is drawn: it is measured more than once.
+double AygıtYüzeyi::Yüz::Genişlik(const QString& metin) {
+    constexpr qsizetype ençok = 256;
+    const auto bulunan = Genişlikler.constFind(metin);
+    if (bulunan != Genişlikler.cend()) return *bulunan;
+    if (Genişlikler.size() >= ençok) Genişlikler.clear();
+    return *Genişlikler.insert(metin, Ölçü.horizontalAdvance(metin));
 }

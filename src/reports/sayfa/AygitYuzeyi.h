@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QPainter>
 
 #include "SayfaYuzeyi.h"
@@ -35,9 +36,12 @@ class AygıtYüzeyi : public SayfaYüzeyi {
         bool Kalın;
         QFont Font;
         QFontMetricsF Ölçü;
-        double SatırYüksekliği;  // millimetres
+        double SatırYüksekliği;              // millimetres
+        QHash<QString, double> Genişlikler;  // of the texts last measured, in device units
+
+        double Genişlik(const QString& metin);
     };
-    const Yüz& GeçerliYüz() const;
+    Yüz& GeçerliYüz() const;
     Yüz YüzOluştur(const Yazı& yazı) const;
 
     QPagedPaintDevice& m_aygıt;

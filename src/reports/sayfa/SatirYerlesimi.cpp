@@ -71,6 +71,9 @@ class Yerleştirici {
         const SatırHücresi& hücre = m_hücreler.at(i);
         const double doğal = m_doğal.at(i);
         const qsizetype korunan = hücre.Tür == HücreTürü::Miktar ? SayıUzunluğu(hücre.Metin) : 0;
+        if (const double oda = Oda(i, m_enÜst, hücre.Konum); doğal <= oda) {
+            return Koy(i, m_enÜst, hücre.Konum, doğal, hücre.Metin, {oda, korunan});
+        }
         const double sayı = korunan > 0 ? m_ölçü(hücre.Metin.left(korunan)) : 0;
         const double enAz = std::max(std::min(doğal, EnDarSütun / ENDAR), sayı) * ENDAR;
         const Yer yer = YerBul(i, doğal, enAz);
