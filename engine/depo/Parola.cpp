@@ -13,7 +13,7 @@ namespace Motor {
 
 namespace {
 
-constexpr std::int64_t YeniTekrar = 10000;  // about 10 ms at each connecting
+constexpr std::int64_t YeniTekrar = 10000;  // a few ms at each connecting
 constexpr std::int64_t AzamiTekrar = 1000000;
 constexpr std::size_t TuzBoyu = 16;
 constexpr std::size_t ÖzetBoyu = 32;

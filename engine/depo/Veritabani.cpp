@@ -116,7 +116,6 @@ bool Veritabanı::OkumaSürüyor() const {
     return false;
 }
 
-// Before every statement.
 void Veritabanı::Hazırlan() {
     if (KendiliğindenGeriAlındı())
         throw Hata(Durum::GeriAlındı,
@@ -147,7 +146,6 @@ bool Veritabanı::DizinVar(std::string_view ad) {
 }
 
 SqliteKomutu Veritabanı::Çevir(std::string_view deyim) {
-    Hazırlan();
     return Motor::Çevir(Çözümle(deyim), *this);
 }
 
@@ -158,7 +156,6 @@ SqliteDeyimi Veritabanı::Hazırla(const SqliteKomutu& komut) {
 }
 
 Sorgu Veritabanı::Sorgula(const SqliteKomutu& komut) {
-    Hazırlan();
     return {Hazırla(komut), komut.Sütunlar};
 }
 
@@ -174,7 +171,6 @@ void Veritabanı::Yürüt(SqliteDeyimi& deyim) {
 }
 
 std::int64_t Veritabanı::Uygula(const SqliteKomutu& komut) {
-    Hazırlan();
     SqliteDeyimi deyim = Hazırla(komut);
     if (m_elleOnay && !HareketAçık()) {
         SqliteYürüt(m_vt.get(), "BEGIN");

@@ -61,6 +61,9 @@ class Veritabanı : private Şema {
     Veritabanı(const Veritabanı&) = delete;
     Veritabanı& operator=(const Veritabanı&) = delete;
 
+    // Before every statement, when its own earlier query is closed.
+    void Hazırlan();
+
     SqliteKomutu Çevir(std::string_view deyim);
 
     // Starts a query; the first row is not fetched yet.
@@ -98,7 +101,6 @@ class Veritabanı : private Şema {
     bool Taşındı() const;
     void YerindeMi() const;
     bool OkumaSürüyor() const;
-    void Hazırlan();
     bool KendiliğindenGeriAlındı() const { return m_hareket && !HareketAçık(); }
 
     std::atomic<std::atomic<bool>*> m_nöbetçi = nullptr;

@@ -40,9 +40,11 @@ SQLRETURN DeyimNesnesi::SütunlarıListele(std::string_view tablo, std::string_v
     return Başlat(SütunlarKomutu(tablo, sütun));
 }
 
-void DeyimNesnesi::YenidenBaşla() noexcept {
+void DeyimNesnesi::YenidenBaşla() {
     İmleciKapat();
     m_iptal = false;
+    m_iplik = std::this_thread::get_id();
+    m_veri.Hazırlan();
 }
 
 // A query's first row is fetched at once: a locked or damaged file shows while the statement is executed, where clients
@@ -74,8 +76,9 @@ SQLRETURN DeyimNesnesi::Kapat(SQLUSMALLINT seçenek) {
 }
 
 void DeyimNesnesi::Kes() noexcept {
-    if (!m_veri.NöbetAl(m_iptal)) {
-        m_iptal = true;  // should another statement be at work just now, this one's cursor closes at its next use
+    // From another thread only the flag is raised: that of the statement's work may be reading its row just now.
+    if (m_iplik != std::this_thread::get_id() || !m_veri.NöbetAl(m_iptal)) {
+        m_iptal = true;
         return;
     }
     İmleciKapat();
@@ -92,7 +95,8 @@ void DeyimNesnesi::Bırak() noexcept {
 
 SQLRETURN DeyimNesnesi::Getir() {
     const Nöbet nöbet(m_veri, m_iptal);
-    if (m_iptal.exchange(false)) {
+    if (m_iptal.load(std::memory_order_relaxed)) {
+        m_iptal = false;
         İmleciKapat();
         throw Hata(Durum::İptal, "İşlem iptal edildi.");
     }
@@ -110,7 +114,6 @@ SQLRETURN DeyimNesnesi::Getir() {
 
 SQLRETURN DeyimNesnesi::VeriAl(SQLUSMALLINT sütun, SQLSMALLINT hedefTürü, SQLPOINTER tampon, SQLLEN boy,
                                SQLLEN* uzunluk) {
-    const Nöbet nöbet(m_veri, m_iptal);
     if (!m_satırda) throw Hata(Durum::İmleçDurumu, "Okunacak bir satır yok.");
     const SütunTürü tür = Sütun(sütun).Tür;
     const bool metinOlarak =

@@ -21,8 +21,8 @@ class DeyimNesnesi : public BağlıNesne {
     SQLRETURN SütunlarıListele(std::string_view tablo, std::string_view sütun);
     SQLRETURN Kapat(SQLUSMALLINT seçenek);
 
-    // From any thread: ends what this statement is doing (S1008), or closes its cursor when it does nothing. Other
-    // statements of the connection go on.
+    // From any thread: ends what this statement is doing (S1008). Where it does nothing, its cursor is closed: at once
+    // in the thread that executed it, else at its next use. Other statements of the connection go on.
     void Kes() noexcept;
 
     void Bırak() noexcept;  // ends the object
@@ -44,7 +44,7 @@ class DeyimNesnesi : public BağlıNesne {
 
   private:
     const SütunTanımı& Sütun(SQLUSMALLINT sıra) const;
-    void YenidenBaşla() noexcept;
+    void YenidenBaşla();
     SQLRETURN Başlat(SqliteKomutu komut);
     void İmleciKapat() noexcept;
     SQLRETURN ParçaVer(std::string_view metin, SQLPOINTER tampon, SQLLEN boy, SQLLEN* uzunluk);
@@ -52,8 +52,9 @@ class DeyimNesnesi : public BağlıNesne {
     Bağlantı& m_bağlantı;
     Veritabanı& m_veri;
     std::atomic<bool> m_iptal = false;
-    std::optional<SqliteKomutu> m_komut;  // prepared or running
-    std::optional<Sorgu> m_sorgu;         // open cursor
+    std::atomic<std::thread::id> m_iplik;  // that executed it
+    std::optional<SqliteKomutu> m_komut;   // prepared or running
+    std::optional<Sorgu> m_sorgu;          // open cursor
     std::int64_t m_etkilenen = -1;
     bool m_ilkSatırBekliyor = false;  // fetched while executing, so that errors show there
     bool m_satırda = false;
