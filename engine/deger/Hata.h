@@ -26,7 +26,6 @@ inline constexpr std::string_view TabloYok = "S0002";
 inline constexpr std::string_view DizinVar = "S0011";
 inline constexpr std::string_view SütunYok = "S0022";
 inline constexpr std::string_view SütunSayısı = "21S01";
-inline constexpr std::string_view Uyarı = "01000";
 inline constexpr std::string_view Kesildi = "01004";
 inline constexpr std::string_view MetinUzun = "22001";
 inline constexpr std::string_view SayıBüyük = "22003";

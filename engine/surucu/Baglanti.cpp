@@ -20,19 +20,12 @@ SQLRETURN Bağlantı::Bağlan(std::string_view veriKaynağı, std::string_view p
     öznitelikler.Ekle("DSN", std::string(veriKaynağı));
     if (!parola.empty()) öznitelikler.Ekle("PWD", std::string(parola));
     Aç(öznitelikler);
-    return BağlantıyıAnlat(SQL_SUCCESS);
+    return SQL_SUCCESS;
 }
 
 SQLRETURN Bağlantı::MetinleBağlan(std::string_view metin, SQLCHAR* çıkış, SQLSMALLINT boy, SQLSMALLINT* uzunluk) {
     Aç(Öznitelikler::BağlantıMetninden(metin));
-    return BağlantıyıAnlat(MetinVer(Tanı, metin, çıkış, boy, uzunluk));
-}
-
-// A file that cannot be written to is told while connecting, not only at the first change.
-SQLRETURN Bağlantı::BağlantıyıAnlat(SQLRETURN sonuç) {
-    if (!m_veri->SaltOkunur()) return sonuç;
-    Tanı.Ekle(Hata(Durum::Uyarı, "Veri dosyası salt okunur; değişiklikler kaydedilemez.", SQLITE_READONLY));
-    return SQL_SUCCESS_WITH_INFO;
+    return MetinVer(Tanı, metin, çıkış, boy, uzunluk);
 }
 
 SQLRETURN Bağlantı::Ayrıl() {

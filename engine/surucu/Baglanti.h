@@ -51,7 +51,6 @@ class Bağlantı {
 
   private:
     void Aç(const Öznitelikler& öznitelikler);
-    SQLRETURN BağlantıyıAnlat(SQLRETURN sonuç);
 
     std::unique_ptr<Veritabanı> m_veri;
     std::atomic<bool> m_iptalsiz = false;  // no statement's work

@@ -224,22 +224,6 @@ constexpr Satır Tablo[] = {
      "Virgülden önce ve sonra, toplam en çok 15 basamak girebilirsiniz."},
     {2142, "Bu metin bir sayı olmadığı veya çok uzun olduğu için alınmadı."},
 
-    // Later additions: catalogue forms
-    {2170, "Bu malzeme veri dosyasında artık yok; fiyatı değiştirilemez!"},
-    {2171,
-     "Yeni fiyat malzeme listesine yazıldı, ancak ürünlere yazılamadı! \n"
-     "Lütfen, fiyat değişimini yeniden deneyiniz."},
-    {2172,
-     "Yeni fiyat ürünlere yazıldı, ancak malzeme listesine yazılamadı! \n"
-     "Lütfen, fiyat değişimini yeniden deneyiniz."},
-    {2173,
-     "Malzeme silindi, ancak ürünlerin listesinden çıkarılamadı! \n"
-     "Çıkarmak için, listede bırakılan malzemeyi yeniden siliniz."},
-    {2174,
-     "Ürün kaydı silindi, ancak kullanılan malzemeleri silinemedi! \n"
-     "Silmek için, listede bırakılan satırı yeniden siliniz."},
-    {2175, "Bu malzemeler ürüne aktarılamadı:"},
-
     // Later additions: data file and backup at the start
     {2150,
      "Bugünün yedeği alınamadı! \n"
@@ -281,6 +265,22 @@ constexpr Satır Tablo[] = {
      "Lütfen, programı daha kısa yollu bir klasöre taşıyıp tekrar deneyiniz:"},
     {2161, "Yedek klasörünün yolu çok uzun."},
 
+    // Later additions: catalogue forms
+    {2170, "Bu malzeme veri dosyasında artık yok; fiyatı değiştirilemez!"},
+    {2171,
+     "Yeni fiyat malzeme listesine yazıldı, ancak ürünlere yazılamadı! \n"
+     "Lütfen, fiyat değişimini yeniden deneyiniz."},
+    {2172,
+     "Yeni fiyat ürünlere yazıldı, ancak malzeme listesine yazılamadı! \n"
+     "Lütfen, fiyat değişimini yeniden deneyiniz."},
+    {2173,
+     "Malzeme silindi, ancak ürünlerin listesinden çıkarılamadı! \n"
+     "Çıkarmak için, listede bırakılan malzemeyi yeniden siliniz."},
+    {2174,
+     "Ürün kaydı silindi, ancak kullanılan malzemeleri silinemedi! \n"
+     "Silmek için, listede bırakılan satırı yeniden siliniz."},
+    {2175, "Bu malzemeler ürüne aktarılamadı:"},
+
     // Later additions: about, error report, guide
     {2200, "Programın simgesi"},
     {2201, "www.tovrek.example"},
@@ -304,6 +304,11 @@ constexpr Satır Tablo[] = {
     // Later additions: date of the movements
     {2310, "Bu tarih takvimde yok veya eksik yazılmış! Lütfen, günü, ayı ve yılı yazınız (örneğin 15.10.2026)."},
 };
+
+// The search goes by the order.
+static_assert(std::adjacent_find(std::begin(Tablo), std::end(Tablo), [](const Satır& bu, const Satır& sonraki) {
+                  return bu.Numara >= sonraki.Numara;
+              }) == std::end(Tablo));
 
 }  // namespace
 
