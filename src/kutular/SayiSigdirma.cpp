@@ -48,7 +48,8 @@ class Sığdırıcı : public QObject {
         });
     }
 
-    bool eventFilter(QObject*, QEvent* olay) override {
+    bool eventFilter(QObject* kutu, QEvent* olay) override {
+        if (!qobject_cast<QLineEdit*>(kutu)) return false;  // a box that is being destroyed loses its focus once more
         switch (olay->type()) {
             case QEvent::FontChange:
                 YazıTipiDeğişti();

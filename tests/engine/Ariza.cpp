@@ -66,10 +66,17 @@ void* operator new(std::size_t boy) {
     void* yer = Vurur(Arıza::Tür::Bellek) ? nullptr : std::malloc(boy);
     return yer ? yer : throw std::bad_alloc();
 }
+void* operator new(std::size_t boy, const std::nothrow_t&) noexcept {
+    return Vurur(Arıza::Tür::Bellek) ? nullptr : std::malloc(boy);
+}
 void operator delete(void* yer) noexcept {
     std::free(yer);
 }
 void operator delete(void* yer, std::size_t) noexcept {
+    std::free(yer);
+}
+
+void operator delete(void* yer, const std::nothrow_t&) noexcept {
     std::free(yer);
 }
 
