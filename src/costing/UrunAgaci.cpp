@@ -10,7 +10,6 @@
 #include <set>
 
 #include "DuzenlemeDenetcisi.h"
-#include "GirisKutusu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "MetinTemsilcisi.h"
@@ -29,8 +28,7 @@ class AdTemsilcisi : public MetinTemsilcisi {
     QWidget* createEditor(QWidget* sahip, const QStyleOptionViewItem& seçenek, const QModelIndex& yer) const override {
         QWidget* düzenleyici = QStyledItemDelegate::createEditor(sahip, seçenek, yer);
         if (auto* kutu = qobject_cast<QLineEdit*>(düzenleyici)) {
-            kutu->setMaxLength(EnUzunAd);
-            TekSatırlıOlsun(kutu);
+            AdYazılsın(kutu);
             kutu->setObjectName(QStringLiteral("AdDüzenleyici"));
         }
         return düzenleyici;

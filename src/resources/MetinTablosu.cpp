@@ -223,6 +223,7 @@ constexpr Satır Tablo[] = {
      "Bu sayının basamakları çok fazla! \n"
      "Virgülden önce ve sonra, toplam en çok 15 basamak girebilirsiniz."},
     {2142, "Bu metin bir sayı olmadığı veya çok uzun olduğu için alınmadı."},
+    {2143, "Bu metin çok uzun olduğu için alınmadı; en çok %1 harf olabilir."},
 
     // Later additions: data file and backup at the start
     {2150,
