@@ -10,6 +10,7 @@
 #include <set>
 
 #include "DuzenlemeDenetcisi.h"
+#include "KatalogParcalari.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "MetinTemsilcisi.h"
@@ -42,6 +43,7 @@ class AdTemsilcisi : public MetinTemsilcisi {
     std::function<void(const QModelIndex&, const QString&)> m_adVerildi;
 };
 
+constexpr int MalzemelerKaldıMetni = 2144;
 constexpr qsizetype EnÇokSayılanÜrün = 10;  // products that a message box names
 
 bool Aynı(const QString& a, const QString& b) {
@@ -177,6 +179,11 @@ void ÜrünAğacı::Adlandır(QTreeWidgetItem* düğüm, const QString& yeni) {
     switch (grup ? ÜrünüAdlandır(grup->text(0), eski, gönderilen) : GrubuAdlandır(eski, gönderilen)) {
         case AdlandırmaSonucu::Değişti:
             AdıYerleştir(düğüm, gönderilen);
+            break;
+        case AdlandırmaSonucu::MalzemelerKaldı:
+            YarımKaldı(MalzemelerKaldıMetni, eski);
+            AdıYerleştir(düğüm, gönderilen);
+            m_olaylar.SeçimiYükle();  // the materials on display are no longer the selected product's
             break;
         case AdlandırmaSonucu::Yinelenen:
             MesajKutusuOrtala();
