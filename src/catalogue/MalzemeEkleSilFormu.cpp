@@ -44,7 +44,6 @@ MalzemeEkleSilFormu::MalzemeEkleSilFormu(AnaFormErişimi& anaForm, QWidget* sahi
 void MalzemeEkleSilFormu::KontrolleriKur() {
     m_bul = new GirişKutusu;
     m_bul->setObjectName(QStringLiteral("MalzemeBulKutusu"));
-    m_bul->setMaxLength(EnUzunAd);
     connect(m_bul, &QLineEdit::textChanged, this, [this] { MalzemeBulKutusu_Change(); });
     m_liste = new KatalogListesi(QStringLiteral("MalzemeListesi"));
     m_liste->Seçilince([this] { HataYakala([this] { SeçileniGöster(); }); });

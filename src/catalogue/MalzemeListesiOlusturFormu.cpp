@@ -57,7 +57,6 @@ MalzemeListesiOluşturFormu::MalzemeListesiOluşturFormu(AnaFormErişimi& anaFor
 void MalzemeListesiOluşturFormu::KontrolleriKur() {
     m_bul = new GirişKutusu;
     m_bul->setObjectName(QStringLiteral("MalzemeBulKutusu"));
-    m_bul->setMaxLength(EnUzunAd);
     connect(m_bul, &QLineEdit::textChanged, this, [this] { MalzemeBulKutusu_Change(); });
     m_katalog = new KatalogListesi(QStringLiteral("MalzemeListesi"));
     connect(m_katalog, &QListWidget::itemDoubleClicked, this,
@@ -67,7 +66,7 @@ void MalzemeListesiOluşturFormu::KontrolleriKur() {
     TutaraYerAç(m_miktar);
     m_tür = new MiktarTürüKutusu;
     m_tür->setObjectName(QStringLiteral("MiktarTürüListesi"));
-    m_tür->lineEdit()->setMaxLength(EnUzunTür);
+    m_tür->EnUzunOlsun(EnUzunTür);
     m_eklenecek = new SütunluListe({{412, 5.2, false, true}, {414, 3.0, false}, {416, 5.0, true}, {418, 4.6, true}});
     m_eklenecek->setObjectName(QStringLiteral("EklenecekMalzemeListesi"));
     Enterİleİlerlesin(m_eklenecek);

@@ -7,6 +7,7 @@
 
 #include "DegiskenModulu.h"
 #include "Deyimler.h"
+#include "KatalogParcalari.h"
 #include "MesajKutusu.h"
 #include "KullanilanMalzemeler.h"
 #include "MaliyetAlani.h"
@@ -153,6 +154,10 @@ void AnaForm::ToplamMaliyetHesapla() {
 
 void AnaForm::ListedenMalzemeSil() {
     if (m_liste->Boş()) return;
+    if (!m_liste->SeçiliÖğe()) {
+        Uyar(710, *m_liste);
+        return;
+    }
     const QString malzeme = m_liste->SeçiliMalzeme();
     if (!Sor(Metin(440) + QLatin1Char(' ') + m_liste->SeçiliMiktar() + QLatin1Char(' ') + malzeme)) return;
     if (DeyimiYürüt(Deyimler::KullanılanMalzemeÇıkar(m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün(), malzeme))) {

@@ -11,8 +11,7 @@ namespace {
 // renamed all the same.
 AdlandırmaSonucu Adlandır(const QString& ürünler, const QString& malzemeler) {
     if (!DeyimiYürüt(ürünler)) return AdlandırmaSonucu::Değişmedi;
-    DeyimiYürüt(malzemeler);
-    return AdlandırmaSonucu::Değişti;
+    return DeyimiYürüt(malzemeler) ? AdlandırmaSonucu::Değişti : AdlandırmaSonucu::MalzemelerKaldı;
 }
 
 // A row that bears just the old name is the product itself, whose letters' case is being corrected. nullopt: the data

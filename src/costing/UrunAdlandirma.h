@@ -7,8 +7,9 @@
 
 enum class AdlandırmaSonucu {
     Değişti,
-    Değişmedi,  // the data file refused; nothing is renamed
-    Yinelenen   // the group has another product of that name; nothing is renamed
+    MalzemelerKaldı,  // the products bear the new name, their used materials still the old one
+    Değişmedi,        // the data file refused; nothing is renamed
+    Yinelenen         // the group has another product of that name; nothing is renamed
 };
 
 // A group that bears the new name already takes the products in.

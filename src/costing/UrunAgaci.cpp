@@ -10,7 +10,7 @@
 #include <set>
 
 #include "DuzenlemeDenetcisi.h"
-#include "GirisKutusu.h"
+#include "KatalogParcalari.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "MetinTemsilcisi.h"
@@ -29,8 +29,7 @@ class AdTemsilcisi : public MetinTemsilcisi {
     QWidget* createEditor(QWidget* sahip, const QStyleOptionViewItem& seçenek, const QModelIndex& yer) const override {
         QWidget* düzenleyici = QStyledItemDelegate::createEditor(sahip, seçenek, yer);
         if (auto* kutu = qobject_cast<QLineEdit*>(düzenleyici)) {
-            kutu->setMaxLength(EnUzunAd);
-            TekSatırlıOlsun(kutu);
+            AdYazılsın(kutu);
             kutu->setObjectName(QStringLiteral("AdDüzenleyici"));
         }
         return düzenleyici;
@@ -44,6 +43,7 @@ class AdTemsilcisi : public MetinTemsilcisi {
     std::function<void(const QModelIndex&, const QString&)> m_adVerildi;
 };
 
+constexpr int MalzemelerKaldıMetni = 2144;
 constexpr qsizetype EnÇokSayılanÜrün = 10;  // products that a message box names
 
 bool Aynı(const QString& a, const QString& b) {
@@ -179,6 +179,11 @@ void ÜrünAğacı::Adlandır(QTreeWidgetItem* düğüm, const QString& yeni) {
     switch (grup ? ÜrünüAdlandır(grup->text(0), eski, gönderilen) : GrubuAdlandır(eski, gönderilen)) {
         case AdlandırmaSonucu::Değişti:
             AdıYerleştir(düğüm, gönderilen);
+            break;
+        case AdlandırmaSonucu::MalzemelerKaldı:
+            YarımKaldı(MalzemelerKaldıMetni, eski);
+            AdıYerleştir(düğüm, gönderilen);
+            m_olaylar.SeçimiYükle();  // the materials on display are no longer the selected product's
             break;
         case AdlandırmaSonucu::Yinelenen:
             MesajKutusuOrtala();

@@ -38,9 +38,12 @@ AçılırGirişKutusu::AçılırGirişKutusu(QWidget* sahip)
     setLineEdit(m_satır);  // makes the box editable
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);
-    m_satır->setMaxLength(EnUzunAd);
     m_satır->setAcceptDrops(false);
     Enterİleİlerlesin(this);
+}
+
+void AçılırGirişKutusu::EnUzunOlsun(int boy) {
+    m_satır->EnUzunOlsun(boy);
 }
 
 void AçılırGirişKutusu::Doldur(const QStringList& öğeler) {

@@ -13,6 +13,9 @@ class AçılırGirişKutusu : public QComboBox {
   public:
     explicit AçılırGirişKutusu(QWidget* sahip = nullptr);
 
+    // The longest text that the user may put in; EnUzunAd unless told.
+    void EnUzunOlsun(int boy);
+
     // The list anew; nothing is chosen, the text is empty.
     void Doldur(const QStringList& öğeler);
     void ÖğeEkle(int sıra, const QString& öğe);

@@ -1,21 +1,45 @@
 #include "DuzenlemeDenetcisi.h"
 
 #include <QLineEdit>
+#include <QToolTip>
 #include <utility>
 
+#include "MetinTablosu.h"
 #include "TurkceMetin.h"
+
+namespace {
+
+constexpr int ÇokUzunMetni = 2143;
+
+}  // namespace
 
 DüzenlemeDenetçisi::DüzenlemeDenetçisi(QLineEdit* satır) : QValidator(satır), m_satır(satır) {
     satır->setValidator(this);
     connect(satır, &QLineEdit::textChanged, this, [this] { YinelemeyiOnar(); });
+    const auto kalanıSakla = [this] { m_kalan = m_satır->text().size() - m_satır->selectedText().size(); };
+    connect(satır, &QLineEdit::textChanged, this, kalanıSakla);
+    connect(satır, &QLineEdit::selectionChanged, this, kalanıSakla);
 }
 
 // The toolkit undoes a refused edit and takes it out of the undo history. Setting a text empties that history, and
 // while something can be redone the text came by undo or redo.
 QValidator::State DüzenlemeDenetçisi::validate(QString& metin, int& imleç) const {
     const bool düzenleme = !m_onarılıyor && m_satır->isUndoAvailable() && !m_satır->isRedoAvailable();
-    m_reddedildi = düzenleme && !Denetle(metin, imleç);
+    const qsizetype boy = metin.size();
+    m_reddedildi = düzenleme && (!Denetle(metin, imleç) || !Sığar(boy, metin.size()));
     return m_reddedildi ? Invalid : Acceptable;
+}
+
+// `önceki` is the length before the edit was corrected: at the toolkit's own limit the text has been cut already. A key
+// that does nothing explains itself; a paste that does nothing does not.
+bool DüzenlemeDenetçisi::Sığar(qsizetype önceki, qsizetype sonraki) const {
+    if (önceki < m_satır->maxLength() && sonraki <= m_enUzun) return true;
+    const bool yapıştırıldı = önceki - m_kalan > 1;
+    if (yapıştırıldı) {
+        const QString neden = Metin(ÇokUzunMetni).arg(m_enUzun);
+        QToolTip::showText(m_satır->mapToGlobal(QPoint(0, m_satır->height())), neden, m_satır);
+    }
+    return false;
 }
 
 // The last redo looks like an edit. It joins several edits, and what each of them was allowed may be refused to all at
@@ -35,7 +59,7 @@ void TekSatıraİndir(QString& metin, int& imleç) {
     metin = TekSatır(metin);
 }
 
-void TekSatırlıOlsun(QLineEdit* satır) {
+void AdYazılsın(QLineEdit* satır) {
     class TekSatırDenetçisi : public DüzenlemeDenetçisi {
       public:
         using DüzenlemeDenetçisi::DüzenlemeDenetçisi;

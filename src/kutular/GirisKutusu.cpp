@@ -5,7 +5,6 @@
 #include <QMouseEvent>
 #include <utility>
 
-#include "DuzenlemeDenetcisi.h"
 #include "EnterTusu.h"
 #include "TurkceMetin.h"
 
@@ -32,12 +31,12 @@ QString YazılanMetin(const QKeyEvent& tuş) {
 
 GirişKutusu::GirişKutusu(QWidget* sahip)
     : QLineEdit(sahip),
+      m_denetçi(new KutuDenetçisi(this)),
       m_odak(
           this, [this](Qt::FocusReason neden) { Girildi(neden); },
           [this](Odakİzleyici::Çıkış çıkış) {
               if (çıkış != Odakİzleyici::Çıkış::FormKapanıyor) m_bitti = Bitir();
           }) {
-    new KutuDenetçisi(this);
     Enterİleİlerlesin(this);
     connect(this, &QLineEdit::textEdited, this, [this] { DüzenlendiğiniBildir(); });
 }
@@ -66,10 +65,6 @@ void GirişKutusu::mouseReleaseEvent(QMouseEvent* olay) {
 bool OdaktakiKutuBitti() {
     auto* kutu = dynamic_cast<GirişKutusu*>(QApplication::focusWidget());
     return !kutu || kutu->Bitir();
-}
-
-AdKutusu::AdKutusu(QWidget* sahip) : GirişKutusu(sahip) {
-    setMaxLength(EnUzunAd);
 }
 
 bool AdKutusu::Bitir() {

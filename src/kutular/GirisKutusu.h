@@ -4,22 +4,24 @@
 #include <functional>
 #include <utility>
 
+#include "DuzenlemeDenetcisi.h"
 #include "OdakIzleyici.h"
-
-// The longest name that a stored text can be read back as, in characters.
-inline constexpr int EnUzunAd = 254;
 
 // The printable characters that a key brings; none for a command such as Ctrl+C.
 QString YazılanMetin(const QKeyEvent& tuş);
 
 // A line of text as all forms have it: Enter moves on as Tab does, entering selects the whole text, also by a mouse
-// click (unless the mouse was dragged over it), and line breaks and tabs that are pasted become blanks.
+// click (unless the mouse was dragged over it), line breaks and tabs that are pasted become blanks, and what would make
+// it longer than a name is refused.
 class GirişKutusu : public QLineEdit {
   public:
     explicit GirişKutusu(QWidget* sahip = nullptr);
 
     // Runs after each edit of the user, once the box has corrected it; never for a text that the program sets.
     void Düzenlenince(std::function<void()> yapılacak) { m_düzenlenince = std::move(yapılacak); }
+
+    // The longest text that an edit may leave; EnUzunAd unless told.
+    void EnUzunOlsun(int boy) { m_denetçi->EnUzunOlsun(boy); }
 
     // The program empties the box; undo brings nothing back.
     void clear() { setText(QString()); }
@@ -45,6 +47,7 @@ class GirişKutusu : public QLineEdit {
     std::function<void()> m_düzenlenince;
     bool m_bitti = true;
     bool m_tıklamaylaGirildi = false;
+    DüzenlemeDenetçisi* m_denetçi;
     Odakİzleyici m_odak;
 };
 
@@ -55,7 +58,7 @@ bool OdaktakiKutuBitti();
 // The name of a product or material: put in title case on leaving.
 class AdKutusu : public GirişKutusu {
   public:
-    explicit AdKutusu(QWidget* sahip = nullptr);
+    using GirişKutusu::GirişKutusu;
 
     bool Bitir() override;
 };

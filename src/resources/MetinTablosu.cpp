@@ -223,6 +223,12 @@ constexpr Satır Tablo[] = {
      "Bu sayının basamakları çok fazla! \n"
      "Virgülden önce ve sonra, toplam en çok 15 basamak girebilirsiniz."},
     {2142, "Bu metin bir sayı olmadığı veya çok uzun olduğu için alınmadı."},
+    {2143, "Bu metin çok uzun olduğu için alınmadı; en çok %1 harf olabilir."},
+
+    // Later additions: renaming
+    {2144,
+     "Yeni ad ürünlere yazıldı, ancak kullanılan malzemelere yazılamadı! \n"
+     "Malzemeler eski adda kaldı; onlara ulaşmak için eski adı geri verip yeniden deneyiniz. Eski ad:\n"},
 
     // Later additions: data file and backup at the start
     {2150,

@@ -255,6 +255,10 @@ TEST_F(AnaFormu, MalzemeyiSoruncaÇıkarır) {
     QTest::mouseClick(&Bul("ListedenMalzemeSilButonu"), Qt::LeftButton);
     Kutular().TekKutu(Simge::Soru, Metin(440) + " 1,50 Metre Ihlamur");
     EXPECT_EQ(Satırlar().size(), 2);
+    Liste().setCurrentItem(nullptr);
+    Kutular().Yanıtla(Yanıt::Tamam);
+    QTest::mouseClick(&Bul("ListedenMalzemeSilButonu"), Qt::LeftButton);
+    Kutular().TekKutu(Simge::Bilgi, Metin(710));
 
     Kutular().Yanıtla(Yanıt::Evet);
     const QPoint ikinci = Liste().visualItemRect(Liste().topLevelItem(1)).center();

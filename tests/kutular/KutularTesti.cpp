@@ -4,11 +4,13 @@
 #include <QLabel>
 #include <QMenu>
 #include <QTest>
+#include <QToolTip>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include "AcilirGirisKutusu.h"
 #include "DegiskenModulu.h"
+#include "DuzenlemeDenetcisi.h"
 #include "EnterTusu.h"
 #include "EtiketVurgusu.h"
 #include "KomutDugmesi.h"
@@ -129,6 +131,36 @@ TEST_F(GirişKutuları, SayıOlmayanYapıştırmaİzBırakmaz) {
             EXPECT_EQ(kutu.text(), önceki);
         }
         kutu.clear();
+    }
+}
+
+// A text is taken as a whole or not at all; nothing is cut.
+TEST_F(GirişKutuları, AdTamAlınırYaDaHiçAlınmaz) {
+    QLineEdit düzenleyici(&Form);
+    düzenleyici.show();
+    AdYazılsın(&düzenleyici);
+    Form.Tür.EnUzunOlsun(EnUzunAd - 1);
+    for (const auto& [kutu, enUzun] :
+         {std::pair(static_cast<QLineEdit*>(&Form.Ad), EnUzunAd), std::pair(Form.Grup.lineEdit(), EnUzunAd),
+          std::pair(Form.Tür.lineEdit(), EnUzunAd - 1), std::pair(&düzenleyici, EnUzunAd)}) {
+        const QString tam(enUzun, QChar(u'A'));
+        kutu->setFocus();
+        for (const QString& uzun : {tam + u'A', QString(40000, QChar(u'\n'))}) {
+            QToolTip::showText({}, u"-"_s, kutu);
+            Yapıştır(*kutu, uzun);
+            EXPECT_EQ(kutu->text(), QString());
+            EXPECT_EQ(QToolTip::text(), Metin(2143).arg(enUzun));
+        }
+        Yapıştır(*kutu, tam.chopped(1) + u"\r\n"_s);
+        EXPECT_EQ(kutu->text(), tam.chopped(1) + u' ');
+        QToolTip::showText({}, u"-"_s, kutu);
+        Yaz(*kutu, u"B"_s);
+        EXPECT_EQ(kutu->text().size(), enUzun);
+        EXPECT_EQ(QToolTip::text(), u"-"_s);
+        kutu->selectAll();
+        Yapıştır(*kutu, tam + u'A');
+        EXPECT_EQ(kutu->selectedText(), tam.chopped(1) + u' ');
+        EXPECT_EQ(QToolTip::text(), Metin(2143).arg(enUzun));
     }
 }
 
