@@ -283,11 +283,24 @@ TEST_F(HazırlıkTesti, OdbcAyarlarıYazılamazsaVeriKaynağıOlmadanBağlanır)
 }
 
 TEST_F(HazırlıkTesti, ÇokUzunYolSöylenir) {
-    UygulamaYolu = ProgramKlasörü();
-    while (UygulamaYolu.size() < 500) UygulamaYolu += QString(60, QLatin1Char('u')) + QLatin1Char('/');
-    DosyaYap(Klasör() + QStringLiteral("kisa"), QStringLiteral("Yeni"), ÖncekiGün);
-    ASSERT_TRUE(QDir().mkpath(UygulamaYolu) &&
-                QFile::rename(Klasör() + QStringLiteral("kisa"), UygulamaYolu + QStringLiteral("Varnek.vtb")));
+    DosyaYap(Yedek(), QStringLiteral("Yedekteki"), ÖncekiGün);
+    const QString kök = ProgramKlasörü();
+    const QString ad = QStringLiteral("Varnek.vtb");
+    const auto boydaKlasör = [&](int boy) {
+        UygulamaYolu = kök;
+        while (boy - UygulamaYolu.toUtf8().size() > 200)
+            UygulamaYolu += QString(100, QLatin1Char('u')) + QLatin1Char('/');
+        UygulamaYolu += QString(boy - UygulamaYolu.toUtf8().size() - 1, QLatin1Char('u')) + QLatin1Char('/');
+        return QDir().mkpath(UygulamaYolu);
+    };
+    // Where a data file may lie, its backup can be restored as well.
+    constexpr int enUzun = 492;
+    ASSERT_TRUE(boydaKlasör(enUzun - static_cast<int>(ad.size())));
+    EXPECT_TRUE(VeritabanınıHazırla());
+    EXPECT_EQ(Oku(UygulamaYolu + ad), Oku(Yedek()));
+    ODBCBağlantısınıKapat();
+    const QString dosya = UygulamaYolu + ad;
+    ASSERT_TRUE(boydaKlasör(enUzun + 1 - static_cast<int>(ad.size())) && QFile::rename(dosya, UygulamaYolu + ad));
     Kutular().Yanıtla(Yanıt::Tamam);
     EXPECT_FALSE(VeritabanınıHazırla());
     Kutular().TekKutu(Simge::Kritik, İkiSatır(2160, UygulamaYolu));
