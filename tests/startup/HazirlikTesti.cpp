@@ -182,6 +182,13 @@ TEST_F(HazırlıkTesti, BozukYedekBoşDosyanınÜzerineGelmez) {
     EXPECT_EQ(Kutular().Al().back().metin, İkiSatır(2157, Yedek()));
     EXPECT_EQ(Baytlar(Yedek()), yedek);
     EXPECT_EQ(Baytlar(VeriDosyası()), boş);
+    // One whose rows cannot even be counted is told, without the advice to go back to it.
+    Yaz(Yedek(), "cop");
+    ZamanVer(VeriDosyası(), ÖncekiGün);
+    Kutular().Yanıtla(Yanıt::Tamam);
+    EXPECT_TRUE(VeritabanınıHazırla());
+    Kutular().TekKutu(Simge::Ünlem, Metin(2150).arg(Metin(2162), VeriDosyası(), Yedek()));
+    EXPECT_EQ(Baytlar(Yedek()), "cop");
 }
 
 TEST_F(HazırlıkTesti, NeDosyaNeYedekVarsaBaşlamaz) {
@@ -234,6 +241,17 @@ TEST_F(HazırlıkTesti, BozukDosyaSağlamYedeğinYeriniAlmaz) {
     ASSERT_EQ(uyarı.size(), 1u);
     for (const QString& parça : {VeriDosyası(), Yedek(), Metin(2151)})
         EXPECT_TRUE(uyarı[0].metin.contains(parça)) << uyarı[0].metin.toStdString();
+    // So is one whose rows cannot be counted for another reason, which may be gone a moment later.
+    QByteArray başkaSürüm = yedek;
+    başkaSürüm[63] = 99;
+    Yaz(VeriDosyası(), başkaSürüm);
+    ZamanVer(VeriDosyası(), ÖncekiGün);
+    SaatiAyarla([this] { return Gün.addDays(1); });
+    Kutular().Yanıtla(Yanıt::Tamam);
+    Kutular().Yanıtla(Yanıt::Tamam);
+    EXPECT_FALSE(VeritabanınıHazırla());
+    EXPECT_TRUE(Kutular().Al()[0].metin.startsWith(Metin(2150).section(QLatin1Char('\n'), 0, 0)));
+    EXPECT_EQ(Baytlar(Yedek()), yedek);
     // One that does not open at all ends the start with the driver's own words.
     for (const QByteArray& çöp : {QByteArray(), QByteArray("cop")}) {
         Yaz(VeriDosyası(), çöp);
