@@ -18,8 +18,9 @@ namespace {
 
 constexpr std::int16_t Başarı = 0;
 constexpr std::int16_t SatırKalmadı = 100;
-// Bytes that the file library takes for a data file's path, with room for what is written beside it (".yeni").
-constexpr qsizetype EN_UZUN_YOL = 499;
+// Bytes that the file library takes for a data file's path, with room for what is written beside it: the copy by which
+// a backup is tried, in the making (".sinama.yeni").
+constexpr qsizetype EN_UZUN_YOL = 492;
 
 // One connection and one statement for the whole run.
 OdbcBağlantısı Bağlantı;

@@ -270,6 +270,7 @@ constexpr Satır Tablo[] = {
      "Veri dosyanızın bulunduğu klasörün yolu çok uzun; program başlayamıyor! \n"
      "Lütfen, programı daha kısa yollu bir klasöre taşıyıp tekrar deneyiniz:"},
     {2161, "Yedek klasörünün yolu çok uzun."},
+    {2162, "Veri dosyanız boş ve son yedeğiniz zarar görmüş; üzerine yazılmadı."},
 
     // Later additions: catalogue forms
     {2170, "Bu malzeme veri dosyasında artık yok; fiyatı değiştirilemez!"},

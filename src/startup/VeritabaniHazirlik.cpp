@@ -36,8 +36,13 @@ void GündeBirUyar(const QString& metin) {
     KutuGöster(MesajKutusu::Simge::Ünlem, metin);
 }
 
+QString YedekAlınamadıMetni(const VeriYolları& yollar, const QString& neden) {
+    return Metin(2150).arg(neden, yollar.Dosya, yollar.Yedek);
+}
+
+// With the way back to the last backup, where there is one.
 void YedekAlınamadı(const VeriYolları& yollar, const QString& neden) {
-    QString metin = Metin(2150).arg(neden, yollar.Dosya, yollar.Yedek);
+    QString metin = YedekAlınamadıMetni(yollar, neden);
     if (DosyaVar(yollar.Yedek)) metin += QStringLiteral("\n\n") + Metin(2151);
     GündeBirUyar(metin);
 }
@@ -106,6 +111,9 @@ bool VeritabanınıHazırla() {
             break;
         case BoşDosyaSonucu::YedekKorunur:
             if (!neden.isEmpty() && SıkıştırmaGünü(yollar)) YedekAlınamadı(yollar, neden);
+            break;
+        case BoşDosyaSonucu::YedekOkunamıyor:
+            if (SıkıştırmaGünü(yollar)) GündeBirUyar(YedekAlınamadıMetni(yollar, neden));
             break;
         case BoşDosyaSonucu::Bitir:
             return false;

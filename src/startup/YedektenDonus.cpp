@@ -126,15 +126,15 @@ BoşDosyaSonucu BoşDosyayıGözet(const VeriYolları& yollar, QString& neden) {
     const DosyaDenetimi dosya = VeriDosyasınıDenetle(yollar.Dosya);
     if (dosya.Durum == DosyaDurumu::Dolu) return BoşDosyaSonucu::Sorunsuz;
     if (dosya.Durum != DosyaDurumu::Boş) {
-        // Other reasons than damage are shown by the connecting that follows.
-        if (dosya.Durum == DosyaDurumu::Bozuk) neden = dosya.Hatalar.value(0);
+        neden = dosya.Hatalar.value(0);  // perhaps gone by the connecting that follows: another client's lock
         return BoşDosyaSonucu::YedekKorunur;
     }
     const DosyaDenetimi yedek = VeriDosyasınıDenetle(yollar.Yedek);
     if (yedek.Durum == DosyaDurumu::Boş) return BoşDosyaSonucu::Sorunsuz;
     if (yedek.Durum != DosyaDurumu::Dolu) {
-        neden = Metin(2159).arg(yedek.Hatalar.value(0));
-        return BoşDosyaSonucu::YedekKorunur;
+        // The driver's words for damage advise to restore the backup.
+        neden = yedek.Durum == DosyaDurumu::Bozuk ? Metin(2162) : Metin(2159).arg(yedek.Hatalar.value(0));
+        return BoşDosyaSonucu::YedekOkunamıyor;
     }
     const SaklamaAdları adlar = AdlarıBul(yollar);
     if (GeriYüklensinMi(yollar, adlar)) return YedeğiYeğle(yollar, adlar);

@@ -11,9 +11,10 @@ bool EksikDosyayıGeriYükle(const VeriYolları& yollar);
 
 // What is to become of a data file without rows beside a backup that has some.
 enum class BoşDosyaSonucu {
-    Sorunsuz,      // the data file holds rows, or there are none to lose
-    YedekKorunur,  // the backup must not be replaced in this start
-    Bitir          // the program is to end; why has been shown
+    Sorunsuz,         // the data file holds rows, or there are none to lose
+    YedekKorunur,     // the backup must not be replaced in this start
+    YedekOkunamıyor,  // the same, and nothing is known about its rows
+    Bitir             // the program is to end; why has been shown
 };
 
 // Looks whether the data file is empty while the backup is not, and asks. Yes: the backup comes back, the empty file

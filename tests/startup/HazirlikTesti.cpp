@@ -182,6 +182,13 @@ TEST_F(HazırlıkTesti, BozukYedekBoşDosyanınÜzerineGelmez) {
     EXPECT_EQ(Kutular().Al().back().metin, İkiSatır(2157, Yedek()));
     EXPECT_EQ(Baytlar(Yedek()), yedek);
     EXPECT_EQ(Baytlar(VeriDosyası()), boş);
+    // One whose rows cannot even be counted is told, without the advice to go back to it.
+    Yaz(Yedek(), "cop");
+    ZamanVer(VeriDosyası(), ÖncekiGün);
+    Kutular().Yanıtla(Yanıt::Tamam);
+    EXPECT_TRUE(VeritabanınıHazırla());
+    Kutular().TekKutu(Simge::Ünlem, Metin(2150).arg(Metin(2162), VeriDosyası(), Yedek()));
+    EXPECT_EQ(Baytlar(Yedek()), "cop");
 }
 
 TEST_F(HazırlıkTesti, NeDosyaNeYedekVarsaBaşlamaz) {
@@ -234,6 +241,17 @@ TEST_F(HazırlıkTesti, BozukDosyaSağlamYedeğinYeriniAlmaz) {
     ASSERT_EQ(uyarı.size(), 1u);
     for (const QString& parça : {VeriDosyası(), Yedek(), Metin(2151)})
         EXPECT_TRUE(uyarı[0].metin.contains(parça)) << uyarı[0].metin.toStdString();
+    // So is one whose rows cannot be counted for another reason, which may be gone a moment later.
+    QByteArray başkaSürüm = yedek;
+    başkaSürüm[63] = 99;
+    Yaz(VeriDosyası(), başkaSürüm);
+    ZamanVer(VeriDosyası(), ÖncekiGün);
+    SaatiAyarla([this] { return Gün.addDays(1); });
+    Kutular().Yanıtla(Yanıt::Tamam);
+    Kutular().Yanıtla(Yanıt::Tamam);
+    EXPECT_FALSE(VeritabanınıHazırla());
+    EXPECT_TRUE(Kutular().Al()[0].metin.startsWith(Metin(2150).section(QLatin1Char('\n'), 0, 0)));
+    EXPECT_EQ(Baytlar(Yedek()), yedek);
     // One that does not open at all ends the start with the driver's own words.
     for (const QByteArray& çöp : {QByteArray(), QByteArray("cop")}) {
         Yaz(VeriDosyası(), çöp);
@@ -283,11 +301,24 @@ TEST_F(HazırlıkTesti, OdbcAyarlarıYazılamazsaVeriKaynağıOlmadanBağlanır)
 }
 
 TEST_F(HazırlıkTesti, ÇokUzunYolSöylenir) {
-    UygulamaYolu = ProgramKlasörü();
-    while (UygulamaYolu.size() < 500) UygulamaYolu += QString(60, QLatin1Char('u')) + QLatin1Char('/');
-    DosyaYap(Klasör() + QStringLiteral("kisa"), QStringLiteral("Yeni"), ÖncekiGün);
-    ASSERT_TRUE(QDir().mkpath(UygulamaYolu) &&
-                QFile::rename(Klasör() + QStringLiteral("kisa"), UygulamaYolu + QStringLiteral("Varnek.vtb")));
+    DosyaYap(Yedek(), QStringLiteral("Yedekteki"), ÖncekiGün);
+    const QString kök = ProgramKlasörü();
+    const QString ad = QStringLiteral("Varnek.vtb");
+    const auto boydaKlasör = [&](int boy) {
+        UygulamaYolu = kök;
+        while (boy - UygulamaYolu.toUtf8().size() > 200)
+            UygulamaYolu += QString(100, QLatin1Char('u')) + QLatin1Char('/');
+        UygulamaYolu += QString(boy - UygulamaYolu.toUtf8().size() - 1, QLatin1Char('u')) + QLatin1Char('/');
+        return QDir().mkpath(UygulamaYolu);
+    };
+    // Where a data file may lie, its backup can be restored as well.
+    constexpr int enUzun = 492;
+    ASSERT_TRUE(boydaKlasör(enUzun - static_cast<int>(ad.size())));
+    EXPECT_TRUE(VeritabanınıHazırla());
+    EXPECT_EQ(Oku(UygulamaYolu + ad), Oku(Yedek()));
+    ODBCBağlantısınıKapat();
+    const QString dosya = UygulamaYolu + ad;
+    ASSERT_TRUE(boydaKlasör(enUzun + 1 - static_cast<int>(ad.size())) && QFile::rename(dosya, UygulamaYolu + ad));
     Kutular().Yanıtla(Yanıt::Tamam);
     EXPECT_FALSE(VeritabanınıHazırla());
     Kutular().TekKutu(Simge::Kritik, İkiSatır(2160, UygulamaYolu));
