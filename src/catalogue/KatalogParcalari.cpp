@@ -15,11 +15,11 @@
 using MesajKutusu::Düğmeler;
 using MesajKutusu::Simge;
 
-KomutDüğmesi* KatalogDüğmesi(const QString& ad, const QList<int>& başlıklar, std::function<void()> komut) {
+KomutDüğmesi* KatalogDüğmesi(const QString& ad, const QList<MetinNo>& başlıklar, std::function<void()> komut) {
     auto* düğme = new KomutDüğmesi;
     düğme->setObjectName(ad);
     int genişlik = 0;
-    for (const int başlık : başlıklar) {
+    for (const MetinNo başlık : başlıklar) {
         düğme->setText(Metin(başlık));
         genişlik = std::max(genişlik, düğme->sizeHint().width());
     }
@@ -29,7 +29,7 @@ KomutDüğmesi* KatalogDüğmesi(const QString& ad, const QList<int>& başlıkla
     return düğme;
 }
 
-QLabel* KatalogEtiketi(int sıra, int metin, QWidget* kutu) {
+QLabel* KatalogEtiketi(int sıra, MetinNo metin, QWidget* kutu) {
     auto* etiket = new QLabel(Metin(metin));
     etiket->setTextFormat(Qt::PlainText);
     etiket->setObjectName(QStringLiteral("Etiket(%1)").arg(sıra));
@@ -63,12 +63,12 @@ QWidget* KatalogAltlığı(QDialog* form) {
     return altlık;
 }
 
-void YarımKaldı(int metin, const QString& ek) {
+void YarımKaldı(MetinNo metin, const QString& ek) {
     MesajKutusuOrtala();
     MesajKutusu::Göster(Simge::Ünlem, Düğmeler::Tamam, Metin(metin) + ek);
 }
 
-bool Uyar(int metin, QWidget& kutu) {
+bool Uyar(MetinNo metin, QWidget& kutu) {
     MesajKutusuOrtala();
     MesajKutusu::Göster(Simge::Bilgi, Düğmeler::Tamam, Metin(metin));
     kutu.setFocus();

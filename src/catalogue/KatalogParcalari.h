@@ -7,6 +7,7 @@
 
 #include "TekSecimli.h"
 
+enum class MetinNo : int;
 class KomutDüğmesi;
 class QDialog;
 class QLabel;
@@ -14,12 +15,12 @@ class QWidget;
 
 // Pieces that the catalogue forms have in common.
 
-// A button that is as wide as the widest of its captions (numbers of texts), so that it keeps its place when its role
+// A button that is as wide as the widest of its captions, so that it keeps its place when its role
 // changes; it bears the first. An error that nobody foresaw in `komut` is shown, and the form stays as it is.
-KomutDüğmesi* KatalogDüğmesi(const QString& ad, const QList<int>& başlıklar, std::function<void()> komut);
+KomutDüğmesi* KatalogDüğmesi(const QString& ad, const QList<MetinNo>& başlıklar, std::function<void()> komut);
 
 // The caption Etiket(sıra) of a box, list or tree, highlighted while the user is in it.
-QLabel* KatalogEtiketi(int sıra, int metin, QWidget* kutu);
+QLabel* KatalogEtiketi(int sıra, MetinNo metin, QWidget* kutu);
 
 // A list of names for tens of thousands of rows, in which Enter moves on. A name that it cuts is told by a tooltip.
 class KatalogListesi : public TekSeçimli<QListWidget> {
@@ -34,7 +35,7 @@ void TutaraYerAç(QWidget* kutu);
 QWidget* KatalogAltlığı(QDialog* form);
 
 // Tells that a command of several statements went only half way; the failed statement has been reported.
-void YarımKaldı(int metin, const QString& ek = {});
+void YarımKaldı(MetinNo metin, const QString& ek = {});
 
 // Shows an information box and puts the focus on the control that it is about; always false.
-bool Uyar(int metin, QWidget& kutu);
+bool Uyar(MetinNo metin, QWidget& kutu);

@@ -27,16 +27,12 @@ using MesajKutusu::Yanıt;
 namespace {
 
 // Texts for what ended half way, and for a row that is no longer stored.
-constexpr int SilinmişMalzemeMetni = 2170;
-constexpr int FiyatÜrünlerdeEskiMetni = 2171;
-constexpr int FiyatKatalogdaEskiMetni = 2172;
-constexpr int ÜrünlerdenSilinemediMetni = 2173;
 
 }  // namespace
 
 MalzemeEkleSilFormu::MalzemeEkleSilFormu(AnaFormErişimi& anaForm, QWidget* sahip) : QDialog(sahip), m_anaForm(anaForm) {
     setObjectName(QStringLiteral("MalzemeEkleSilFormu"));
-    setWindowTitle(Metin(600));
+    setWindowTitle(Metin(MetinNo::MalzemeFormuBaşlığı));
     KontrolleriKur();
     Yerleştir();
 }
@@ -58,25 +54,28 @@ void MalzemeEkleSilFormu::KontrolleriKur() {
     m_fiyat->setObjectName(QStringLiteral("MalzemeFiyatıKutusu"));
     TutaraYerAç(m_fiyat);
 
-    m_ekleKaydet = KatalogDüğmesi(QStringLiteral("MalzemeEkleKaydetButonu"), {650, 520},
+    m_ekleKaydet = KatalogDüğmesi(QStringLiteral("MalzemeEkleKaydetButonu"), {MetinNo::MalzemeEkle, MetinNo::Kaydet},
                                   [this] { MalzemeEkleKaydetButonu_Click(); });
-    m_sil = KatalogDüğmesi(QStringLiteral("MalzemeSilButonu"), {660}, [this] { MalzemeSilButonu_Click(); });
-    m_fiyatDeğiştir = KatalogDüğmesi(QStringLiteral("MalzemeFiyatıDeğiştirButonu"), {670, 520},
-                                     [this] { MalzemeFiyatıDeğiştirButonu_Click(); });
-    m_kapatİptal = KatalogDüğmesi(QStringLiteral("KapatİptalButonu"), {510, 530}, [this] { KapatİptalButonu_Click(); });
+    m_sil =
+        KatalogDüğmesi(QStringLiteral("MalzemeSilButonu"), {MetinNo::MalzemeSil}, [this] { MalzemeSilButonu_Click(); });
+    m_fiyatDeğiştir =
+        KatalogDüğmesi(QStringLiteral("MalzemeFiyatıDeğiştirButonu"), {MetinNo::FiyatDeğiştir, MetinNo::Kaydet},
+                       [this] { MalzemeFiyatıDeğiştirButonu_Click(); });
+    m_kapatİptal = KatalogDüğmesi(QStringLiteral("KapatİptalButonu"), {MetinNo::Kapat, MetinNo::İptal},
+                                  [this] { KapatİptalButonu_Click(); });
 }
 
 void MalzemeEkleSilFormu::Yerleştir() {
     auto* sol = new QVBoxLayout;
-    sol->addWidget(KatalogEtiketi(1, 620, m_bul));
+    sol->addWidget(KatalogEtiketi(1, MetinNo::MalzemeBul, m_bul));
     sol->addWidget(m_bul);
-    sol->addWidget(KatalogEtiketi(0, 610, m_liste));
+    sol->addWidget(KatalogEtiketi(0, MetinNo::MalzemeListesiEtiketi, m_liste));
     sol->addWidget(m_liste);
 
     auto* kutular = new QVBoxLayout(m_çerçeve);
-    kutular->addWidget(KatalogEtiketi(2, 630, m_ad));
+    kutular->addWidget(KatalogEtiketi(2, MetinNo::MalzemeAdı, m_ad));
     kutular->addWidget(m_ad);
-    kutular->addWidget(KatalogEtiketi(3, 640, m_fiyat));
+    kutular->addWidget(KatalogEtiketi(3, MetinNo::MalzemeFiyatı, m_fiyat));
     kutular->addWidget(m_fiyat);
 
     auto* düğmeler = new QHBoxLayout;
@@ -149,14 +148,14 @@ void MalzemeEkleSilFormu::EklemeKipineGeç() {
     m_fiyat->clear();
     m_çerçeve->setEnabled(true);
     ListeyiEtkinleştir(false);
-    m_ekleKaydet->setText(Metin(520));
-    m_kapatİptal->setText(Metin(530));
+    m_ekleKaydet->setText(Metin(MetinNo::Kaydet));
+    m_kapatİptal->setText(Metin(MetinNo::İptal));
     m_ad->setFocus();
 }
 
 void MalzemeEkleSilFormu::EklemedenDön() {
-    m_ekleKaydet->setText(Metin(650));
-    m_kapatİptal->setText(Metin(510));
+    m_ekleKaydet->setText(Metin(MetinNo::MalzemeEkle));
+    m_kapatİptal->setText(Metin(MetinNo::Kapat));
     m_ad->clear();
     m_fiyat->clear();
     m_çerçeve->setEnabled(false);
@@ -169,8 +168,8 @@ void MalzemeEkleSilFormu::FiyatKipineGeç() {
     m_ad->setEnabled(false);
     m_ekleKaydet->setEnabled(false);
     m_sil->setEnabled(false);
-    m_fiyatDeğiştir->setText(Metin(520));
-    m_kapatİptal->setText(Metin(530));
+    m_fiyatDeğiştir->setText(Metin(MetinNo::Kaydet));
+    m_kapatİptal->setText(Metin(MetinNo::İptal));
     m_fiyat->setFocus();
 }
 
@@ -181,15 +180,15 @@ void MalzemeEkleSilFormu::FiyattanDön() {
     m_ad->setEnabled(true);
     m_ekleKaydet->setEnabled(true);
     m_sil->setEnabled(true);
-    m_fiyatDeğiştir->setText(Metin(670));
-    m_kapatİptal->setText(Metin(510));
+    m_fiyatDeğiştir->setText(Metin(MetinNo::FiyatDeğiştir));
+    m_kapatİptal->setText(Metin(MetinNo::Kapat));
 }
 
 bool MalzemeEkleSilFormu::GirilenlerUygun() {
-    if (m_ad->text().isEmpty()) return Uyar(680, *m_ad);
-    if (m_fiyat->text().isEmpty()) return Uyar(690, *m_fiyat);
+    if (m_ad->text().isEmpty()) return Uyar(MetinNo::MalzemeAdıBoş, *m_ad);
+    if (m_fiyat->text().isEmpty()) return Uyar(MetinNo::MalzemeFiyatıBoş, *m_fiyat);
     const Kayıt aynısı = KaydıOku(Deyimler::MalzemeVarMı(m_ad->text()));
-    if (aynısı == Kayıt::Var) return Uyar(700, *m_ad);
+    if (aynısı == Kayıt::Var) return Uyar(MetinNo::MalzemeListedeVar, *m_ad);
     return aynısı == Kayıt::Yok && m_fiyat->Saklanır();
 }
 
@@ -216,19 +215,21 @@ void MalzemeEkleSilFormu::MalzemeEkleKaydetButonu_Click() {
 void MalzemeEkleSilFormu::MalzemeSilButonu_Click() {
     const QListWidgetItem* seçili = m_liste->SeçiliÖğe();
     if (!seçili) {
-        Uyar(710, *m_liste);
+        Uyar(MetinNo::MalzemeSeçiniz, *m_liste);
         return;
     }
     const QString ad = seçili->text();
     MesajKutusuOrtala();
-    if (MesajKutusu::Göster(Simge::Ünlem, Düğmeler::EvetHayır, Metin(550)) == Yanıt::Hayır) return;
+    if (MesajKutusu::Göster(Simge::Ünlem, Düğmeler::EvetHayır, Metin(MetinNo::SilmeGeriAlınamaz)) == Yanıt::Hayır)
+        return;
     if (!DeyimiYürüt(Deyimler::MalzemeSil(ad))) return;
     MesajKutusuOrtala();
     // Products keep the material's name, quantity and price unless the user agrees; No is the safe default.
-    if (MesajKutusu::Göster(Simge::Soru, Düğmeler::EvetHayır, Metin(720), {}, Yanıt::Hayır) == Yanıt::Evet) {
+    if (MesajKutusu::Göster(Simge::Soru, Düğmeler::EvetHayır, Metin(MetinNo::ÜrünlerdenÇıkarmaSorusu), {},
+                            Yanıt::Hayır) == Yanıt::Evet) {
         if (!DeyimiYürüt(Deyimler::MalzemeyiÜrünlerdenSil(ad))) {
             // The row stays: through it the material can still be taken out of the products.
-            YarımKaldı(ÜrünlerdenSilinemediMetni);
+            YarımKaldı(MetinNo::ÜrünlerdenSilinemedi);
             return;
         }
         SeçiliÜrünüYenile();
@@ -259,7 +260,7 @@ void MalzemeEkleSilFormu::MalzemeFiyatıDeğiştirButonu_Click() {
     if (GeçerliKip() == Kip::Gözatma) {
         FiyatDeğişimineBaşla();
     } else if (m_fiyat->text().isEmpty()) {
-        Uyar(690, *m_fiyat);
+        Uyar(MetinNo::MalzemeFiyatıBoş, *m_fiyat);
     } else if (m_fiyat->Saklanır()) {
         FiyatıKaydet();
     }
@@ -267,12 +268,12 @@ void MalzemeEkleSilFormu::MalzemeFiyatıDeğiştirButonu_Click() {
 
 void MalzemeEkleSilFormu::FiyatDeğişimineBaşla() {
     if (!m_liste->SeçiliÖğe()) {
-        Uyar(710, *m_liste);
+        Uyar(MetinNo::MalzemeSeçiniz, *m_liste);
         return;
     }
     // The boxes may hold what was typed and given up; the change begins with what is stored.
     const Kayıt kayıt = SeçileniGöster();
-    if (kayıt == Kayıt::Yok) Uyar(SilinmişMalzemeMetni, *m_liste);
+    if (kayıt == Kayıt::Yok) Uyar(MetinNo::SilinmişMalzeme, *m_liste);
     if (kayıt == Kayıt::Var) FiyatKipineGeç();
 }
 
@@ -282,7 +283,7 @@ void MalzemeEkleSilFormu::FiyatıKaydet() {
     // The second statement runs whatever became of the first.
     const bool katalogda = DeyimiYürüt(Deyimler::FiyatDeğiştir(ad, fiyat));
     const bool ürünlerde = DeyimiYürüt(Deyimler::ÜrünlerdeFiyatDeğiştir(ad, fiyat));
-    if (katalogda != ürünlerde) YarımKaldı(katalogda ? FiyatÜrünlerdeEskiMetni : FiyatKatalogdaEskiMetni);
+    if (katalogda != ürünlerde) YarımKaldı(katalogda ? MetinNo::FiyatÜrünlerdeEski : MetinNo::FiyatKatalogdaEski);
     SeçiliÜrünüYenile();
     FiyattanDön();
     SeçileniGöster();

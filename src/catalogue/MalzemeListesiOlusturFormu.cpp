@@ -32,7 +32,6 @@ namespace {
 // Columns of the list that is to be transferred.
 enum Sütun { MiktarSütunu, AdSütunu, FiyatSütunu, TutarSütunu };
 
-constexpr int AktarılamayanlarMetni = 2175;
 constexpr qsizetype EnÇokSayılanSatır = 10;  // rows that a message box names
 
 // Quantity, blank and type together fit a stored text: no quantity that can be stored is longer than the box's length.
@@ -49,7 +48,7 @@ struct TürkçeKüçük {
 MalzemeListesiOluşturFormu::MalzemeListesiOluşturFormu(AnaFormErişimi& anaForm, QWidget* sahip)
     : QDialog(sahip), m_anaForm(anaForm) {
     setObjectName(QStringLiteral("MalzemeListesiOluşturFormu"));
-    setWindowTitle(Metin(750));
+    setWindowTitle(Metin(MetinNo::ListeFormuBaşlığı));
     KontrolleriKur();
     Yerleştir();
 }
@@ -67,29 +66,36 @@ void MalzemeListesiOluşturFormu::KontrolleriKur() {
     m_tür = new MiktarTürüKutusu;
     m_tür->setObjectName(QStringLiteral("MiktarTürüListesi"));
     m_tür->EnUzunOlsun(EnUzunTür);
-    m_eklenecek = new SütunluListe({{412, 5.2, false, true}, {414, 3.0, false}, {416, 5.0, true}, {418, 4.6, true}});
+    m_eklenecek = new SütunluListe({{MetinNo::MiktarıSütunu, 5.2, false, true},
+                                    {MetinNo::AdıSütunu, 3.0, false},
+                                    {MetinNo::FiyatıSütunu, 5.0, true},
+                                    {MetinNo::TutarıSütunu, 4.6, true}});
     m_eklenecek->setObjectName(QStringLiteral("EklenecekMalzemeListesi"));
     Enterİleİlerlesin(m_eklenecek);
     connect(m_eklenecek, &QTreeWidget::itemDoubleClicked, this,
             [this] { HataYakala([this] { ListedenÇıkarButonu_Click(); }); });
 
-    m_ekle = KatalogDüğmesi(QStringLiteral("ListeyeEkleButonu"), {780}, [this] { ListeyeEkleButonu_Click(); });
-    m_çıkar = KatalogDüğmesi(QStringLiteral("ListedenÇıkarButonu"), {790}, [this] { ListedenÇıkarButonu_Click(); });
-    m_temizle = KatalogDüğmesi(QStringLiteral("ListeyiTemizleButonu"), {800}, [this] { ListeyiTemizleButonu_Click(); });
-    m_aktar = KatalogDüğmesi(QStringLiteral("ListeyiAktarButonu"), {810}, [this] { ListeyiAktarButonu_Click(); });
-    m_iptal = KatalogDüğmesi(QStringLiteral("İptalButonu"), {530}, [this] { reject(); });
+    m_ekle = KatalogDüğmesi(QStringLiteral("ListeyeEkleButonu"), {MetinNo::ListeyeEkle},
+                            [this] { ListeyeEkleButonu_Click(); });
+    m_çıkar = KatalogDüğmesi(QStringLiteral("ListedenÇıkarButonu"), {MetinNo::EklenecektenÇıkar},
+                             [this] { ListedenÇıkarButonu_Click(); });
+    m_temizle = KatalogDüğmesi(QStringLiteral("ListeyiTemizleButonu"), {MetinNo::ListeyiTemizle},
+                               [this] { ListeyiTemizleButonu_Click(); });
+    m_aktar = KatalogDüğmesi(QStringLiteral("ListeyiAktarButonu"), {MetinNo::ListeyiAktar},
+                             [this] { ListeyiAktarButonu_Click(); });
+    m_iptal = KatalogDüğmesi(QStringLiteral("İptalButonu"), {MetinNo::İptal}, [this] { reject(); });
 }
 
 void MalzemeListesiOluşturFormu::Yerleştir() {
     auto* katalog = new QVBoxLayout;
-    katalog->addWidget(KatalogEtiketi(3, 620, m_bul));
+    katalog->addWidget(KatalogEtiketi(3, MetinNo::MalzemeBul, m_bul));
     katalog->addWidget(m_bul);
-    katalog->addWidget(KatalogEtiketi(2, 610, m_katalog));
+    katalog->addWidget(KatalogEtiketi(2, MetinNo::MalzemeListesiEtiketi, m_katalog));
     katalog->addWidget(m_katalog);
     auto* miktar = new QGridLayout;
-    miktar->addWidget(KatalogEtiketi(0, 760, m_miktar), 0, 0);
+    miktar->addWidget(KatalogEtiketi(0, MetinNo::Miktar, m_miktar), 0, 0);
     miktar->addWidget(m_miktar, 1, 0);
-    miktar->addWidget(KatalogEtiketi(1, 765, m_tür), 0, 1);
+    miktar->addWidget(KatalogEtiketi(1, MetinNo::MiktarTürü, m_tür), 0, 1);
     miktar->addWidget(m_tür, 1, 1);
     miktar->setColumnStretch(0, 1);
     miktar->setColumnStretch(1, 1);
@@ -107,7 +113,7 @@ void MalzemeListesiOluşturFormu::Yerleştir() {
     düğmeler->addWidget(m_iptal);
     auto* düzen = new QVBoxLayout(KatalogAltlığı(this));
     düzen->addLayout(üst, 1);
-    düzen->addWidget(KatalogEtiketi(4, 770, m_eklenecek));
+    düzen->addWidget(KatalogEtiketi(4, MetinNo::EklenecekListe, m_eklenecek));
     düzen->addWidget(m_eklenecek, 1);
     düzen->addLayout(düğmeler);
     resize(740, 540);
@@ -141,13 +147,13 @@ void MalzemeListesiOluşturFormu::ListeDüğmeleriniAyarla() {
 }
 
 bool MalzemeListesiOluşturFormu::GirilenlerUygun() {
-    if (!m_katalog->SeçiliÖğe()) return Uyar(710, *m_katalog);
-    if (m_miktar->text().isEmpty()) return Uyar(820, *m_miktar);
+    if (!m_katalog->SeçiliÖğe()) return Uyar(MetinNo::MalzemeSeçiniz, *m_katalog);
+    if (m_miktar->text().isEmpty()) return Uyar(MetinNo::MiktarıBelirtiniz, *m_miktar);
     const QString tür = m_tür->currentText().trimmed();
-    if (tür.isEmpty()) return Uyar(830, *m_tür);
+    if (tür.isEmpty()) return Uyar(MetinNo::MiktarTürünüBelirtiniz, *m_tür);
     TürüHatırla(tür);  // before the quantity is judged
     // Only zero is refused, though the message speaks of 1.
-    if (DoubleOku(m_miktar->text()).value_or(0) == 0) return Uyar(840, *m_miktar);
+    if (DoubleOku(m_miktar->text()).value_or(0) == 0) return Uyar(MetinNo::MiktarSıfır, *m_miktar);
     return m_miktar->Saklanır();
 }
 
@@ -184,7 +190,7 @@ std::optional<Para> MalzemeListesiOluşturFormu::BirimFiyat(const QString& malze
 void MalzemeListesiOluşturFormu::ListeyeEkleButonu_Click() {
     if (!GirilenlerUygun()) return;
     const QString malzeme = m_katalog->SeçiliÖğe()->text();
-    if (ZatenEklenmiş(malzeme) && !Sor(Metin(850))) return;
+    if (ZatenEklenmiş(malzeme) && !Sor(Metin(MetinNo::TekrarEklemeSorusu))) return;
     const std::optional<Para> fiyat = BirimFiyat(malzeme);
     if (!fiyat) return;
     const double miktar = DoubleOku(m_miktar->text()).value_or(0);
@@ -200,10 +206,11 @@ void MalzemeListesiOluşturFormu::ListedenÇıkarButonu_Click() {
     if (m_eklenecek->Boş()) return;
     QTreeWidgetItem* satır = m_eklenecek->SeçiliÖğe();
     if (!satır) {
-        Uyar(710, *m_eklenecek);
+        Uyar(MetinNo::MalzemeSeçiniz, *m_eklenecek);
         return;
     }
-    if (!Sor(Metin(440) + QLatin1Char(' ') + satır->text(MiktarSütunu) + QLatin1Char(' ') + satır->text(AdSütunu)))
+    if (!Sor(Metin(MetinNo::ListedenÇıkarmaSorusu) + QLatin1Char(' ') + satır->text(MiktarSütunu) + QLatin1Char(' ') +
+             satır->text(AdSütunu)))
         return;
     delete satır;
     ListeDüğmeleriniAyarla();
@@ -217,7 +224,7 @@ void MalzemeListesiOluşturFormu::ListeyiTemizleButonu_Click() {
 void MalzemeListesiOluşturFormu::ListeyiAktarButonu_Click() {
     if (m_eklenecek->topLevelItemCount() == 0) return;
     HareketTarihiSQL = TarihDeğişmezi(Bugün());
-    if (Sor(Metin(860))) Aktar();
+    if (Sor(Metin(MetinNo::AktarmaSorusu))) Aktar();
     accept();
 }
 
@@ -243,5 +250,5 @@ void MalzemeListesiOluşturFormu::Aktar() {
     // The list goes with the form: what has to be entered again is named.
     QString ek = QLatin1Char('\n') + aktarılamayanlar.mid(0, EnÇokSayılanSatır).join(QLatin1Char('\n'));
     if (aktarılamayanlar.size() > EnÇokSayılanSatır) ek += QStringLiteral("\n...");
-    YarımKaldı(AktarılamayanlarMetni, ek);
+    YarımKaldı(MetinNo::Aktarılamayanlar, ek);
 }

@@ -28,8 +28,6 @@ using MesajKutusu::Yanıt;
 
 namespace {
 
-constexpr int MalzemeleriKaldıMetni = 2174;
-
 bool Aynı(const QString& a, const QString& b) {
     return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) == 0;
 }
@@ -38,7 +36,7 @@ bool Aynı(const QString& a, const QString& b) {
 
 ÜrünEkleSilFormu::ÜrünEkleSilFormu(AnaFormErişimi& anaForm, QWidget* sahip) : QDialog(sahip), m_anaForm(anaForm) {
     setObjectName(QStringLiteral("ÜrünEkleSilFormu"));
-    setWindowTitle(Metin(450));
+    setWindowTitle(Metin(MetinNo::ÜrünFormuBaşlığı));
     KontrolleriKur();
     Yerleştir();
 }
@@ -63,17 +61,19 @@ void ÜrünEkleSilFormu::KontrolleriKur() {
     m_ad = new AdKutusu;
     m_ad->setObjectName(QStringLiteral("ÜrünAdıKutusu"));
 
-    m_ekleKaydet =
-        KatalogDüğmesi(QStringLiteral("ÜrünEkleKaydetButonu"), {500, 520}, [this] { ÜrünEkleKaydetButonu_Click(); });
-    m_sil = KatalogDüğmesi(QStringLiteral("ÜrünSilButonu"), {460, 470}, [this] { ÜrünSilButonu_Click(); });
-    m_kapatİptal = KatalogDüğmesi(QStringLiteral("KapatİptalButonu"), {510, 530}, [this] { KapatİptalButonu_Click(); });
+    m_ekleKaydet = KatalogDüğmesi(QStringLiteral("ÜrünEkleKaydetButonu"), {MetinNo::ÜrünEkle, MetinNo::Kaydet},
+                                  [this] { ÜrünEkleKaydetButonu_Click(); });
+    m_sil = KatalogDüğmesi(QStringLiteral("ÜrünSilButonu"), {MetinNo::ÜrünGrubuSil, MetinNo::ÜrünSil},
+                           [this] { ÜrünSilButonu_Click(); });
+    m_kapatİptal = KatalogDüğmesi(QStringLiteral("KapatİptalButonu"), {MetinNo::Kapat, MetinNo::İptal},
+                                  [this] { KapatİptalButonu_Click(); });
 }
 
 void ÜrünEkleSilFormu::Yerleştir() {
     auto* kutular = new QVBoxLayout(m_çerçeve);
-    kutular->addWidget(KatalogEtiketi(1, 480, m_grup));
+    kutular->addWidget(KatalogEtiketi(1, MetinNo::ÜrünGrubu, m_grup));
     kutular->addWidget(m_grup);
-    kutular->addWidget(KatalogEtiketi(2, 490, m_ad));
+    kutular->addWidget(KatalogEtiketi(2, MetinNo::ÜrünAdı, m_ad));
     kutular->addWidget(m_ad);
     m_çerçeve->setMinimumWidth(300);
 
@@ -88,7 +88,7 @@ void ÜrünEkleSilFormu::Yerleştir() {
     sağ->addStretch();
     sağ->addLayout(düğmeler);
     auto* sol = new QVBoxLayout;
-    sol->addWidget(KatalogEtiketi(0, 300, m_ağaç));
+    sol->addWidget(KatalogEtiketi(0, MetinNo::ÜrünListesiBaşlığı, m_ağaç));
     sol->addWidget(m_ağaç);
     auto* düzen = new QHBoxLayout(KatalogAltlığı(this));
     düzen->addLayout(sol, 1);
@@ -114,14 +114,14 @@ void ÜrünEkleSilFormu::EklemeKipineGeç() {
     m_çerçeve->setEnabled(true);
     m_ağaç->setEnabled(false);
     m_sil->setEnabled(false);
-    m_ekleKaydet->setText(Metin(520));
-    m_kapatİptal->setText(Metin(530));
+    m_ekleKaydet->setText(Metin(MetinNo::Kaydet));
+    m_kapatİptal->setText(Metin(MetinNo::İptal));
     m_grup->setFocus();
 }
 
 void ÜrünEkleSilFormu::GözatmaKipineDön() {
-    m_ekleKaydet->setText(Metin(500));
-    m_kapatİptal->setText(Metin(510));
+    m_ekleKaydet->setText(Metin(MetinNo::ÜrünEkle));
+    m_kapatİptal->setText(Metin(MetinNo::Kapat));
     m_grup->setCurrentIndex(-1);  // the next use of the list begins at its first entry
     m_grup->clearEditText();
     m_ad->clear();
@@ -137,7 +137,7 @@ void ÜrünEkleSilFormu::ListeDurumunuAyarla() {
 
 void ÜrünEkleSilFormu::SilDüğmesiniAdlandır() {
     const QTreeWidgetItem* düğüm = m_ağaç->SeçiliÖğe();
-    m_sil->setText(Metin(düğüm && düğüm->parent() ? 470 : 460));
+    m_sil->setText(Metin(düğüm && düğüm->parent() ? MetinNo::ÜrünSil : MetinNo::ÜrünGrubuSil));
 }
 
 void ÜrünEkleSilFormu::ÜrünEkleKaydetButonu_Click() {
@@ -158,11 +158,11 @@ void ÜrünEkleSilFormu::ÜrünEkleKaydetButonu_Click() {
 bool ÜrünEkleSilFormu::GirilenlerUygun() {
     const QString grup = m_grup->currentText();
     const QString ürün = m_ad->text();
-    if (grup.isEmpty()) return Uyar(560, *m_grup);
-    if (SayıMı(grup)) return Uyar(565, *m_grup);
-    if (ürün.isEmpty()) return Uyar(570, *m_ad);
+    if (grup.isEmpty()) return Uyar(MetinNo::ÜrünGrubuBoş, *m_grup);
+    if (SayıMı(grup)) return Uyar(MetinNo::ÜrünGrubuSayı, *m_grup);
+    if (ürün.isEmpty()) return Uyar(MetinNo::ÜrünAdıBoş, *m_ad);
     const Kayıt aynısı = KaydıOku(Deyimler::ÜrünVarMı(grup, ürün));
-    return aynısı == Kayıt::Var ? Uyar(580, *m_ad) : aynısı == Kayıt::Yok;
+    return aynısı == Kayıt::Var ? Uyar(MetinNo::ÜrünListedeVar, *m_ad) : aynısı == Kayıt::Yok;
 }
 
 QString ÜrünEkleSilFormu::KayıtlıGrup(const QString& grup) const {
@@ -197,15 +197,15 @@ void ÜrünEkleSilFormu::EkleneniYerleştir(const QString& grup, const QString& 
 }
 
 bool ÜrünEkleSilFormu::SilmeOnayı(bool grupMu) {
-    if (grupMu && !Sor(Metin(540))) return false;
+    if (grupMu && !Sor(Metin(MetinNo::GrupSilmeSorusu))) return false;
     MesajKutusuOrtala();
-    return MesajKutusu::Göster(Simge::Ünlem, Düğmeler::EvetHayır, Metin(550)) == Yanıt::Evet;
+    return MesajKutusu::Göster(Simge::Ünlem, Düğmeler::EvetHayır, Metin(MetinNo::SilmeGeriAlınamaz)) == Yanıt::Evet;
 }
 
 void ÜrünEkleSilFormu::ÜrünSilButonu_Click() {
     const QTreeWidgetItem* düğüm = m_ağaç->SeçiliÖğe();
     if (!düğüm) {
-        Uyar(538, *m_ağaç);
+        Uyar(MetinNo::ÜrünSeçiniz, *m_ağaç);
         return;
     }
     const bool grupMu = !düğüm->parent();
@@ -215,7 +215,7 @@ void ÜrünEkleSilFormu::ÜrünSilButonu_Click() {
     if (!DeyimiYürüt(grupMu ? Deyimler::GrubuSil(grup) : Deyimler::ÜrünüSil(grup, ürün))) return;
     if (!DeyimiYürüt(grupMu ? Deyimler::GrubunMalzemeleriniSil(grup) : Deyimler::ÜrününMalzemeleriniSil(grup, ürün))) {
         // The node stays here: through it the materials left behind can still be deleted.
-        YarımKaldı(MalzemeleriKaldıMetni);
+        YarımKaldı(MetinNo::MalzemeleriKaldı);
         m_anaForm.ÜrünAğacınıYenile();
         return;
     }

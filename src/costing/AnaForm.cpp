@@ -56,7 +56,7 @@ void AnaForm::Yükle() {
 void AnaForm::AğacaGirildi() {
     if (m_ağaç->Boş()) {
         // A list that could not be read is not an empty one.
-        if (m_ağaç->Tam() && Sor(Metin(420))) İlkÜrünüEkle();
+        if (m_ağaç->Tam() && Sor(Metin(MetinNo::ÜrünListesiBoş))) İlkÜrünüEkle();
         return;
     }
     m_miktar->SeçimiKaldır();
@@ -141,7 +141,7 @@ void AnaForm::ÜrünüYenidenYükle() {
 }
 
 void AnaForm::SayılmayanlarıGöster(const QStringList& satırlar) {
-    QStringList metin{Metin(2130)};
+    QStringList metin{Metin(MetinNo::SayılmayanMalzemeler)};
     metin += satırlar.mid(0, EnÇokSayılanSatır);
     if (satırlar.size() > EnÇokSayılanSatır) metin += QStringLiteral("...");
     MesajKutusuOrtala();
@@ -155,11 +155,13 @@ void AnaForm::ToplamMaliyetHesapla() {
 void AnaForm::ListedenMalzemeSil() {
     if (m_liste->Boş()) return;
     if (!m_liste->SeçiliÖğe()) {
-        Uyar(710, *m_liste);
+        Uyar(MetinNo::MalzemeSeçiniz, *m_liste);
         return;
     }
     const QString malzeme = m_liste->SeçiliMalzeme();
-    if (!Sor(Metin(440) + QLatin1Char(' ') + m_liste->SeçiliMiktar() + QLatin1Char(' ') + malzeme)) return;
+    if (!Sor(Metin(MetinNo::ListedenÇıkarmaSorusu) + QLatin1Char(' ') + m_liste->SeçiliMiktar() + QLatin1Char(' ') +
+             malzeme))
+        return;
     if (DeyimiYürüt(Deyimler::KullanılanMalzemeÇıkar(m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün(), malzeme))) {
         MalzemeTablosuYükle();
     }

@@ -7,6 +7,7 @@
 #include "AnaFormErisimi.h"
 #include "Komutlar.h"
 
+enum class MetinNo : int;
 class KullanılanMalzemeListesi;
 class MaliyetAlanı;
 class MiktarAlanı;
@@ -50,7 +51,7 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     QWidget* ListeAltlığı();
     QWidget* MaliyetAltlığı();
     QWidget* DüğmeAltlığı();
-    QWidget* DüğmeOluştur(Komut komut, int metin, const char* ad);
+    QWidget* DüğmeOluştur(Komut komut, MetinNo metin, const char* ad);
     void DurumÇubuğunuKur();
     void KomutlarıKur();
     void Yerleş();

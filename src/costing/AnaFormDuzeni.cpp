@@ -66,10 +66,11 @@ void AnaForm::AlanlarıKur() {
     m_ağaç = new ÜrünAğacı;
     m_ağaç->OlaylarıBağla({[this] { DüğümTıklandı(); }, [this] { ÜrünListesiTıkla(); }, [this] { AğacaGirildi(); },
                            [this] { m_ağaçBildirimi->setVisible(!m_ağaç->Tam()); }});
-    m_ağaçBildirimi = new YüklenemediBildirimi(QStringLiteral("ÜrünListesiniTekrarYükle"), 2135, 2137,
-                                               [this] { AğacıYenidenYükle(); });
-    m_ürünBildirimi =
-        new YüklenemediBildirimi(QStringLiteral("ÜrünüTekrarYükle"), 2136, 2138, [this] { ÜrünüYenidenYükle(); });
+    m_ağaçBildirimi =
+        new YüklenemediBildirimi(QStringLiteral("ÜrünListesiniTekrarYükle"), MetinNo::ÜrünListesiOkunamadı,
+                                 MetinNo::ListeyiTekrarYükle, [this] { AğacıYenidenYükle(); });
+    m_ürünBildirimi = new YüklenemediBildirimi(QStringLiteral("ÜrünüTekrarYükle"), MetinNo::ÜrünOkunamadı,
+                                               MetinNo::ÜrünüTekrarYükle, [this] { ÜrünüYenidenYükle(); });
     m_liste = new KullanılanMalzemeListesi;
     connect(m_liste, &QTreeWidget::itemDoubleClicked, this, [this] { m_komutlar.Çalıştır(Komut::ListedenMalzemeSil); });
 
@@ -91,7 +92,7 @@ void AnaForm::AlanlarıKur() {
 }
 
 void AnaForm::MenüleriKur() {
-    const auto girişEkle = [this](QMenu* menü, Komut komut, int metin, const char* ad) {
+    const auto girişEkle = [this](QMenu* menü, Komut komut, MetinNo metin, const char* ad) {
         QAction* giriş = menü->addAction(Metin(metin));
         giriş->setObjectName(QString::fromUtf8(ad));
         m_komutlar.Bağla(komut, giriş);
@@ -99,19 +100,19 @@ void AnaForm::MenüleriKur() {
     const auto çizgiEkle = [](QMenu* menü, int sıra) {
         menü->addSeparator()->setObjectName(QStringLiteral("MenüÇizgisi%1").arg(sıra));
     };
-    QMenu* program = menuBar()->addMenu(Metin(200));
+    QMenu* program = menuBar()->addMenu(Metin(MetinNo::ProgramMenüsü));
     program->setObjectName(QStringLiteral("ProgramMenüsü"));
-    girişEkle(program, Komut::ÜrünEkleSil, 210, "ÜrünEkleSilMenüsü");
-    girişEkle(program, Komut::MalzemeEkleSil, 220, "MalzemeEkleSilMenüsü");
+    girişEkle(program, Komut::ÜrünEkleSil, MetinNo::ÜrünEkleSilMenüsü, "ÜrünEkleSilMenüsü");
+    girişEkle(program, Komut::MalzemeEkleSil, MetinNo::MalzemeEkleSilMenüsü, "MalzemeEkleSilMenüsü");
     çizgiEkle(program, 1);
-    girişEkle(program, Komut::Çıkış, 240, "ÇıkışMenüsü");
-    QMenu* yardım = menuBar()->addMenu(Metin(250));
+    girişEkle(program, Komut::Çıkış, MetinNo::ÇıkışMenüsü, "ÇıkışMenüsü");
+    QMenu* yardım = menuBar()->addMenu(Metin(MetinNo::YardımMenüsü));
     yardım->setObjectName(QStringLiteral("YardımMenüsü"));
-    girişEkle(yardım, Komut::İçindekiler, 260, "İçindekilerMenüsü");
+    girişEkle(yardım, Komut::İçindekiler, MetinNo::İçindekilerMenüsü, "İçindekilerMenüsü");
     çizgiEkle(yardım, 2);
-    girişEkle(yardım, Komut::HataBildirme, 270, "HataBildirmeMenüsü");
+    girişEkle(yardım, Komut::HataBildirme, MetinNo::HataBildirmeMenüsü, "HataBildirmeMenüsü");
     çizgiEkle(yardım, 3);
-    girişEkle(yardım, Komut::Hakkında, 280, "HakkındaMenüsü");
+    girişEkle(yardım, Komut::Hakkında, MetinNo::HakkındaMenüsü, "HakkındaMenüsü");
 }
 
 // Controls are added as one reads, left to right and top to bottom: that is the order of Tab too.
@@ -169,11 +170,11 @@ QWidget* AnaForm::ListeAltlığı() {
     başlık->addWidget(m_haneSayısı);
     başlık->addWidget(EtiketOluştur(11));
     auto* düğmeler = new QHBoxLayout;
-    düğmeler->addWidget(DüğmeOluştur(Komut::ListeyeMalzemeEkle, 320, "ListeyeMalzemeEkleButonu"));
-    düğmeler->addWidget(DüğmeOluştur(Komut::ListedenMalzemeSil, 330, "ListedenMalzemeSilButonu"));
-    düğmeler->addWidget(DüğmeOluştur(Komut::Yazdır, 335, "YazdırButonu"));
-    düğmeler->addWidget(DüğmeOluştur(Komut::PdfKaydet, 2300, "PdfKaydetButonu"));
-    düğmeler->addWidget(DüğmeOluştur(Komut::Önizle, 2301, "ÖnizlemeButonu"));
+    düğmeler->addWidget(DüğmeOluştur(Komut::ListeyeMalzemeEkle, MetinNo::EkleDeğiştir, "ListeyeMalzemeEkleButonu"));
+    düğmeler->addWidget(DüğmeOluştur(Komut::ListedenMalzemeSil, MetinNo::ListedenÇıkar, "ListedenMalzemeSilButonu"));
+    düğmeler->addWidget(DüğmeOluştur(Komut::Yazdır, MetinNo::Yazdır, "YazdırButonu"));
+    düğmeler->addWidget(DüğmeOluştur(Komut::PdfKaydet, MetinNo::PdfKaydet, "PdfKaydetButonu"));
+    düğmeler->addWidget(DüğmeOluştur(Komut::Önizle, MetinNo::Önizleme, "ÖnizlemeButonu"));
     düğmeler->addStretch();
     auto* düzen = new QVBoxLayout(altlık);
     düzen->setContentsMargins(0, 0, 0, 0);
@@ -187,11 +188,13 @@ QWidget* AnaForm::ListeAltlığı() {
 QWidget* AnaForm::MaliyetAltlığı() {
     QWidget* altlık = AltlıkOluştur(2);
     auto* düğmeler = new QHBoxLayout;
-    düğmeler->addWidget(DüğmeOluştur(Komut::DeğişiklikleriKaydet, 400, "DeğişiklikleriKaydetButonu"));
+    düğmeler->addWidget(
+        DüğmeOluştur(Komut::DeğişiklikleriKaydet, MetinNo::DeğişiklikleriKaydet, "DeğişiklikleriKaydetButonu"));
     düğmeler->addStretch();
-    QWidget* miktarlar = DüğmeOluştur(Komut::MiktarlarıGöster, 1358, "MiktarlarıGösterDüğmesi");
-    miktarlar->setAccessibleName(Metin(1359));
-    miktarlar->setToolTip(Metin(1359));
+    QWidget* miktarlar =
+        DüğmeOluştur(Komut::MiktarlarıGöster, MetinNo::MiktarlarıGösterDüğmesi, "MiktarlarıGösterDüğmesi");
+    miktarlar->setAccessibleName(Metin(MetinNo::MiktarlarıGösterAçıklaması));
+    miktarlar->setToolTip(Metin(MetinNo::MiktarlarıGösterAçıklaması));
     miktarlar->setMaximumWidth(NoktaGenişliği);
     düğmeler->addWidget(miktarlar);
     auto* düzen = new QVBoxLayout(altlık);
@@ -205,15 +208,16 @@ QWidget* AnaForm::DüğmeAltlığı() {
     QWidget* altlık = AltlıkOluştur(3);
     auto* düzen = new QHBoxLayout(altlık);
     düzen->setContentsMargins(0, 0, 0, 0);
-    düzen->addWidget(DüğmeOluştur(Komut::GünlükMalzemeHareketleri, 402, "GünlükMalzemeHareketleriGösterButonu"));
-    düzen->addWidget(DüğmeOluştur(Komut::MalzemeListesi, 404, "MalzemeListesiGösterButonu"));
-    düzen->addWidget(DüğmeOluştur(Komut::ÜrünListesi, 406, "ÜrünListesiGösterButonu"));
+    düzen->addWidget(DüğmeOluştur(Komut::GünlükMalzemeHareketleri, MetinNo::GünlükMalzemeHareketleriDüğmesi,
+                                  "GünlükMalzemeHareketleriGösterButonu"));
+    düzen->addWidget(DüğmeOluştur(Komut::MalzemeListesi, MetinNo::MalzemeListesiDüğmesi, "MalzemeListesiGösterButonu"));
+    düzen->addWidget(DüğmeOluştur(Komut::ÜrünListesi, MetinNo::ÜrünListesiDüğmesi, "ÜrünListesiGösterButonu"));
     düzen->addStretch();
-    düzen->addWidget(DüğmeOluştur(Komut::Çıkış, 410, "ÇıkışButonu"));
+    düzen->addWidget(DüğmeOluştur(Komut::Çıkış, MetinNo::ÇıkışDüğmesi, "ÇıkışButonu"));
     return altlık;
 }
 
-QWidget* AnaForm::DüğmeOluştur(Komut komut, int metin, const char* ad) {
+QWidget* AnaForm::DüğmeOluştur(Komut komut, MetinNo metin, const char* ad) {
     auto* düğme = new KomutDüğmesi(Metin(metin));
     düğme->setObjectName(QString::fromUtf8(ad));
     m_komutlar.Bağla(komut, düğme);

@@ -61,7 +61,7 @@ void AnaForm::ListeyeMalzemeEkle() {
         return;
     }
     if (!form.KatalogOkundu()) return;  // not known to be empty; the user has been told
-    if (!Sor(Metin(430))) return;
+    if (!Sor(Metin(MetinNo::MalzemeListesiBoş))) return;
     SeçiliÜrünSırası = m_ağaç->SeçiliSıra();
     MalzemeEkleSilFormu malzemeler(*this, this);
     malzemeler.Yükle();

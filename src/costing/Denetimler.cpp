@@ -10,8 +10,21 @@
 
 namespace {
 
-constexpr std::array EtiketMetinleri = {300,  310,  340,  350,  360,  370,  380, 390,
-                                        1270, 1280, 1295, 1300, 1315, 1320, 1325};
+constexpr std::array EtiketMetinleri = {MetinNo::ÜrünListesiBaşlığı,
+                                        MetinNo::KullanılanMalzemelerBaşlığı,
+                                        MetinNo::ToplamMalzemeMaliyeti,
+                                        MetinNo::İşçilikYüzdesi,
+                                        MetinNo::KârYüzdesi,
+                                        MetinNo::DiğerYüzdesi,
+                                        MetinNo::VadeYüzdesi,
+                                        MetinNo::ToplamVarnek,
+                                        MetinNo::ToplamMalzeme,
+                                        MetinNo::BirimVarnek,
+                                        MetinNo::OndalıkBasamaklar,
+                                        MetinNo::HaneOlsun,
+                                        MetinNo::FireOranı,
+                                        MetinNo::FireliToplamMalzeme,
+                                        MetinNo::FireliBirimVarnekEtiketi};
 
 QString Sıralı(const QString& ad, int sıra) {
     return ad + QLatin1Char('(') + QString::number(sıra) + QLatin1Char(')');

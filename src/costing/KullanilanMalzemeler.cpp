@@ -1,6 +1,7 @@
 #include "KullanilanMalzemeler.h"
 
 #include "Deyimler.h"
+#include "MetinTablosu.h"
 #include "OdbcModulu.h"
 #include "SutunluSatir.h"
 #include "SayiMetni.h"
@@ -12,7 +13,11 @@ enum Sütunlar { MiktarSütunu, AdSütunu };
 }  // namespace
 
 KullanılanMalzemeListesi::KullanılanMalzemeListesi(QWidget* sahip)
-    : SütunluListe({{412, 5, false, true}, {414, 3, false}, {416, 5, true}, {418, 4.6, true}}, sahip) {
+    : SütunluListe({{MetinNo::MiktarıSütunu, 5, false, true},
+                    {MetinNo::AdıSütunu, 3, false},
+                    {MetinNo::FiyatıSütunu, 5, true},
+                    {MetinNo::TutarıSütunu, 4.6, true}},
+                   sahip) {
     setObjectName(QStringLiteral("KullanılanMalzemeListesi"));
     setMinimumHeight(120);
 }

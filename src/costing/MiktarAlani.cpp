@@ -37,9 +37,9 @@ MiktarAlanı::MiktarAlanı(Bağlar bağlar, QWidget* sahip) : QWidget(sahip), m_
 }
 
 void MiktarAlanı::Yerleştir() {
-    m_seçenek = new QCheckBox(Metin(1265));
+    m_seçenek = new QCheckBox(Metin(MetinNo::MiktarGösterSeçeneği));
     m_seçenek->setObjectName(QStringLiteral("MalzemeMiktarıveBirimVarnekGösterSeçeneği"));
-    m_seçenek->setAccessibleName(Metin(1265).remove(QLatin1Char('&')));
+    m_seçenek->setAccessibleName(Metin(MetinNo::MiktarGösterSeçeneği).remove(QLatin1Char('&')));
     m_miktar = GösterimKutusu(QStringLiteral("ToplamMalzemeMiktarıKutusu"));
     m_birimMaliyet = GösterimKutusu(QStringLiteral("ÜrünBirimMaliyetiKutusu"));
     m_fireOranı = new SayıKutusu(SayıKutusu::Tür::Yüzde);
@@ -90,7 +90,7 @@ void MiktarAlanı::SeçimiKaldır() {
 void MiktarAlanı::SeçeneğiUygula() {
     if (Seçili() && m_birimlerFarklı) {
         MesajKutusuOrtala();
-        MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam, Metin(1290));
+        MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam, Metin(MetinNo::BirimlerFarklı));
         m_seçenek->setChecked(false);
     }
     m_çerçeve->setEnabled(Seçili());

@@ -14,7 +14,7 @@ namespace {
 
 struct Satır {
     const char* Ad;
-    int Etiket;
+    MetinNo Etiket;
     QString MiktarGösterFormu::Tutarlar::*Metin;
 };
 
@@ -22,22 +22,22 @@ const QString EnGenişTutar = QStringLiteral("-922.337.203.685.477,580800");  //
 constexpr int KutuPayı = 16;                                                 // pixels of a box beside its text
 
 constexpr Satır Satırlar[] = {
-    {"MalzemeMaliyetiKutusu", 1351, &MiktarGösterFormu::Tutarlar::MalzemeMaliyeti},
-    {"İşçilikMaliyetiKutusu", 1352, &MiktarGösterFormu::Tutarlar::İşçilik},
-    {"KarMaliyetiKutusu", 1353, &MiktarGösterFormu::Tutarlar::Kâr},
-    {"VadeMaliyetiKutusu", 1354, &MiktarGösterFormu::Tutarlar::Vade},
-    {"DiğerVarnekKutusu", 1355, &MiktarGösterFormu::Tutarlar::Diğer},
-    {"ToplamMaliyetKutusu", 1356, &MiktarGösterFormu::Tutarlar::Toplam},
+    {"MalzemeMaliyetiKutusu", MetinNo::MalzemeMaliyetiTutarı, &MiktarGösterFormu::Tutarlar::MalzemeMaliyeti},
+    {"İşçilikMaliyetiKutusu", MetinNo::İşçilikTutarı, &MiktarGösterFormu::Tutarlar::İşçilik},
+    {"KarMaliyetiKutusu", MetinNo::KârTutarı, &MiktarGösterFormu::Tutarlar::Kâr},
+    {"VadeMaliyetiKutusu", MetinNo::VadeTutarı, &MiktarGösterFormu::Tutarlar::Vade},
+    {"DiğerVarnekKutusu", MetinNo::DiğerTutarı, &MiktarGösterFormu::Tutarlar::Diğer},
+    {"ToplamMaliyetKutusu", MetinNo::ToplamTutarı, &MiktarGösterFormu::Tutarlar::Toplam},
 };
 
 }  // namespace
 
 MiktarGösterFormu::MiktarGösterFormu(const Tutarlar& tutarlar, QWidget* sahip) : QDialog(sahip) {
     setObjectName(QStringLiteral("MiktarGösterFormu"));
-    setWindowTitle(Metin(1350));
+    setWindowTitle(Metin(MetinNo::MiktarFormuBaşlığı));
     auto* altlık = new QWidget;
     altlık->setObjectName(QStringLiteral("Altlik"));
-    auto* çerçeve = new QGroupBox(Metin(1357));
+    auto* çerçeve = new QGroupBox(Metin(MetinNo::DiğerMaliyetler));
     çerçeve->setObjectName(QStringLiteral("Çerçeve"));
     auto* kutular = new QFormLayout(çerçeve);
     int sıra = 0;
@@ -54,7 +54,7 @@ MiktarGösterFormu::MiktarGösterFormu(const Tutarlar& tutarlar, QWidget* sahip)
         kutu->setAccessibleName(etiket->text());
         kutular->addRow(etiket, kutu);
     }
-    auto* kapat = new QPushButton(Metin(510));
+    auto* kapat = new QPushButton(Metin(MetinNo::Kapat));
     kapat->setObjectName(QStringLiteral("KapatDüğmesi"));
     connect(kapat, &QPushButton::clicked, this, &QDialog::reject);
     auto* düzen = new QVBoxLayout(altlık);

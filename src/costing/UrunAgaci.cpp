@@ -43,7 +43,6 @@ class AdTemsilcisi : public MetinTemsilcisi {
     std::function<void(const QModelIndex&, const QString&)> m_adVerildi;
 };
 
-constexpr int MalzemelerKaldıMetni = 2144;
 constexpr qsizetype EnÇokSayılanÜrün = 10;  // products that a message box names
 
 bool Aynı(const QString& a, const QString& b) {
@@ -181,13 +180,14 @@ void ÜrünAğacı::Adlandır(QTreeWidgetItem* düğüm, const QString& yeni) {
             AdıYerleştir(düğüm, gönderilen);
             break;
         case AdlandırmaSonucu::MalzemelerKaldı:
-            YarımKaldı(MalzemelerKaldıMetni, eski);
+            YarımKaldı(MetinNo::MalzemelerEskiAdda, eski);
             AdıYerleştir(düğüm, gönderilen);
             m_olaylar.SeçimiYükle();  // the materials on display are no longer the selected product's
             break;
         case AdlandırmaSonucu::Yinelenen:
             MesajKutusuOrtala();
-            MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(580));
+            MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam,
+                                Metin(MetinNo::ÜrünListedeVar));
             editItem(düğüm);
             break;
         case AdlandırmaSonucu::Değişmedi:
@@ -221,7 +221,7 @@ bool ÜrünAğacı::Birleşsin(const QTreeWidgetItem* grup, const QString& yeni)
         ortaklar.resize(EnÇokSayılanÜrün);
         ortaklar.append(QStringLiteral("..."));
     }
-    ortaklar.prepend(Metin(2134));
+    ortaklar.prepend(Metin(MetinNo::GrupBirleştirmeSorusu));
     return Sor(ortaklar.join(QLatin1Char('\n')));
 }
 

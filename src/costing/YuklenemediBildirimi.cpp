@@ -7,7 +7,7 @@
 #include "KomutDugmesi.h"
 #include "MetinTablosu.h"
 
-YüklenemediBildirimi::YüklenemediBildirimi(const QString& ad, int metin, int düğme,
+YüklenemediBildirimi::YüklenemediBildirimi(const QString& ad, MetinNo metin, MetinNo düğme,
                                            std::function<void()> yenidenYükle) {
     setObjectName(ad);
     setFrameShape(QFrame::StyledPanel);

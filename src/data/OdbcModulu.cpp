@@ -58,7 +58,7 @@ std::optional<bool> VeriKaynağıKayıtlı() {
     return false;
 }
 
-void BilgiKutusu(int metin) {
+void BilgiKutusu(MetinNo metin) {
     MesajKutusuOrtala();
     MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(metin));
 }
@@ -69,7 +69,7 @@ void HatalarıGöster(const QStringList& hatalar) {
     for (const QString& hata : hatalar) {
         MesajKutusuOrtala();
         MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam,
-                            hata.isEmpty() ? Metin(190) : hata, Metin(180));
+                            hata.isEmpty() ? Metin(MetinNo::OdbcHatasıOkunamadı) : hata, Metin(MetinNo::OdbcHatası));
     }
 }
 
@@ -82,7 +82,7 @@ bool SatırGetir() {
 }
 
 // Rows that ended before their end: what is missing, and the driver's reason.
-void YarımOkumayıGöster(int metin) {
+void YarımOkumayıGöster(MetinNo metin) {
     QStringList satırlar{Metin(metin)};
     if (Deyim.Tanıtıcı()) satırlar += OdbcHatalarınıAl(nullptr, Deyim.Tanıtıcı());
     Deyim.Bırak();
@@ -112,13 +112,13 @@ bool ODBCBağlan() {
     SonDönüşKodu = Bağlantı.OrtamAç();
     if (SonDönüşKodu != Başarı) {
         Bağlantı.Kapat();
-        BilgiKutusu(160);
+        BilgiKutusu(MetinNo::OdbcErişilemiyor);
         return false;
     }
     SonDönüşKodu = Bağlantı.BağlantıAç();
     if (SonDönüşKodu != Başarı) {
         Bağlantı.Kapat();
-        BilgiKutusu(170);
+        BilgiKutusu(MetinNo::BağlantıyaBellekYok);
         return false;
     }
     // What stands there already is not written again: the driver manager cuts the whole file and writes it anew.
@@ -164,7 +164,7 @@ QString SürücüKurulumHatası() {
     WORD uzunluk = 0;
     SQLInstallerError(1, &kod, ileti, sizeof ileti, &uzunluk);
     const QString metin = QString::fromUtf8(ileti);
-    return metin.isEmpty() ? Metin(190) : metin;
+    return metin.isEmpty() ? Metin(MetinNo::OdbcHatasıOkunamadı) : metin;
 }
 
 bool VeriDosyasıYoluSığıyor(const QString& yol) {
@@ -204,7 +204,7 @@ Okuma SatırlarıOku(const QString& deyim, const std::function<void()>& satır) 
     const auto koruma = qScopeGuard(DeyimiBırak);
     while (SatırGetir()) satır();
     if (SonDönüşKodu == SatırKalmadı) return Okuma::Tamam;
-    YarımOkumayıGöster(2132);
+    YarımOkumayıGöster(MetinNo::KayıtlarEksik);
     return Okuma::Eksik;
 }
 
@@ -216,7 +216,7 @@ Kayıt KaydıOku(const QString& deyim, const std::function<void()>& satır) {
     if (var && satır) satır();
     if (SonDönüşKodu == SatırKalmadı) return Kayıt::Yok;
     if (SonDönüşKodu == Başarı) return Kayıt::Var;
-    YarımOkumayıGöster(2133);
+    YarımOkumayıGöster(MetinNo::KayıtOkunamadı);
     return Kayıt::Okunamadı;
 }
 

@@ -24,11 +24,11 @@ YüklemeGösterFormu::YüklemeGösterFormu(QWidget* sahip)
     setModal(true);
     auto* altlık = new QWidget(this);
     altlık->setObjectName(QStringLiteral("Altlık"));
-    auto* etiket = new QLabel(Metin(870), altlık);
+    auto* etiket = new QLabel(Metin(MetinNo::Yükleniyor), altlık);
     etiket->setObjectName(QStringLiteral("Etiket"));
     m_ilerlemeÇubuğu = new QProgressBar(altlık);
     m_ilerlemeÇubuğu->setObjectName(QStringLiteral("İlerlemeÇubuğu"));
-    m_ilerlemeÇubuğu->setAccessibleName(Metin(870));
+    m_ilerlemeÇubuğu->setAccessibleName(Metin(MetinNo::Yükleniyor));
     m_ilerlemeÇubuğu->setMinimumWidth(320);
     auto* içDüzen = new QVBoxLayout(altlık);
     içDüzen->addWidget(etiket);

@@ -7,11 +7,7 @@
 #include "MetinTablosu.h"
 #include "TurkceMetin.h"
 
-namespace {
-
-constexpr int ÇokUzunMetni = 2143;
-
-}  // namespace
+namespace {}  // namespace
 
 DüzenlemeDenetçisi::DüzenlemeDenetçisi(QLineEdit* satır) : QValidator(satır), m_satır(satır) {
     satır->setValidator(this);
@@ -36,7 +32,7 @@ bool DüzenlemeDenetçisi::Sığar(qsizetype önceki, qsizetype sonraki) const {
     if (önceki < m_satır->maxLength() && sonraki <= m_enUzun) return true;
     const bool yapıştırıldı = önceki - m_kalan > 1;
     if (yapıştırıldı) {
-        const QString neden = Metin(ÇokUzunMetni).arg(m_enUzun);
+        const QString neden = Metin(MetinNo::MetinÇokUzun).arg(m_enUzun);
         QToolTip::showText(m_satır->mapToGlobal(QPoint(0, m_satır->height())), neden, m_satır);
     }
     return false;

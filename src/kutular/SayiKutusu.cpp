@@ -17,11 +17,6 @@
 
 namespace {
 
-constexpr int SayıDeğilMetni = 2111;
-constexpr int ÇokBüyükMetni = 2140;
-constexpr int ÇokBasamakMetni = 2141;
-constexpr int AlınmadıMetni = 2142;
-
 // No text that the program sets is longer (27 digits grouped, with decimals). What is longer is cut there and then
 // refused: so a huge paste costs no more than a small one.
 constexpr int EnUzunMetin = 64;
@@ -98,7 +93,8 @@ bool SayıKutusu::Denetle(QString& metin, int& imleç) {
     const QString ek = Ek(metin, imleç);
     m_alındı = ek.isEmpty() || KabulEdilir(metin, ek);
     // A key that does nothing explains itself; a paste that does nothing does not.
-    if (!m_alındı && ek.size() > 1) QToolTip::showText(mapToGlobal(QPoint(0, height())), Metin(AlınmadıMetni), this);
+    if (!m_alındı && ek.size() > 1)
+        QToolTip::showText(mapToGlobal(QPoint(0, height())), Metin(MetinNo::SayıAlınmadı), this);
     return m_alındı;
 }
 
@@ -128,7 +124,7 @@ bool SayıKutusu::Bitir() {
     if (biçimli) {
         setText(*biçimli);
     } else if (Yüzdeli()) {
-        Söyle(MesajKutusu::Simge::Kritik, Metin(SayıDeğilMetni));
+        Söyle(MesajKutusu::Simge::Kritik, Metin(MetinNo::SayıDeğil));
         return false;
     }
     return true;
@@ -136,7 +132,7 @@ bool SayıKutusu::Bitir() {
 
 bool SayıKutusu::Saklanır() {
     if (!SayıMı(text(), NoktaKuralı::Serbest)) {
-        Söyle(MesajKutusu::Simge::Kritik, Metin(SayıDeğilMetni));
+        Söyle(MesajKutusu::Simge::Kritik, Metin(MetinNo::SayıDeğil));
     } else {
         const QString neden = SığmamaNedeni();
         if (neden.isEmpty()) return true;
@@ -160,8 +156,8 @@ QString SayıKutusu::SığmamaNedeni() const {
     const Para enBüyük = EnBüyük();
     const auto sayı = ParaOku(text());
     if (!sayı || *sayı > enBüyük || *sayı < Para::OnBindeBirden(-enBüyük.OnBindeBir()))
-        return Metin(ÇokBüyükMetni) + QLatin1Char(' ') + SayıBiçimle(enBüyük, m_tür == Tür::Tutar ? 4 : 0);
-    if (m_tür == Tür::Miktar && !DoubleSaklar(text())) return Metin(ÇokBasamakMetni);
+        return Metin(MetinNo::SayıÇokBüyük) + QLatin1Char(' ') + SayıBiçimle(enBüyük, m_tür == Tür::Tutar ? 4 : 0);
+    if (m_tür == Tür::Miktar && !DoubleSaklar(text())) return Metin(MetinNo::BasamakÇokFazla);
     return {};
 }
 

@@ -5,12 +5,14 @@
 
 #include "TekSecimli.h"
 
+enum class MetinNo : int;
+
 // A list of rows with columns. Each column's width is the list's own width divided by the column's divisor, also after
 // resizing; figures stand at the right; the first row is current once rows are put in.
 class SütunluListe : public TekSeçimli<QTreeWidget> {
   public:
     struct Sütun {
-        int Başlık;           // number of the header's text
+        MetinNo Başlık;
         double Bölen;         // list width / Bölen = column width
         bool Sayı;            // figures: right-aligned
         bool Miktar = false;  // figures with their unit: left-aligned

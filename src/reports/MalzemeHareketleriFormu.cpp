@@ -35,12 +35,16 @@ Okuma GününSatırları(const QString& tarih, QList<QTreeWidgetItem*>& satırla
 MalzemeHareketleriFormu::MalzemeHareketleriFormu(QWidget* sahip)
     : RaporFormu({QStringLiteral("MalzemeHareketleriFormu"),
                   QStringLiteral("MalzemeHareketleriListesi"),
-                  886,
-                  888,
-                  {{414, 4, false}, {412, 6, true}, {416, 6, true}, {418, 5.5, true}, {890, 5.5, false}},
+                  MetinNo::HareketlerFormuBaşlığı,
+                  MetinNo::TarihliHareketler,
+                  {{MetinNo::AdıSütunu, 4, false},
+                   {MetinNo::MiktarıSütunu, 6, true},
+                   {MetinNo::FiyatıSütunu, 6, true},
+                   {MetinNo::TutarıSütunu, 5.5, true},
+                   {MetinNo::KullanıldığıÜrünSütunu, 5.5, false}},
                   MalzemeHareketleriniYaz},
                  sahip) {
-    BaşaDüğmeKoy(QStringLiteral("TarihDeğiştirButonu"), 892, [this] {
+    BaşaDüğmeKoy(QStringLiteral("TarihDeğiştirButonu"), MetinNo::TarihDeğiştir, [this] {
         TarihDeğiştirFormu(this).exec();
         PencereKapandı();
     });
@@ -69,7 +73,7 @@ void MalzemeHareketleriFormu::ListeyiYükle() {
     Liste().clear();
     // The cleared list is drawn at once, without running other events in the middle of the load.
     Liste().viewport()->repaint();
-    Çerçeve().setTitle(HareketTarihi.toString(QStringLiteral("(dd.MM.yyyy) ")) + Metin(888));
+    Çerçeve().setTitle(HareketTarihi.toString(QStringLiteral("(dd.MM.yyyy) ")) + Metin(MetinNo::TarihliHareketler));
     QList<QTreeWidgetItem*> satırlar;
     const Okuma okuma = GününSatırları(HareketTarihiSQL, satırlar);
     SatırlarıGöster(satırlar, okuma);

@@ -2,6 +2,7 @@
 
 #include "DegiskenModulu.h"
 #include "Deyimler.h"
+#include "MetinTablosu.h"
 #include "OdbcModulu.h"
 #include "RaporCiktilari.h"
 #include "SutunluSatir.h"
@@ -11,9 +12,9 @@
 MalzemeListesiFormu::MalzemeListesiFormu(QWidget* sahip)
     : RaporFormu({QStringLiteral("MalzemeListesiFormu"),
                   QStringLiteral("MalzemeListesi"),
-                  1010,
-                  610,
-                  {{414, 1.5, false}, {416, 3.8, true}},
+                  MetinNo::MalzemeListesiBaşlığı,
+                  MetinNo::MalzemeListesiEtiketi,
+                  {{MetinNo::AdıSütunu, 1.5, false}, {MetinNo::FiyatıSütunu, 3.8, true}},
                   MalzemeListesiniYaz},
                  sahip) {}
 

@@ -30,24 +30,24 @@ RaporFormu::RaporFormu(const Tanım& tanım, QWidget* sahip) : QDialog(sahip), m
 }
 
 void RaporFormu::DüğmeleriKur() {
-    m_yazdır = DüğmeOluştur(QStringLiteral("YazdırButonu"), 335, [this] {
+    m_yazdır = DüğmeOluştur(QStringLiteral("YazdırButonu"), MetinNo::Yazdır, [this] {
         if (!Yazdır(*this, *m_yazdır, Rapor())) PencereKapandı();
     });
-    m_pdfKaydet = DüğmeOluştur(QStringLiteral("PdfKaydetButonu"), 2300, [this] {
+    m_pdfKaydet = DüğmeOluştur(QStringLiteral("PdfKaydetButonu"), MetinNo::PdfKaydet, [this] {
         PdfKaydet(*this, *m_pdfKaydet, Rapor());
         PencereKapandı();
     });
-    m_önizle = DüğmeOluştur(QStringLiteral("ÖnizlemeButonu"), 2301, [this] {
+    m_önizle = DüğmeOluştur(QStringLiteral("ÖnizlemeButonu"), MetinNo::Önizleme, [this] {
         Önizle(*this, Rapor());
         PencereKapandı();
     });
     m_düğmeler = new QHBoxLayout;
     for (KomutDüğmesi* düğme : {m_yazdır, m_pdfKaydet, m_önizle}) m_düğmeler->addWidget(düğme);
     m_düğmeler->addStretch();
-    m_düğmeler->addWidget(DüğmeOluştur(QStringLiteral("KapatButonu"), 510, [this] { reject(); }));
+    m_düğmeler->addWidget(DüğmeOluştur(QStringLiteral("KapatButonu"), MetinNo::Kapat, [this] { reject(); }));
 }
 
-void RaporFormu::BaşaDüğmeKoy(const QString& ad, int metin, std::function<void()> komut) {
+void RaporFormu::BaşaDüğmeKoy(const QString& ad, MetinNo metin, std::function<void()> komut) {
     KomutDüğmesi* düğme = DüğmeOluştur(ad, metin, std::move(komut));
     m_düğmeler->insertWidget(0, düğme);
     SekmeSırasınıKur();
@@ -75,7 +75,7 @@ void RaporFormu::OdağıBaşaAl() {
     baş->setFocus();
 }
 
-KomutDüğmesi* RaporFormu::DüğmeOluştur(const QString& ad, int metin, std::function<void()> komut) {
+KomutDüğmesi* RaporFormu::DüğmeOluştur(const QString& ad, MetinNo metin, std::function<void()> komut) {
     auto* düğme = new KomutDüğmesi(Metin(metin), this);
     düğme->setObjectName(ad);
     connect(düğme, &QPushButton::clicked, this, [komut = std::move(komut)] { HataYakala(komut); });

@@ -9,6 +9,7 @@
 #include "SutunluListe.h"
 #include "Yazdirma.h"
 
+enum class MetinNo : int;
 class KomutDüğmesi;
 class QGroupBox;
 class QHBoxLayout;
@@ -23,8 +24,8 @@ class RaporFormu : public QDialog {
     struct Tanım {
         QString Ad;  // object names
         QString ListeAdı;
-        int Başlık;          // number of the form's caption
-        int ÇerçeveBaşlığı;  // number of the frame's caption
+        MetinNo Başlık;          // the form's caption
+        MetinNo ÇerçeveBaşlığı;  // the frame's
         QList<SütunluListe::Sütun> Sütunlar;
         Çıktı Yaz;
     };
@@ -44,13 +45,13 @@ class RaporFormu : public QDialog {
     void SatırlarıGöster(const QList<QTreeWidgetItem*>& satırlar, Okuma okuma);
 
     // A button that runs a command, put at the front of the form's row of buttons.
-    void BaşaDüğmeKoy(const QString& ad, int metin, std::function<void()> komut);
+    void BaşaDüğmeKoy(const QString& ad, MetinNo metin, std::function<void()> komut);
 
     SütunluListe& Liste() const { return *m_liste; }
     QGroupBox& Çerçeve() const { return *m_çerçeve; }
 
   private:
-    KomutDüğmesi* DüğmeOluştur(const QString& ad, int metin, std::function<void()> komut);
+    KomutDüğmesi* DüğmeOluştur(const QString& ad, MetinNo metin, std::function<void()> komut);
     void DüğmeleriKur();
     void SekmeSırasınıKur();
     void EtkinliğiAyarla();

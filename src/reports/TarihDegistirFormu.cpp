@@ -16,7 +16,7 @@
 
 namespace {
 
-KomutDüğmesi* DüğmeOluştur(const QString& ad, int metin) {
+KomutDüğmesi* DüğmeOluştur(const QString& ad, MetinNo metin) {
     auto* düğme = new KomutDüğmesi(Metin(metin));
     düğme->setObjectName(ad);
     return düğme;
@@ -26,7 +26,7 @@ KomutDüğmesi* DüğmeOluştur(const QString& ad, int metin) {
 
 TarihDeğiştirFormu::TarihDeğiştirFormu(QWidget* sahip) : QDialog(sahip) {
     setObjectName(QStringLiteral("TarihDeğiştirFormu"));
-    setWindowTitle(Metin(894));
+    setWindowTitle(Metin(MetinNo::TarihFormuBaşlığı));
     auto* altlık = new QWidget;
     altlık->setObjectName(QStringLiteral("Altlık"));
     altlık->setBackgroundRole(QPalette::Window);
@@ -35,8 +35,8 @@ TarihDeğiştirFormu::TarihDeğiştirFormu(QWidget* sahip) : QDialog(sahip) {
     düzen->setContentsMargins(0, 0, 0, 0);
     düzen->addWidget(altlık);
 
-    KomutDüğmesi* tamam = DüğmeOluştur(QStringLiteral("TamamButonu"), 505);
-    KomutDüğmesi* iptal = DüğmeOluştur(QStringLiteral("İptalButonu"), 530);
+    KomutDüğmesi* tamam = DüğmeOluştur(QStringLiteral("TamamButonu"), MetinNo::TamamDüğmesi);
+    KomutDüğmesi* iptal = DüğmeOluştur(QStringLiteral("İptalButonu"), MetinNo::İptal);
     connect(tamam, &QPushButton::clicked, this, [this] { accept(); });
     connect(iptal, &QPushButton::clicked, this, [this] { reject(); });
     auto* düğmeler = new QHBoxLayout;
@@ -53,14 +53,14 @@ QWidget* TarihDeğiştirFormu::ÇerçeveOluştur() {
     auto* çerçeve = new QFrame;
     çerçeve->setObjectName(QStringLiteral("Çerçeve"));
     çerçeve->setFrameShape(QFrame::StyledPanel);
-    auto* etiket = new QLabel(Metin(896));
+    auto* etiket = new QLabel(Metin(MetinNo::TarihSeç));
     etiket->setObjectName(QStringLiteral("Etiket"));
 
     // Days and months read Turkish whatever the system's language.
     const QLocale türkçe(QLocale::Turkish, QLocale::Turkey);
     m_tarih = new TarihKutusu;
     m_tarih->setObjectName(QStringLiteral("TarihKutusu"));
-    m_tarih->setAccessibleName(Metin(896));
+    m_tarih->setAccessibleName(Metin(MetinNo::TarihSeç));
     m_tarih->setLocale(türkçe);
     m_tarih->calendarWidget()->setLocale(türkçe);
     m_tarih->calendarWidget()->setFirstDayOfWeek(Qt::Monday);
@@ -77,7 +77,7 @@ void TarihDeğiştirFormu::accept() {
     const std::optional<QDate> seçilen = m_tarih->YazılanTarih();
     if (!seçilen) {
         MesajKutusuOrtala();
-        MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(2310));
+        MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(MetinNo::TarihGeçersiz));
         m_tarih->setFocus();
         return;
     }

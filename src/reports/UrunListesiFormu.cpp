@@ -1,6 +1,7 @@
 #include "UrunListesiFormu.h"
 
 #include "Deyimler.h"
+#include "MetinTablosu.h"
 #include "OdbcModulu.h"
 #include "RaporCiktilari.h"
 #include "YuklemeGosterFormu.h"
@@ -8,9 +9,9 @@
 ÜrünListesiFormu::ÜrünListesiFormu(QWidget* sahip)
     : RaporFormu({QStringLiteral("ÜrünListesiFormu"),
                   QStringLiteral("ÜrünListesi"),
-                  1020,
-                  300,
-                  {{1030, 2, false}, {414, 2.3, false}},
+                  MetinNo::ÜrünListesiRaporBaşlığı,
+                  MetinNo::ÜrünListesiBaşlığı,
+                  {{MetinNo::GrubuSütunu, 2, false}, {MetinNo::AdıSütunu, 2.3, false}},
                   ÜrünListesiniYaz},
                  sahip) {}
 

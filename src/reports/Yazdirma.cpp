@@ -95,14 +95,15 @@ QString DosyaAdı(QString ad) {
 
 bool ÜzerineYazılsınMı(const QString& yol) {
     MesajKutusuOrtala();
-    return MesajKutusu::Göster(Simge::Soru, Düğmeler::EvetHayır, Metin(2304) + QLatin1Char('\n') + yol, {},
+    return MesajKutusu::Göster(Simge::Soru, Düğmeler::EvetHayır,
+                               Metin(MetinNo::ÜzerineYazmaSorusu) + QLatin1Char('\n') + yol, {},
                                Yanıt::Hayır) == Yanıt::Evet;
 }
 
 // The file that the user chooses; empty: none.
 QString DosyaSor(QWidget& form, const QString& ad) {
     static QString klasör = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    QFileDialog kutu(&form, Metin(2302), klasör, Metin(2303));
+    QFileDialog kutu(&form, Metin(MetinNo::PdfFormuBaşlığı), klasör, Metin(MetinNo::PdfSüzgeci));
     kutu.setObjectName(QStringLiteral("PdfDosyasıFormu"));
     kutu.setAcceptMode(QFileDialog::AcceptSave);
     kutu.setDefaultSuffix(QStringLiteral("pdf"));
@@ -122,7 +123,7 @@ QString DosyaSor(QWidget& form, const QString& ad) {
 bool Yazdır(QWidget& form, QAbstractButton& düğme, const Yazdırılacak& iş) {
     if (!YazıcıVar) {
         MesajKutusuOrtala();
-        MesajKutusu::Göster(Simge::Kritik, Düğmeler::Tamam, Metin(337));
+        MesajKutusu::Göster(Simge::Kritik, Düğmeler::Tamam, Metin(MetinNo::YazıcıYok));
         return false;
     }
     const YazdırmaDurumu durum(form, düğme);
@@ -140,7 +141,7 @@ void PdfKaydet(QWidget& form, QAbstractButton& düğme, const Yazdırılacak& i�
     }
     if (yazıldı) return;
     MesajKutusuOrtala();
-    MesajKutusu::Göster(Simge::Kritik, Düğmeler::Tamam, Metin(2305) + QLatin1Char('\n') + yol);
+    MesajKutusu::Göster(Simge::Kritik, Düğmeler::Tamam, Metin(MetinNo::PdfYazılamadı) + QLatin1Char('\n') + yol);
 }
 
 void Önizle(QWidget& form, const Yazdırılacak& iş) {
@@ -153,7 +154,7 @@ void Önizle(QWidget& form, const Yazdırılacak& iş) {
     yazıcı->setDocName(iş.Ad);
     QPrintPreviewDialog kutu(yazıcı.get(), &form);
     kutu.setObjectName(QStringLiteral("ÖnizlemeFormu"));
-    kutu.setWindowTitle(Metin(2306));
+    kutu.setWindowTitle(Metin(MetinNo::ÖnizlemeBaşlığı));
     QObject::connect(&kutu, &QPrintPreviewDialog::paintRequested, &kutu, [&iş](QPrinter* sayfalar) {
         AygıtYüzeyi yüzey(*sayfalar);
         iş.Yaz(yüzey);

@@ -4,11 +4,12 @@
 #include "MetinTablosu.h"
 #include "SurumKaydi.h"
 
-HakkındaFormu::HakkındaFormu(QWidget* sahip) : KabukFormu(QStringLiteral("HakkındaFormu"), Metin(1000), sahip) {
+HakkındaFormu::HakkındaFormu(QWidget* sahip)
+    : KabukFormu(QStringLiteral("HakkındaFormu"), Metin(MetinNo::HakkındaBaşlığı), sahip) {
     BaşlıkEkle(Sürüm().Başlık());
     EtiketEkle(Sürüm().SürümMetni());
     EtiketEkle(Sürüm().YasalUyarı);
-    BağlantıEkle(Metin(2201), SiteAdresi());
-    BağlantıEkle(Metin(2202), PostaAdresi());
+    BağlantıEkle(Metin(MetinNo::SiteBağlantısı), SiteAdresi());
+    BağlantıEkle(Metin(MetinNo::PostaBağlantısı), PostaAdresi());
     TamamEkle();
 }

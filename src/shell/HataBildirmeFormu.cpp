@@ -4,10 +4,10 @@
 #include "MetinTablosu.h"
 
 HataBildirmeFormu::HataBildirmeFormu(QWidget* sahip)
-    : KabukFormu(QStringLiteral("HataBildirmeFormu"), Metin(955), sahip) {
-    BaşlıkEkle(Metin(960));
-    EtiketEkle(Metin(970));
-    BağlantıEkle(Metin(2203), MesajSayfasıAdresi());
-    BağlantıEkle(Metin(2202), PostaAdresi());
+    : KabukFormu(QStringLiteral("HataBildirmeFormu"), Metin(MetinNo::HataBildirmeBaşlığı), sahip) {
+    BaşlıkEkle(Metin(MetinNo::HatalarıBildirin));
+    EtiketEkle(Metin(MetinNo::HataBildirmeAçıklaması));
+    BağlantıEkle(Metin(MetinNo::MesajSayfasıBağlantısı), MesajSayfasıAdresi());
+    BağlantıEkle(Metin(MetinNo::PostaBağlantısı), PostaAdresi());
     TamamEkle();
 }

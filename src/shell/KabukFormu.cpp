@@ -30,7 +30,7 @@ KabukFormu::KabukFormu(const QString& ad, const QString& başlık, QWidget* sahi
     auto* simge = new QLabel(m_altlık);
     simge->setObjectName(QStringLiteral("Simge"));
     simge->setPixmap(ProgramSimgesi().pixmap(QSize(SimgeBoyu, SimgeBoyu), devicePixelRatio()));
-    simge->setAccessibleName(Metin(2200));
+    simge->setAccessibleName(Metin(MetinNo::ProgramınSimgesi));
     simge->setAttribute(Qt::WA_TransparentForMouseEvents);
 
     auto* üst = new QHBoxLayout;
@@ -86,7 +86,7 @@ void KabukFormu::BağlantıEkle(const QString& caption, const QString& adres) {
 }
 
 void KabukFormu::TamamEkle() {
-    auto* tamam = new KomutDüğmesi(Metin(505), m_altlık);
+    auto* tamam = new KomutDüğmesi(Metin(MetinNo::TamamDüğmesi), m_altlık);
     tamam->setObjectName(QStringLiteral("TamamButonu"));
     connect(tamam, &QPushButton::clicked, this, [this] { close(); });
     m_düzen->addWidget(tamam, 0, Qt::AlignRight);

@@ -46,7 +46,7 @@ void YardımıAç(const QWidget* öndeki, const QString& programKlasörü) {
     const QString klasör = KılavuzKlasörü(programKlasörü);
     if (klasör.isEmpty()) {
         MesajKutusuOrtala();
-        MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(2204));
+        MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(MetinNo::KılavuzYok));
         return;
     }
     AdresAç(QUrl::fromLocalFile(klasör + QLatin1Char('/') + KılavuzSayfası(klasör, öndeki)));

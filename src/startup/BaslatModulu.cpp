@@ -22,11 +22,11 @@ constexpr int EN_DAR_EKRAN = 12000;  // twips
 constexpr int PİKSELDEKİ_TWIP = 15;
 constexpr unsigned SINIR_SÜRÜM = 4;  // the one whose service pack counts
 
-void Bildir(int metin) {
+void Bildir(MetinNo metin) {
     MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam, Metin(metin));
 }
 
-void YoluylaBildir(int metin, const QString& yol) {
+void YoluylaBildir(MetinNo metin, const QString& yol) {
     MesajKutusuOrtala();
     MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam,
                         Metin(metin) + QLatin1Char('\n') + yol);
@@ -36,13 +36,13 @@ bool WindowsSürümünüDenetle(const BaşlatmaBağları& bağlar) {
     SistemSürümü sürüm{};
     if (!bağlar.SürümAl(sürüm)) {
         MesajKutusuOrtala();
-        Bildir(10);
+        Bildir(MetinNo::SürümOkunamadı);
         return false;
     }
     NTTabanlı = sürüm.PlatformKimliği == NT_PLATFORMU;
     if (!SürümYeterli(sürüm)) {
         MesajKutusuOrtala();
-        Bildir(20);
+        Bildir(MetinNo::SürümYetersiz);
         return false;
     }
     return true;
@@ -86,11 +86,11 @@ bool VeriDosyasınıAl(TekKopya& kopya, const QString& programKlasörü) {
     KlasörYap(UygulamaYolu);  // the launcher's, where it has never been or is lost; the backup goes there as well
     const QString dosya = UygulamaYolu + QStringLiteral("Varnek.vtb");
     if (!kopya.VeriyiKilitle(dosya)) {
-        YoluylaBildir(2152, dosya);
+        YoluylaBildir(MetinNo::VeriBaşkaKopyada, dosya);
         return false;
     }
     if (ilk && !İlkDosyayıKoy(programKlasörü)) {
-        YoluylaBildir(2154, UygulamaYolu);
+        YoluylaBildir(MetinNo::İlkDosyaOluşturulamadı, UygulamaYolu);
         return false;
     }
     return true;
@@ -103,7 +103,7 @@ BaşlatmaSonucu Main(TekKopya& kopya, const BaşlatmaBağları& bağlar) {
     UygulamaBaşlığı = Sürüm().Başlık();
     if (!kopya.Başla(UygulamaBaşlığı)) return BaşlatmaSonucu::BaşkaKopyaVar;
     if (!EkranYeterli(bağlar.EkranGenişliğiAl())) {
-        Bildir(100);
+        Bildir(MetinNo::EkranDar);
         return BaşlatmaSonucu::Başlayamadı;
     }
     KarşılamaFormu karşılama;

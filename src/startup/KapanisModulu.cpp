@@ -45,7 +45,7 @@ class OturumDinleyicisi : public QObject {
 bool ÇıkışıYürüt(bool simgeDurumunda, QPoint solÜst) {
     if (!simgeDurumunda) MesajKutusuOrtala();
     const MesajKutusu::Yanıt yanıt =
-        MesajKutusu::Göster(MesajKutusu::Simge::Soru, MesajKutusu::Düğmeler::EvetHayır, Metin(60));
+        MesajKutusu::Göster(MesajKutusu::Simge::Soru, MesajKutusu::Düğmeler::EvetHayır, Metin(MetinNo::ÇıkışSorusu));
     if (yanıt != MesajKutusu::Yanıt::Evet) return false;
     Kapan(simgeDurumunda, solÜst);
     return true;

@@ -22,7 +22,7 @@ void KutuGöster(MesajKutusu::Simge simge, const QString& metin) {
     MesajKutusu::Göster(simge, MesajKutusu::Düğmeler::Tamam, metin);
 }
 
-void KutuGöster(MesajKutusu::Simge simge, int metin, const QString& yol) {
+void KutuGöster(MesajKutusu::Simge simge, MetinNo metin, const QString& yol) {
     KutuGöster(simge, Metin(metin) + QLatin1Char('\n') + yol);
 }
 
@@ -37,13 +37,13 @@ void GündeBirUyar(const QString& metin) {
 }
 
 QString YedekAlınamadıMetni(const VeriYolları& yollar, const QString& neden) {
-    return Metin(2150).arg(neden, yollar.Dosya, yollar.Yedek);
+    return Metin(MetinNo::YedekAlınamadı).arg(neden, yollar.Dosya, yollar.Yedek);
 }
 
 // With the way back to the last backup, where there is one.
 void YedekAlınamadı(const VeriYolları& yollar, const QString& neden) {
     QString metin = YedekAlınamadıMetni(yollar, neden);
-    if (DosyaVar(yollar.Yedek)) metin += QStringLiteral("\n\n") + Metin(2151);
+    if (DosyaVar(yollar.Yedek)) metin += QStringLiteral("\n\n") + Metin(MetinNo::SonYedekDuruyor);
     GündeBirUyar(metin);
 }
 
@@ -55,7 +55,7 @@ bool SıkıştırmaGünü(const VeriYolları& yollar) {
 // between two files, but not out of one. If that second step fails, nothing is lost and the next start tries again.
 void Sıkıştır(const VeriYolları& yollar) {
     if (!VeriDosyasıYoluSığıyor(yollar.GerçekYedek)) {
-        YedekAlınamadı(yollar, Metin(2161));
+        YedekAlınamadı(yollar, Metin(MetinNo::YedekYoluUzun));
         return;
     }
     const QString dosya = KısaYolAl(yollar.GerçekDosya);
@@ -69,7 +69,7 @@ void Sıkıştır(const VeriYolları& yollar) {
 
 void Yedekle(const VeriYolları& yollar, bool yedekKlasörüVar) {
     if (!yedekKlasörüVar) {
-        GündeBirUyar(Metin(2123) + QLatin1Char('\n') + yollar.YedekKlasörü);
+        GündeBirUyar(Metin(MetinNo::YedekKlasörüYok) + QLatin1Char('\n') + yollar.YedekKlasörü);
     } else if (SıkıştırmaGünü(yollar)) {
         Sıkıştır(yollar);
     }
@@ -78,16 +78,16 @@ void Yedekle(const VeriYolları& yollar, bool yedekKlasörüVar) {
 // What has to be right before the data file is touched.
 bool YerlerUygun(const VeriYolları& yollar) {
     if (!DosyaVar(yollar.Dosya) && !DosyaVar(yollar.Yedek)) {
-        KutuGöster(MesajKutusu::Simge::Kritik, Metin(150));
+        KutuGöster(MesajKutusu::Simge::Kritik, Metin(MetinNo::VeriDosyasıYok));
         return false;
     }
     // Every statement needs to write beside the data file.
     if (!KlasöreYazılabilir(UygulamaYolu)) {
-        KutuGöster(MesajKutusu::Simge::Kritik, 2120, UygulamaYolu);
+        KutuGöster(MesajKutusu::Simge::Kritik, MetinNo::KlasöreYazılamıyor, UygulamaYolu);
         return false;
     }
     if (!VeriDosyasıYoluSığıyor(yollar.GerçekDosya)) {
-        KutuGöster(MesajKutusu::Simge::Kritik, 2160, UygulamaYolu);
+        KutuGöster(MesajKutusu::Simge::Kritik, MetinNo::VeriYoluUzun, UygulamaYolu);
         return false;
     }
     return true;
@@ -118,6 +118,6 @@ bool VeritabanınıHazırla() {
         case BoşDosyaSonucu::Bitir:
             return false;
     }
-    if (!DosyayaYazılabilir(yollar.Dosya)) KutuGöster(MesajKutusu::Simge::Ünlem, 2153, yollar.Dosya);
+    if (!DosyayaYazılabilir(yollar.Dosya)) KutuGöster(MesajKutusu::Simge::Ünlem, MetinNo::VeriSaltOkunur, yollar.Dosya);
     return ODBCBağlan();
 }

@@ -17,18 +17,18 @@ namespace {
 
 constexpr std::int16_t SIKIŞTIRILDI = 1;
 
-void Bildir(MesajKutusu::Simge simge, int metin, const QString& yol) {
+void Bildir(MesajKutusu::Simge simge, MetinNo metin, const QString& yol) {
     MesajKutusuOrtala();
     MesajKutusu::Göster(simge, MesajKutusu::Düğmeler::Tamam, Metin(metin) + QLatin1Char('\n') + yol);
 }
 
 // The texts that name what went wrong, with the data file missing or empty.
 struct Metinler {
-    int Kopyalanamadı;
-    int ZararGörmüş;
+    MetinNo Kopyalanamadı;
+    MetinNo ZararGörmüş;
 };
-constexpr Metinler EKSİKTE{2121, 2122};
-constexpr Metinler BOŞTA{2158, 2157};
+constexpr Metinler EKSİKTE{MetinNo::YedekGeriYüklenemedi, MetinNo::YedekZararGörmüş};
+constexpr Metinler BOŞTA{MetinNo::BoştaYedekGeriYüklenemedi, MetinNo::BoştaYedekZararGörmüş};
 
 enum class Sağlamlık { Sağlam, Bozuk, YerYok };
 
@@ -93,8 +93,9 @@ SaklamaAdları AdlarıBul(const VeriYolları& yollar) {
 
 bool GeriYüklensinMi(const VeriYolları& yollar, const SaklamaAdları& adlar) {
     const QString gün = QFileInfo(yollar.Yedek).lastModified().date().toString(QStringLiteral("dd.MM.yyyy"));
-    return Sor(Metin(2155).arg(gün, yollar.Dosya, yollar.Yedek, QFileInfo(adlar.BoşDosya).fileName(),
-                               QFileInfo(adlar.Yedek).fileName()));
+    return Sor(Metin(MetinNo::YedekGeriYüklemeSorusu)
+                   .arg(gün, yollar.Dosya, yollar.Yedek, QFileInfo(adlar.BoşDosya).fileName(),
+                        QFileInfo(adlar.Yedek).fileName()));
 }
 
 bool Sakla(const QString& dosya, const QString& ad) {
@@ -133,11 +134,13 @@ BoşDosyaSonucu BoşDosyayıGözet(const VeriYolları& yollar, QString& neden) {
     if (yedek.Durum == DosyaDurumu::Boş) return BoşDosyaSonucu::Sorunsuz;
     if (yedek.Durum != DosyaDurumu::Dolu) {
         // The driver's words for damage advise to restore the backup.
-        neden = yedek.Durum == DosyaDurumu::Bozuk ? Metin(2162) : Metin(2159).arg(yedek.Hatalar.value(0));
+        neden = yedek.Durum == DosyaDurumu::Bozuk ? Metin(MetinNo::BoştaYedekBozuk)
+                                                  : Metin(MetinNo::BoştaYedekOkunamıyor).arg(yedek.Hatalar.value(0));
         return BoşDosyaSonucu::YedekOkunamıyor;
     }
     const SaklamaAdları adlar = AdlarıBul(yollar);
     if (GeriYüklensinMi(yollar, adlar)) return YedeğiYeğle(yollar, adlar);
-    if (!Sakla(yollar.Yedek, adlar.Yedek)) Bildir(MesajKutusu::Simge::Ünlem, 2156, yollar.Yedek);
+    if (!Sakla(yollar.Yedek, adlar.Yedek))
+        Bildir(MesajKutusu::Simge::Ünlem, MetinNo::YedeğinEşiSaklanamadı, yollar.Yedek);
     return BoşDosyaSonucu::YedekKorunur;
 }

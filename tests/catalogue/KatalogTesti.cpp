@@ -82,7 +82,8 @@ QString KatalogTesti::Oku(const char* sql) {
 void KatalogTesti::Beklenen(Simge simge, int metin, Yanıt yanıt, std::function<void()> kutuAçıkken) {
     Kutular().Yanıtla(yanıt, [simge, metin, kutuAçıkken](const MesajKutusu::İstek& kutu) {
         EXPECT_EQ(kutu.simge, simge);
-        EXPECT_TRUE(kutu.ortala && kutu.metin.startsWith(Metin(metin))) << kutu.metin.toStdString();
+        EXPECT_TRUE(kutu.ortala && kutu.metin.startsWith(Metin(static_cast<MetinNo>(metin))))
+            << kutu.metin.toStdString();
         const bool tekDüğme = kutu.düğmeler == MesajKutusu::Düğmeler::Tamam;
         EXPECT_EQ(kutu.varsayılan, tekDüğme ? Yanıt::Tamam : metin == 720 ? Yanıt::Hayır : Yanıt::Evet);
         if (kutuAçıkken) kutuAçıkken();

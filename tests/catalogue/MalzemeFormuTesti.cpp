@@ -83,7 +83,7 @@ TEST_F(MalzemeFormu, EklemeDenetlerKaydederVeSırayaKoyar) {
     Yaz("MalzemeFiyatıKutusu", "922337203685478");
     Kutular().Yanıtla(Yanıt::Tamam);
     Tıkla("MalzemeEkleKaydetButonu");
-    Kutular().TekKutu(Simge::Bilgi, Metin(2140) + QStringLiteral(" 922.337.203.685.477,5807"));
+    Kutular().TekKutu(Simge::Bilgi, Metin(MetinNo::SayıÇokBüyük) + QStringLiteral(" 922.337.203.685.477,5807"));
     EXPECT_EQ(Görünen(), "Abanoz Cam|922.337.203.685.478,00");
     Yaz("MalzemeAdıKutusu", "boya 1. sınıf");
     Yaz("MalzemeFiyatıKutusu", "1250,125");

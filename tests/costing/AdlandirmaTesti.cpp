@@ -65,7 +65,7 @@ TEST_F(Adlandırma, ÜrünVeMalzemeleriYeniAdıAlır) {
 TEST_F(Adlandırma, GrubunBaşkaÜrünündekiAdıReddeder) {
     Kutular().Yanıtla(Yanıt::Tamam, [this](const auto&) { EXPECT_EQ(Düzenleyici(), nullptr) << "editor still open"; });
     Adlandır(Düğüm("MASA", "Sehpa"), "yemek masası");
-    Kutular().TekKutu(Simge::Bilgi, Metin(580));
+    Kutular().TekKutu(Simge::Bilgi, Metin(MetinNo::ÜrünListedeVar));
     ASSERT_NE(Düzenleyici(), nullptr);  // the name can be typed again
     EXPECT_EQ(Düzenleyici()->text(), "Sehpa");
     QTest::keyClick(Düzenleyici(), Qt::Key_Escape);  // closes the editor, not the form
@@ -81,7 +81,7 @@ TEST_F(Adlandırma, BoşVeTırnaklıAdEskiAdıBırakır) {
         Kutular().Yanıtla(Yanıt::Tamam);
         Adlandır(Düğüm("SANDALYE"), yeni);
     }
-    for (const auto& kutu : Kutular().Al()) EXPECT_EQ(kutu.başlık, Metin(180));
+    for (const auto& kutu : Kutular().Al()) EXPECT_EQ(kutu.başlık, Metin(MetinNo::OdbcHatası));
     EXPECT_EQ(Düğümler(), QStringList({"MASA", " Sehpa", " Yemek Masası", "SANDALYE", " Tabure"}));
     EXPECT_EQ(Ürünler(), QStringList({"MASA/Sehpa", "MASA/Yemek Masası", "SANDALYE/Tabure"}));
 }
@@ -118,7 +118,7 @@ TEST_F(Adlandırma, İkiÜrünüBirEdecekBirleşmeyiSorar) {
     Aç();
     Kutular().Yanıtla(Yanıt::Hayır);
     Adlandır(Düğüm("SANDALYE"), "Masa");
-    Kutular().TekKutu(Simge::Soru, Metin(2134) + "\nSehpa");
+    Kutular().TekKutu(Simge::Soru, Metin(MetinNo::GrupBirleştirmeSorusu) + "\nSehpa");
     EXPECT_EQ(Ürünler(), QStringList({"MASA/Sehpa", "MASA/Yemek Masası", "SANDALYE/SEHPA", "SANDALYE/Tabure"}));
     Kutular().Yanıtla(Yanıt::Evet);
     Adlandır(Düğüm("SANDALYE"), "Masa");

@@ -78,7 +78,7 @@ TEST_F(AnaFormu, TutarlarıToplarOkunamayanıSöyler) {
     Aç();
     Kutular().Yanıtla(Yanıt::Tamam);
     ÜrünSeç("MASA", "Sehpa");
-    Kutular().TekKutu(Simge::Kritik, Metin(2130) + "\n12.5 Adet Boya");
+    Kutular().TekKutu(Simge::Kritik, Metin(MetinNo::SayılmayanMalzemeler) + "\n12.5 Adet Boya");
     EXPECT_EQ(Satırlar().mid(0, 2), QStringList({"12.5 Adet|Boya|100,00|0,00", "1,00 Adet|C|0,34|0,34"}));
     EXPECT_EQ(Maliyet(), "1,01 0,00 0,00 0,00 0,00 1,01");
 }
@@ -217,20 +217,20 @@ TEST_F(AnaFormu, YalnızDiğerMaliyetEksiOlabilir) {
     EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "1.030,00");  // counts 0
     Kutular().Yanıtla(Yanıt::Tamam);
     QTest::mouseClick(&Bul("DeğişiklikleriKaydetButonu"), Qt::LeftButton);
-    Kutular().TekKutu(Simge::Kritik, Metin(2111));
+    Kutular().TekKutu(Simge::Kritik, Metin(MetinNo::SayıDeğil));
     EXPECT_EQ(Yazı("DiğerMaliyetYüzdesiKutusu"), "-");
     EXPECT_TRUE(Etkin("DeğişiklikleriKaydetButonu"));
     // Nor does one that takes the focus from no box.
     Bul("DiğerMaliyetYüzdesiKutusu").setFocus();
     Kutular().Yanıtla(Yanıt::Tamam);
     QTest::keyClick(&Bul("DiğerMaliyetYüzdesiKutusu"), Qt::Key_F4);
-    Kutular().TekKutu(Simge::Kritik, Metin(2111));
+    Kutular().TekKutu(Simge::Kritik, Metin(MetinNo::SayıDeğil));
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 
     Yaz("DiğerMaliyetYüzdesiKutusu", "-1000000000000000000000");
     Kutular().Yanıtla(Yanıt::Tamam);
     QTest::mouseClick(&Bul("DeğişiklikleriKaydetButonu"), Qt::LeftButton);
-    Kutular().TekKutu(Simge::Bilgi, Metin(2140) + " 1.000.000");
+    Kutular().TekKutu(Simge::Bilgi, Metin(MetinNo::SayıÇokBüyük) + " 1.000.000");
     EXPECT_EQ(Yazı("DiğerMaliyetYüzdesiKutusu"), "-1.000.000.000.000.000.000.000,00");
     EXPECT_EQ(QApplication::focusWidget(), &Bul("DiğerMaliyetYüzdesiKutusu"));
     EXPECT_TRUE(Etkin("DeğişiklikleriKaydetButonu"));
@@ -253,12 +253,12 @@ TEST_F(AnaFormu, MalzemeyiSoruncaÇıkarır) {
     ÜrünSeç("MASA", "Yemek Masası");
     Kutular().Yanıtla(Yanıt::Hayır);
     QTest::mouseClick(&Bul("ListedenMalzemeSilButonu"), Qt::LeftButton);
-    Kutular().TekKutu(Simge::Soru, Metin(440) + " 1,50 Metre Ihlamur");
+    Kutular().TekKutu(Simge::Soru, Metin(MetinNo::ListedenÇıkarmaSorusu) + " 1,50 Metre Ihlamur");
     EXPECT_EQ(Satırlar().size(), 2);
     Liste().setCurrentItem(nullptr);
     Kutular().Yanıtla(Yanıt::Tamam);
     QTest::mouseClick(&Bul("ListedenMalzemeSilButonu"), Qt::LeftButton);
-    Kutular().TekKutu(Simge::Bilgi, Metin(710));
+    Kutular().TekKutu(Simge::Bilgi, Metin(MetinNo::MalzemeSeçiniz));
 
     Kutular().Yanıtla(Yanıt::Evet);
     const QPoint ikinci = Liste().visualItemRect(Liste().topLevelItem(1)).center();

@@ -30,14 +30,14 @@ class KatalogKomutları : public FormOrtamı {
 TEST_F(KatalogKomutları, BoşÜrünListesiSorulurEvetEklemeKipindeAçar) {
     Kutular().Yanıtla(Yanıt::Hayır);
     Aç();
-    Kutular().TekKutu(Simge::Soru, Metin(420));
+    Kutular().TekKutu(Simge::Soru, Metin(MetinNo::ÜrünListesiBoş));
     Kutular().Yanıtla(Yanıt::Evet);
     ModalAç([this] { QTest::mouseClick(Ağaç().viewport(), Qt::LeftButton, {}, QPoint(20, 20)); }, "ÜrünEkleSilFormu",
             [](QWidget& form) {
                 EklemeKipinde(form, "ÜrünEkleKaydetButonu");
                 Kapat(form);
             });
-    Kutular().TekKutu(Simge::Soru, Metin(420));
+    Kutular().TekKutu(Simge::Soru, Metin(MetinNo::ÜrünListesiBoş));
 }
 
 TEST_F(KatalogKomutları, BoşKatalogÖnceMalzemeEklemeyiSorar) {
@@ -46,7 +46,7 @@ TEST_F(KatalogKomutları, BoşKatalogÖnceMalzemeEklemeyiSorar) {
     ÜrünSeç("MASA", "Sehpa");
     Kutular().Yanıtla(Yanıt::Hayır);
     Bas("ListeyeMalzemeEkleButonu");
-    Kutular().TekKutu(Simge::Soru, Metin(430));
+    Kutular().TekKutu(Simge::Soru, Metin(MetinNo::MalzemeListesiBoş));
     Kutular().Yanıtla(Yanıt::Evet);
     ModalAç([this] { Bas("ListeyeMalzemeEkleButonu"); }, "MalzemeEkleSilFormu",
             [](QWidget& form) {

@@ -80,7 +80,7 @@ TEST_F(Miktarlar, AyrıBirimlerdeİşaretKalmaz) {
     EXPECT_EQ(Yazı("ToplamMaliyetKutusu"), "22,00");
     Kutular().Yanıtla(Yanıt::Tamam);
     SeçeneğeBas();
-    Kutular().TekKutu(Simge::Kritik, Metin(1290));
+    Kutular().TekKutu(Simge::Kritik, Metin(MetinNo::BirimlerFarklı));
     EXPECT_FALSE(Seçenek().isChecked());
     EXPECT_FALSE(Etkin("FireOranıKutusu"));
     EXPECT_EQ(Kutucuklar(), "    ");
@@ -97,7 +97,7 @@ TEST_F(Miktarlar, YeniYüklemedeİşaretinKurallarıYineİşler) {
     Malzeme("MASA", "Tek", "Vida", "4 Adet", "1");
     Kutular().Yanıtla(Yanıt::Tamam);
     Form().MalzemeTablosuYükle();
-    Kutular().TekKutu(Simge::Kritik, Metin(1290));
+    Kutular().TekKutu(Simge::Kritik, Metin(MetinNo::BirimlerFarklı));
     EXPECT_FALSE(Seçenek().isChecked());
     EXPECT_EQ(Kutucuklar(), "    ");
 }

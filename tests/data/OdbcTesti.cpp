@@ -53,7 +53,7 @@ TEST_F(Odbc, UzunMetinSonSatırOlurVeEksikSöylenir) {
     const auto kutular = Kutular().Al();
     ASSERT_EQ(kutular.size(), 1u);
     EXPECT_EQ(kutular[0].simge, Simge::Kritik);
-    EXPECT_TRUE(kutular[0].metin.startsWith(Metin(2132))) << kutular[0].metin.toStdString();
+    EXPECT_TRUE(kutular[0].metin.startsWith(Metin(MetinNo::KayıtlarEksik))) << kutular[0].metin.toStdString();
     Kutular().Yanıtla(Yanıt::Tamam);
     EXPECT_EQ(KaydıOku(Deyimler::MalzemeVeFiyatı(uzun), [] { SütunOku(1); }), Kayıt::Okunamadı);
     EXPECT_EQ(KaydıOku(Deyimler::MalzemeVarMı(uzun)), Kayıt::Var);

@@ -149,7 +149,7 @@ TEST_F(GirişKutuları, AdTamAlınırYaDaHiçAlınmaz) {
             QToolTip::showText({}, u"-"_s, kutu);
             Yapıştır(*kutu, uzun);
             EXPECT_EQ(kutu->text(), QString());
-            EXPECT_EQ(QToolTip::text(), Metin(2143).arg(enUzun));
+            EXPECT_EQ(QToolTip::text(), Metin(MetinNo::MetinÇokUzun).arg(enUzun));
         }
         Yapıştır(*kutu, tam.chopped(1) + u"\r\n"_s);
         EXPECT_EQ(kutu->text(), tam.chopped(1) + u' ');
@@ -160,7 +160,7 @@ TEST_F(GirişKutuları, AdTamAlınırYaDaHiçAlınmaz) {
         kutu->selectAll();
         Yapıştır(*kutu, tam + u'A');
         EXPECT_EQ(kutu->selectedText(), tam.chopped(1) + u' ');
-        EXPECT_EQ(QToolTip::text(), Metin(2143).arg(enUzun));
+        EXPECT_EQ(QToolTip::text(), Metin(MetinNo::MetinÇokUzun).arg(enUzun));
     }
 }
 
@@ -231,7 +231,7 @@ TEST_F(GirişKutuları, KutudanÇıkılamazsaKomutÇalışmaz) {
         Yaz(Form.E, u"-"_s);
         Kutular().Yanıtla(TAMAM);
         adım();
-        Kutular().TekKutu(MesajKutusu::Simge::Kritik, Metin(2111));
+        Kutular().TekKutu(MesajKutusu::Simge::Kritik, Metin(MetinNo::SayıDeğil));
         EXPECT_EQ(Form.E.text(), u"-"_s);
         EXPECT_TRUE(Form.KomutAnındakiler.isEmpty());
         EXPECT_FALSE(Form.Komut.isDown() || Form.Seçenek.isDown());
@@ -416,7 +416,8 @@ TEST_F(GirişKutuları, SaklanamayacakSayıSöylenir) {
         EXPECT_EQ(kutu.Saklanır(), metin == 0) << satır[1].toStdString();
         EXPECT_EQ(kutu.hasFocus(), metin != 0);
         EXPECT_EQ(kutu.text(), satır[1]);
-        for (const auto& kutuda : Kutular().Al()) EXPECT_TRUE(kutuda.metin.startsWith(Metin(metin)));
+        for (const auto& kutuda : Kutular().Al())
+            EXPECT_TRUE(kutuda.metin.startsWith(Metin(static_cast<MetinNo>(metin))));
         kutu.clear();
     }
 }

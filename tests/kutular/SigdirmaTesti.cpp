@@ -8,6 +8,7 @@
 #include "SutunluSatir.h"
 #include "SayiSigdirma.h"
 #include "VarnekTesti.h"
+#include "MetinTablosu.h"
 
 using namespace Qt::StringLiterals;
 
@@ -74,7 +75,10 @@ TEST_F(Sığdırma, KutudakiSayıKüçülürSığmazsaİmiGörünür) {
 }
 
 TEST_F(Sığdırma, SatırKesileniVeGizleneniSöyler) {
-    SütunluListe liste({{412, 4, false, true}, {414, 4, false}, {416, 4, true}, {418, 4, true}});
+    SütunluListe liste({{MetinNo::MiktarıSütunu, 4, false, true},
+                        {MetinNo::AdıSütunu, 4, false},
+                        {MetinNo::FiyatıSütunu, 4, true},
+                        {MetinNo::TutarıSütunu, 4, true}});
     liste.resize(400, 200);
     liste.show();
     liste.SatırlarıKoy(

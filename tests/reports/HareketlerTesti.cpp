@@ -147,7 +147,7 @@ TEST_F(Hareketler, YazılanTarihAlınır) {
             if (durum.Alınan.isNull()) Kutular().Yanıtla(MesajKutusu::Yanıt::Tamam);
             Bas(form, "TamamButonu");
             if (durum.Alınan.isValid()) return;
-            Kutular().TekKutu(MesajKutusu::Simge::Bilgi, Metin(2310));
+            Kutular().TekKutu(MesajKutusu::Simge::Bilgi, Metin(MetinNo::TarihGeçersiz));
             EXPECT_EQ(tarih.text(), U(durum.Yazılan));
             EXPECT_TRUE(tarih.hasFocus());
             Bas(form, "İptalButonu");

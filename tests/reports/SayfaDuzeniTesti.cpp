@@ -8,6 +8,7 @@
 #include "MetinSigdir.h"
 #include "RaporCiktilari.h"
 #include "SayfaDuzeni.h"
+#include "MetinTablosu.h"
 
 TEST(SayfaDüzeni, TamMilimetreYarımlarıÇifteYuvarlar) {
     const struct {
@@ -22,7 +23,8 @@ TEST(SayfaDüzeni, TamMilimetreYarımlarıÇifteYuvarlar) {
 // The page's size counts in whole millimetres, before columns and edges are taken from it.
 TEST(SayfaDüzeni, SayfaBoyuTamMilimetredir) {
     KayıtYüzeyi yüzey(211.5, 296.5);
-    SayfaDüzeni düzen(yüzey, QStringLiteral("Başlık"), {{414, 1.6, HücreTürü::Metin}, {416, 1.2, HücreTürü::Sayı}});
+    SayfaDüzeni düzen(yüzey, QStringLiteral("Başlık"),
+                      {{MetinNo::AdıSütunu, 1.6, HücreTürü::Metin}, {MetinNo::FiyatıSütunu, 1.2, HücreTürü::Sayı}});
     ASSERT_TRUE(düzen.Başla());
     EXPECT_EQ(düzen.SayfaYüksekliği(), 296);
     EXPECT_EQ(düzen.SütunKonumu(0), 132);
@@ -36,7 +38,9 @@ TEST(SayfaDüzeni, SayfaSonuTamSınırdadır) {
     for (const auto& [metin, satır] : {std::pair("m", 1), {"mmmm mmmm mmmm", 3}}) {
         for (const bool sığar : {false, true}) {
             KayıtYüzeyi yüzey(60, 100 + (satır - 1) * 4.4);
-            SayfaDüzeni düzen(yüzey, QStringLiteral("B"), {{414, 10, HücreTürü::Metin}, {416, 3, HücreTürü::Metin}});
+            SayfaDüzeni düzen(
+                yüzey, QStringLiteral("B"),
+                {{MetinNo::AdıSütunu, 10, HücreTürü::Metin}, {MetinNo::FiyatıSütunu, 3, HücreTürü::Metin}});
             ASSERT_TRUE(düzen.Başla());
             yüzey.YAyarla(düzen.SayfaYüksekliği() - 15 - (satır - 1) * 4.4 - (sığar ? 0.1 : 0));
             düzen.SatırYaz({U(metin), U("x")});

@@ -112,7 +112,7 @@ TEST_F(Yazdırma, DüğmeVeİmleçGeriGelir) {
     Yazdırılırken = [] { throw std::runtime_error("yazıcı"); };
     Kutular().Yanıtla(Yanıt::Tamam);
     Tıkla("YazdırButonu");
-    Kutular().TekKutu(Simge::Kritik, Metin(2110) + U("\nyazıcı"));
+    Kutular().TekKutu(Simge::Kritik, Metin(MetinNo::BeklenmeyenHata) + U("\nyazıcı"));
     geriGeldi();
     // The default printer is gone since the start.
     YazıcıyıAyarla(nullptr);
@@ -154,7 +154,7 @@ TEST_F(Yazdırma, PdfDosyası) {
                 });
                 QTest::keyClick(&kutu, Qt::Key_Return);
             });
-    Kutular().TekKutu(Simge::Soru, Metin(2304) + U("\n") + yol + U(".pdf"));
+    Kutular().TekKutu(Simge::Soru, Metin(MetinNo::ÜzerineYazmaSorusu) + U("\n") + yol + U(".pdf"));
     EXPECT_EQ(Oku(yol + U(".pdf")), "benim");
     Kutular().Yanıtla(Yanıt::Evet);
     PdfKaydetDosyaya(yol + U(".pdf"));
@@ -186,7 +186,7 @@ TEST_F(Yazdırma, YazılamayanPdf) {
     }
     const auto kutular = Kutular().Al();
     ASSERT_EQ(kutular.size(), 2u);
-    EXPECT_EQ(kutular.at(1).metin, Metin(2305) + U("\n") + yol);
+    EXPECT_EQ(kutular.at(1).metin, Metin(MetinNo::PdfYazılamadı) + U("\n") + yol);
     EXPECT_EQ(kutular.at(1).simge, Simge::Kritik);
     EXPECT_TRUE(Oku(yol) == önceki);
     EXPECT_TRUE(Bul("PdfKaydetButonu").isEnabled());

@@ -90,7 +90,7 @@ TEST_F(YardımTesti, TheGuideIsFoundBesideTheProgramOrInTheShareFolder) {
     EXPECT_EQ(KılavuzKlasörü(ProgramKlasörü()), QString());
     Kutular().Yanıtla(MesajKutusu::Yanıt::Tamam);
     YardımıAç(nullptr, ProgramKlasörü());
-    Kutular().TekKutu(MesajKutusu::Simge::Bilgi, Metin(2204));
+    Kutular().TekKutu(MesajKutusu::Simge::Bilgi, Metin(MetinNo::KılavuzYok));
     EXPECT_TRUE(m_açılanlar.isEmpty());
 
     const QString program = Klasör() + u"usr/lib/varnek"_s;

@@ -65,7 +65,7 @@ TEST_F(AyarlarTesti, HayırDenirseHiçbirŞeyDeğişmez) {
     VeriyeBağlan();
     Kutular().Yanıtla(MesajKutusu::Yanıt::Hayır);
     EXPECT_FALSE(ÇıkışıYürüt(false, {10, 20}));
-    Kutular().TekKutu(MesajKutusu::Simge::Soru, Metin(60));
+    Kutular().TekKutu(MesajKutusu::Simge::Soru, Metin(MetinNo::ÇıkışSorusu));
     EXPECT_EQ(Kayıtlı("Ondalik"), QStringLiteral("yok"));
     SQLMetni = QStringLiteral("SELECT Count(UrunAdi) AS KayitSayisi FROM UrunTablosu");
     EXPECT_TRUE(SorguÇalıştır());

@@ -123,7 +123,7 @@ TEST_F(BaşlatTesti, YalnızİlkBaşlangıçBoşDosyaKoyar) {
     QDir(KullanıcıKlasörü() + QStringLiteral("Tovrek")).removeRecursively();
     Kutular().Yanıtla(Yanıt::Tamam);
     EXPECT_EQ(Başlat(), BaşlatmaSonucu::Başlayamadı);
-    Kutular().TekKutu(Simge::Kritik, Metin(150));
+    Kutular().TekKutu(Simge::Kritik, Metin(MetinNo::VeriDosyasıYok));
     EXPECT_FALSE(QFile::exists(VeriDosyası()));
 }
 
@@ -154,7 +154,7 @@ TEST_F(BaşlatTesti, DenetimdenGeçmeyenBaşlangıçHiçbirŞeyYazmaz) {
             EXPECT_EQ(KarşılamaEtiketi() != nullptr, durum.Genişlik == 800);
         });
         EXPECT_EQ(Başlat(), BaşlatmaSonucu::Başlayamadı);
-        Kutular().TekKutu(Simge::Kritik, Metin(durum.Metin));
+        Kutular().TekKutu(Simge::Kritik, Metin(static_cast<MetinNo>(durum.Metin)));
         EXPECT_EQ(KarşılamaEtiketi(), nullptr);
         EXPECT_EQ(Dosyalar(), önce);
     }
@@ -162,7 +162,7 @@ TEST_F(BaşlatTesti, DenetimdenGeçmeyenBaşlangıçHiçbirŞeyYazmaz) {
     Bağlar.SürümAl = SistemSürümünüAl;
     Kutular().Yanıtla(Yanıt::Tamam);
     EXPECT_EQ(Başlat(), BaşlatmaSonucu::Başlayamadı);
-    Kutular().TekKutu(Simge::Kritik, Metin(150));
+    Kutular().TekKutu(Simge::Kritik, Metin(MetinNo::VeriDosyasıYok));
     EXPECT_EQ(Yüklenen, 0);
 }
 

@@ -17,7 +17,7 @@ using MesajKutusu::Simge;
 using MesajKutusu::Yanıt;
 
 QString İkiSatır(int metin, const QString& yol) {
-    return Metin(metin) + QLatin1Char('\n') + yol;
+    return Metin(static_cast<MetinNo>(metin)) + QLatin1Char('\n') + yol;
 }
 
 TEST_F(HazırlıkTesti, İlkBaşlatmaTarihSormadanYedekAlır) {
@@ -187,14 +187,15 @@ TEST_F(HazırlıkTesti, BozukYedekBoşDosyanınÜzerineGelmez) {
     ZamanVer(VeriDosyası(), ÖncekiGün);
     Kutular().Yanıtla(Yanıt::Tamam);
     EXPECT_TRUE(VeritabanınıHazırla());
-    Kutular().TekKutu(Simge::Ünlem, Metin(2150).arg(Metin(2162), VeriDosyası(), Yedek()));
+    Kutular().TekKutu(Simge::Ünlem,
+                      Metin(MetinNo::YedekAlınamadı).arg(Metin(MetinNo::BoştaYedekBozuk), VeriDosyası(), Yedek()));
     EXPECT_EQ(Baytlar(Yedek()), "cop");
 }
 
 TEST_F(HazırlıkTesti, NeDosyaNeYedekVarsaBaşlamaz) {
     Kutular().Yanıtla(Yanıt::Tamam);
     EXPECT_FALSE(VeritabanınıHazırla());
-    Kutular().TekKutu(Simge::Kritik, Metin(150));
+    Kutular().TekKutu(Simge::Kritik, Metin(MetinNo::VeriDosyasıYok));
     EXPECT_TRUE(QDir(ProgramKlasörü()).isEmpty());
     EXPECT_FALSE(QFile::exists(OdbcDosyası()));
 }
@@ -218,7 +219,7 @@ TEST_F(HazırlıkTesti, BozukYedekGeriYüklenmez) {
     Yaz(Yedek(), başkaSürüm);
     Kutular().Yanıtla(Yanıt::Tamam);
     EXPECT_FALSE(VeritabanınıHazırla());
-    EXPECT_EQ(Kutular().Al().back().başlık, Metin(180));
+    EXPECT_EQ(Kutular().Al().back().başlık, Metin(MetinNo::OdbcHatası));
     EXPECT_TRUE(QDir(ProgramKlasörü()).isEmpty());
 }
 
@@ -239,7 +240,7 @@ TEST_F(HazırlıkTesti, BozukDosyaSağlamYedeğinYeriniAlmaz) {
     }
     auto uyarı = Kutular().Al();
     ASSERT_EQ(uyarı.size(), 1u);
-    for (const QString& parça : {VeriDosyası(), Yedek(), Metin(2151)})
+    for (const QString& parça : {VeriDosyası(), Yedek(), Metin(MetinNo::SonYedekDuruyor)})
         EXPECT_TRUE(uyarı[0].metin.contains(parça)) << uyarı[0].metin.toStdString();
     // So is one whose rows cannot be counted for another reason, which may be gone a moment later.
     QByteArray başkaSürüm = yedek;
@@ -250,7 +251,7 @@ TEST_F(HazırlıkTesti, BozukDosyaSağlamYedeğinYeriniAlmaz) {
     Kutular().Yanıtla(Yanıt::Tamam);
     Kutular().Yanıtla(Yanıt::Tamam);
     EXPECT_FALSE(VeritabanınıHazırla());
-    EXPECT_TRUE(Kutular().Al()[0].metin.startsWith(Metin(2150).section(QLatin1Char('\n'), 0, 0)));
+    EXPECT_TRUE(Kutular().Al()[0].metin.startsWith(Metin(MetinNo::YedekAlınamadı).section(QLatin1Char('\n'), 0, 0)));
     EXPECT_EQ(Baytlar(Yedek()), yedek);
     // One that does not open at all ends the start with the driver's own words.
     for (const QByteArray& çöp : {QByteArray(), QByteArray("cop")}) {
@@ -260,7 +261,7 @@ TEST_F(HazırlıkTesti, BozukDosyaSağlamYedeğinYeriniAlmaz) {
         EXPECT_FALSE(VeritabanınıHazırla());
         const auto kutular = Kutular().Al();
         ASSERT_EQ(kutular.size(), 1u);
-        EXPECT_EQ(kutular[0].başlık, Metin(180));
+        EXPECT_EQ(kutular[0].başlık, Metin(MetinNo::OdbcHatası));
         EXPECT_EQ(Baytlar(Yedek()), yedek);
         EXPECT_EQ(Baytlar(VeriDosyası()), çöp);
     }

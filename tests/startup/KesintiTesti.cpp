@@ -137,7 +137,7 @@ TEST_F(KesintiTesti, DiskDolarsa) {
     QFile::remove(VeriDosyası());
     ÇocukSüreci çocuk(Hazırla(), QStringLiteral("doldur 1"));
     EXPECT_EQ(çocuk.Sonuç(), 1);
-    EXPECT_TRUE(çocuk.Kutular().contains(Metin(2121)));
+    EXPECT_TRUE(çocuk.Kutular().contains(Metin(MetinNo::YedekGeriYüklenemedi)));
     EXPECT_TRUE(QDir(ProgramKlasörü()).isEmpty());
     YenidenBaşlat(m_yeni);
 }

@@ -106,7 +106,7 @@ TEST_F(TekKopyaTesti, BaşkaOturumdakiKopyaAynıVeriyiAçamaz) {
             ÇocukSüreci ikinci({QStringLiteral("basla"), klasör});
             EXPECT_TRUE(Bekle([&] { return ikinci.Süreç().state() == QProcess::NotRunning; }));
             EXPECT_EQ(ikinci.Sonuç(), 1);
-            EXPECT_TRUE(ikinci.Kutular().contains(Metin(2152)));
+            EXPECT_TRUE(ikinci.Kutular().contains(Metin(MetinNo::VeriBaşkaKopyada)));
         }
         EXPECT_FALSE(pencere.isMinimized());
     }
@@ -171,7 +171,8 @@ TEST_F(TekKopyaTesti, KendiSürücüsünüBulur) {
     EXPECT_EQ(kopya->Sonuç(), 1);
     const QString kutular = kopya->Kutular();
     EXPECT_TRUE(kutular.contains(QStringLiteral("[unixODBC]"))) << kutular.toStdString();
-    EXPECT_FALSE(kutular.contains(Metin(2122)) || kutular.contains(Metin(150))) << kutular.toStdString();
+    EXPECT_FALSE(kutular.contains(Metin(MetinNo::YedekZararGörmüş)) || kutular.contains(Metin(MetinNo::VeriDosyasıYok)))
+        << kutular.toStdString();
 }
 
 TEST_F(TekKopyaTesti, AynıAndaBaşlayanlardanBiriÇalışır) {

@@ -17,35 +17,35 @@ struct ÖzetSatırı {
 };
 
 QList<ÖzetSatırı> MaliyetSatırları(const MaliyetFişi& fiş) {
-    QList<ÖzetSatırı> satırlar{{Metin(872), fiş.MalzemeMaliyeti}};
-    const auto ekle = [&](int etiket, const QString& yüzdeMetni) {
+    QList<ÖzetSatırı> satırlar{{Metin(MetinNo::FişMalzemeMaliyeti), fiş.MalzemeMaliyeti}};
+    const auto ekle = [&](MetinNo etiket, const QString& yüzdeMetni) {
         if (DoubleOku(yüzdeMetni).value_or(0) <= 0) return;
         const std::optional<double> tutar = YüzdeTutarı(fiş.MalzemeMaliyeti, yüzdeMetni);
         const std::optional<QString> değer = tutar ? SayıBiçimle(*tutar, fiş.OndalıkBasamak) : std::nullopt;
         satırlar.append({Metin(etiket) + yüzdeMetni + QStringLiteral("):"), değer.value_or(QString())});
     };
-    ekle(874, fiş.İşçilikYüzdesi);
-    ekle(876, fiş.KârYüzdesi);
-    ekle(878, fiş.DiğerYüzdesi);
-    ekle(880, fiş.VadeYüzdesi);
-    satırlar.append({Metin(882), fiş.ToplamMaliyet, true});
+    ekle(MetinNo::FişİşçilikBaşı, fiş.İşçilikYüzdesi);
+    ekle(MetinNo::FişKârBaşı, fiş.KârYüzdesi);
+    ekle(MetinNo::FişDiğerBaşı, fiş.DiğerYüzdesi);
+    ekle(MetinNo::FişVadeBaşı, fiş.VadeYüzdesi);
+    satırlar.append({Metin(MetinNo::FişToplam), fiş.ToplamMaliyet, true});
     return satırlar;
 }
 
 QList<ÖzetSatırı> MiktarSatırları(const MaliyetFişi& fiş) {
     QList<ÖzetSatırı> satırlar;
-    const auto ekle = [&](int etiket, const QString& metin) {
+    const auto ekle = [&](MetinNo etiket, const QString& metin) {
         satırlar.append(
             {Metin(etiket) + QLatin1Char(':'), SayıMetniBiçimle(metin, fiş.OndalıkBasamak).value_or(QString())});
     };
     if (SayıMı(fiş.ToplamMiktar)) {
-        ekle(1330, fiş.ToplamMiktar);
-        ekle(1280, fiş.BirimMaliyet);
+        ekle(MetinNo::FişToplamMiktar, fiş.ToplamMiktar);
+        ekle(MetinNo::BirimVarnek, fiş.BirimMaliyet);
     }
     if (DoubleOku(fiş.FireOranı).value_or(0) > 0) {
-        ekle(1315, fiş.FireOranı);
-        ekle(1335, fiş.FireliMiktar);
-        ekle(1340, fiş.FireliBirimMaliyet);
+        ekle(MetinNo::FireOranı, fiş.FireOranı);
+        ekle(MetinNo::FişFireliMiktar, fiş.FireliMiktar);
+        ekle(MetinNo::FişFireliBirimVarnek, fiş.FireliBirimMaliyet);
     }
     return satırlar;
 }
@@ -82,10 +82,10 @@ void ÖzetiYaz(SayfaDüzeni& düzen, const MaliyetFişi& fiş) {
 
 void MaliyetFişiniYaz(SayfaYüzeyi& yüzey, const MaliyetFişi& fiş) {
     SayfaDüzeni düzen(yüzey, fiş.Ürün,
-                      {{412, 13.5, HücreTürü::Miktar},
-                       {414, 4.5, HücreTürü::Metin},
-                       {416, 1.6, HücreTürü::Sayı},
-                       {418, 1.2, HücreTürü::Sayı}});
+                      {{MetinNo::MiktarıSütunu, 13.5, HücreTürü::Miktar},
+                       {MetinNo::AdıSütunu, 4.5, HücreTürü::Metin},
+                       {MetinNo::FiyatıSütunu, 1.6, HücreTürü::Sayı},
+                       {MetinNo::TutarıSütunu, 1.2, HücreTürü::Sayı}});
     if (!düzen.Başla()) return;
     for (const QStringList& satır : fiş.Satırlar) düzen.SatırYaz(satır);
     ÖzetiYaz(düzen, fiş);

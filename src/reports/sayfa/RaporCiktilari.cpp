@@ -1,23 +1,25 @@
 #include "RaporCiktilari.h"
 
+#include "MetinTablosu.h"
 #include "SayfaDuzeni.h"
 
 void MalzemeHareketleriniYaz(SayfaYüzeyi& yüzey, const QString& başlık, const QList<QStringList>& satırlar) {
     // The first two captions stand over each other's cells: material under "Miktarı", quantity under "Adı". This is how
     // the sheet is meant to look.
     SayfaDüzeni düzen(yüzey, başlık,
-                      {{412, 13.5, HücreTürü::Metin},
-                       {414, 5, HücreTürü::Miktar},
-                       {416, 1.9, HücreTürü::Sayı},
-                       {418, 1.4, HücreTürü::Sayı},
-                       {890, 1.2, HücreTürü::Metin}});
+                      {{MetinNo::MiktarıSütunu, 13.5, HücreTürü::Metin},
+                       {MetinNo::AdıSütunu, 5, HücreTürü::Miktar},
+                       {MetinNo::FiyatıSütunu, 1.9, HücreTürü::Sayı},
+                       {MetinNo::TutarıSütunu, 1.4, HücreTürü::Sayı},
+                       {MetinNo::KullanıldığıÜrünSütunu, 1.2, HücreTürü::Metin}});
     if (!düzen.Başla()) return;
     for (const QStringList& satır : satırlar) düzen.SatırYaz(satır);
     düzen.Bitir();
 }
 
 void MalzemeListesiniYaz(SayfaYüzeyi& yüzey, const QString& başlık, const QList<QStringList>& satırlar) {
-    SayfaDüzeni düzen(yüzey, başlık, {{414, 10, HücreTürü::Metin}, {416, 1.2, HücreTürü::Sayı}});
+    SayfaDüzeni düzen(yüzey, başlık,
+                      {{MetinNo::AdıSütunu, 10, HücreTürü::Metin}, {MetinNo::FiyatıSütunu, 1.2, HücreTürü::Sayı}});
     if (!düzen.Başla()) return;
     for (const QStringList& satır : satırlar) {
         düzen.SatırYaz(satır);
@@ -27,7 +29,8 @@ void MalzemeListesiniYaz(SayfaYüzeyi& yüzey, const QString& başlık, const QL
 }
 
 void ÜrünListesiniYaz(SayfaYüzeyi& yüzey, const QString& başlık, const QList<QStringList>& satırlar) {
-    SayfaDüzeni düzen(yüzey, başlık, {{1030, 11, HücreTürü::Metin}, {414, 2.2, HücreTürü::Metin}});
+    SayfaDüzeni düzen(yüzey, başlık,
+                      {{MetinNo::GrubuSütunu, 11, HücreTürü::Metin}, {MetinNo::AdıSütunu, 2.2, HücreTürü::Metin}});
     if (!düzen.Başla()) return;
     QString sonGrup;
     for (const QStringList& satır : satırlar) {

@@ -87,7 +87,7 @@ bool SayfaDüzeni::SayfaSonunaBak(double yükseklik) {
 
 void SayfaDüzeni::SayfaBaşlığıYaz() {
     m_yüzey.YeniSayfa();
-    const QString sayfaMetni = Metin(884) + QLatin1Char(' ') + QString::number(m_yüzey.SayfaNo());
+    const QString sayfaMetni = Metin(MetinNo::SayfaBaşı) + QLatin1Char(' ') + QString::number(m_yüzey.SayfaNo());
     const double sayfaMetniSolu = m_sayfaGenişliği - (m_yüzey.MetinGenişliği(sayfaMetni) + SayfaBaşlığıKenarı);
     m_yüzey.YAyarla(SayfaBaşlığıÜstü);
     m_yüzey.XAyarla(SayfaBaşlığıKenarı);

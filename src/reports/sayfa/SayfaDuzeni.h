@@ -8,11 +8,13 @@
 #include "SatirYerlesimi.h"
 #include "SayfaYuzeyi.h"
 
+enum class MetinNo : int;
+
 // Whole millimetres, halves to the even one (297,5 -> 298; 296,5 -> 296).
 std::int16_t TamMilimetre(double milimetre);
 
 struct SayfaSütunu {
-    int Başlık;    // number of the caption's text
+    MetinNo Başlık;
     double Bölen;  // page width / Bölen = left position
     HücreTürü Tür;
 };

@@ -51,10 +51,10 @@ Yanıt PenceredeGöster(const İstek& istek) {
     kutu.setText(istek.metin);
     kutu.setWindowTitle(istek.başlık.isEmpty() ? UygulamaBaşlığı : istek.başlık);
     if (istek.düğmeler == Düğmeler::Tamam) {
-        kutu.setDefaultButton(kutu.addButton(Metin(2102), QMessageBox::AcceptRole));
+        kutu.setDefaultButton(kutu.addButton(Metin(MetinNo::Tamam), QMessageBox::AcceptRole));
     } else {
-        QPushButton* evet = kutu.addButton(Metin(2100), QMessageBox::YesRole);
-        QPushButton* hayır = kutu.addButton(Metin(2101), QMessageBox::NoRole);
+        QPushButton* evet = kutu.addButton(Metin(MetinNo::Evet), QMessageBox::YesRole);
+        QPushButton* hayır = kutu.addButton(Metin(MetinNo::Hayır), QMessageBox::NoRole);
         kutu.setDefaultButton(istek.varsayılan == Yanıt::Hayır ? hayır : evet);
         kutu.setEscapeButton(hayır);
     }
@@ -95,5 +95,5 @@ bool Sor(const QString& soru) {
 void BeklenmeyenHataGöster(const QString& neOldu) {
     MesajKutusuOrtala();
     MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam,
-                        Metin(2110) + QLatin1Char('\n') + neOldu);
+                        Metin(MetinNo::BeklenmeyenHata) + QLatin1Char('\n') + neOldu);
 }
