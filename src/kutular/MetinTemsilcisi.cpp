@@ -11,6 +11,7 @@
 namespace {
 
 constexpr int SatırPayı = 6;  // pixels between the lines of text
+constexpr int BolPay = 24;    // pixels, more than any style leaves around a cell's text
 
 // Of a cell without icon and tick.
 int MetinGenişliği(const QStyleOptionViewItem& hücre, const QStyle& biçem) {
@@ -32,7 +33,9 @@ void MetinTemsilcisi::paint(QPainter* çizici, const QStyleOptionViewItem& seçe
     QStyleOptionViewItem hücre = seçenek;
     initStyleOption(&hücre, yer);
     const QStyle& biçem = *(hücre.widget ? hücre.widget->style() : QApplication::style());
-    if (m_sütunlar.Sayılar.contains(yer.column())) {
+    // Most figures fit with room to spare; only for the others the cell is laid out to know its exact width.
+    const bool sığmayabilir = hücre.fontMetrics.horizontalAdvance(hücre.text) + BolPay > hücre.rect.width();
+    if (sığmayabilir && m_sütunlar.Sayılar.contains(yer.column())) {
         hücre.font = SığanYazıTipi(hücre.font, hücre.text, MetinGenişliği(hücre, biçem));
         hücre.fontMetrics = QFontMetrics(hücre.font);
     }
