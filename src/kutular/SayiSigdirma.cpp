@@ -11,6 +11,7 @@
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -42,9 +43,12 @@ class Sığdırıcı : public QObject {
     explicit Sığdırıcı(QLineEdit* kutu) : QObject(kutu), m_kutu(*kutu), m_asıl(kutu->font()), m_konan(kutu->font()) {
         kutu->installEventFilter(this);
         kutu->setCursorPosition(0);
+        // While the user edits, the cursor is his, whoever has the focus.
+        connect(kutu, &QLineEdit::textEdited, this, [this] { m_düzenlendi = true; });
         connect(kutu, &QLineEdit::textChanged, this, [this] {
             Sığdır();
-            if (m_kutu.window()->focusWidget() != &m_kutu) m_kutu.setCursorPosition(0);
+            const bool düzenlendi = std::exchange(m_düzenlendi, false);
+            if (!düzenlendi && m_kutu.window()->focusWidget() != &m_kutu) m_kutu.setCursorPosition(0);
         });
     }
 
@@ -138,6 +142,7 @@ class Sığdırıcı : public QObject {
     QLineEdit& m_kutu;
     QFont m_asıl;   // as the form set it
     QFont m_konan;  // as it is now
+    bool m_düzenlendi = false;
 };
 
 }  // namespace

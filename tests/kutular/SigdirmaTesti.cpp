@@ -72,6 +72,11 @@ TEST_F(Sığdırma, KutudakiSayıKüçülürSığmazsaİmiGörünür) {
     EXPECT_EQ(Kutu.text(), EnGeniş);
     Kutu.setText(u"1,00"_s);
     EXPECT_EQ(Kutu.font(), asıl);
+
+    Kutu.clearFocus();
+    Kutu.clear();
+    QTest::keyClicks(&Kutu, u"2,5"_s);
+    EXPECT_EQ(Kutu.text(), u"2,5"_s) << "the digits come in another order";
 }
 
 TEST_F(Sığdırma, SatırKesileniVeGizleneniSöyler) {
