@@ -1,7 +1,5 @@
 #include "MalzemeEkleSilFormu.h"
 
-#include <QFrame>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
@@ -12,10 +10,9 @@
 #include "Deyimler.h"
 #include "GirisKutusu.h"
 #include "MesajKutusu.h"
-#include "KatalogParcalari.h"
-#include "KomutDugmesi.h"
+#include "FormParcalari.h"
 #include "MetinTablosu.h"
-#include "OnekArama.h"
+#include "KatalogListesi.h"
 #include "SayiKutusu.h"
 #include "SayiMetni.h"
 #include "Yukleyiciler.h"
@@ -23,12 +20,6 @@
 using MesajKutusu::Düğmeler;
 using MesajKutusu::Simge;
 using MesajKutusu::Yanıt;
-
-namespace {
-
-// Texts for what ended half way, and for a row that is no longer stored.
-
-}  // namespace
 
 MalzemeEkleSilFormu::MalzemeEkleSilFormu(AnaFormErişimi& anaForm, QWidget* sahip) : QDialog(sahip), m_anaForm(anaForm) {
     setObjectName(QStringLiteral("MalzemeEkleSilFormu"));
@@ -44,9 +35,7 @@ void MalzemeEkleSilFormu::KontrolleriKur() {
     m_liste = new KatalogListesi(QStringLiteral("MalzemeListesi"));
     m_liste->Seçilince([this] { HataYakala([this] { SeçileniGöster(); }); });
 
-    m_çerçeve = new QFrame;
-    m_çerçeve->setObjectName(QStringLiteral("Çerçeve"));
-    m_çerçeve->setFrameShape(QFrame::StyledPanel);
+    m_çerçeve = ÇerçeveOluştur();
     m_çerçeve->setEnabled(false);
     m_ad = new AdKutusu;
     m_ad->setObjectName(QStringLiteral("MalzemeAdıKutusu"));
@@ -54,41 +43,37 @@ void MalzemeEkleSilFormu::KontrolleriKur() {
     m_fiyat->setObjectName(QStringLiteral("MalzemeFiyatıKutusu"));
     TutaraYerAç(m_fiyat);
 
-    m_ekleKaydet = KatalogDüğmesi(QStringLiteral("MalzemeEkleKaydetButonu"), {MetinNo::MalzemeEkle, MetinNo::Kaydet},
-                                  [this] { MalzemeEkleKaydetButonu_Click(); });
-    m_sil =
-        KatalogDüğmesi(QStringLiteral("MalzemeSilButonu"), {MetinNo::MalzemeSil}, [this] { MalzemeSilButonu_Click(); });
+    m_ekleKaydet =
+        RolDeğiştirenDüğme(QStringLiteral("MalzemeEkleKaydetButonu"), {MetinNo::MalzemeEkle, MetinNo::Kaydet},
+                           [this] { MalzemeEkleKaydetButonu_Click(); });
+    m_sil = DüğmeOluştur(QStringLiteral("MalzemeSilButonu"), MetinNo::MalzemeSil, [this] { MalzemeSilButonu_Click(); });
     m_fiyatDeğiştir =
-        KatalogDüğmesi(QStringLiteral("MalzemeFiyatıDeğiştirButonu"), {MetinNo::FiyatDeğiştir, MetinNo::Kaydet},
-                       [this] { MalzemeFiyatıDeğiştirButonu_Click(); });
-    m_kapatİptal = KatalogDüğmesi(QStringLiteral("KapatİptalButonu"), {MetinNo::Kapat, MetinNo::İptal},
-                                  [this] { KapatİptalButonu_Click(); });
+        RolDeğiştirenDüğme(QStringLiteral("MalzemeFiyatıDeğiştirButonu"), {MetinNo::FiyatDeğiştir, MetinNo::Kaydet},
+                           [this] { MalzemeFiyatıDeğiştirButonu_Click(); });
+    m_kapatİptal = RolDeğiştirenDüğme(QStringLiteral("KapatİptalButonu"), {MetinNo::Kapat, MetinNo::İptal},
+                                      [this] { KapatİptalButonu_Click(); });
 }
 
 void MalzemeEkleSilFormu::Yerleştir() {
     auto* sol = new QVBoxLayout;
-    sol->addWidget(KatalogEtiketi(1, MetinNo::MalzemeBul, m_bul));
+    sol->addWidget(VurgulananEtiket(1, MetinNo::MalzemeBul, m_bul));
     sol->addWidget(m_bul);
-    sol->addWidget(KatalogEtiketi(0, MetinNo::MalzemeListesiEtiketi, m_liste));
+    sol->addWidget(VurgulananEtiket(0, MetinNo::MalzemeListesiEtiketi, m_liste));
     sol->addWidget(m_liste);
 
     auto* kutular = new QVBoxLayout(m_çerçeve);
-    kutular->addWidget(KatalogEtiketi(2, MetinNo::MalzemeAdı, m_ad));
+    kutular->addWidget(VurgulananEtiket(2, MetinNo::MalzemeAdı, m_ad));
     kutular->addWidget(m_ad);
-    kutular->addWidget(KatalogEtiketi(3, MetinNo::MalzemeFiyatı, m_fiyat));
+    kutular->addWidget(VurgulananEtiket(3, MetinNo::MalzemeFiyatı, m_fiyat));
     kutular->addWidget(m_fiyat);
 
-    auto* düğmeler = new QHBoxLayout;
-    düğmeler->addWidget(m_ekleKaydet);
-    düğmeler->addWidget(m_sil);
-    düğmeler->addWidget(m_fiyatDeğiştir);
     auto* sağ = new QVBoxLayout;
     sağ->addWidget(m_çerçeve);
-    sağ->addLayout(düğmeler);
+    sağ->addLayout(DüğmeSırası({m_ekleKaydet, m_sil, m_fiyatDeğiştir}));
     sağ->addStretch();
     sağ->addWidget(m_kapatİptal, 0, Qt::AlignRight);
 
-    auto* düzen = new QHBoxLayout(KatalogAltlığı(this));
+    auto* düzen = new QHBoxLayout(FormAltlığı(this));
     düzen->addLayout(sol, 1);
     düzen->addLayout(sağ);
     resize(720, 460);
@@ -140,7 +125,7 @@ Kayıt MalzemeEkleSilFormu::SeçileniGöster() {
 }
 
 void MalzemeEkleSilFormu::MalzemeBulKutusu_Change() {
-    SatırıSeç(ÖnekAra(*m_liste, m_bul->text()));
+    SatırıSeç(m_liste->ÖnekAra(m_bul->text()));
 }
 
 void MalzemeEkleSilFormu::EklemeKipineGeç() {

@@ -10,15 +10,13 @@
 #include "AnaFormErisimi.h"
 #include "DegiskenModulu.h"
 #include "Deyimler.h"
-#include "EnterTusu.h"
 #include "GirisKutusu.h"
 #include "MesajKutusu.h"
-#include "KatalogParcalari.h"
-#include "KomutDugmesi.h"
+#include "FormParcalari.h"
+#include "KatalogListesi.h"
 #include "MetinTablosu.h"
 #include "MiktarTurleri.h"
 #include "OdbcModulu.h"
-#include "OnekArama.h"
 #include "OrtakFonksiyonlarModulu.h"
 #include "Saat.h"
 #include "SutunluListe.h"
@@ -75,27 +73,27 @@ void MalzemeListesiOluşturFormu::KontrolleriKur() {
     connect(m_eklenecek, &QTreeWidget::itemDoubleClicked, this,
             [this] { HataYakala([this] { ListedenÇıkarButonu_Click(); }); });
 
-    m_ekle = KatalogDüğmesi(QStringLiteral("ListeyeEkleButonu"), {MetinNo::ListeyeEkle},
-                            [this] { ListeyeEkleButonu_Click(); });
-    m_çıkar = KatalogDüğmesi(QStringLiteral("ListedenÇıkarButonu"), {MetinNo::EklenecektenÇıkar},
-                             [this] { ListedenÇıkarButonu_Click(); });
-    m_temizle = KatalogDüğmesi(QStringLiteral("ListeyiTemizleButonu"), {MetinNo::ListeyiTemizle},
-                               [this] { ListeyiTemizleButonu_Click(); });
-    m_aktar = KatalogDüğmesi(QStringLiteral("ListeyiAktarButonu"), {MetinNo::ListeyiAktar},
-                             [this] { ListeyiAktarButonu_Click(); });
-    m_iptal = KatalogDüğmesi(QStringLiteral("İptalButonu"), {MetinNo::İptal}, [this] { reject(); });
+    m_ekle =
+        DüğmeOluştur(QStringLiteral("ListeyeEkleButonu"), MetinNo::ListeyeEkle, [this] { ListeyeEkleButonu_Click(); });
+    m_çıkar = DüğmeOluştur(QStringLiteral("ListedenÇıkarButonu"), MetinNo::EklenecektenÇıkar,
+                           [this] { ListedenÇıkarButonu_Click(); });
+    m_temizle = DüğmeOluştur(QStringLiteral("ListeyiTemizleButonu"), MetinNo::ListeyiTemizle,
+                             [this] { ListeyiTemizleButonu_Click(); });
+    m_aktar = DüğmeOluştur(QStringLiteral("ListeyiAktarButonu"), MetinNo::ListeyiAktar,
+                           [this] { ListeyiAktarButonu_Click(); });
+    m_iptal = DüğmeOluştur(QStringLiteral("İptalButonu"), MetinNo::İptal, [this] { reject(); });
 }
 
 void MalzemeListesiOluşturFormu::Yerleştir() {
     auto* katalog = new QVBoxLayout;
-    katalog->addWidget(KatalogEtiketi(3, MetinNo::MalzemeBul, m_bul));
+    katalog->addWidget(VurgulananEtiket(3, MetinNo::MalzemeBul, m_bul));
     katalog->addWidget(m_bul);
-    katalog->addWidget(KatalogEtiketi(2, MetinNo::MalzemeListesiEtiketi, m_katalog));
+    katalog->addWidget(VurgulananEtiket(2, MetinNo::MalzemeListesiEtiketi, m_katalog));
     katalog->addWidget(m_katalog);
     auto* miktar = new QGridLayout;
-    miktar->addWidget(KatalogEtiketi(0, MetinNo::Miktar, m_miktar), 0, 0);
+    miktar->addWidget(VurgulananEtiket(0, MetinNo::Miktar, m_miktar), 0, 0);
     miktar->addWidget(m_miktar, 1, 0);
-    miktar->addWidget(KatalogEtiketi(1, MetinNo::MiktarTürü, m_tür), 0, 1);
+    miktar->addWidget(VurgulananEtiket(1, MetinNo::MiktarTürü, m_tür), 0, 1);
     miktar->addWidget(m_tür, 1, 1);
     miktar->setColumnStretch(0, 1);
     miktar->setColumnStretch(1, 1);
@@ -107,15 +105,11 @@ void MalzemeListesiOluşturFormu::Yerleştir() {
     üst->addLayout(katalog, 5);
     üst->addLayout(giriş, 4);
 
-    auto* düğmeler = new QHBoxLayout;
-    for (KomutDüğmesi* düğme : {m_çıkar, m_temizle, m_aktar}) düğmeler->addWidget(düğme);
-    düğmeler->addStretch();
-    düğmeler->addWidget(m_iptal);
-    auto* düzen = new QVBoxLayout(KatalogAltlığı(this));
+    auto* düzen = new QVBoxLayout(FormAltlığı(this));
     düzen->addLayout(üst, 1);
-    düzen->addWidget(KatalogEtiketi(4, MetinNo::EklenecekListe, m_eklenecek));
+    düzen->addWidget(VurgulananEtiket(4, MetinNo::EklenecekListe, m_eklenecek));
     düzen->addWidget(m_eklenecek, 1);
-    düzen->addLayout(düğmeler);
+    düzen->addLayout(DüğmeSırası({m_çıkar, m_temizle, m_aktar, nullptr, m_iptal}));
     resize(740, 540);
     m_bul->setFocus();
 }
@@ -134,7 +128,7 @@ bool MalzemeListesiOluşturFormu::KatalogBoş() const {
 }
 
 void MalzemeListesiOluşturFormu::MalzemeBulKutusu_Change() {
-    const int satır = ÖnekAra(*m_katalog, m_bul->text());
+    const int satır = m_katalog->ÖnekAra(m_bul->text());
     m_katalog->setCurrentRow(satır);
     if (satır >= 0) m_katalog->scrollToItem(m_katalog->item(satır));
 }

@@ -1,6 +1,5 @@
 #include "UrunEkleSilFormu.h"
 
-#include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -9,15 +8,13 @@
 #include "AcilirGirisKutusu.h"
 #include "AnaFormErisimi.h"
 #include "Deyimler.h"
-#include "EnterTusu.h"
 #include "GirisKutusu.h"
-#include "KatalogParcalari.h"
-#include "KomutDugmesi.h"
+#include "FormParcalari.h"
+#include "KatalogListesi.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "MetinTemsilcisi.h"
 #include "OdbcModulu.h"
-#include "OnekArama.h"
 #include "SayiMetni.h"
 #include "TurkceSira.h"
 #include "Yukleyiciler.h"
@@ -52,45 +49,37 @@ void ÜrünEkleSilFormu::KontrolleriKur() {
     m_ağaç->Seçilince([this] { SilDüğmesiniAdlandır(); });
     connect(m_ağaç, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* grup) { m_ağaç->setCurrentItem(grup); });
 
-    m_çerçeve = new QFrame;
-    m_çerçeve->setObjectName(QStringLiteral("Çerçeve"));
-    m_çerçeve->setFrameShape(QFrame::StyledPanel);
+    m_çerçeve = ÇerçeveOluştur();
     m_çerçeve->setEnabled(false);
     m_grup = new GrupKutusu;
     m_grup->setObjectName(QStringLiteral("ÜrünGrubuListesi"));
     m_ad = new AdKutusu;
     m_ad->setObjectName(QStringLiteral("ÜrünAdıKutusu"));
 
-    m_ekleKaydet = KatalogDüğmesi(QStringLiteral("ÜrünEkleKaydetButonu"), {MetinNo::ÜrünEkle, MetinNo::Kaydet},
-                                  [this] { ÜrünEkleKaydetButonu_Click(); });
-    m_sil = KatalogDüğmesi(QStringLiteral("ÜrünSilButonu"), {MetinNo::ÜrünGrubuSil, MetinNo::ÜrünSil},
-                           [this] { ÜrünSilButonu_Click(); });
-    m_kapatİptal = KatalogDüğmesi(QStringLiteral("KapatİptalButonu"), {MetinNo::Kapat, MetinNo::İptal},
-                                  [this] { KapatİptalButonu_Click(); });
+    m_ekleKaydet = RolDeğiştirenDüğme(QStringLiteral("ÜrünEkleKaydetButonu"), {MetinNo::ÜrünEkle, MetinNo::Kaydet},
+                                      [this] { ÜrünEkleKaydetButonu_Click(); });
+    m_sil = RolDeğiştirenDüğme(QStringLiteral("ÜrünSilButonu"), {MetinNo::ÜrünGrubuSil, MetinNo::ÜrünSil},
+                               [this] { ÜrünSilButonu_Click(); });
+    m_kapatİptal = RolDeğiştirenDüğme(QStringLiteral("KapatİptalButonu"), {MetinNo::Kapat, MetinNo::İptal},
+                                      [this] { KapatİptalButonu_Click(); });
 }
 
 void ÜrünEkleSilFormu::Yerleştir() {
     auto* kutular = new QVBoxLayout(m_çerçeve);
-    kutular->addWidget(KatalogEtiketi(1, MetinNo::ÜrünGrubu, m_grup));
+    kutular->addWidget(VurgulananEtiket(1, MetinNo::ÜrünGrubu, m_grup));
     kutular->addWidget(m_grup);
-    kutular->addWidget(KatalogEtiketi(2, MetinNo::ÜrünAdı, m_ad));
+    kutular->addWidget(VurgulananEtiket(2, MetinNo::ÜrünAdı, m_ad));
     kutular->addWidget(m_ad);
     m_çerçeve->setMinimumWidth(300);
-
-    auto* düğmeler = new QHBoxLayout;
-    düğmeler->addWidget(m_ekleKaydet);
-    düğmeler->addWidget(m_sil);
-    düğmeler->addStretch();
-    düğmeler->addWidget(m_kapatİptal);
 
     auto* sağ = new QVBoxLayout;
     sağ->addWidget(m_çerçeve);
     sağ->addStretch();
-    sağ->addLayout(düğmeler);
+    sağ->addLayout(DüğmeSırası({m_ekleKaydet, m_sil, nullptr, m_kapatİptal}));
     auto* sol = new QVBoxLayout;
-    sol->addWidget(KatalogEtiketi(0, MetinNo::ÜrünListesiBaşlığı, m_ağaç));
+    sol->addWidget(VurgulananEtiket(0, MetinNo::ÜrünListesiBaşlığı, m_ağaç));
     sol->addWidget(m_ağaç);
-    auto* düzen = new QHBoxLayout(KatalogAltlığı(this));
+    auto* düzen = new QHBoxLayout(FormAltlığı(this));
     düzen->addLayout(sol, 1);
     düzen->addLayout(sağ);
     resize(680, 440);

@@ -1,5 +1,6 @@
 #include "AnaForm.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -7,7 +8,7 @@
 
 #include "DegiskenModulu.h"
 #include "Deyimler.h"
-#include "KatalogParcalari.h"
+#include "FormParcalari.h"
 #include "MesajKutusu.h"
 #include "KullanilanMalzemeler.h"
 #include "MaliyetAlani.h"
@@ -15,24 +16,10 @@
 #include "MiktarAlani.h"
 #include "OdbcModulu.h"
 #include "UrunAgaci.h"
-#include "YuklenemediBildirimi.h"
 
 namespace {
 
 constexpr qsizetype EnÇokSayılanSatır = 10;  // rows that a message box names
-
-std::optional<Komut> TuşKomutu(int tuş) {
-    switch (tuş) {
-        case Qt::Key_F4:
-            return Komut::GünlükMalzemeHareketleri;
-        case Qt::Key_F5:
-            return Komut::MalzemeListesi;
-        case Qt::Key_F6:
-            return Komut::ÜrünListesi;
-        default:
-            return std::nullopt;
-    }
-}
 
 }  // namespace
 
@@ -114,10 +101,10 @@ bool AnaForm::SeçiliÜrünüYükle(QStringList& sayılmayanlar) {
 void AnaForm::YüklemeyiUygula(bool yüklendi) {
     m_ürünYüklendi = yüklendi;
     const bool malzemeVar = yüklendi && !m_liste->Boş();
-    m_komutlar.İzinVer(Komut::ListeyeMalzemeEkle, yüklendi);
-    m_komutlar.İzinVer(Komut::MiktarlarıGöster, yüklendi);
-    m_komutlar.İzinVer(Komut::ListedenMalzemeSil, malzemeVar);
-    m_komutlar.İzinVer(Komut::DeğişiklikleriKaydet, false);
+    m_komutlar.ListeyeMalzemeEkle->setEnabled(yüklendi);
+    m_komutlar.MiktarlarıGöster->setEnabled(yüklendi);
+    m_komutlar.ListedenMalzemeSil->setEnabled(malzemeVar);
+    m_komutlar.DeğişiklikleriKaydet->setEnabled(false);
     YazdırmayaİzinVer(malzemeVar);
     m_maliyet->setEnabled(malzemeVar);
     m_miktar->SeçeneğeİzinVer(yüklendi);
@@ -172,19 +159,32 @@ void AnaForm::DeğişiklikleriKaydet() {
     const MaliyetGirdisi yüzdeler = m_maliyet->Girdi();
     if (DeyimiYürüt(Deyimler::YüzdeleriKaydet(yüzdeler.İşçilik, yüzdeler.Kâr, yüzdeler.Diğer, yüzdeler.Vade,
                                               m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()))) {
-        m_komutlar.İzinVer(Komut::DeğişiklikleriKaydet, false);
+        m_komutlar.DeğişiklikleriKaydet->setEnabled(false);
+    }
+}
+
+QAction* AnaForm::TuşKomutu(int tuş) const {
+    switch (tuş) {
+        case Qt::Key_F4:
+            return m_komutlar.GünlükMalzemeHareketleri;
+        case Qt::Key_F5:
+            return m_komutlar.MalzemeListesi;
+        case Qt::Key_F6:
+            return m_komutlar.ÜrünListesi;
+        default:
+            return nullptr;
     }
 }
 
 bool AnaForm::eventFilter(QObject* hedef, QEvent* olay) {
     if (olay->type() != QEvent::KeyPress && olay->type() != QEvent::KeyRelease) return false;
     const auto* tuş = static_cast<QKeyEvent*>(olay);
-    const std::optional<Komut> komut = TuşKomutu(tuş->key());
+    QAction* komut = TuşKomutu(tuş->key());
     if (!komut || tuş->modifiers() != Qt::NoModifier) return false;
     const auto* denetim = qobject_cast<QWidget*>(hedef);
     if (!denetim || denetim->window() != this) return false;
     // The press is kept from the controls: F4 would open a drop-down list.
-    if (olay->type() == QEvent::KeyRelease && !tuş->isAutoRepeat()) m_komutlar.Çalıştır(*komut);
+    if (olay->type() == QEvent::KeyRelease && !tuş->isAutoRepeat()) komut->trigger();
     return true;
 }
 

@@ -5,13 +5,14 @@
 #include <functional>
 
 #include "AnaFormErisimi.h"
-#include "Komutlar.h"
 
 enum class MetinNo : int;
+class KomutDüğmesi;
 class KullanılanMalzemeListesi;
 class MaliyetAlanı;
 class MiktarAlanı;
 struct MaliyetFişi;
+class QAction;
 class QComboBox;
 class YüklenemediBildirimi;
 class ÜrünAğacı;
@@ -44,16 +45,18 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void closeEvent(QCloseEvent* olay) override;
 
   private:
-    void MenüleriKur();
     void AlanlarıKur();
+    void KomutlarıKur();
+    QAction* KomutOluştur(const QString& ad, MetinNo metin, std::function<void()> iş);
+    QAction* ÇıkışKomutu();
+    QAction* TuşKomutu(int tuş) const;
+    void MenüleriKur();
     void DüzeniKur();
     QWidget* AğaçAltlığı();
     QWidget* ListeAltlığı();
     QWidget* MaliyetAltlığı();
     QWidget* DüğmeAltlığı();
-    QWidget* DüğmeOluştur(Komut komut, MetinNo metin, const char* ad);
     void DurumÇubuğunuKur();
-    void KomutlarıKur();
     void Yerleş();
 
     void AğacaGirildi();
@@ -82,6 +85,21 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void YazdırmayaİzinVer(bool izin);
     MaliyetFişi Fiş() const;
 
+    // The commands of buttons and function keys; one that the selection does not allow is disabled.
+    struct Komutlar {
+        QAction* ListeyeMalzemeEkle;
+        QAction* ListedenMalzemeSil;
+        QAction* Yazdır;
+        QAction* PdfKaydet;
+        QAction* Önizle;
+        QAction* DeğişiklikleriKaydet;
+        QAction* MiktarlarıGöster;
+        QAction* GünlükMalzemeHareketleri;
+        QAction* MalzemeListesi;
+        QAction* ÜrünListesi;
+        QAction* Çıkış;
+    };
+
     AnaFormBağları m_bağlar;
     Komutlar m_komutlar;
     bool m_kapandı = false;
@@ -91,6 +109,8 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     YüklenemediBildirimi* m_ağaçBildirimi;
     YüklenemediBildirimi* m_ürünBildirimi;
     KullanılanMalzemeListesi* m_liste;
+    KomutDüğmesi* m_yazdır;
+    KomutDüğmesi* m_pdfKaydet;
     QComboBox* m_haneSayısı;
     MaliyetAlanı* m_maliyet;
     MiktarAlanı* m_miktar;

@@ -1,5 +1,6 @@
 // How the main form is put together: menus, controls, layout.
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -7,7 +8,6 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QScreen>
-#include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -17,19 +17,19 @@
 #include "AnaFormDuzeni.h"
 #include "OrtakFonksiyonlarModulu.h"
 #include "DegiskenModulu.h"
-#include "Denetimler.h"
+#include "FormParcalari.h"
+#include "GirisKutusu.h"
 #include "HakkindaFormu.h"
 #include "HataBildirmeFormu.h"
-#include "KomutDugmesi.h"
 #include "KullanilanMalzemeler.h"
 #include "MaliyetAlani.h"
+#include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "MiktarAlani.h"
 #include "Renk.h"
 #include "Saat.h"
 #include "UrunAgaci.h"
 #include "Yardim.h"
-#include "YuklenemediBildirimi.h"
 
 namespace {
 
@@ -55,10 +55,10 @@ AnaForm::AnaForm(AnaFormBağları bağlar) : m_bağlar(std::move(bağlar)) {
     setObjectName(QStringLiteral("AnaForm"));
     setWindowTitle(UygulamaBaşlığı);
     AlanlarıKur();
+    KomutlarıKur();
     MenüleriKur();
     DüzeniKur();
     DurumÇubuğunuKur();
-    KomutlarıKur();
     qApp->installEventFilter(this);
 }
 
@@ -72,7 +72,7 @@ void AnaForm::AlanlarıKur() {
     m_ürünBildirimi = new YüklenemediBildirimi(QStringLiteral("ÜrünüTekrarYükle"), MetinNo::ÜrünOkunamadı,
                                                MetinNo::ÜrünüTekrarYükle, [this] { ÜrünüYenidenYükle(); });
     m_liste = new KullanılanMalzemeListesi;
-    connect(m_liste, &QTreeWidget::itemDoubleClicked, this, [this] { m_komutlar.Çalıştır(Komut::ListedenMalzemeSil); });
+    connect(m_liste, &QTreeWidget::itemDoubleClicked, this, [this] { m_komutlar.ListedenMalzemeSil->trigger(); });
 
     m_haneSayısı = new QComboBox;
     m_haneSayısı->setObjectName(QStringLiteral("HaneSayısıKutusu"));
@@ -83,7 +83,7 @@ void AnaForm::AlanlarıKur() {
             [](const QString& basamak) { OndalıkBasamak = basamak.toInt(); });
 
     m_maliyet = new MaliyetAlanı({[this] {
-                                      m_komutlar.İzinVer(Komut::DeğişiklikleriKaydet, true);
+                                      m_komutlar.DeğişiklikleriKaydet->setEnabled(true);
                                       ToplamMaliyetHesapla();
                                   },
                                   [this] { m_miktar->ToplamDeğişti(); }});
@@ -91,28 +91,67 @@ void AnaForm::AlanlarıKur() {
                                 [this] { return m_maliyet->ToplamMaliyet(); }, [this] { m_ağaç->setFocus(); }});
 }
 
+void AnaForm::KomutlarıKur() {
+    m_komutlar.ListeyeMalzemeEkle = KomutOluştur(QStringLiteral("ListeyeMalzemeEkleKomutu"), MetinNo::EkleDeğiştir,
+                                                 [this] { ListeyeMalzemeEkle(); });
+    m_komutlar.ListedenMalzemeSil = KomutOluştur(QStringLiteral("ListedenMalzemeSilKomutu"), MetinNo::ListedenÇıkar,
+                                                 [this] { ListedenMalzemeSil(); });
+    m_komutlar.DeğişiklikleriKaydet = KomutOluştur(QStringLiteral("DeğişiklikleriKaydetKomutu"),
+                                                   MetinNo::DeğişiklikleriKaydet, [this] { DeğişiklikleriKaydet(); });
+    m_komutlar.MiktarlarıGöster = KomutOluştur(QStringLiteral("MiktarlarıGösterKomutu"),
+                                               MetinNo::MiktarlarıGösterDüğmesi, [this] { MiktarlarıGöster(); });
+    m_komutlar.Çıkış = ÇıkışKomutu();
+    RaporKomutlarınıKur();
+}
+
+// A command that is reached without moving the focus does not run where the box that the user is in cannot be read.
+QAction* AnaForm::KomutOluştur(const QString& ad, MetinNo metin, std::function<void()> iş) {
+    auto* komut = new QAction(Metin(metin), this);
+    komut->setObjectName(ad);
+    connect(komut, &QAction::triggered, this, [iş = std::move(iş)] {
+        if (OdaktakiKutuBitti()) HataYakala(iş);
+    });
+    return komut;
+}
+
+// The end of the program asks no box: it drops what is in them anyway.
+QAction* AnaForm::ÇıkışKomutu() {
+    auto* komut = new QAction(Metin(MetinNo::ÇıkışDüğmesi), this);
+    komut->setObjectName(QStringLiteral("ÇıkışKomutu"));
+    komut->setShortcut(Qt::Key_Escape);
+    connect(komut, &QAction::triggered, this, [this] { HataYakala([this] { close(); }); });
+    addAction(komut);
+    return komut;
+}
+
 void AnaForm::MenüleriKur() {
-    const auto girişEkle = [this](QMenu* menü, Komut komut, MetinNo metin, const char* ad) {
-        QAction* giriş = menü->addAction(Metin(metin));
-        giriş->setObjectName(QString::fromUtf8(ad));
-        m_komutlar.Bağla(komut, giriş);
+    const auto menüEkle = [this](const QString& ad, MetinNo metin) {
+        QMenu* menü = menuBar()->addMenu(Metin(metin));
+        menü->setObjectName(ad);
+        return menü;
+    };
+    const auto girişEkle = [this](QMenu* menü, const QString& ad, MetinNo metin, std::function<void()> iş) {
+        menü->addAction(KomutOluştur(ad, metin, std::move(iş)));
     };
     const auto çizgiEkle = [](QMenu* menü, int sıra) {
         menü->addSeparator()->setObjectName(QStringLiteral("MenüÇizgisi%1").arg(sıra));
     };
-    QMenu* program = menuBar()->addMenu(Metin(MetinNo::ProgramMenüsü));
-    program->setObjectName(QStringLiteral("ProgramMenüsü"));
-    girişEkle(program, Komut::ÜrünEkleSil, MetinNo::ÜrünEkleSilMenüsü, "ÜrünEkleSilMenüsü");
-    girişEkle(program, Komut::MalzemeEkleSil, MetinNo::MalzemeEkleSilMenüsü, "MalzemeEkleSilMenüsü");
+    QMenu* program = menüEkle(QStringLiteral("ProgramMenüsü"), MetinNo::ProgramMenüsü);
+    girişEkle(program, QStringLiteral("ÜrünEkleSilMenüsü"), MetinNo::ÜrünEkleSilMenüsü, [this] { ÜrünEkleSil(); });
+    girişEkle(program, QStringLiteral("MalzemeEkleSilMenüsü"), MetinNo::MalzemeEkleSilMenüsü,
+              [this] { MalzemeEkleSil(); });
     çizgiEkle(program, 1);
-    girişEkle(program, Komut::Çıkış, MetinNo::ÇıkışMenüsü, "ÇıkışMenüsü");
-    QMenu* yardım = menuBar()->addMenu(Metin(MetinNo::YardımMenüsü));
-    yardım->setObjectName(QStringLiteral("YardımMenüsü"));
-    girişEkle(yardım, Komut::İçindekiler, MetinNo::İçindekilerMenüsü, "İçindekilerMenüsü");
+    // The entry has a caption of its own and shows no key.
+    QAction* çıkış = program->addAction(Metin(MetinNo::ÇıkışMenüsü), m_komutlar.Çıkış, &QAction::trigger);
+    çıkış->setObjectName(QStringLiteral("ÇıkışMenüsü"));
+    QMenu* yardım = menüEkle(QStringLiteral("YardımMenüsü"), MetinNo::YardımMenüsü);
+    girişEkle(yardım, QStringLiteral("İçindekilerMenüsü"), MetinNo::İçindekilerMenüsü, [this] { YardımıAç(this); });
     çizgiEkle(yardım, 2);
-    girişEkle(yardım, Komut::HataBildirme, MetinNo::HataBildirmeMenüsü, "HataBildirmeMenüsü");
+    girişEkle(yardım, QStringLiteral("HataBildirmeMenüsü"), MetinNo::HataBildirmeMenüsü,
+              [this] { HataBildirmeFormu(this).exec(); });
     çizgiEkle(yardım, 3);
-    girişEkle(yardım, Komut::Hakkında, MetinNo::HakkındaMenüsü, "HakkındaMenüsü");
+    girişEkle(yardım, QStringLiteral("HakkındaMenüsü"), MetinNo::HakkındaMenüsü,
+              [this] { HakkındaFormu(this).exec(); });
 }
 
 // Controls are added as one reads, left to right and top to bottom: that is the order of Tab too.
@@ -152,30 +191,29 @@ void AnaForm::DüzeniKur() {
 }
 
 QWidget* AnaForm::AğaçAltlığı() {
-    QWidget* altlık = AltlıkOluştur(0);
+    QWidget* altlık = AltlıkOluştur(SıralıAd(QStringLiteral("Altlık"), 0));
     auto* düzen = new QVBoxLayout(altlık);
     düzen->setContentsMargins(0, 0, 0, 0);
-    düzen->addWidget(VurgulananEtiket(0, m_ağaç));
+    düzen->addWidget(VurgulananEtiket(0, MetinNo::ÜrünListesiBaşlığı, m_ağaç));
     düzen->addWidget(m_ağaçBildirimi);
     düzen->addWidget(m_ağaç, 1);
     return altlık;
 }
 
 QWidget* AnaForm::ListeAltlığı() {
-    QWidget* altlık = AltlıkOluştur(1);
+    QWidget* altlık = AltlıkOluştur(SıralıAd(QStringLiteral("Altlık"), 1));
     auto* başlık = new QHBoxLayout;
-    başlık->addWidget(VurgulananEtiket(1, m_liste));
+    başlık->addWidget(VurgulananEtiket(1, MetinNo::KullanılanMalzemelerBaşlığı, m_liste));
     başlık->addStretch();
-    başlık->addWidget(EtiketOluştur(10, m_haneSayısı));
+    başlık->addWidget(EtiketOluştur(10, MetinNo::OndalıkBasamaklar, m_haneSayısı));
     başlık->addWidget(m_haneSayısı);
-    başlık->addWidget(EtiketOluştur(11));
-    auto* düğmeler = new QHBoxLayout;
-    düğmeler->addWidget(DüğmeOluştur(Komut::ListeyeMalzemeEkle, MetinNo::EkleDeğiştir, "ListeyeMalzemeEkleButonu"));
-    düğmeler->addWidget(DüğmeOluştur(Komut::ListedenMalzemeSil, MetinNo::ListedenÇıkar, "ListedenMalzemeSilButonu"));
-    düğmeler->addWidget(DüğmeOluştur(Komut::Yazdır, MetinNo::Yazdır, "YazdırButonu"));
-    düğmeler->addWidget(DüğmeOluştur(Komut::PdfKaydet, MetinNo::PdfKaydet, "PdfKaydetButonu"));
-    düğmeler->addWidget(DüğmeOluştur(Komut::Önizle, MetinNo::Önizleme, "ÖnizlemeButonu"));
-    düğmeler->addStretch();
+    başlık->addWidget(EtiketOluştur(11, MetinNo::HaneOlsun));
+    m_yazdır = KomutaBağlıDüğme(QStringLiteral("YazdırButonu"), m_komutlar.Yazdır);
+    m_pdfKaydet = KomutaBağlıDüğme(QStringLiteral("PdfKaydetButonu"), m_komutlar.PdfKaydet);
+    QHBoxLayout* düğmeler = DüğmeSırası(
+        {KomutaBağlıDüğme(QStringLiteral("ListeyeMalzemeEkleButonu"), m_komutlar.ListeyeMalzemeEkle),
+         KomutaBağlıDüğme(QStringLiteral("ListedenMalzemeSilButonu"), m_komutlar.ListedenMalzemeSil), m_yazdır,
+         m_pdfKaydet, KomutaBağlıDüğme(QStringLiteral("ÖnizlemeButonu"), m_komutlar.Önizle), nullptr});
     auto* düzen = new QVBoxLayout(altlık);
     düzen->setContentsMargins(0, 0, 0, 0);
     düzen->addLayout(başlık);
@@ -186,42 +224,30 @@ QWidget* AnaForm::ListeAltlığı() {
 }
 
 QWidget* AnaForm::MaliyetAltlığı() {
-    QWidget* altlık = AltlıkOluştur(2);
-    auto* düğmeler = new QHBoxLayout;
-    düğmeler->addWidget(
-        DüğmeOluştur(Komut::DeğişiklikleriKaydet, MetinNo::DeğişiklikleriKaydet, "DeğişiklikleriKaydetButonu"));
-    düğmeler->addStretch();
-    QWidget* miktarlar =
-        DüğmeOluştur(Komut::MiktarlarıGöster, MetinNo::MiktarlarıGösterDüğmesi, "MiktarlarıGösterDüğmesi");
+    QWidget* altlık = AltlıkOluştur(SıralıAd(QStringLiteral("Altlık"), 2));
+    KomutDüğmesi* miktarlar = KomutaBağlıDüğme(QStringLiteral("MiktarlarıGösterDüğmesi"), m_komutlar.MiktarlarıGöster);
     miktarlar->setAccessibleName(Metin(MetinNo::MiktarlarıGösterAçıklaması));
     miktarlar->setToolTip(Metin(MetinNo::MiktarlarıGösterAçıklaması));
     miktarlar->setMaximumWidth(NoktaGenişliği);
-    düğmeler->addWidget(miktarlar);
     auto* düzen = new QVBoxLayout(altlık);
     düzen->setContentsMargins(0, 0, 0, 0);
     düzen->addWidget(m_maliyet);
-    düzen->addLayout(düğmeler);
+    düzen->addLayout(
+        DüğmeSırası({KomutaBağlıDüğme(QStringLiteral("DeğişiklikleriKaydetButonu"), m_komutlar.DeğişiklikleriKaydet),
+                     nullptr, miktarlar}));
     return altlık;
 }
 
 QWidget* AnaForm::DüğmeAltlığı() {
-    QWidget* altlık = AltlıkOluştur(3);
-    auto* düzen = new QHBoxLayout(altlık);
+    QWidget* altlık = AltlıkOluştur(SıralıAd(QStringLiteral("Altlık"), 3));
+    QHBoxLayout* düzen = DüğmeSırası(
+        {KomutaBağlıDüğme(QStringLiteral("GünlükMalzemeHareketleriGösterButonu"), m_komutlar.GünlükMalzemeHareketleri),
+         KomutaBağlıDüğme(QStringLiteral("MalzemeListesiGösterButonu"), m_komutlar.MalzemeListesi),
+         KomutaBağlıDüğme(QStringLiteral("ÜrünListesiGösterButonu"), m_komutlar.ÜrünListesi), nullptr,
+         KomutaBağlıDüğme(QStringLiteral("ÇıkışButonu"), m_komutlar.Çıkış)});
     düzen->setContentsMargins(0, 0, 0, 0);
-    düzen->addWidget(DüğmeOluştur(Komut::GünlükMalzemeHareketleri, MetinNo::GünlükMalzemeHareketleriDüğmesi,
-                                  "GünlükMalzemeHareketleriGösterButonu"));
-    düzen->addWidget(DüğmeOluştur(Komut::MalzemeListesi, MetinNo::MalzemeListesiDüğmesi, "MalzemeListesiGösterButonu"));
-    düzen->addWidget(DüğmeOluştur(Komut::ÜrünListesi, MetinNo::ÜrünListesiDüğmesi, "ÜrünListesiGösterButonu"));
-    düzen->addStretch();
-    düzen->addWidget(DüğmeOluştur(Komut::Çıkış, MetinNo::ÇıkışDüğmesi, "ÇıkışButonu"));
+    altlık->setLayout(düzen);
     return altlık;
-}
-
-QWidget* AnaForm::DüğmeOluştur(Komut komut, MetinNo metin, const char* ad) {
-    auto* düğme = new KomutDüğmesi(Metin(metin));
-    düğme->setObjectName(QString::fromUtf8(ad));
-    m_komutlar.Bağla(komut, düğme);
-    return düğme;
 }
 
 void AnaForm::DurumÇubuğunuKur() {
@@ -230,22 +256,6 @@ void AnaForm::DurumÇubuğunuKur() {
     tarih->setObjectName(QStringLiteral("TarihBölmesi"));
     tarih->setIndent(6);
     statusBar()->addWidget(tarih);
-}
-
-void AnaForm::KomutlarıKur() {
-    m_komutlar.Tanımla(Komut::Çıkış, [this] { close(); });
-    m_komutlar.Tanımla(Komut::ÜrünEkleSil, [this] { ÜrünEkleSil(); });
-    m_komutlar.Tanımla(Komut::MalzemeEkleSil, [this] { MalzemeEkleSil(); });
-    m_komutlar.Tanımla(Komut::ListeyeMalzemeEkle, [this] { ListeyeMalzemeEkle(); });
-    m_komutlar.Tanımla(Komut::MiktarlarıGöster, [this] { MiktarlarıGöster(); });
-    m_komutlar.Tanımla(Komut::İçindekiler, [this] { YardımıAç(this); });
-    m_komutlar.Tanımla(Komut::HataBildirme, [this] { HataBildirmeFormu(this).exec(); });
-    m_komutlar.Tanımla(Komut::Hakkında, [this] { HakkındaFormu(this).exec(); });
-    m_komutlar.Tanımla(Komut::ListedenMalzemeSil, [this] { ListedenMalzemeSil(); });
-    m_komutlar.Tanımla(Komut::DeğişiklikleriKaydet, [this] { DeğişiklikleriKaydet(); });
-    RaporKomutlarınıKur();
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,
-            [this] { m_komutlar.Çalıştır(Komut::Çıkış); });
 }
 
 void AnaForm::Yerleş() {

@@ -1,12 +1,16 @@
 // What the main form prints, and the report forms that it opens.
 
+#include <QAction>
+
 #include "AnaForm.h"
 #include "DegiskenModulu.h"
+#include "FormParcalari.h"
 #include "KullanilanMalzemeler.h"
 #include "MaliyetAlani.h"
 #include "MaliyetFisi.h"
 #include "MalzemeHareketleriFormu.h"
 #include "MalzemeListesiFormu.h"
+#include "MetinTablosu.h"
 #include "MiktarAlani.h"
 #include "UrunAgaci.h"
 #include "UrunListesiFormu.h"
@@ -29,17 +33,24 @@ Yazdırılacak FişiYazdır(const MaliyetFişi& fiş) {
 }  // namespace
 
 void AnaForm::RaporKomutlarınıKur() {
-    m_komutlar.Tanımla(Komut::Yazdır, [this] { ::Yazdır(*this, *m_komutlar.Düğme(Komut::Yazdır), FişiYazdır(Fiş())); });
-    m_komutlar.Tanımla(Komut::PdfKaydet,
-                       [this] { ::PdfKaydet(*this, *m_komutlar.Düğme(Komut::PdfKaydet), FişiYazdır(Fiş())); });
-    m_komutlar.Tanımla(Komut::Önizle, [this] { ::Önizle(*this, FişiYazdır(Fiş())); });
-    m_komutlar.Tanımla(Komut::GünlükMalzemeHareketleri, [this] { MalzemeHareketleriFormu(this).exec(); });
-    m_komutlar.Tanımla(Komut::MalzemeListesi, [this] { YükleyipAç<MalzemeListesiFormu>(*this); });
-    m_komutlar.Tanımla(Komut::ÜrünListesi, [this] { YükleyipAç<ÜrünListesiFormu>(*this); });
+    m_komutlar.Yazdır = KomutOluştur(QStringLiteral("YazdırKomutu"), MetinNo::Yazdır,
+                                     [this] { ::Yazdır(*this, *m_yazdır, FişiYazdır(Fiş())); });
+    m_komutlar.PdfKaydet = KomutOluştur(QStringLiteral("PdfKaydetKomutu"), MetinNo::PdfKaydet,
+                                        [this] { ::PdfKaydet(*this, *m_pdfKaydet, FişiYazdır(Fiş())); });
+    m_komutlar.Önizle = KomutOluştur(QStringLiteral("ÖnizlemeKomutu"), MetinNo::Önizleme,
+                                     [this] { ::Önizle(*this, FişiYazdır(Fiş())); });
+    m_komutlar.GünlükMalzemeHareketleri =
+        KomutOluştur(QStringLiteral("GünlükMalzemeHareketleriGösterKomutu"), MetinNo::GünlükMalzemeHareketleriDüğmesi,
+                     [this] { MalzemeHareketleriFormu(this).exec(); });
+    m_komutlar.MalzemeListesi =
+        KomutOluştur(QStringLiteral("MalzemeListesiGösterKomutu"), MetinNo::MalzemeListesiDüğmesi,
+                     [this] { YükleyipAç<MalzemeListesiFormu>(*this); });
+    m_komutlar.ÜrünListesi = KomutOluştur(QStringLiteral("ÜrünListesiGösterKomutu"), MetinNo::ÜrünListesiDüğmesi,
+                                          [this] { YükleyipAç<ÜrünListesiFormu>(*this); });
 }
 
 void AnaForm::YazdırmayaİzinVer(bool izin) {
-    for (const Komut komut : {Komut::Yazdır, Komut::PdfKaydet, Komut::Önizle}) m_komutlar.İzinVer(komut, izin);
+    for (QAction* komut : {m_komutlar.Yazdır, m_komutlar.PdfKaydet, m_komutlar.Önizle}) komut->setEnabled(izin);
 }
 
 MaliyetFişi AnaForm::Fiş() const {

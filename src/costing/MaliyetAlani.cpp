@@ -8,8 +8,9 @@
 #include <algorithm>
 
 #include "DegiskenModulu.h"
-#include "Denetimler.h"
 #include "Deyimler.h"
+#include "FormParcalari.h"
+#include "MetinTablosu.h"
 #include "OdbcModulu.h"
 #include "SayiKutusu.h"
 #include "SayiMetni.h"
@@ -45,10 +46,10 @@ void MaliyetAlanı::Yerleştir() {
     m_toplam->setMinimumWidth(m_toplam->fontMetrics().horizontalAdvance(QStringLiteral("888.888.888,88")));
 
     auto* malzemeSatırı = new QHBoxLayout;
-    malzemeSatırı->addWidget(EtiketOluştur(2, m_malzeme));
+    malzemeSatırı->addWidget(EtiketOluştur(2, MetinNo::ToplamMalzemeMaliyeti, m_malzeme));
     malzemeSatırı->addWidget(m_malzeme, 1);
     auto* toplamSatırı = new QHBoxLayout;
-    QLabel* toplamEtiketi = EtiketOluştur(7, m_toplam);
+    QLabel* toplamEtiketi = EtiketOluştur(7, MetinNo::ToplamVarnek, m_toplam);
     QFont kalın = toplamEtiketi->font();
     kalın.setBold(true);
     toplamEtiketi->setFont(kalın);
@@ -64,6 +65,8 @@ void MaliyetAlanı::Yerleştir() {
 QLayout* MaliyetAlanı::YüzdeleriYerleştir() {
     const std::array adlar = {"İşçilikYüzdesiKutusu", "KarYüzdesiKutusu", "DiğerMaliyetYüzdesiKutusu",
                               "VadeFarkıYüzdesiKutusu"};
+    const std::array başlıklar = {MetinNo::İşçilikYüzdesi, MetinNo::KârYüzdesi, MetinNo::DiğerYüzdesi,
+                                  MetinNo::VadeYüzdesi};
     auto* düzen = new QGridLayout;
     for (const int kutuSütunu : {1, 3}) düzen->setColumnStretch(kutuSütunu, 1);
     for (int i = İşçilik; i <= Vade; ++i) {
@@ -74,7 +77,7 @@ QLayout* MaliyetAlanı::YüzdeleriYerleştir() {
         m_yüzdeler[i] = kutu;
         const int satır = i / 2;
         const int sütun = i % 2 * 2;
-        düzen->addWidget(VurgulananEtiket(3 + i, kutu), satır, sütun);
+        düzen->addWidget(VurgulananEtiket(3 + i, başlıklar[i], kutu), satır, sütun);
         düzen->addWidget(kutu, satır, sütun + 1);
     }
     return düzen;

@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 #include "DegiskenModulu.h"
-#include "Denetimler.h"
+#include "FormParcalari.h"
 #include "MaliyetHesabi.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
@@ -48,7 +48,7 @@ void MiktarAlanı::Yerleştir() {
     m_fireliMiktar = GösterimKutusu(QStringLiteral("FireliMalzemeMiktarıKutusu"));
     m_fireliBirimMaliyet = GösterimKutusu(QStringLiteral("FireliBirimMaliyetKutusu"));
 
-    m_çerçeve = AltlıkOluştur(4);
+    m_çerçeve = AltlıkOluştur(SıralıAd(QStringLiteral("Altlık"), 4));
     auto* kutular = new QGridLayout(m_çerçeve);
     kutular->setContentsMargins(0, 0, 0, 0);
     int satır = 0;
@@ -56,11 +56,11 @@ void MiktarAlanı::Yerleştir() {
         kutular->addWidget(etiket, satır, 0);
         kutular->addWidget(kutu, satır++, 1);
     };
-    ekle(EtiketOluştur(8, m_miktar), m_miktar);
-    ekle(EtiketOluştur(9, m_birimMaliyet), m_birimMaliyet);
-    ekle(VurgulananEtiket(12, m_fireOranı), m_fireOranı);
-    ekle(EtiketOluştur(13, m_fireliMiktar), m_fireliMiktar);
-    ekle(EtiketOluştur(14, m_fireliBirimMaliyet), m_fireliBirimMaliyet);
+    ekle(EtiketOluştur(8, MetinNo::ToplamMalzeme, m_miktar), m_miktar);
+    ekle(EtiketOluştur(9, MetinNo::BirimVarnek, m_birimMaliyet), m_birimMaliyet);
+    ekle(VurgulananEtiket(12, MetinNo::FireOranı, m_fireOranı), m_fireOranı);
+    ekle(EtiketOluştur(13, MetinNo::FireliToplamMalzeme, m_fireliMiktar), m_fireliMiktar);
+    ekle(EtiketOluştur(14, MetinNo::FireliBirimVarnekEtiketi, m_fireliBirimMaliyet), m_fireliBirimMaliyet);
 
     auto* düzen = new QVBoxLayout(this);
     düzen->setContentsMargins(0, 0, 0, 0);

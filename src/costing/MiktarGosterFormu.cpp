@@ -4,9 +4,9 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QVBoxLayout>
 
+#include "FormParcalari.h"
 #include "MetinTablosu.h"
 #include "SayiSigdirma.h"
 
@@ -17,9 +17,6 @@ struct Satır {
     MetinNo Etiket;
     QString MiktarGösterFormu::Tutarlar::*Metin;
 };
-
-const QString EnGenişTutar = QStringLiteral("-922.337.203.685.477,580800");  // money with the most decimals
-constexpr int KutuPayı = 16;                                                 // pixels of a box beside its text
 
 constexpr Satır Satırlar[] = {
     {"MalzemeMaliyetiKutusu", MetinNo::MalzemeMaliyetiTutarı, &MiktarGösterFormu::Tutarlar::MalzemeMaliyeti},
@@ -35,10 +32,7 @@ constexpr Satır Satırlar[] = {
 MiktarGösterFormu::MiktarGösterFormu(const Tutarlar& tutarlar, QWidget* sahip) : QDialog(sahip) {
     setObjectName(QStringLiteral("MiktarGösterFormu"));
     setWindowTitle(Metin(MetinNo::MiktarFormuBaşlığı));
-    auto* altlık = new QWidget;
-    altlık->setObjectName(QStringLiteral("Altlik"));
-    auto* çerçeve = new QGroupBox(Metin(MetinNo::DiğerMaliyetler));
-    çerçeve->setObjectName(QStringLiteral("Çerçeve"));
+    QGroupBox* çerçeve = ÇerçeveOluştur(MetinNo::DiğerMaliyetler);
     auto* kutular = new QFormLayout(çerçeve);
     int sıra = 0;
     for (const Satır& satır : Satırlar) {
@@ -46,22 +40,14 @@ MiktarGösterFormu::MiktarGösterFormu(const Tutarlar& tutarlar, QWidget* sahip)
         kutu->setObjectName(QString::fromUtf8(satır.Ad));
         kutu->setReadOnly(true);
         kutu->setAlignment(Qt::AlignRight);
-        kutu->setMinimumWidth(kutu->fontMetrics().horizontalAdvance(EnGenişTutar) + KutuPayı);
+        TutaraYerAç(kutu, true);
         SayıyıSığdır(kutu);
-        auto* etiket = new QLabel(Metin(satır.Etiket));
-        etiket->setObjectName(QStringLiteral("Etiket(%1)").arg(sıra++));
-        etiket->setBuddy(kutu);
-        kutu->setAccessibleName(etiket->text());
-        kutular->addRow(etiket, kutu);
+        kutular->addRow(EtiketOluştur(sıra++, satır.Etiket, kutu), kutu);
     }
-    auto* kapat = new QPushButton(Metin(MetinNo::Kapat));
-    kapat->setObjectName(QStringLiteral("KapatDüğmesi"));
-    connect(kapat, &QPushButton::clicked, this, &QDialog::reject);
-    auto* düzen = new QVBoxLayout(altlık);
+    KomutDüğmesi* kapat = DüğmeOluştur(QStringLiteral("KapatDüğmesi"), MetinNo::Kapat, [this] { reject(); });
+    kapat->setDefault(true);  // there is nothing else to do: Enter closes from a box too
+    auto* düzen = new QVBoxLayout(FormAltlığı(this, QStringLiteral("Altlik")));
     düzen->addWidget(çerçeve);
     düzen->addWidget(kapat, 0, Qt::AlignRight);
-    auto* form = new QVBoxLayout(this);
-    form->setContentsMargins(0, 0, 0, 0);
-    form->addWidget(altlık);
     kapat->setFocus();
 }

@@ -10,7 +10,7 @@
 #include <set>
 
 #include "DuzenlemeDenetcisi.h"
-#include "KatalogParcalari.h"
+#include "FormParcalari.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "MetinTemsilcisi.h"

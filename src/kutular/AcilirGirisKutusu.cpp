@@ -3,7 +3,6 @@
 #include <QKeyEvent>
 #include <algorithm>
 
-#include "EnterTusu.h"
 #include "GirisKutusu.h"
 #include "TurkceMetin.h"
 #include "TurkceSira.h"

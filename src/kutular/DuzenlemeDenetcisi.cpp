@@ -7,8 +7,6 @@
 #include "MetinTablosu.h"
 #include "TurkceMetin.h"
 
-namespace {}  // namespace
-
 DüzenlemeDenetçisi::DüzenlemeDenetçisi(QLineEdit* satır) : QValidator(satır), m_satır(satır) {
     satır->setValidator(this);
     connect(satır, &QLineEdit::textChanged, this, [this] { YinelemeyiOnar(); });

@@ -7,6 +7,9 @@
 #include "DuzenlemeDenetcisi.h"
 #include "OdakIzleyici.h"
 
+// From now on Enter moves on from `kutu` as Tab does and has no other effect there.
+void Enterİleİlerlesin(QWidget* kutu);
+
 // The printable characters that a key brings; none for a command such as Ctrl+C.
 QString YazılanMetin(const QKeyEvent& tuş);
 

@@ -5,8 +5,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
-#include "MesajKutusu.h"
-#include "KomutDugmesi.h"
+#include "FormParcalari.h"
 #include "MetinTablosu.h"
 #include "SayfaYuzeyi.h"
 
@@ -16,15 +15,14 @@ RaporFormu::RaporFormu(const Tanım& tanım, QWidget* sahip) : QDialog(sahip), m
     m_liste = new SütunluListe(tanım.Sütunlar);
     m_liste->setObjectName(tanım.ListeAdı);
     m_liste->setAccessibleName(windowTitle());
-    m_çerçeve = new QGroupBox(Metin(tanım.ÇerçeveBaşlığı));
-    m_çerçeve->setObjectName(QStringLiteral("Çerçeve"));
+    m_çerçeve = ÇerçeveOluştur(tanım.ÇerçeveBaşlığı);
     auto* çerçeveDüzeni = new QVBoxLayout(m_çerçeve);
     çerçeveDüzeni->addWidget(m_liste);
     DüğmeleriKur();
     auto* düzen = new QVBoxLayout(this);
     düzen->addWidget(m_çerçeve);
     düzen->addLayout(m_düğmeler);
-    SekmeSırasınıKur();
+    SekmeSırasınıKur(m_liste, *m_düğmeler);
     resize(760, 520);
     EtkinliğiAyarla();
 }
@@ -41,27 +39,13 @@ void RaporFormu::DüğmeleriKur() {
         Önizle(*this, Rapor());
         PencereKapandı();
     });
-    m_düğmeler = new QHBoxLayout;
-    for (KomutDüğmesi* düğme : {m_yazdır, m_pdfKaydet, m_önizle}) m_düğmeler->addWidget(düğme);
-    m_düğmeler->addStretch();
-    m_düğmeler->addWidget(DüğmeOluştur(QStringLiteral("KapatButonu"), MetinNo::Kapat, [this] { reject(); }));
+    KomutDüğmesi* kapat = DüğmeOluştur(QStringLiteral("KapatButonu"), MetinNo::Kapat, [this] { reject(); });
+    m_düğmeler = DüğmeSırası({m_yazdır, m_pdfKaydet, m_önizle, nullptr, kapat});
 }
 
 void RaporFormu::BaşaDüğmeKoy(const QString& ad, MetinNo metin, std::function<void()> komut) {
-    KomutDüğmesi* düğme = DüğmeOluştur(ad, metin, std::move(komut));
-    m_düğmeler->insertWidget(0, düğme);
-    SekmeSırasınıKur();
-}
-
-// The list first, then the buttons as they stand from left to right.
-void RaporFormu::SekmeSırasınıKur() {
-    QWidget* önceki = m_liste;
-    for (int i = 0; i < m_düğmeler->count(); ++i) {
-        QWidget* düğme = m_düğmeler->itemAt(i)->widget();
-        if (!düğme) continue;
-        setTabOrder(önceki, düğme);
-        önceki = düğme;
-    }
+    m_düğmeler->insertWidget(0, DüğmeOluştur(ad, metin, std::move(komut)));
+    SekmeSırasınıKur(m_liste, *m_düğmeler);
 }
 
 void RaporFormu::showEvent(QShowEvent* olay) {
@@ -73,13 +57,6 @@ void RaporFormu::OdağıBaşaAl() {
     QWidget* baş = m_liste;
     while (!baş->isEnabled() || !(baş->focusPolicy() & Qt::TabFocus)) baş = baş->nextInFocusChain();
     baş->setFocus();
-}
-
-KomutDüğmesi* RaporFormu::DüğmeOluştur(const QString& ad, MetinNo metin, std::function<void()> komut) {
-    auto* düğme = new KomutDüğmesi(Metin(metin), this);
-    düğme->setObjectName(ad);
-    connect(düğme, &QPushButton::clicked, this, [komut = std::move(komut)] { HataYakala(komut); });
-    return düğme;
 }
 
 void RaporFormu::SatırlarıGöster(const QList<QTreeWidgetItem*>& satırlar, Okuma okuma) {

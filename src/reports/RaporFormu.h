@@ -51,9 +51,7 @@ class RaporFormu : public QDialog {
     QGroupBox& Çerçeve() const { return *m_çerçeve; }
 
   private:
-    KomutDüğmesi* DüğmeOluştur(const QString& ad, MetinNo metin, std::function<void()> komut);
     void DüğmeleriKur();
-    void SekmeSırasınıKur();
     void EtkinliğiAyarla();
     QList<QStringList> ListeMetinleri() const;
     Yazdırılacak Rapor() const;

@@ -15,7 +15,7 @@ class TarihDeğiştirFormu : public QDialog {
     void reject() override;
 
   private:
-    QWidget* ÇerçeveOluştur();
+    QWidget* TarihÇerçevesi();
 
     TarihKutusu* m_tarih;
 };

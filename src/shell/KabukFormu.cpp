@@ -5,7 +5,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "KomutDugmesi.h"
+#include "FormParcalari.h"
 #include "MetinTablosu.h"
 #include "Simge.h"
 #include "WebEtiketi.h"
@@ -20,11 +20,10 @@ constexpr std::uint32_t Lacivert = 0x00C00000;
 }  // namespace
 
 KabukFormu::KabukFormu(const QString& ad, const QString& başlık, QWidget* sahip)
-    : QDialog(sahip), m_altlık(new QWidget(this)), m_sütun(new QVBoxLayout) {
+    : QDialog(sahip), m_altlık(FormAltlığı(this)), m_sütun(new QVBoxLayout) {
     setObjectName(ad);
     setWindowTitle(başlık);
     setMouseTracking(true);
-    m_altlık->setObjectName(QStringLiteral("Altlık"));
     m_altlık->setMouseTracking(true);
 
     auto* simge = new QLabel(m_altlık);
@@ -41,15 +40,12 @@ KabukFormu::KabukFormu(const QString& ad, const QString& başlık, QWidget* sahi
     m_düzen->setContentsMargins(Boşluk, Boşluk, Boşluk, Boşluk);
     m_düzen->setSpacing(Boşluk);
     m_düzen->addLayout(üst);
-    auto* dış = new QVBoxLayout(this);
-    dış->setContentsMargins(0, 0, 0, 0);
-    dış->setSizeConstraint(QLayout::SetFixedSize);
-    dış->addWidget(m_altlık);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 QLabel* KabukFormu::EtiketEkle(const QString& metin) {
     auto* etiket = new QLabel(metin, m_altlık);
-    etiket->setObjectName(QStringLiteral("Etiket(%1)").arg(m_etiketSayısı++));
+    etiket->setObjectName(SıralıAd(QStringLiteral("Etiket"), m_etiketSayısı++));
     etiket->setTextFormat(Qt::PlainText);
     etiket->setWordWrap(true);
     etiket->setIndent(2);  // in line with the links, which keep a margin
@@ -70,7 +66,7 @@ void KabukFormu::BaşlıkEkle(const QString& metin) {
 
 void KabukFormu::BağlantıEkle(const QString& caption, const QString& adres) {
     auto* bağlantı = new WebEtiketi(m_altlık);
-    bağlantı->setObjectName(QStringLiteral("WebEtiketi(%1)").arg(m_bağlantılar.size()));
+    bağlantı->setObjectName(SıralıAd(QStringLiteral("WebEtiketi"), static_cast<int>(m_bağlantılar.size())));
     bağlantı->ÖzellikleriOku({{QStringLiteral("Caption"), caption},
                               {QStringLiteral("Url"), adres},
                               {QStringLiteral("ForeColor"), Lacivert},
@@ -86,10 +82,8 @@ void KabukFormu::BağlantıEkle(const QString& caption, const QString& adres) {
 }
 
 void KabukFormu::TamamEkle() {
-    auto* tamam = new KomutDüğmesi(Metin(MetinNo::TamamDüğmesi), m_altlık);
-    tamam->setObjectName(QStringLiteral("TamamButonu"));
-    connect(tamam, &QPushButton::clicked, this, [this] { close(); });
-    m_düzen->addWidget(tamam, 0, Qt::AlignRight);
+    m_düzen->addWidget(DüğmeOluştur(QStringLiteral("TamamButonu"), MetinNo::TamamDüğmesi, [this] { close(); }), 0,
+                       Qt::AlignRight);
 }
 
 bool KabukFormu::event(QEvent* olay) {

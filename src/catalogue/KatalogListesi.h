@@ -1,15 +1,20 @@
 #pragma once
 
+#include <QListWidget>
 #include <QString>
 
+#include "TekSecimli.h"
 #include "TurkceSira.h"
 
-class QListWidget;
+// A list of names for tens of thousands of rows, in which Enter moves on. A name that it cuts is told by a tooltip.
+class KatalogListesi : public TekSeçimli<QListWidget> {
+  public:
+    explicit KatalogListesi(const QString& ad);
 
-// Searches by the beginning of a text, without regard to case, by the one table of Turkish letters.
-
-// The first row of a list in Turkish order whose text begins with `ön`; -1 when none does. Takes logarithmic time.
-int ÖnekAra(const QListWidget& sıralıListe, const QString& ön);
+    // The first row whose text begins with `ön`, by the one table of Turkish letters and without regard to case; -1 when
+    // none does. The rows must stand in Turkish order. Takes logarithmic time.
+    int ÖnekAra(const QString& ön) const;
+};
 
 // The first of the positions 0 to sayı - 1 at which `koşul` holds, sayı when there is none; it must hold from there on.
 template <typename Koşul>
