@@ -155,10 +155,7 @@ void AnaForm::ListedenMalzemeSil() {
 }
 
 void AnaForm::DeğişiklikleriKaydet() {
-    if (!m_maliyet->YüzdelerSaklanır()) return;
-    const MaliyetGirdisi yüzdeler = m_maliyet->Girdi();
-    if (DeyimiYürüt(Deyimler::YüzdeleriKaydet(yüzdeler.İşçilik, yüzdeler.Kâr, yüzdeler.Diğer, yüzdeler.Vade,
-                                              m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()))) {
+    if (m_maliyet->YüzdeleriKaydet(m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün())) {
         m_komutlar.DeğişiklikleriKaydet->setEnabled(false);
     }
 }

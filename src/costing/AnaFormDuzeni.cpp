@@ -82,11 +82,10 @@ void AnaForm::AlanlarıKur() {
     connect(m_haneSayısı, &QComboBox::currentTextChanged, this,
             [](const QString& basamak) { OndalıkBasamak = basamak.toInt(); });
 
-    m_maliyet = new MaliyetAlanı({[this] {
-                                      m_komutlar.DeğişiklikleriKaydet->setEnabled(true);
-                                      ToplamMaliyetHesapla();
-                                  },
-                                  [this] { m_miktar->ToplamDeğişti(); }});
+    m_maliyet = new MaliyetAlanı([this](bool düzenlendi) {
+        if (düzenlendi) m_komutlar.DeğişiklikleriKaydet->setEnabled(true);
+        m_miktar->ToplamDeğişti();
+    });
     m_miktar = new MiktarAlanı({[this] { return m_maliyet->Girdi().MalzemeMaliyeti; },
                                 [this] { return m_maliyet->ToplamMaliyet(); }, [this] { m_ağaç->setFocus(); }});
 }

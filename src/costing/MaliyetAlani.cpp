@@ -27,12 +27,12 @@ QString YüzdeMetni(const QString& saklanan) {
 
 }  // namespace
 
-MaliyetAlanı::MaliyetAlanı(Olaylar olaylar, QWidget* sahip) : QFrame(sahip), m_olaylar(std::move(olaylar)) {
+MaliyetAlanı::MaliyetAlanı(std::function<void(bool düzenlendi)> değişince, QWidget* sahip)
+    : QFrame(sahip), m_değişince(std::move(değişince)) {
     setObjectName(QStringLiteral("Çerçeve"));
     setFrameShape(QFrame::StyledPanel);
     Yerleştir();
     connect(m_malzeme, &QLineEdit::textChanged, this, [this](const QString& metin) { MalzemeMaliyetiDeğişti(metin); });
-    connect(m_toplam, &QLineEdit::textChanged, this, [this] { m_olaylar.ToplamDeğişti(); });
 }
 
 void MaliyetAlanı::Yerleştir() {
@@ -73,7 +73,7 @@ QLayout* MaliyetAlanı::YüzdeleriYerleştir() {
         // Only other costs may be negative (a discount).
         auto* kutu = new SayıKutusu(i == Diğer ? SayıKutusu::Tür::EksiliYüzde : SayıKutusu::Tür::Yüzde);
         kutu->setObjectName(QString::fromUtf8(adlar[i]));
-        kutu->Düzenlenince([this] { m_olaylar.YüzdeDüzenlendi(); });
+        kutu->Düzenlenince([this] { ToplamıGöster(Toplam(), true); });
         m_yüzdeler[i] = kutu;
         const int satır = i / 2;
         const int sütun = i % 2 * 2;
@@ -104,18 +104,32 @@ bool MaliyetAlanı::YüzdeleriYükle(const QString& grup, const QString& ürün)
     return true;
 }
 
-bool MaliyetAlanı::YüzdelerSaklanır() {
-    return std::all_of(m_yüzdeler.begin(), m_yüzdeler.end(), [](SayıKutusu* kutu) { return kutu->Saklanır(); });
+bool MaliyetAlanı::YüzdeleriKaydet(const QString& grup, const QString& ürün) {
+    const bool saklanır =
+        std::all_of(m_yüzdeler.begin(), m_yüzdeler.end(), [](SayıKutusu* kutu) { return kutu->Saklanır(); });
+    const MaliyetGirdisi yüzdeler = Girdi();
+    return saklanır && DeyimiYürüt(Deyimler::YüzdeleriKaydet(yüzdeler.İşçilik, yüzdeler.Kâr, yüzdeler.Diğer,
+                                                             yüzdeler.Vade, grup, ürün));
 }
 
 void MaliyetAlanı::ToplamMaliyetHesapla() {
-    m_toplam->setText(SayıBiçimle(MaliyetHesapla(Girdi()).Toplam, OndalıkBasamak));
+    ToplamıGöster(Toplam(), false);
+}
+
+QString MaliyetAlanı::Toplam() const {
+    return SayıBiçimle(MaliyetHesapla(Girdi()).Toplam, OndalıkBasamak);
+}
+
+void MaliyetAlanı::ToplamıGöster(const QString& toplam, bool düzenlendi) {
+    const bool değişti = toplam != m_toplam->text();
+    m_toplam->setText(toplam);
+    if (değişti || düzenlendi) m_değişince(düzenlendi);
 }
 
 void MaliyetAlanı::Boşalt() {
     m_malzeme->clear();
     for (SayıKutusu* kutu : m_yüzdeler) kutu->clear();
-    m_toplam->clear();
+    ToplamıGöster({}, false);
 }
 
 MaliyetGirdisi MaliyetAlanı::Girdi() const {

@@ -9,14 +9,12 @@
 class QLineEdit;
 class SayıKutusu;
 
-// The frame of the cost boxes: material cost, the four percentages, total cost.
+// The frame of the cost boxes: material cost, the four percentages, total cost. While the user edits a percentage it
+// computes the total itself.
 class MaliyetAlanı : public QFrame {
   public:
-    struct Olaylar {
-        std::function<void()> YüzdeDüzenlendi;  // by the user
-        std::function<void()> ToplamDeğişti;
-    };
-    MaliyetAlanı(Olaylar olaylar, QWidget* sahip = nullptr);
+    // `değişince` runs once when the total has changed, and after each edit of the user (true).
+    explicit MaliyetAlanı(std::function<void(bool düzenlendi)> değişince, QWidget* sahip = nullptr);
 
     // The box shows it with the decimal places in force, and the calculation reads what it shows.
     void MalzemeMaliyetiniGöster(Para maliyet);
@@ -24,8 +22,8 @@ class MaliyetAlanı : public QFrame {
     // Reads the product's stored percentages into the boxes. False: they stay as they were.
     bool YüzdeleriYükle(const QString& grup, const QString& ürün);
 
-    // To be asked before the percentages are stored; false: one cannot be, and the user has been told.
-    bool YüzdelerSaklanır();
+    // Stores the boxes' percentages as the product's. False: they are not stored, and the user has been told.
+    bool YüzdeleriKaydet(const QString& grup, const QString& ürün);
 
     void ToplamMaliyetHesapla();
     void Boşalt();
@@ -37,8 +35,10 @@ class MaliyetAlanı : public QFrame {
     void Yerleştir();
     QLayout* YüzdeleriYerleştir();
     void MalzemeMaliyetiDeğişti(const QString& metin);
+    void ToplamıGöster(const QString& toplam, bool düzenlendi);
+    QString Toplam() const;
 
-    Olaylar m_olaylar;
+    std::function<void(bool)> m_değişince;
     QLineEdit* m_malzeme;
     std::array<SayıKutusu*, 4> m_yüzdeler;  // labour, profit, other, maturity
     QLineEdit* m_toplam;
