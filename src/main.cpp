@@ -17,8 +17,9 @@
 #include "TekKopya.h"
 #include "Yardim.h"
 
-int main(int argc, char** argv) {
-    QApplication uygulama(argc, argv);
+namespace {
+
+void UygulamayıTanıt() {
     QApplication::setApplicationName(Sürüm().ÜrünAdı);
     QApplication::setWindowIcon(ProgramSimgesi());
     QApplication::setDesktopFileName(QStringLiteral("varnek"));
@@ -26,11 +27,22 @@ int main(int argc, char** argv) {
     const QDir yazıTipleri(QApplication::applicationDirPath() + QStringLiteral("/yazitipi"));
     for (const QFileInfo& dosya : yazıTipleri.entryInfoList(QDir::Files))
         QFontDatabase::addApplicationFont(dosya.filePath());
-    // The toolkit's own texts (file dialog, print preview) in Turkish.
-    QTranslator çeviri;
-    if (çeviri.load(QStringLiteral("qtbase_tr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QApplication::installTranslator(&çeviri);
+}
+
+// The toolkit's own texts (file dialog, print preview) in Turkish.
+void AraçTakımınıÇevir() {
+    auto* çeviri = new QTranslator(qApp);
+    if (çeviri->load(QStringLiteral("qtbase_tr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(çeviri);
     }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication uygulama(argc, argv);
+    UygulamayıTanıt();
+    AraçTakımınıÇevir();
     const YardımTuşu yardım(nullptr);
     // A message box of the start is not the last window.
     QApplication::setQuitOnLastWindowClosed(false);
