@@ -3,7 +3,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
-#include <tuple>
 
 #include "AcilirGirisKutusu.h"
 #include "AnaFormErisimi.h"
@@ -86,10 +85,15 @@ void ÜrünEkleSilFormu::Yerleştir() {
     m_ağaç->setFocus();
 }
 
-void ÜrünEkleSilFormu::Yükle() {
+void ÜrünEkleSilFormu::GruplarıYükle() {
     QStringList gruplar;
-    std::ignore = SatırlarıOku(Deyimler::ÜrünGrupları(), [&gruplar] { gruplar.append(SütunOku(1)); });
+    const Okuma okuma = SatırlarıOku(Deyimler::ÜrünGrupları(), [&gruplar] { gruplar.append(SütunOku(1)); });
+    m_gruplarOkundu = okuma == Okuma::Tamam;
     m_grup->Doldur(gruplar);
+}
+
+void ÜrünEkleSilFormu::Yükle() {
+    GruplarıYükle();
     ÜrünAğacınıYükle(*m_ağaç);
     SilDüğmesiniAdlandır();
     ListeDurumunuAyarla();
@@ -131,7 +135,9 @@ void ÜrünEkleSilFormu::SilDüğmesiniAdlandır() {
 
 void ÜrünEkleSilFormu::ÜrünEkleKaydetButonu_Click() {
     if (!EklemeKipinde()) {
-        EklemeKipineGeç();
+        // A group that is not known could come in a second time, spelled otherwise.
+        if (!m_gruplarOkundu) GruplarıYükle();
+        if (m_gruplarOkundu) EklemeKipineGeç();
         return;
     }
     if (!GirilenlerUygun()) return;

@@ -20,6 +20,9 @@ class ÜrünEkleSilFormu : public QDialog {
     // Fills the group list and the tree; once, before the form is shown.
     void Yükle();
 
+    // Whether all groups could be read. As long as they could not, an add begins by reading them again.
+    bool GruplarOkundu() const { return m_gruplarOkundu; }
+
     // The first press begins an add, the second saves it. Public: the main form opens the form straight in add mode.
     void ÜrünEkleKaydetButonu_Click();
 
@@ -29,6 +32,7 @@ class ÜrünEkleSilFormu : public QDialog {
   private:
     void KontrolleriKur();
     void Yerleştir();
+    void GruplarıYükle();
     void ÜrünSilButonu_Click();
     void KapatİptalButonu_Click();
 
@@ -48,6 +52,7 @@ class ÜrünEkleSilFormu : public QDialog {
     QTreeWidgetItem* GrupDüğümü(const QString& grup) const;
 
     AnaFormErişimi& m_anaForm;
+    bool m_gruplarOkundu = false;
     KomutDüğmesi* m_ekleKaydet;
     KomutDüğmesi* m_sil;
     KomutDüğmesi* m_kapatİptal;

@@ -42,6 +42,7 @@ void AnaForm::ÜrünEkleSil() {
 void AnaForm::İlkÜrünüEkle() {
     ÜrünEkleSilFormu form(*this, this);
     form.Yükle();
+    if (!form.GruplarOkundu()) return;  // the user has been told
     form.ÜrünEkleKaydetButonu_Click();
     form.exec();
 }

@@ -42,6 +42,18 @@ class ÜrünFormu : public KatalogTesti {
 };
 
 TEST_F(ÜrünFormu, EklemeDenetlerYerleştirirVeBaştanBaşlar) {
+    // As long as not every group could be read, none is added.
+    const std::string okunmaz(255, 'Z');
+    Çalıştır({("INSERT INTO UrunTablosu (UrunGrubu, UrunAdi) VALUES ('" + okunmaz + "', 'x')").c_str()});
+    for (int kutu = 0; kutu < 3; ++kutu) Kutular().Yanıtla(Yanıt::Tamam);
+    Aç<ÜrünEkleSilFormu>();
+    Tıkla("ÜrünEkleKaydetButonu");
+    EXPECT_EQ(Kip(), Gözatma);
+    Çalıştır({("DELETE FROM UrunTablosu WHERE UrunGrubu= '" + okunmaz + "'").c_str()});
+    Tıkla("ÜrünEkleKaydetButonu");
+    EXPECT_EQ(Kip(), Ekleme);
+    Kutular().Al();
+
     Çalıştır({"UPDATE UrunTablosu SET UrunGrubu= 'Dolap' WHERE UrunGrubu= 'DOLAP'"});
     Aç<ÜrünEkleSilFormu>();
     const QString önce = Ürünler();
