@@ -115,7 +115,9 @@ void MalzemeListesiOluşturFormu::Yerleştir() {
 }
 
 void MalzemeListesiOluşturFormu::Yükle() {
-    const QStringList türler = MiktarTürleri::Oku();
+    QStringList türler = MiktarTürleri::Oku();
+    // What the settings hold and no product could take is not offered.
+    türler.removeIf([](const QString& tür) { return tür.size() > EnUzunTür || tür.contains(u'\''); });
     m_tür->Doldur(türler);
     m_katalogOkundu = MalzemeListesiniYükle(*m_katalog) == Okuma::Tamam;
     if (m_katalog->count() > 0) m_katalog->setCurrentRow(0);

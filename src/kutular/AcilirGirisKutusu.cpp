@@ -24,6 +24,11 @@ class AçılırKutuSatırı : public GirişKutusu {
     const AçılırGirişKutusu& m_kutu;
 };
 
+// The apostrophe ends a text in a statement.
+bool AlınmazMı(QChar harf) {
+    return harf.isDigit() || harf == u'\'';
+}
+
 }  // namespace
 
 AçılırGirişKutusu::AçılırGirişKutusu(QWidget* sahip)
@@ -79,15 +84,14 @@ void GrupKutusu::Bitir() {
     if (!listede) setEditText(currentText().trimmed());
 }
 
-// A digit is swallowed before it can take the place of a selected text.
+// What is not taken is swallowed before it can take the place of a selected text.
 void MiktarTürüKutusu::keyPressEvent(QKeyEvent* olay) {
     const QString yazı = YazılanMetin(*olay);
-    if (std::none_of(yazı.begin(), yazı.end(), [](QChar harf) { return harf.isDigit(); }))
-        AçılırGirişKutusu::keyPressEvent(olay);
+    if (std::none_of(yazı.begin(), yazı.end(), AlınmazMı)) AçılırGirişKutusu::keyPressEvent(olay);
 }
 
 QString MiktarTürüKutusu::Düzelt(const QString& metin) const {
     QString sonuç = metin;
-    sonuç.removeIf([](QChar harf) { return harf.isDigit(); });
+    sonuç.removeIf(AlınmazMı);
     return sonuç;
 }

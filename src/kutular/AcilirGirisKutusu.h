@@ -47,7 +47,7 @@ class GrupKutusu : public AçılırGirişKutusu {
     void Bitir() override;
 };
 
-// Quantity types: hold no digits, however they come in.
+// Quantity types: hold no digits and no apostrophes, however they come in.
 class MiktarTürüKutusu : public AçılırGirişKutusu {
   public:
     using AçılırGirişKutusu::AçılırGirişKutusu;

@@ -50,7 +50,7 @@ TEST_F(ListeFormu, EklemeDenetimleriSırasıylaVeSatırBiçimli) {
     EXPECT_EQ(MiktarTürleri::Oku(), QStringList("Metre")) << "the type is remembered before the zero test";
 
     // The price is rounded to the decimals on display before it is multiplied: 0,34 x 3, not 0,3355 x 3.
-    Ekle("çi", "3", "Ad3et");
+    Ekle("çi", "3", "Ad3'et");
     Ekle("ker", "0,5", "Metre");
     EXPECT_EQ(Satırlar(), "3,00 Adet|Çivi|0,34|1,02|0,50 Metre|Kereste|1.250,50|625,25|");
     EXPECT_EQ(Yazı("MalzemeMiktarıKutusu"), "0,50") << "the boxes keep their texts";
@@ -149,6 +149,12 @@ TEST_F(ListeFormu, MiktarTürleriOnTaneVeÖnEkleAranır) {
     türler = MiktarTürleri::Oku();
     MiktarTürleri::Hatırla(türler, "Z");
     EXPECT_EQ(MiktarTürleri::Oku().join(""), "abcdefghijk") << "with more than ten nothing is remembered";
+
+    // What no product could take is not offered.
+    AyarYaz("Miktarlar", "Miktar-0", QString(300, u'x'));
+    AyarYaz("Miktarlar", "Miktar-1", "on'luk");
+    Aç<MalzemeListesiOluşturFormu>();
+    EXPECT_EQ(Yazı("MiktarTürüListesi"), "c");
 }
 
 }  // namespace
