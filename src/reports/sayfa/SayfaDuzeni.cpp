@@ -11,6 +11,8 @@ namespace {
 
 constexpr int BaşlıkPuntosu = 14;
 constexpr int SatırPuntosu = 11;
+constexpr int EnKüçükPunto = 8;     // of a running header in one line...
+constexpr int İkiSatırPuntosu = 6;  // ...and of one in two, which have room above its rule
 
 // Millimetres
 constexpr double ÜstBoşluk = 15;
@@ -89,14 +91,32 @@ void SayfaDüzeni::SayfaBaşlığıYaz() {
     m_yüzey.YeniSayfa();
     const QString sayfaMetni = Metin(MetinNo::SayfaBaşı) + QLatin1Char(' ') + QString::number(m_yüzey.SayfaNo());
     const double sayfaMetniSolu = m_sayfaGenişliği - (m_yüzey.MetinGenişliği(sayfaMetni) + SayfaBaşlığıKenarı);
+    SayfadakiBaşlığıYaz(sayfaMetniSolu - MetinArası - SayfaBaşlığıKenarı);
     m_yüzey.YAyarla(SayfaBaşlığıÜstü);
-    m_yüzey.XAyarla(SayfaBaşlığıKenarı);
-    m_yüzey.Yaz(m_raporBaşlığı, {sayfaMetniSolu - MetinArası - SayfaBaşlığıKenarı, 0});
     m_yüzey.XAyarla(sayfaMetniSolu);
     m_yüzey.YazVeSatırıBitir(sayfaMetni);
     m_yüzey.Çiz(SayfaBaşlığıKenarı, SayfaBaşlığıÇizgisi, m_sayfaGenişliği - SayfaBaşlığıKenarı, SayfaBaşlığıÇizgisi,
                 Qt::black);
     m_yüzey.YAyarla(ÜstBoşluk);
+}
+
+// A title that is too long for its line is written smaller, then in two lines; only what is longer even so is cut.
+void SayfaDüzeni::SayfadakiBaşlığıYaz(double oda) {
+    const auto ölçü = [this](const QString& metin) { return m_yüzey.MetinGenişliği(metin); };
+    const auto sığar = [&] { return ölçü(m_raporBaşlığı) * ENDAR <= oda; };
+    for (int punto = SatırPuntosu - 1; punto >= EnKüçükPunto && !sığar(); --punto) m_yüzey.PuntoAyarla(punto);
+    m_yüzey.YAyarla(SayfaBaşlığıÜstü);
+    m_yüzey.XAyarla(SayfaBaşlığıKenarı);
+    if (sığar()) {
+        m_yüzey.Yaz(m_raporBaşlığı, {oda, 0});
+    } else {
+        m_yüzey.PuntoAyarla(İkiSatırPuntosu);
+        const QStringList satırlar = MetniBöl(m_raporBaşlığı, oda / ENDAR, 0, ölçü);
+        m_yüzey.YazVeSatırıBitir(satırlar.first(), {oda, 0});
+        m_yüzey.XAyarla(SayfaBaşlığıKenarı);
+        m_yüzey.Yaz(satırlar.mid(1).join(QLatin1Char(' ')), {oda, 0});
+    }
+    m_yüzey.PuntoAyarla(SatırPuntosu);
 }
 
 void SayfaDüzeni::SatırYaz(const QStringList& hücreler, const QString& yeniSayfada) {

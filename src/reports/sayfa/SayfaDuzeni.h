@@ -62,6 +62,7 @@ class SayfaDüzeni {
     };
     void BaşlıkYaz();
     void SütunBaşlıklarınıYaz();
+    void SayfadakiBaşlığıYaz(double oda);
     QList<SatırParçası> Yerleştir(const QList<SatırHücresi>& hücreler) const;
     QList<SatırParçası> SatırıYerleştir(const QStringList& hücreler) const;
     QList<SatırParçası> ÖzetiYerleştir(const QString& etiket, const QString& değer) const;
