@@ -48,7 +48,9 @@ void YedekAlınamadı(const VeriYolları& yollar, const QString& neden) {
 }
 
 bool SıkıştırmaGünü(const VeriYolları& yollar) {
-    return !DosyaVar(yollar.Yedek) || Bugün() > QFileInfo(yollar.Dosya).lastModified().date();
+    if (!DosyaVar(yollar.Yedek)) return true;
+    // By way of the month text, which has no time of day. A file without a date counts as of an earlier day.
+    return Bugün() > AyMetniniTariheÇevir(AyMetni(QFileInfo(yollar.Dosya).lastModified().date()));
 }
 
 // The compacted copy becomes the backup, and then the data file is compacted where it is: another client's row can fall

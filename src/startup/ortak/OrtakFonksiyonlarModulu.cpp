@@ -55,7 +55,8 @@ QString SondaTersBöluYap(const QString& yol) {
 }
 
 bool DosyaVar(const QString& yol) {
-    return QFileInfo::exists(yol);
+    // Only the NT family takes a path as wide characters; elsewhere it goes through the system's code page.
+    return QFileInfo::exists(NTTabanlı ? yol : QString::fromLocal8Bit(yol.toLocal8Bit()));
 }
 
 QString KısaYolAl(const QString& yol) {
