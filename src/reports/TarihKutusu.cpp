@@ -1,5 +1,6 @@
 #include "TarihKutusu.h"
 
+#include <QCalendarWidget>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -32,6 +33,8 @@ TarihKutusu::TarihKutusu(QWidget* sahip) : QDateEdit(sahip) {
     // The base class moves the cursor from part to part and puts an unfinished part back when it is left.
     disconnect(lineEdit(), &QLineEdit::cursorPositionChanged, this, nullptr);
     lineEdit()->installEventFilter(this);
+    m_takvim = calendarWidget()->parentWidget();
+    m_takvim->installEventFilter(this);
 }
 
 std::optional<QDate> TarihKutusu::YazılanTarih() const {
@@ -91,7 +94,24 @@ void TarihKutusu::BölümüSeç(int bölüm) {
     lineEdit()->setSelection(static_cast<int>(baş), static_cast<int>(bölümler.at(bölüm).size()));
 }
 
+// As it closes without a choice, the base class would put the last date in the place of what is written.
+bool TarihKutusu::TakvimOlayı(QEvent* olay) {
+    if (olay->type() == QEvent::Show) {
+        m_takvimdenÖnce = lineEdit()->text();
+        m_vazgeçildi = false;
+    } else if (olay->type() == QEvent::KeyPress) {
+        m_vazgeçildi = static_cast<QKeyEvent*>(olay)->key() == Qt::Key_Escape;
+    } else if (olay->type() == QEvent::Hide) {
+        const bool seçildi = !m_vazgeçildi && lineEdit()->text() != m_takvimdenÖnce;
+        static_cast<QObject*>(m_takvim)->event(olay);
+        if (!seçildi) lineEdit()->setText(m_takvimdenÖnce);
+        return true;
+    }
+    return false;
+}
+
 bool TarihKutusu::eventFilter(QObject* nesne, QEvent* olay) {
+    if (nesne == m_takvim) return TakvimOlayı(olay);
     if (nesne != lineEdit() || olay->type() != QEvent::MouseButtonDblClick) return QDateEdit::eventFilter(nesne, olay);
     const QPoint yer = static_cast<QMouseEvent*>(olay)->position().toPoint();
     BölümüSeç(static_cast<int>(lineEdit()->text().left(lineEdit()->cursorPositionAt(yer)).count(QLatin1Char('.'))));

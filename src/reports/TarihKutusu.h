@@ -6,7 +6,7 @@
 // A date picker whose text is written like any other text: day, month, year, with points, other separators or none
 // ("1.2.2026", "01022026", "1/2/26", "2026-02-01"). Nothing is put right or put back while the user writes; whoever
 // takes the date asks YazılanTarih. Up and Down change the part in which the cursor stands, a double click selects it,
-// the button at the right opens a calendar.
+// the button at the right opens a calendar. A calendar that is left without a choice leaves the text as it was.
 class TarihKutusu : public QDateEdit {
   public:
     explicit TarihKutusu(QWidget* sahip = nullptr);
@@ -31,4 +31,9 @@ class TarihKutusu : public QDateEdit {
   private:
     std::optional<QDate> Oku(const QString& metin) const;
     void BölümüSeç(int bölüm);
+    bool TakvimOlayı(QEvent* olay);
+
+    QWidget* m_takvim;          // the window that the calendar opens in
+    QString m_takvimdenÖnce;    // the text when it was opened
+    bool m_vazgeçildi = false;  // by Esc
 };
