@@ -8,6 +8,7 @@
 #include "HareketSatiri.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
+#include "MetinTemsilcisi.h"
 #include "OdbcModulu.h"
 #include "OrtakFonksiyonlarModulu.h"
 #include "RaporCiktilari.h"
@@ -18,6 +19,21 @@
 
 namespace {
 
+// A movement whose amount is beyond the range of money: a mark stands in its place, and the row says why.
+class TutarsızSatır : public SütunluSatır {
+  public:
+    using SütunluSatır::SütunluSatır;
+    static QString İm() { return QStringLiteral("?"); }
+
+    QVariant data(int sütun, int rol) const override {
+        const QVariant veri = SütunluSatır::data(sütun, rol);
+        if (rol != AyrıntıRolü) return veri;
+        QStringList satırlar{Metin(MetinNo::TutarÇokBüyük), veri.toString()};
+        satırlar.removeAll(QString());
+        return satırlar.join(QLatin1Char('\n'));
+    }
+};
+
 Okuma GününSatırları(const QString& tarih, QList<QTreeWidgetItem*>& satırlar) {
     return SatırlarıOku(Deyimler::GününHareketleri(tarih), [&satırlar] {
         const QString malzeme = SütunOku(1);
@@ -25,8 +41,11 @@ Okuma GününSatırları(const QString& tarih, QList<QTreeWidgetItem*>& satırla
         const QString fiyat = SütunOku(3);
         const QString ürün = SütunOku(4);
         const HareketSatırı satır = HareketiBiçimle(miktar, fiyat, OndalıkBasamak);
-        satırlar.append(new SütunluSatır({malzeme, satır.Miktar, satır.Fiyat, satır.Tutar, ürün},
-                                         {QString(), miktar, NoktayıVirgüleÇevir(fiyat)}));
+        const bool tutarsız = satır.Tutar.isEmpty();
+        const QStringList hücreler{malzeme, satır.Miktar, satır.Fiyat, tutarsız ? TutarsızSatır::İm() : satır.Tutar,
+                                   ürün};
+        const QStringList saklananlar{QString(), miktar, NoktayıVirgüleÇevir(fiyat)};
+        satırlar.append(tutarsız ? new TutarsızSatır(hücreler, saklananlar) : new SütunluSatır(hücreler, saklananlar));
     });
 }
 

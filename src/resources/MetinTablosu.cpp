@@ -309,9 +309,10 @@ constexpr Satır Tablo[] = {
      "Lütfen, bu yere yazma izniniz ve diskte yeterince boş yer olup olmadığını kontrol edip tekrar deneyiniz:"},
     {MetinNo::ÖnizlemeBaşlığı, "Baskı Önizleme"},
 
-    // Later additions: date of the movements
+    // Later additions: movements
     {MetinNo::TarihGeçersiz,
      "Bu tarih takvimde yok veya eksik yazılmış! Lütfen, günü, ayı ve yılı yazınız (örneğin 15.10.2026)."},
+    {MetinNo::TutarÇokBüyük, "Tutarı çok büyük olduğu için hesaplanamadı."},
 };
 
 // The search goes by the order.

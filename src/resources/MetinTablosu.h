@@ -230,8 +230,9 @@ enum class MetinNo : int {
     PdfYazılamadı = 2305,
     ÖnizlemeBaşlığı = 2306,
 
-    // Later additions: date of the movements
+    // Later additions: movements
     TarihGeçersiz = 2310,
+    TutarÇokBüyük = 2311,
 };
 
 // The text. Each number has one; an enumerator without would be a fault of the program: it then reads "?number?", and a

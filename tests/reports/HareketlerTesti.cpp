@@ -11,6 +11,7 @@
 #include "MalzemeHareketleriFormu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
+#include "MetinTemsilcisi.h"
 #include "ModalBekleyici.h"
 #include "OdbcModulu.h"
 #include "RaporTesti.h"
@@ -158,6 +159,7 @@ TEST_F(Hareketler, YazılanTarihAlınır) {
 
 // One part written over, a pasted date, a day of the calendar.
 TEST_F(Hareketler, TarihBölümüPanoVeTakvim) {
+    HareketEkle("#9/2/2026#", "Sandık", "Çivi", "999999999999 Adet", "999999999");
     Aç<MalzemeHareketleriFormu>();
     const auto kutu = [](QWidget& form) { return form.findChild<QDateEdit*>(U("TarihKutusu")); };
     TarihDeğiştir([&](QWidget& form) {
@@ -176,6 +178,15 @@ TEST_F(Hareketler, TarihBölümüPanoVeTakvim) {
     });
     EXPECT_EQ(HareketTarihi, QDate(2026, 8, 7));
     TarihDeğiştir([&](QWidget& form) {
+        const auto takvimiAç = [&] {
+            QTest::mouseClick(kutu(form), Qt::LeftButton, {},
+                              QPoint(kutu(form)->width() - 5, kutu(form)->height() / 2));
+        };
+        QTest::keyClicks(kutu(form), U("31.2"));
+        takvimiAç();
+        QTest::keyClick(kutu(form)->calendarWidget(), Qt::Key_Escape);
+        EXPECT_EQ(kutu(form)->text(), U("31.2"));
+        QTest::keySequence(kutu(form), QKeySequence::SelectAll);
         QTest::keyClicks(kutu(form), U("1.9.2026"));
         QTest::mouseClick(kutu(form), Qt::LeftButton, {}, QPoint(kutu(form)->width() - 5, kutu(form)->height() / 2));
         auto* takvim = kutu(form)->calendarWidget();
@@ -188,6 +199,8 @@ TEST_F(Hareketler, TarihBölümüPanoVeTakvim) {
         Bas(form, "TamamButonu");
     });
     EXPECT_EQ(HareketTarihi, QDate(2026, 9, 2));
+    EXPECT_EQ(Satırlar(Liste), QStringList(U("Çivi|999.999.999.999,00 Adet|999.999.999,00|?|Sandık")));
+    EXPECT_EQ(Bul<QTreeWidget>(Liste).topLevelItem(0)->data(0, AyrıntıRolü), Metin(MetinNo::TutarÇokBüyük));
 }
 
 TEST_F(Hareketler, AynıGünVeİptalYenidenYüklemez) {
