@@ -114,15 +114,6 @@ std::optional<QString> SayıMetniBiçimle(QStringView metin, int basamak, NoktaK
     return Biçimle(*sayı, basamak);
 }
 
-QString DüzMetin(Para değer) {
-    Ondalık sayı = Ölçekten(değer.OnBindeBir(), 4);
-    sayı.Kesir.erase(sayı.Kesir.find_last_not_of('0') + 1);
-    QString metin = QString::fromLatin1(sayı.Tam);
-    if (sayı.Eksi) metin.prepend(QChar(u'-'));
-    if (!sayı.Kesir.empty()) metin += QChar(u',') + QString::fromLatin1(sayı.Kesir);
-    return metin;
-}
-
 QString NoktayıVirgüleÇevir(const QString& metin) {
     QString sonuç = metin;
     const qsizetype nokta = sonuç.indexOf(QChar(u'.'));

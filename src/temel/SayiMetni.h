@@ -45,8 +45,5 @@ std::optional<QString> SayıBiçimle(double değer, int basamak);
 // A text is taken at its exact decimals, however long. No number: nullopt.
 std::optional<QString> SayıMetniBiçimle(QStringView metin, int basamak, NoktaKuralı kural = NoktaKuralı::Serbest);
 
-// Money as plain text, without grouping and without needless decimals (1250 -> "1250", 12,5 -> "12,5").
-QString DüzMetin(Para değer);
-
 // From the data file's decimal mark to the user's: the first "." becomes ",", the rest stays.
 QString NoktayıVirgüleÇevir(const QString& metin);

@@ -9,7 +9,7 @@ namespace {
 
 // A number as the data file gives it: no grouping, "." for the decimals.
 QString Ham(const QString& sayı) {
-    return DüzMetin(*ParaOku(sayı)).replace(QLatin1Char(','), QLatin1Char('.'));
+    return QString::number(ParaOku(sayı)->Double(), 'g', 15);
 }
 
 }  // namespace
