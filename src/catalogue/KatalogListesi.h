@@ -11,8 +11,8 @@ class KatalogListesi : public TekSeçimli<QListWidget> {
   public:
     explicit KatalogListesi(const QString& ad);
 
-    // The first row whose text begins with `ön`, by the one table of Turkish letters and without regard to case; -1 when
-    // none does. The rows must stand in Turkish order. Takes logarithmic time.
+    // The first row whose text begins with `ön`, by the one table of Turkish letters and without regard to case; -1
+    // when none does. The rows must stand in Turkish order. Takes logarithmic time.
     int ÖnekAra(const QString& ön) const;
 };
 
