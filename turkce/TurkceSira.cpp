@@ -5,6 +5,8 @@
 #include <array>
 #include <cstdint>
 
+#include "Utf8.h"
+
 namespace Türkçe {
 
 namespace {
@@ -115,26 +117,9 @@ struct Utf8Okuyucu {
             ++Yer;
             return Ağırlıklar[bayt];
         }
-        const int uzunluk = Arasında(bayt, 0xC2, 0xDF)   ? 2
-                            : Arasında(bayt, 0xE0, 0xEF) ? 3
-                            : Arasında(bayt, 0xF0, 0xF4) ? 4
-                                                         : 0;
-        const char32_t kod = uzunluk != 0 && Son - Yer >= uzunluk ? ÇokBayt(bayt, uzunluk) : 0;
-        Yer += kod != 0 ? uzunluk : 1;
-        return kod != 0 ? Ağırlık(kod) : BozukBandı + bayt;
-    }
-
-  private:
-    // 0 when the bytes are no valid code point.
-    char32_t ÇokBayt(unsigned char ilk, int uzunluk) const {
-        char32_t kod = ilk & (0x7F >> uzunluk);
-        for (int sıra = 1; sıra < uzunluk; ++sıra) {
-            const unsigned char bayt = Yer[sıra];
-            if ((bayt & 0xC0) != 0x80) return 0;
-            kod = kod << 6 | (bayt & 0x3F);
-        }
-        const char32_t enAz = uzunluk == 2 ? 0x80 : uzunluk == 3 ? 0x800 : 0x10000;
-        return kod < enAz || kod > 0x10FFFF || Arasında(kod, 0xD800, 0xDFFF) ? 0 : kod;
+        const auto [kod, boy] = Utf8Çöz({Yer, Son});
+        Yer += boy != 0 ? boy : 1;
+        return boy != 0 ? Ağırlık(kod) : BozukBandı + bayt;
     }
 };
 
@@ -163,7 +148,7 @@ int Karşılaştır(std::string_view a, std::string_view b) noexcept {
     // code point's first byte.
     std::size_t ortak = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first - a.begin();
     const auto devamBaytı = [](std::string_view metin, std::size_t yer) {
-        return yer < metin.size() && (metin[yer] & 0xC0) == 0x80;
+        return yer < metin.size() && Utf8DevamBaytı(metin[yer]);
     };
     while (ortak > 0 && (devamBaytı(a, ortak) || devamBaytı(b, ortak))) --ortak;
     return Sırala(Utf8Okuyucu{a.data() + ortak, a.data() + a.size()},

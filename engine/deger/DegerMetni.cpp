@@ -4,6 +4,8 @@
 #include <charconv>
 #include <cmath>
 
+#include "Ondalik.h"
+
 namespace Motor {
 
 namespace {
@@ -21,22 +23,7 @@ char* RakamYaz(char* yer, std::int64_t değer, int basamak) {
 }  // namespace
 
 std::string_view ParaYaz(std::int64_t onBinde, DeğerTamponu tampon) noexcept {
-    constexpr std::uint64_t ölçek = 10000;
-    char* yer = tampon.data();
-    char* const son = yer + tampon.size();
-    std::uint64_t büyüklük = static_cast<std::uint64_t>(onBinde);
-    if (onBinde < 0) {
-        *yer++ = '-';
-        büyüklük = 0 - büyüklük;
-    }
-    yer = std::to_chars(yer, son, büyüklük / ölçek).ptr;
-    const auto kesir = static_cast<std::int64_t>(büyüklük % ölçek);
-    if (kesir != 0) {
-        *yer++ = '.';
-        yer = RakamYaz(yer, kesir, 4);
-        while (yer[-1] == '0') --yer;
-    }
-    return Sonuç(tampon, yer);
+    return Sonuç(tampon, ÖlçektenYaz(onBinde, '.', tampon.data()));
 }
 
 std::string_view OndalıkYaz(double değer, DeğerTamponu tampon) noexcept {

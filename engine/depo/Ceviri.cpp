@@ -19,7 +19,7 @@ std::string Alıntı(std::string_view metin) {
     throw Hata(Durum::TürUymuyor, "Data type mismatch: " + sütun.Ad + " sütunu için " + neden);
 }
 
-Değer SayıyıÇevir(const SütunTanımı& sütun, const std::optional<OnlukSayı>& sayı, std::string_view metin) {
+Değer SayıyıÇevir(const SütunTanımı& sütun, const std::optional<Ondalık>& sayı, std::string_view metin) {
     if (!sayı) TürUymuyor(sütun, "\"" + Alıntı(metin) + "\" geçerli bir sayı değil.");
     if (sütun.Tür == SütunTürü::Para) return ParayaÇevir(*sayı);
     return OndalığaÇevir(*sayı);
@@ -214,9 +214,9 @@ class Çevirmen {
 
     // A definition cannot take parameters; the number goes in as digits only.
     static std::string VarsayılanSql(const SütunBildirimi& bildirim) {
-        const OnlukSayı sayı = SayıYazımıÇöz(bildirim.Varsayılan).value();
+        const Ondalık sayı = SayıYazımıÇöz(bildirim.Varsayılan).value();
         if (bildirim.Tür == BildirilenTür::Para) return "(" + std::to_string(ParayaÇevir(sayı)) + ")";
-        return std::string("(") + (sayı.Eksi ? "-" : "") + sayı.Tam + "." + sayı.Kesir + "0)";
+        return std::string(sayı.Eksi ? "(-" : "(").append(sayı.Tam()).append(".").append(sayı.Kesir()).append("0)");
     }
 
     Şema& m_şema;

@@ -5,6 +5,8 @@
 #include <sql.h>
 #include <sqlext.h>
 
+#include "Utf8.h"
+
 namespace {
 
 // VeriTamponu: 255 characters with the closing NUL, so 254 of a text. A UTF-16 character takes at most three bytes in
@@ -22,12 +24,7 @@ SQLCHAR* SqlMetni(QByteArray& metin) {
 
 // The longest beginning of the bytes that ends at a whole character.
 int TamKarakterSonu(const char* veri, int boy) {
-    int son = boy;
-    while (son > 0 && (static_cast<unsigned char>(veri[son - 1]) & 0xC0) == 0x80) --son;
-    if (son == 0) return boy;
-    const auto ilk = static_cast<unsigned char>(veri[son - 1]);
-    const int karakter = ilk < 0x80 ? 1 : ilk < 0xE0 ? 2 : ilk < 0xF0 ? 3 : 4;
-    return son - 1 + karakter <= boy ? boy : son - 1;
+    return static_cast<int>(YarımKarakteriAt({veri, static_cast<std::size_t>(boy)}).size());
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ std::optional<Para> Para::Doubledan(double değer) {
 }
 
 std::optional<Para> Para::Ondalıktan(const Ondalık& sayı) {
-    const auto onBindeBir = Ölçeğe(Yuvarla(sayı, 4, Yarım::Çifte), 4);
+    const auto onBindeBir = Ölçeğe(sayı);
     if (!onBindeBir) return std::nullopt;
     return Para(*onBindeBir);
 }
@@ -31,7 +31,7 @@ double Para::Double() const noexcept {
     // A quotient of two whole numbers that doubles hold exactly is the nearest double itself.
     constexpr std::int64_t tamSınır = std::int64_t{1} << 53;
     if (m_onBindeBir >= -tamSınır && m_onBindeBir <= tamSınır) return static_cast<double>(m_onBindeBir) / Ölçek;
-    return EnYakınDouble(Ölçekten(m_onBindeBir, 4)).value_or(0);
+    return EnYakınDouble(Ölçekten(m_onBindeBir)).value_or(0);
 }
 
 std::optional<Para> Topla(Para a, Para b) noexcept {

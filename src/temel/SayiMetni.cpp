@@ -4,72 +4,29 @@
 
 namespace {
 
-bool RakamMı(QChar harf) {
-    return harf >= u'0' && harf <= u'9';
-}
-
-// The dots before the comma: every group behind a dot has three digits, the first one to three and no 0 in front
-// ("0.500" is somebody's decimal point).
-bool NoktalarYerinde(QStringView tam) {
-    if (tam.startsWith(u'0') && tam.contains(u'.')) return false;
-    qsizetype sağdan = 0;
-    bool noktaVar = false;
-    for (qsizetype yer = tam.size() - 1; yer >= 0; --yer, ++sağdan) {
-        const bool noktaYeri = sağdan % 4 == 3;
-        if (tam[yer] == u'.') {
-            if (!noktaYeri || yer == 0) return false;
-            noktaVar = true;
-        } else if (noktaYeri && noktaVar) {
-            return false;
-        }
-    }
-    return true;
-}
-
-// The digits of `metin`; false when it holds anything else.
-bool RakamlarıAl(QStringView metin, bool noktaOlur, std::string& rakamlar) {
-    for (const QChar harf : metin) {
-        if (RakamMı(harf))
-            rakamlar += static_cast<char>(harf.unicode());
-        else if (harf != u'.' || !noktaOlur)
-            return false;
-    }
-    return true;
-}
-
 // Lists show tens of thousands of figures: the text is put together at once.
-QString Biçimle(const Ondalık& sayı, int basamak) {
-    const Ondalık yuvarlanmış = Yuvarla(sayı, basamak, Yarım::SıfırdanUzağa);
-    const std::string& tam = yuvarlanmış.Tam;
-    std::string metin(yuvarlanmış.Eksi ? "-" : "");
-    for (std::size_t yer = 0; yer < tam.size(); ++yer) {
-        if (yer > 0 && (tam.size() - yer) % 3 == 0) metin += '.';
-        metin += tam[yer];
+QString Biçimle(Ondalık sayı, int basamak) {
+    sayı = Yuvarla(std::move(sayı), basamak, Yarım::SıfırdanUzağa);
+    const std::size_t tam = sayı.Tam().size();
+    const std::size_t boy = sayı.Rakamlar.size() + (sayı.Eksi ? 1 : 0) + (tam - 1) / 3 + (basamak > 0 ? 1 : 0);
+    QString metin(static_cast<qsizetype>(boy), Qt::Uninitialized);
+    QChar* yer = metin.data();
+    if (sayı.Eksi) *yer++ = u'-';
+    for (std::size_t sıra = 0; sıra < sayı.Rakamlar.size(); ++sıra) {
+        if (sıra == tam)
+            *yer++ = u',';
+        else if (sıra > 0 && sıra < tam && (tam - sıra) % 3 == 0)
+            *yer++ = u'.';
+        *yer++ = QLatin1Char(sayı.Rakamlar[sıra]);
     }
-    if (basamak > 0) metin.append(1, ',').append(yuvarlanmış.Kesir);
-    return QString::fromLatin1(metin);
+    return metin;
 }
 
 }  // namespace
 
 std::optional<Ondalık> OndalıkOku(QStringView metin, NoktaKuralı kural) {
-    metin = metin.trimmed();
-    Ondalık sayı;
-    if (metin.startsWith(u'-') || metin.startsWith(u'+')) {
-        sayı.Eksi = metin.front() == u'-';
-        metin = metin.mid(1).trimmed();
-    }
-    const qsizetype virgül = metin.indexOf(u',');
-    const QStringView tam = virgül < 0 ? metin : metin.first(virgül);
-    const QStringView kesir = virgül < 0 ? QStringView() : metin.sliced(virgül + 1);
-    if (kural == NoktaKuralı::Yerinde && !NoktalarYerinde(tam)) return std::nullopt;
-    if (!RakamlarıAl(tam, true, sayı.Tam) || !RakamlarıAl(kesir, false, sayı.Kesir)) return std::nullopt;
-    if (sayı.Tam.empty() && sayı.Kesir.empty()) return std::nullopt;
-
-    sayı.Tam.erase(0, sayı.Tam.find_first_not_of('0'));
-    if (sayı.Tam.empty()) sayı.Tam += '0';
-    const int basamak = static_cast<int>(sayı.Kesir.size());
-    return Yuvarla(std::move(sayı), basamak, Yarım::Çifte);  // takes the sign from a zero
+    return SayıÇöz(std::u16string_view(metin.utf16(), metin.size()), kural,
+                   [](char16_t h) { return QChar::isSpace(h); });
 }
 
 bool SayıMı(QStringView metin, NoktaKuralı kural) {
@@ -89,13 +46,13 @@ std::optional<double> DoubleOku(QStringView metin, NoktaKuralı kural) {
 bool DoubleSaklar(QStringView metin, NoktaKuralı kural) {
     const auto sayı = OndalıkOku(metin, kural);
     if (!sayı) return false;
-    const std::string rakamlar = sayı->Tam + sayı->Kesir;
+    const std::string& rakamlar = sayı->Rakamlar;
     const std::size_t ilk = rakamlar.find_first_not_of('0');
     return ilk == std::string::npos || rakamlar.find_last_not_of('0') - ilk < std::numeric_limits<double>::digits10;
 }
 
 QString SayıBiçimle(Para değer, int basamak) {
-    return Biçimle(Ölçekten(değer.OnBindeBir(), 4), basamak);
+    return Biçimle(Ölçekten(değer.OnBindeBir()), basamak);
 }
 
 QString SayıBiçimle(const Ondalık& değer, int basamak) {
@@ -103,15 +60,15 @@ QString SayıBiçimle(const Ondalık& değer, int basamak) {
 }
 
 std::optional<QString> SayıBiçimle(double değer, int basamak) {
-    const auto sayı = OnBeşHaneyle(değer);
+    auto sayı = OnBeşHaneyle(değer);
     if (!sayı) return std::nullopt;
-    return Biçimle(*sayı, basamak);
+    return Biçimle(*std::move(sayı), basamak);
 }
 
 std::optional<QString> SayıMetniBiçimle(QStringView metin, int basamak, NoktaKuralı kural) {
-    const auto sayı = OndalıkOku(metin, kural);
+    auto sayı = OndalıkOku(metin, kural);
     if (!sayı) return std::nullopt;
-    return Biçimle(*sayı, basamak);
+    return Biçimle(*std::move(sayı), basamak);
 }
 
 QString NoktayıVirgüleÇevir(const QString& metin) {

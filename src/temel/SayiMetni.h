@@ -4,23 +4,15 @@
 #include <QStringView>
 #include <optional>
 
-#include "Ondalik.h"
 #include "Para.h"
+#include "SayiCozumu.h"
 
 // Numbers as the user reads and writes them: "," before the decimals, "." between the thousands, "-" as the sign.
 // These three signs hold whatever the system's locale: of the users' regional settings only those are followed that
 // have just these signs, all others give way to the Turkish ones; so "12,5" can never be read as 125.
 
-// Where a "." may stand before the comma.
-enum class NoktaKuralı {
-    // Only between groups of three digits, the first group not beginning with 0, as in 1.250.000; "12.5" and "0.500"
-    // are no numbers. The data file takes the same ones.
-    Yerinde,
-    Serbest  // anywhere: the text of a box while the user edits it (1.25,00 after a Backspace)
-};
-
-// The numeric test: blanks around, an optional sign ("-" or "+", blanks may follow), digits with dots as the rule
-// allows, at most one comma ("12," and ",5" count). At least one digit: "", "," and "-" are no numbers.
+// The numeric test, by the grammar of SayıÇöz. A blank is whatever Unicode calls one; the data file, which reads number
+// texts by the same grammar with dots Yerinde, takes " " alone.
 bool SayıMı(QStringView metin, NoktaKuralı kural = NoktaKuralı::Yerinde);
 
 // The text as money, read on its exact decimals; more than four are rounded half to even.

@@ -36,8 +36,8 @@ TEST(SayıMetni, SayıSınaması) {
         }
     };
     dene("12, | ,5 | -,5 |  12,5\t | - 5 | +5 | 001 | 1.250 | 1.250,5 | 12.345.678 | -1.250.000,75", true, true);
-    dene("12.5 | 1.25,00 | .250 | 250. | 1..000 | 1250.000 | 1.250000 | 1.2.345 | 0.500 | 00.125 | -0.125", false,
-         true);
+    dene("12.5 | 1.25,00 | .250 | 250. | 1..000 | 1250.000 | 1.250000 | 1.2.345 | 1.2345678 | 0.500 | 00.125 | -0.125",
+         false, true);
     dene(" | , | - | - , | . | --5 | 5- | 1 250 | 1,2,3 | 12a | 1e5 | 0x1 | inf | ٣ | 1,250.5", false, false);
 }
 
@@ -48,7 +48,8 @@ TEST(SayıMetni, ParaOkunurYarımlarÇifteGider) {
              "99,99995 > 1000000 | -0,00004 > 0 | 1.250,50 > 12505000 | 1.25,00 > 1250000 | 12, > 120000 | ,5 > 5000 | "
              "922.337.203.685.477,58074999 > 9223372036854775807 | 922.337.203.685.477,58075 > yok | "
              "-922.337.203.685.477,58085 > -9223372036854775808 | -922.337.203.685.477,58086 > yok | "
-             "99999999999999999999999999 > yok | 0000000000000000000000000000,1 > 1000"))
+             "99999999999999999999999999 > yok | 1844674407370955162 > yok | 1844674407370955,16155 > yok | "
+             "0000000000000000000000000000,1 > 1000"))
         EXPECT_EQ(Yaz(ParaOku(satır[0])), satır[1].toStdString()) << satır[0].toStdString();
 }
 
@@ -83,9 +84,9 @@ TEST(SayıMetni, DoubleOnBeşHaneyleDeğerlendirilir) {
 
 TEST(SayıMetni, DoubleOkunur) {
     EXPECT_EQ(DoubleOku(u"1.250,1"), 1250.1);
-    EXPECT_EQ(DoubleOku(u"0,%11"_s.arg(QString(), 400, QChar(u'0'))), 0.0);
+    EXPECT_EQ(DoubleOku(u"0,"_s + QString(400, QChar(u'0')) + u"1"_s), 0.0);
     EXPECT_EQ(DoubleOku(QString(400, QChar(u'9'))), std::nullopt);
-    EXPECT_FALSE(std::signbit(*DoubleOku(u"-0,0")));
+    EXPECT_FALSE(std::signbit(*DoubleOku(u"-0,0000000000000000")));
 }
 
 TEST(Para, ToplamaVeÇarpmaTaşmayıGörür) {

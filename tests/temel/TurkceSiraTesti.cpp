@@ -5,6 +5,7 @@
 #include <random>
 
 #include "TurkceSira.h"
+#include "Utf8.h"
 
 namespace {
 
@@ -76,12 +77,25 @@ TEST(TürkçeSıra, TamSıradırVeÖnEkleTutarlıdır) {
 }
 
 TEST(TürkçeSıra, BozukBaytlarHarflerdenSonraGelirVeOkumaMetindeKalır) {
-    for (const std::string bozuk : {"\x80", "\xC0\x80", "\xE0\x80\x80", "\xC3", "\xE2\x82", "\xF0\x9F\x98",
-                                    "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xFF"}) {
+    for (const std::string bozuk :
+         {"\x80", "\xC0\x80", "\xC1\xBF", "\xE0\x80\x80", "\xE0\x9F\xBF", "\xC3", "\xE2\x82", "\xF0\x9F\x98",
+          "\xED\xA0\x80", "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xFF"}) {
+        EXPECT_FALSE(Utf8Geçerli(bozuk)) << bozuk;
         EXPECT_GT(Bayt(bozuk, "\xF0\x90\x90\xB7"), 0) << bozuk;
         EXPECT_LT(Bayt(bozuk, bozuk + "a"), 0) << bozuk;
     }
     EXPECT_GT(Türkçe::Karşılaştır(QString(QChar(0xD83D)), u"\U00010437"), 0);
+}
+
+TEST(Utf8, BütünKarakterlerSayılırVeKesilir) {
+    for (const char* geçerli : {"", "Çığ", "€", "\U0001F600", "\xEF\xBF\xBF", "\xF4\x8F\xBF\xBF"})
+        EXPECT_TRUE(Utf8Geçerli(geçerli)) << geçerli;
+    EXPECT_EQ(Utf8Çöz(std::string_view("€").substr(0, 2)).Boy, 0u);
+    EXPECT_EQ(Utf16Uzunluğu("aş€\U0001F600"), 5u);
+    EXPECT_EQ(BütünKarakterlerleKes("aşş", 4), "aş");
+    EXPECT_EQ(BütünKarakterlerleKes("aşş", 3), "aş");
+    EXPECT_EQ(BütünKarakterlerleKes("aşş", 5), "aşş");
+    EXPECT_EQ(BütünKarakterlerleKes("€", 2), "");
 }
 
 }  // namespace
