@@ -2,35 +2,25 @@
 // the data file, the tree and the shown list equal a plain model of what they should be.
 // VARNEK_TOHUM sets the seed, VARNEK_ADIM the number of steps.
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QComboBox>
-#include <QListWidget>
 #include <QRandomGenerator>
+#include <QTreeView>
+#include <algorithm>
 #include <array>
 
-#include "FormOrtami.h"
-#include "ModalBekleyici.h"
-#include "Saat.h"
+#include "AnaFormOrtami.h"
 #include "SayiMetni.h"
 #include "VeriModeli.h"
 
-using MesajKutusu::Yanıt;
-
 namespace {
 
-const QStringList Gruplar = {QStringLiteral("MASA"), QStringLiteral("DOLAP"), QStringLiteral("ÇEKMECE"),
-                             QStringLiteral("IŞIK"), QStringLiteral("İSKELE")};
-const QStringList Adlar = {QStringLiteral("Sehpa"), QStringLiteral("Işıklı Vitrin"), QStringLiteral("İnce Raf"),
-                           QStringLiteral("Çatı"), QStringLiteral("Üç Ayaklı Tabure")};
-const QStringList Malzemeler = {QStringLiteral("Vida"),     QStringLiteral("Çivi"),  QStringLiteral("Ihlamur"),
-                                QStringLiteral("İp"),       QStringLiteral("Şerit"), QStringLiteral("Ölçü Bandı"),
-                                QStringLiteral("Gazlı Bez")};
-const QStringList Türler = {QStringLiteral("Adet"), QStringLiteral("Metre"), QStringLiteral("Kutu")};
+const QStringList Gruplar = {"MASA", "DOLAP", "ÇEKMECE", "IŞIK", "İSKELE"};
+const QStringList ÜrünAdları = {"Sehpa", "Işıklı Vitrin", "İnce Raf", "Çatı", "Üç Ayaklı Tabure"};
+const QStringList Malzemeler = {"Vida", "Çivi", "Ihlamur", "İp", "Şerit", "Ölçü Bandı", "Gazlı Bez"};
+const QStringList Türler = {"Adet", "Metre", "Kutu"};
 
 constexpr int İşSayısı = 13;
 
-class Model : public FormOrtamı {
+class Model : public AnaFormOrtamı {
   protected:
     Model() : m_tohum(Sayı("VARNEK_TOHUM", QRandomGenerator::global()->generate())), m_rastgele(m_tohum) {
         SaatiAyarla([this] { return m_bugün; });
@@ -42,36 +32,17 @@ class Model : public FormOrtamı {
         return tamam ? sayı : yoksa;
     }
     int Rastgele(int n) { return static_cast<int>(m_rastgele.bounded(n)); }
-    const QString& Biri(const QStringList& adlar) { return adlar.at(Rastgele(static_cast<int>(adlar.size()))); }
+    template <typename T>
+    const T& Biri(const QList<T>& hepsi) {
+        return hepsi.at(Rastgele(static_cast<int>(hepsi.size())));
+    }
     bool Belki() { return Rastgele(2) == 0; }
     QString RastgeleFiyat() {
         return *SayıMetniBiçimle(QStringLiteral("%1,%2").arg(Rastgele(3000)).arg(Rastgele(100)), 2);
     }
 
-    static void Yazı(QWidget& kutu, const QString& metin) {
-        QApplication::setActiveWindow(kutu.window());
-        kutu.setFocus();
-        auto* satır = qobject_cast<QLineEdit*>(&kutu);
-        if (auto* açılır = qobject_cast<QComboBox*>(&kutu)) satır = açılır->lineEdit();
-        satır->selectAll();
-        for (const QChar harf : metin) {
-            QKeyEvent bas(QEvent::KeyPress, 0, Qt::NoModifier, QString(harf));
-            QApplication::sendEvent(&kutu, &bas);
-        }
-    }
-    static void Bas(QWidget& form, const char* düğme) {
-        QTest::mouseClick(form.findChild<QAbstractButton*>(QString::fromUtf8(düğme)), Qt::LeftButton);
-    }
-    static QWidget& Kutu(QWidget& form, const char* ad) { return *form.findChild<QWidget*>(QString::fromUtf8(ad)); }
-    static void Esc(QWidget& form) { QTest::keyClick(&form, Qt::Key_Escape); }
-
-    void Menüden(const char* giriş, const char* form, const std::function<void(QWidget&)>& iş) {
-        ModalAç([&] { Form().findChild<QAction*>(QString::fromUtf8(giriş))->trigger(); }, QString::fromUtf8(form), iş);
-    }
-    void ÜrünFormunda(const std::function<void(QWidget&)>& iş) { Menüden("ÜrünEkleSilMenüsü", "ÜrünEkleSilFormu", iş); }
-    void MalzemeFormunda(const std::function<void(QWidget&)>& iş) {
-        Menüden("MalzemeEkleSilMenüsü", "MalzemeEkleSilFormu", iş);
-    }
+    void ÜrünFormunda(const std::function<void()>& iş) { Modal("ÜrünEkleSilMenüsü", "ÜrünEkleSilFormu", iş); }
+    void MalzemeFormunda(const std::function<void()>& iş) { Modal("MalzemeEkleSilMenüsü", "MalzemeEkleSilFormu", iş); }
 
     void ÜrünEkle();
     void ÜrünSil();
@@ -86,16 +57,16 @@ class Model : public FormOrtamı {
     void Karşılaştır(const QString& adım);
 
     // A second click on the current node would begin to rename it.
-    void BirKezTıkla(QTreeWidgetItem* düğüm) {
-        if (Ağaç().currentItem() != düğüm) Tıkla(düğüm);
-        ASSERT_EQ(Ağaç().currentItem(), düğüm) << "a click makes a node current";
+    void BirKezTıkla(const QString& grup, const QString& ürün = {}) {
+        if (Bul<QTreeView>(Ağaç).currentIndex() != Yer(Ağaç, grup, ürün)) Seç(grup, ürün);
+        ASSERT_EQ(Bul<QTreeView>(Ağaç).currentIndex(), Yer(Ağaç, grup, ürün)) << "a click makes a node current";
     }
 
     // A product is selected with a click; false when there is none.
     bool ÜrünSeçilsin() {
         if (m_model.Ürünler.isEmpty()) return false;
-        const auto ürün = m_model.Ürünler.at(Rastgele(static_cast<int>(m_model.Ürünler.size())));
-        BirKezTıkla(Düğüm(ürün.Grup, ürün.Ad));
+        const auto ürün = Biri(m_model.Ürünler);
+        BirKezTıkla(ürün.Grup, ürün.Ad);
         m_grup = ürün.Grup;
         m_ürün = ürün.Ad;
         return true;
@@ -111,19 +82,17 @@ class Model : public FormOrtamı {
 
 void Model::ÜrünEkle() {
     const QString grup = Biri(Gruplar);
-    const QString ad = Biri(Adlar);
+    const QString ad = Biri(ÜrünAdları);
     const bool vazgeç = Rastgele(5) == 0;
     const bool var = m_model.ÜrünVar(grup, ad);
-    ÜrünFormunda([&](QWidget& form) {
-        Bas(form, "ÜrünEkleKaydetButonu");
-        Yazı(Kutu(form, "ÜrünGrubuListesi"), grup);
-        Yazı(Kutu(form, "ÜrünAdıKutusu"), ad);
+    ÜrünFormunda([&] {
+        Tıkla("ÜrünEkleKaydetButonu");
+        Yaz("ÜrünGrubuListesi", grup);
+        Yaz("ÜrünAdıKutusu", ad);
         if (!vazgeç) {
             if (var) Kutular().Yanıtla(Yanıt::Tamam);
-            Bas(form, "ÜrünEkleKaydetButonu");
+            Tıkla("ÜrünEkleKaydetButonu");
         }
-        if (vazgeç || var) Esc(form);
-        Esc(form);
     });
     const QString sıfır = QStringLiteral("0");
     if (!vazgeç && !var) m_model.Ürünler.append({grup, ad, {sıfır, sıfır, sıfır, sıfır}});
@@ -131,23 +100,14 @@ void Model::ÜrünEkle() {
 
 void Model::ÜrünSil() {
     if (m_model.Ürünler.isEmpty()) return;
-    const auto ürün = m_model.Ürünler.at(Rastgele(static_cast<int>(m_model.Ürünler.size())));
+    const auto ürün = Biri(m_model.Ürünler);
     const bool grupMu = Rastgele(4) == 0;
     const bool evet = Belki();
-    ÜrünFormunda([&](QWidget& form) {
-        auto* ağaç = form.findChild<QTreeWidget*>();
-        QTreeWidgetItem* düğüm = ağaç->findItems(ürün.Grup, Qt::MatchExactly).value(0);
-        for (int i = 0; !grupMu && i < düğüm->childCount(); ++i) {
-            if (düğüm->child(i)->text(0) == ürün.Ad) {
-                düğüm = düğüm->child(i);
-                break;
-            }
-        }
-        ağaç->setCurrentItem(düğüm);
+    ÜrünFormunda([&] {
+        Bul<QTreeView>(Ağaç).setCurrentIndex(Yer(Ağaç, ürün.Grup, grupMu ? QString() : ürün.Ad));
         if (grupMu) Kutular().Yanıtla(Yanıt::Evet);
         Kutular().Yanıtla(evet ? Yanıt::Evet : Yanıt::Hayır);
-        Bas(form, "ÜrünSilButonu");
-        Esc(form);
+        Tıkla("ÜrünSilButonu");
     });
     if (evet && grupMu) m_model.GrubuSil(ürün.Grup);
     if (evet && !grupMu) m_model.ÜrünüSil(ürün.Grup, ürün.Ad);
@@ -156,8 +116,8 @@ void Model::ÜrünSil() {
 void Model::Adlandır() {
     if (!ÜrünSeçilsin()) return;
     const bool grupMu = Belki();
-    if (grupMu) BirKezTıkla(Düğüm(m_grup));
-    QString yeni = Biri(grupMu ? Gruplar : Adlar);
+    if (grupMu) BirKezTıkla(m_grup);
+    QString yeni = Biri(grupMu ? Gruplar : ÜrünAdları);
     if (Belki()) yeni = yeni.toUpper();
     const QString eski = grupMu ? m_grup : m_ürün;
     VeriModeli sonra = m_model;
@@ -174,21 +134,20 @@ void Model::Adlandır() {
     if (!tamam) Kutular().Yanıtla(Yanıt::Tamam, [&](const MesajKutusu::İstek&) { soruldu = true; });
     // An editor that has closed lives on unseen for a while.
     const auto düzenleyici = [this]() -> QLineEdit* {
-        for (auto* kutu : Ağaç().findChildren<QLineEdit*>(QStringLiteral("AdDüzenleyici"))) {
+        for (auto* kutu : Bul(Ağaç).findChildren<QLineEdit*>(QStringLiteral("AdDüzenleyici"))) {
             if (kutu->isVisible()) return kutu;
         }
         return nullptr;
     };
-    QTreeWidgetItem* düğüm = Ağaç().currentItem();
-    QTest::keyClick(&Ağaç(), Qt::Key_F2);
+    const QString önce = Satırlar(Ağaç);
+    QTest::keyClick(&Bul(Ağaç), Qt::Key_F2);
     ASSERT_TRUE(düzenleyici());
-    Yazı(*düzenleyici(), yeni);
+    Yaz(*düzenleyici(), yeni);
     QTest::keyClick(düzenleyici(), Qt::Key_Return);
     if (vazgeç) {
         EXPECT_TRUE(Bekle([&] { return soruldu; }));
     } else if (tamam) {
-        // A rename that makes groups one builds the tree anew.
-        EXPECT_TRUE(Bekle([&] { return Ağaç().currentItem() != düğüm || düğüm->text(0) == yeni; }));
+        EXPECT_TRUE(Bekle([&] { return yeni == eski || Satırlar(Ağaç) != önce; }));
     } else {
         EXPECT_TRUE(Bekle([&] { return soruldu && düzenleyici(); }));
         QTest::keyClick(düzenleyici(), Qt::Key_Escape);
@@ -201,47 +160,39 @@ void Model::MalzemeEkle() {
     const QString ad = Biri(Malzemeler);
     const QString fiyat = RastgeleFiyat();
     const bool var = m_model.MalzemeVar(ad);
-    MalzemeFormunda([&](QWidget& form) {
-        Bas(form, "MalzemeEkleKaydetButonu");
-        Yazı(Kutu(form, "MalzemeAdıKutusu"), ad);
-        Yazı(Kutu(form, "MalzemeFiyatıKutusu"), fiyat);
+    MalzemeFormunda([&] {
+        Tıkla("MalzemeEkleKaydetButonu");
+        Yaz("MalzemeAdıKutusu", ad);
+        Yaz("MalzemeFiyatıKutusu", fiyat);
         if (var) Kutular().Yanıtla(Yanıt::Tamam);
-        Bas(form, "MalzemeEkleKaydetButonu");
-        if (var) Esc(form);
-        Esc(form);
+        Tıkla("MalzemeEkleKaydetButonu");
     });
     if (!var) m_model.Malzemeler.append({ad, fiyat});
 }
 
 void Model::MalzemeSil() {
     if (m_model.Malzemeler.isEmpty()) return;
-    const QString ad = m_model.Malzemeler.at(Rastgele(static_cast<int>(m_model.Malzemeler.size()))).Ad;
+    const QString ad = Biri(m_model.Malzemeler).Ad;
     const bool ürünlerdenDe = Belki();
-    MalzemeFormunda([&](QWidget& form) {
-        Yazı(Kutu(form, "MalzemeBulKutusu"), ad);
+    MalzemeFormunda([&] {
+        Yaz("MalzemeBulKutusu", ad);
         Kutular().Yanıtla(Yanıt::Evet);
         Kutular().Yanıtla(ürünlerdenDe ? Yanıt::Evet : Yanıt::Hayır);
-        Bas(form, "MalzemeSilButonu");
-        Esc(form);
+        Tıkla("MalzemeSilButonu");
     });
     m_model.MalzemeSil(ad, ürünlerdenDe);
 }
 
 void Model::FiyatDeğiştir() {
     if (m_model.Malzemeler.isEmpty()) return;
-    const QString ad = m_model.Malzemeler.at(Rastgele(static_cast<int>(m_model.Malzemeler.size()))).Ad;
+    const QString ad = Biri(m_model.Malzemeler).Ad;
     const QString fiyat = RastgeleFiyat();
     const bool vazgeç = Rastgele(4) == 0;
-    MalzemeFormunda([&](QWidget& form) {
-        Yazı(Kutu(form, "MalzemeBulKutusu"), ad);
-        Bas(form, "MalzemeFiyatıDeğiştirButonu");
-        Yazı(Kutu(form, "MalzemeFiyatıKutusu"), fiyat);
-        if (vazgeç) {
-            Esc(form);
-        } else {
-            Bas(form, "MalzemeFiyatıDeğiştirButonu");
-        }
-        Esc(form);
+    MalzemeFormunda([&] {
+        Yaz("MalzemeBulKutusu", ad);
+        Tıkla("MalzemeFiyatıDeğiştirButonu");
+        Yaz("MalzemeFiyatıKutusu", fiyat);
+        if (!vazgeç) Tıkla("MalzemeFiyatıDeğiştirButonu");
     });
     if (!vazgeç) m_model.FiyatDeğiştir(ad, fiyat);
 }
@@ -251,58 +202,49 @@ void Model::Aktar() {
     m_bugün = m_bugün.addDays(Rastgele(3));
     const bool vazgeç = Rastgele(4) == 0;
     QList<VeriModeli::Kullanım> satırlar;
-    const auto iş = [&](QWidget& form) {
+    const auto iş = [&] {
         const int sayı = 1 + Rastgele(3);
         for (int i = 0; i < sayı; ++i) {
-            const auto malzeme = m_model.Malzemeler.at(Rastgele(static_cast<int>(m_model.Malzemeler.size())));
+            const auto malzeme = Biri(m_model.Malzemeler);
             const QString miktar = QStringLiteral("%1,5").arg(Rastgele(2000));
             const QString tür = Biri(Türler);
-            Yazı(Kutu(form, "MalzemeBulKutusu"), malzeme.Ad);
-            Yazı(Kutu(form, "MalzemeMiktarıKutusu"), miktar);
-            Yazı(Kutu(form, "MiktarTürüListesi"), tür);
-            for (const auto& satır : satırlar) {
-                if (VeriModeli::Eş(satır.Malzeme, malzeme.Ad)) {
-                    Kutular().Yanıtla(Yanıt::Evet);
-                    break;
-                }
-            }
-            Bas(form, "ListeyeEkleButonu");
+            Yaz("MalzemeBulKutusu", malzeme.Ad);
+            Yaz("MalzemeMiktarıKutusu", miktar);
+            Yaz("MiktarTürüListesi", tür);
+            const auto aynısı = [&](const auto& satır) { return VeriModeli::Eş(satır.Malzeme, malzeme.Ad); };
+            if (std::any_of(satırlar.begin(), satırlar.end(), aynısı)) Kutular().Yanıtla(Yanıt::Evet);
+            Tıkla("ListeyeEkleButonu");
             satırlar.append({m_bugün.toString(Qt::ISODate), m_grup, m_ürün, malzeme.Ad,
                              *SayıMetniBiçimle(miktar, 2) + QLatin1Char(' ') + tür, malzeme.Fiyat});
         }
-        if (vazgeç) {
-            Esc(form);
-        } else {
-            Kutular().Yanıtla(Yanıt::Evet);
-            Bas(form, "ListeyiAktarButonu");
-        }
+        if (vazgeç) return;
+        Kutular().Yanıtla(Yanıt::Evet);
+        Tıkla("ListeyiAktarButonu");
     };
-    ModalAç([&] { QTest::mouseClick(&Bul("ListeyeMalzemeEkleButonu"), Qt::LeftButton); },
-            QStringLiteral("MalzemeListesiOluşturFormu"), iş);
+    Modal("ListeyeMalzemeEkleButonu", "MalzemeListesiOluşturFormu", iş);
     if (vazgeç) return;
     const QStringList varolan = m_model.KullanılanAdlar(m_grup, m_ürün);
     for (const auto& satır : satırlar) m_model.Aktar(varolan, satır);
 }
 
 void Model::Çıkar() {
-    if (!ÜrünSeçilsin() || Liste().topLevelItemCount() == 0) return;
-    QTreeWidgetItem* satır = Liste().topLevelItem(Rastgele(Liste().topLevelItemCount()));
-    Liste().setCurrentItem(satır);
-    const QString malzeme = satır->text(1);
+    if (!ÜrünSeçilsin() || Satırlar(Liste).isEmpty()) return;
+    const QString malzeme = Biri(Satırlar(Liste).split("; ")).section('|', 1, 1);
+    auto& liste = Bul<QTreeView>(Liste);
+    liste.setCurrentIndex(liste.model()->match(liste.model()->index(0, 1), Qt::DisplayRole, malzeme).value(0));
     const bool evet = Belki();
     Kutular().Yanıtla(evet ? Yanıt::Evet : Yanıt::Hayır);
-    QTest::mouseClick(&Bul("ListedenMalzemeSilButonu"), Qt::LeftButton);
+    Tıkla("ListedenMalzemeSilButonu");
     if (evet) m_model.Çıkar(m_grup, m_ürün, malzeme);
 }
 
 void Model::YüzdeKaydet() {
-    if (!ÜrünSeçilsin() || Liste().topLevelItemCount() == 0) return;
+    if (!ÜrünSeçilsin() || Satırlar(Liste).isEmpty()) return;
     std::array<QString, 4> yüzdeler = m_model.İlkÜrün(m_grup, m_ürün)->Yüzdeler;
     yüzdeler[2] = QStringLiteral("-%1,25").arg(Rastgele(50));
     Yaz("DiğerMaliyetYüzdesiKutusu", yüzdeler[2]);
-    const bool kaydet = Belki();
-    if (!kaydet) return;
-    QTest::mouseClick(&Bul("DeğişiklikleriKaydetButonu"), Qt::LeftButton);
+    if (Belki()) return;
+    Tıkla("DeğişiklikleriKaydetButonu");
     EXPECT_FALSE(Etkin("DeğişiklikleriKaydetButonu"));
     m_model.YüzdeleriKaydet(m_grup, m_ürün, yüzdeler);
 }
@@ -313,32 +255,32 @@ void Model::BirAdım(int tür) {
         &Model::ÜrünEkle,    &Model::ÜrünEkle,   &Model::ÜrünSil,       &Model::Adlandır, &Model::MalzemeEkle,
         &Model::MalzemeEkle, &Model::MalzemeSil, &Model::FiyatDeğiştir, &Model::Aktar,    &Model::Aktar,
         &Model::Aktar,       &Model::Çıkar,      &Model::YüzdeKaydet};
-    // The offscreen platform does not bring the window back once a modal form has gone.
-    QApplication::setActiveWindow(&Form());
-    const İş iş = İşler.at(static_cast<std::size_t>(tür));
-    (this->*iş)();
+    (this->*İşler.at(static_cast<std::size_t>(tür)))();
 }
 
 void Model::Karşılaştır(const QString& adım) {
     SCOPED_TRACE(adım.toStdString());
-    const auto birleşik = [](const QList<QStringList>& satırlar) {
-        QStringList metinler;
-        for (const QStringList& satır : satırlar) metinler.append(satır.join(QLatin1Char('|')) + QLatin1Char('\n'));
-        return metinler.join(QString()).toStdString();
+    const auto düz = [](const QList<QStringList>& satırlar) {
+        std::string metin;
+        for (const QStringList& satır : satırlar) metin += satır.join('|').toStdString() + '\n';
+        return metin;
     };
-    ASSERT_EQ(birleşik(HerSatır()), birleşik(m_model.HerSatır()));
+    ASSERT_EQ(düz(HerSatır()), düz(m_model.HerSatır()));
     QMap<QString, QStringList> ağaç;
-    for (int i = 0; i < Ağaç().topLevelItemCount(); ++i) {
-        const QTreeWidgetItem* grup = Ağaç().topLevelItem(i);
-        ASSERT_FALSE(ağaç.contains(grup->text(0))) << "a group has two nodes";
-        for (int j = 0; j < grup->childCount(); ++j) ağaç[grup->text(0)].append(grup->child(j)->text(0));
-        ağaç[grup->text(0)].sort();
+    const auto& model = *Bul<QTreeView>(Ağaç).model();
+    for (int i = 0; i < model.rowCount(); ++i) {
+        const QModelIndex grup = model.index(i, 0);
+        ASSERT_FALSE(ağaç.contains(grup.data().toString())) << "a group has two nodes";
+        QStringList& ürünler = ağaç[grup.data().toString()];
+        for (int j = 0; j < model.rowCount(grup); ++j) ürünler.append(model.index(j, 0, grup).data().toString());
+        ürünler.sort();
     }
     ASSERT_EQ(ağaç, m_model.Ağaç());
-    const QTreeWidgetItem* seçili = Ağaç().currentItem();
+    const QModelIndex seçili = Bul<QTreeView>(Ağaç).currentIndex();
+    const QModelIndex grubu = seçili.parent();
     QStringList beklenen;
-    if (seçili && seçili->parent()) beklenen = m_model.Liste(seçili->parent()->text(0), seçili->text(0));
-    QStringList liste = Satırlar();
+    if (grubu.isValid()) beklenen = m_model.Liste(grubu.data().toString(), seçili.data().toString());
+    QStringList liste = Satırlar(Liste).split("; ", Qt::SkipEmptyParts);
     liste.sort();
     ASSERT_EQ(liste, beklenen);
 }

@@ -40,12 +40,12 @@ QList<KayıtYüzeyi::BasılıMetin> KayıtYüzeyi::Bul(const QString& metin) con
     return bulunan;
 }
 
-QStringList KayıtYüzeyi::SayfaMetinleri(int sayfa) const {
+QString KayıtYüzeyi::SayfaMetinleri(int sayfa) const {
     QStringList metinler;
     for (const BasılıMetin& m : Metinler) {
         if (m.Sayfa == sayfa) metinler.append(m.Metin);
     }
-    return metinler;
+    return metinler.join('|');
 }
 
 void AltınlaKarşılaştır(const QString& ad, const QString& metin) {

@@ -1,10 +1,7 @@
 #pragma once
 
-#include <QList>
-#include <QString>
-#include <QStringList>
-
 #include "SayfaYuzeyi.h"
+#include "VarnekTesti.h"
 
 // A page surface that keeps what is printed on it. Its letters have one width and its lines one height per font size,
 // so that positions are the same on every machine.
@@ -37,8 +34,8 @@ class KayıtYüzeyi : public SayfaYüzeyi {
 
     // The printed texts with exactly this content.
     QList<BasılıMetin> Bul(const QString& metin) const;
-    // Of one page, in printed order.
-    QStringList SayfaMetinleri(int sayfa) const;
+    // Of one page, in printed order, parted by "|".
+    QString SayfaMetinleri(int sayfa) const;
 
     // Every operation, a line each.
     QString Döküm() const { return m_döküm.join(QLatin1Char('\n')) + QLatin1Char('\n'); }
@@ -57,7 +54,3 @@ class KayıtYüzeyi : public SayfaYüzeyi {
 // Compares with the golden text tests/reports/altin/<ad>.txt. A difference and a missing file fail the test; the text
 // as it came out is then left in the build folder.
 void AltınlaKarşılaştır(const QString& ad, const QString& metin);
-
-inline QString U(const char* metin) {
-    return QString::fromUtf8(metin);
-}

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cmath>
 
@@ -23,7 +21,7 @@ TEST(SayfaDüzeni, TamMilimetreYarımlarıÇifteYuvarlar) {
 // The page's size counts in whole millimetres, before columns and edges are taken from it.
 TEST(SayfaDüzeni, SayfaBoyuTamMilimetredir) {
     KayıtYüzeyi yüzey(211.5, 296.5);
-    SayfaDüzeni düzen(yüzey, QStringLiteral("Başlık"),
+    SayfaDüzeni düzen(yüzey, "Başlık",
                       {{MetinNo::AdıSütunu, 1.6, HücreTürü::Metin}, {MetinNo::FiyatıSütunu, 1.2, HücreTürü::Sayı}});
     ASSERT_TRUE(düzen.Başla());
     EXPECT_EQ(düzen.SayfaYüksekliği(), 296);
@@ -39,13 +37,12 @@ TEST(SayfaDüzeni, SayfaSonuTamSınırdadır) {
         for (const bool sığar : {false, true}) {
             KayıtYüzeyi yüzey(60, 100 + (satır - 1) * 4.4);
             SayfaDüzeni düzen(
-                yüzey, QStringLiteral("B"),
-                {{MetinNo::AdıSütunu, 10, HücreTürü::Metin}, {MetinNo::FiyatıSütunu, 3, HücreTürü::Metin}});
+                yüzey, "B", {{MetinNo::AdıSütunu, 10, HücreTürü::Metin}, {MetinNo::FiyatıSütunu, 3, HücreTürü::Metin}});
             ASSERT_TRUE(düzen.Başla());
             yüzey.YAyarla(düzen.SayfaYüksekliği() - 15 - (satır - 1) * 4.4 - (sığar ? 0.1 : 0));
-            düzen.SatırYaz({U(metin), U("x")});
+            düzen.SatırYaz({metin, "x"});
             EXPECT_EQ(yüzey.SayfaNo(), sığar ? 1 : 2) << metin;
-            EXPECT_EQ(yüzey.Bul(U(metin).left(4)).size(), satır);
+            EXPECT_EQ(yüzey.Bul(QString(metin).left(4)).size(), satır);
         }
     }
 }
@@ -78,48 +75,47 @@ qsizetype HarfSayısı(const QString& metin) {
 
 // Papers from A4 to a narrow roll; names and figures of any length.
 TEST(SayfaDüzeni, HerKâğıttaHerŞeyYazılır) {
-    const QString büyük = U("922.337.203.685.477,580700");
+    const QString büyük = "922.337.203.685.477,580700";
     const QList<QStringList> satırlar{
-        {U("Çam Kereste"), U("2,50 Metre"), U("1.250,50"), U("3.126,25"), U("Çalışma Masası")},
-        {U("Sunta Levha 18 mm Ceviz Kaplamalı Tip A"), U("1,00 Adet"), U("-112,250000"), U("1,00"),
-         U("Üç Kapılı Dolap")},
-        {QString(255, QLatin1Char('m')), U("999.999.999.999,123456 Santimetreküp"), büyük, büyük, U("Masa")},
-        {U("Vida"), U("999.999.999.999,123456"), büyük, büyük, U("Üç Kapılı Aynalı Çekmeceli Lüks Gardırop")}};
+        {"Çam Kereste", "2,50 Metre", "1.250,50", "3.126,25", "Çalışma Masası"},
+        {"Sunta Levha 18 mm Ceviz Kaplamalı Tip A", "1,00 Adet", "-112,250000", "1,00", "Üç Kapılı Dolap"},
+        {QString(255, QLatin1Char('m')), "999.999.999.999,123456 Santimetreküp", büyük, büyük, "Masa"},
+        {"Vida", "999.999.999.999,123456", büyük, büyük, "Üç Kapılı Aynalı Çekmeceli Lüks Gardırop"}};
     MaliyetFişi fiş;
-    fiş.Ürün = U("Üç Kapılı Aynalı Çekmeceli Gardırop ve Yatak Odası Takımı, ceviz kaplamalı");
+    fiş.Ürün = "Üç Kapılı Aynalı Çekmeceli Gardırop ve Yatak Odası Takımı, ceviz kaplamalı";
     for (const QStringList& satır : satırlar) fiş.Satırlar.append({satır.at(1), satır.at(0), satır.at(2), satır.at(3)});
     fiş.MalzemeMaliyeti = fiş.ToplamMaliyet = fiş.ToplamMiktar = fiş.BirimMaliyet = büyük;
-    fiş.İşçilikYüzdesi = U("12345678901234,123456");
+    fiş.İşçilikYüzdesi = "12345678901234,123456";
     fiş.OndalıkBasamak = 6;
-    qsizetype beklenen = HarfSayısı(U("Başlık Miktarı Adı Fiyatı Tutarı Kullanıldığı Ürün"));
+    qsizetype beklenen = HarfSayısı("Başlık Miktarı Adı Fiyatı Tutarı Kullanıldığı Ürün");
     for (const QStringList& satır : satırlar) beklenen += HarfSayısı(satır.join(QString()));
 
     for (const double genişlik : {200.0, 138.0, 72.0, 50.0}) {
         KayıtYüzeyi hareketler(genişlik, 297);
-        MalzemeHareketleriniYaz(hareketler, U("Başlık"), satırlar);
+        MalzemeHareketleriniYaz(hareketler, "Başlık", satırlar);
         qsizetype yazılan = 0;
         for (const auto& metin : hareketler.Metinler) yazılan += metin.Y == 5 ? 0 : HarfSayısı(metin.Metin);
         EXPECT_EQ(yazılan, beklenen) << genişlik;
         YazılarDüzgün(hareketler);
         KayıtYüzeyi liste(genişlik, 297);
-        MalzemeListesiniYaz(liste, U("Başlık"), {{satırlar.at(2).at(0), büyük}, {satırlar.at(1).at(0), büyük}});
+        MalzemeListesiniYaz(liste, "Başlık", {{satırlar.at(2).at(0), büyük}, {satırlar.at(1).at(0), büyük}});
         YazılarDüzgün(liste);
         KayıtYüzeyi fişYüzeyi(genişlik, 297);
         MaliyetFişiniYaz(fişYüzeyi, fiş);
         YazılarDüzgün(fişYüzeyi);
         EXPECT_EQ(fişYüzeyi.Bul(büyük).size() + hareketler.Bul(büyük).size() + liste.Bul(büyük).size(), 4 + 4 + 4 + 2);
         for (const KayıtYüzeyi* yüzey : {&hareketler, &fişYüzeyi}) {
-            const auto sayılı = [](const auto& m) { return m.Metin.startsWith(U("999.999.999.999,123456")); };
+            const auto sayılı = [](const auto& m) { return m.Metin.startsWith("999.999.999.999,123456"); };
             EXPECT_EQ(std::count_if(yüzey->Metinler.begin(), yüzey->Metinler.end(), sayılı), 2) << genişlik;
         }
     }
     // The longest title over a further page: in two lines above the rule.
     KayıtYüzeyi a4(190, 297);
-    SayfaDüzeni düzen(a4, U("Masa ").repeated(50), {{MetinNo::AdıSütunu, 10, HücreTürü::Metin}});
+    SayfaDüzeni düzen(a4, QString("Masa ").repeated(50), {{MetinNo::AdıSütunu, 10, HücreTürü::Metin}});
     ASSERT_TRUE(düzen.Başla());
     düzen.SayfaBaşlığıYaz();
     const auto& ikinciSatır = a4.Metinler.at(a4.Metinler.size() - 2);
-    EXPECT_TRUE(ikinciSatır.Metin.endsWith(U("Masa")) && ikinciSatır.Y < 8) << ikinciSatır.Metin.toStdString();
+    EXPECT_TRUE(ikinciSatır.Metin.endsWith("Masa") && ikinciSatır.Y < 8) << ikinciSatır.Metin.toStdString();
     YazılarDüzgün(a4);
 }
 
