@@ -134,9 +134,8 @@ void Model::Adlandır() {
     if (!tamam) Kutular().Yanıtla(Yanıt::Tamam, [&](const MesajKutusu::İstek&) { soruldu = true; });
     // An editor that has closed lives on unseen for a while.
     const auto düzenleyici = [this]() -> QLineEdit* {
-        for (auto* kutu : Bul(Ağaç).findChildren<QLineEdit*>(QStringLiteral("AdDüzenleyici"))) {
+        for (auto* kutu : Bul(Ağaç).findChildren<QLineEdit*>(QStringLiteral("AdDüzenleyici")))
             if (kutu->isVisible()) return kutu;
-        }
         return nullptr;
     };
     const QString önce = Satırlar(Ağaç);

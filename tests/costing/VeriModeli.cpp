@@ -19,9 +19,8 @@ bool VeriModeli::Eş(const QString& a, const QString& b) {
 }
 
 const VeriModeli::Ürün* VeriModeli::İlkÜrün(const QString& grup, const QString& ad) const {
-    for (const Ürün& ürün : Ürünler) {
+    for (const Ürün& ürün : Ürünler)
         if (Eş(ürün.Grup, grup) && Eş(ürün.Ad, ad)) return &ürün;
-    }
     return nullptr;
 }
 
@@ -49,34 +48,27 @@ bool VeriModeli::OrtakÜrünVar(const QString& grup, const QString& öteki) cons
 }
 
 void VeriModeli::GrubuAdlandır(const QString& eski, const QString& yeni) {
-    for (Ürün& ü : Ürünler) {
+    for (Ürün& ü : Ürünler)
         if (Eş(ü.Grup, eski)) ü.Grup = yeni;
-    }
-    for (Kullanım& k : Kullanımlar) {
+    for (Kullanım& k : Kullanımlar)
         if (Eş(k.Grup, eski)) k.Grup = yeni;
-    }
 }
 
 bool VeriModeli::ÜrünüAdlandır(const QString& grup, const QString& eski, const QString& yeni) {
-    for (const Ürün& ü : Ürünler) {
+    for (const Ürün& ü : Ürünler)
         if (Eş(ü.Grup, grup) && Eş(ü.Ad, yeni) && ü.Ad != eski) return false;
-    }
-    for (Ürün& ü : Ürünler) {
+    for (Ürün& ü : Ürünler)
         if (Eş(ü.Grup, grup) && Eş(ü.Ad, eski)) ü.Ad = yeni;
-    }
-    for (Kullanım& k : Kullanımlar) {
+    for (Kullanım& k : Kullanımlar)
         if (Eş(k.Grup, grup) && Eş(k.Ürün, eski)) k.Ürün = yeni;
-    }
     return true;
 }
 
 void VeriModeli::FiyatDeğiştir(const QString& ad, const QString& fiyat) {
-    for (Malzeme& m : Malzemeler) {
+    for (Malzeme& m : Malzemeler)
         if (Eş(m.Ad, ad)) m.Fiyat = fiyat;
-    }
-    for (Kullanım& k : Kullanımlar) {
+    for (Kullanım& k : Kullanımlar)
         if (Eş(k.Malzeme, ad)) k.Fiyat = fiyat;
-    }
 }
 
 void VeriModeli::MalzemeSil(const QString& ad, bool ürünlerdenDe) {
@@ -94,15 +86,13 @@ void VeriModeli::Aktar(const QStringList& varolan, const Kullanım& satır) {
         Kullanımlar.append(satır);
         return;
     }
-    for (Kullanım& k : Kullanımlar) {
+    for (Kullanım& k : Kullanımlar)
         if (Eş(k.Grup, satır.Grup) && Eş(k.Ürün, satır.Ürün) && Eş(k.Malzeme, satır.Malzeme)) k = satır;
-    }
 }
 
 void VeriModeli::YüzdeleriKaydet(const QString& grup, const QString& ürün, const std::array<QString, 4>& yüzdeler) {
-    for (Ürün& ü : Ürünler) {
+    for (Ürün& ü : Ürünler)
         if (Eş(ü.Grup, grup) && Eş(ü.Ad, ürün)) ü.Yüzdeler = yüzdeler;
-    }
 }
 
 QList<QStringList> VeriModeli::HerSatır() const {
@@ -144,8 +134,7 @@ QStringList VeriModeli::Liste(const QString& grup, const QString& ürün) const 
 
 QStringList VeriModeli::KullanılanAdlar(const QString& grup, const QString& ürün) const {
     QStringList adlar;
-    for (const Kullanım& k : Kullanımlar) {
+    for (const Kullanım& k : Kullanımlar)
         if (Eş(k.Grup, grup) && Eş(k.Ürün, ürün)) adlar.append(k.Malzeme);
-    }
     return adlar;
 }

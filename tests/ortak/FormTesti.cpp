@@ -84,12 +84,8 @@ QString FormTesti::Etkinler(Adlar adlar) const {
 }
 
 QString FormTesti::SekmeSırası() {
-    const QWidget* ilk = QApplication::focusWidget();
     QStringList adlar;
-    do {
-        adlar += Odak();
-        Tuş(Qt::Key_Tab);
-    } while (QApplication::focusWidget() != ilk && adlar.size() < 30);
+    for (; !adlar.contains(Odak()); Tuş(Qt::Key_Tab)) adlar += Odak();
     return adlar.join(' ');
 }
 

@@ -12,10 +12,6 @@ KutuKuyruğu::~KutuKuyruğu() {
     MesajKutusu::GöstericiyiAyarla(nullptr);
 }
 
-void KutuKuyruğu::Yanıtla(MesajKutusu::Yanıt yanıt) {
-    m_beklenenler.push_back({yanıt, nullptr});
-}
-
 void KutuKuyruğu::Yanıtla(MesajKutusu::Yanıt yanıt, std::function<void(const MesajKutusu::İstek&)> kutuAçıkken) {
     m_beklenenler.push_back({yanıt, std::move(kutuAçıkken)});
 }

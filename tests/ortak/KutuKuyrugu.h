@@ -17,9 +17,8 @@ class KutuKuyruğu {
     KutuKuyruğu(const KutuKuyruğu&) = delete;
     KutuKuyruğu& operator=(const KutuKuyruğu&) = delete;
 
-    void Yanıtla(MesajKutusu::Yanıt yanıt);
-    // The same, with something to look at or to do while the box is on screen.
-    void Yanıtla(MesajKutusu::Yanıt yanıt, std::function<void(const MesajKutusu::İstek&)> kutuAçıkken);
+    // With something to look at or to do while the box is on screen.
+    void Yanıtla(MesajKutusu::Yanıt yanıt, std::function<void(const MesajKutusu::İstek&)> kutuAçıkken = {});
 
     // The boxes shown since the last call, in their order.
     std::vector<MesajKutusu::İstek> Al();

@@ -34,17 +34,15 @@ double KayıtYüzeyi::MetniKoy(const QString& metin, Yer yer) {
 
 QList<KayıtYüzeyi::BasılıMetin> KayıtYüzeyi::Bul(const QString& metin) const {
     QList<BasılıMetin> bulunan;
-    for (const BasılıMetin& m : Metinler) {
+    for (const BasılıMetin& m : Metinler)
         if (m.Metin == metin) bulunan.append(m);
-    }
     return bulunan;
 }
 
 QString KayıtYüzeyi::SayfaMetinleri(int sayfa) const {
     QStringList metinler;
-    for (const BasılıMetin& m : Metinler) {
+    for (const BasılıMetin& m : Metinler)
         if (m.Sayfa == sayfa) metinler.append(m.Metin);
-    }
     return metinler.join('|');
 }
 
