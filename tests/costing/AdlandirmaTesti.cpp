@@ -76,14 +76,6 @@ TEST_F(Adlandırma, BoşVeTırnaklıAdEskiAdıBırakır) {
     EXPECT_EQ(Ürünler(), ÖncekiÜrünler);
 }
 
-TEST_F(Adlandırma, GrubunAdıÜrünlereVeMalzemelereGider) {
-    Adlandır("MASA", {}, "MASALAR");
-    EXPECT_EQ(Satırlar(Ağaç), "MASALAR; -Sehpa; -Yemek Masası; SANDALYE; -Tabure");
-    EXPECT_EQ(Kullanılanlar(), "Çam|MASALAR|Sehpa; Ihlamur|SANDALYE|Tabure; Meşe|MASALAR|Yemek Masası");
-    Seç("MASALAR", "Sehpa");
-    EXPECT_EQ(Toplam(), "10,50");
-}
-
 TEST_F(Adlandırma, BirleşenGruplarTekDüğümOlurSeçimKalır) {
     auto& ağaç = Bul<QTreeView>(Ağaç);
     ağaç.expandAll();

@@ -24,10 +24,6 @@ const VeriModeli::Ürün* VeriModeli::İlkÜrün(const QString& grup, const QStr
     return nullptr;
 }
 
-bool VeriModeli::ÜrünVar(const QString& grup, const QString& ad) const {
-    return İlkÜrün(grup, ad);
-}
-
 bool VeriModeli::MalzemeVar(const QString& ad) const {
     return std::any_of(Malzemeler.begin(), Malzemeler.end(), [&](const Malzeme& m) { return Eş(m.Ad, ad); });
 }
@@ -98,14 +94,13 @@ void VeriModeli::YüzdeleriKaydet(const QString& grup, const QString& ürün, co
 QList<QStringList> VeriModeli::HerSatır() const {
     QList<QStringList> hepsi;
     for (const Ürün& ü : Ürünler) {
-        QStringList satır{QStringLiteral("UrunTablosu"), ü.Grup, ü.Ad};
+        QStringList satır{"UrunTablosu", ü.Grup, ü.Ad};
         for (const QString& yüzde : ü.Yüzdeler) satır.append(Ham(yüzde));
         hepsi.append(satır);
     }
-    for (const Malzeme& m : Malzemeler) hepsi.append({QStringLiteral("MalzemeTablosu"), m.Ad, Ham(m.Fiyat)});
+    for (const Malzeme& m : Malzemeler) hepsi.append({"MalzemeTablosu", m.Ad, Ham(m.Fiyat)});
     for (const Kullanım& k : Kullanımlar) {
-        hepsi.append({QStringLiteral("UrunMalzemeTablosu"), k.Tarih + QStringLiteral(" 00:00:00"), k.Grup, k.Ürün,
-                      k.Malzeme, k.Miktar, Ham(k.Fiyat)});
+        hepsi.append({"UrunMalzemeTablosu", k.Tarih + " 00:00:00", k.Grup, k.Ürün, k.Malzeme, k.Miktar, Ham(k.Fiyat)});
     }
     std::sort(hepsi.begin(), hepsi.end());
     return hepsi;
@@ -122,11 +117,11 @@ QStringList VeriModeli::Liste(const QString& grup, const QString& ürün) const 
     QStringList satırlar;
     for (const Kullanım& k : Kullanımlar) {
         if (!Eş(k.Grup, grup) || !Eş(k.Ürün, ürün)) continue;
-        const qsizetype boşluk = k.Miktar.indexOf(QLatin1Char(' '));
+        const qsizetype boşluk = k.Miktar.indexOf(' ');
         const double tutar = *DoubleOku(k.Fiyat) * *DoubleOku(k.Miktar.left(boşluk));
         satırlar.append(QStringList({*SayıMetniBiçimle(k.Miktar.left(boşluk), 2) + k.Miktar.mid(boşluk), k.Malzeme,
                                      *SayıMetniBiçimle(k.Fiyat, 2), *SayıBiçimle(tutar, 2)})
-                            .join(QLatin1Char('|')));
+                            .join('|'));
     }
     satırlar.sort();
     return satırlar;

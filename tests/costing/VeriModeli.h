@@ -13,21 +13,14 @@
 class VeriModeli {
   public:
     struct Ürün {
-        QString Grup;
-        QString Ad;
+        QString Grup, Ad;
         std::array<QString, 4> Yüzdeler;  // as typed; labour, profit, other, maturity
     };
     struct Malzeme {
-        QString Ad;
-        QString Fiyat;  // as typed
+        QString Ad, Fiyat;  // the price as typed
     };
     struct Kullanım {
-        QString Tarih;  // yyyy-mm-dd
-        QString Grup;
-        QString Ürün;
-        QString Malzeme;
-        QString Miktar;
-        QString Fiyat;
+        QString Tarih, Grup, Ürün, Malzeme, Miktar, Fiyat;  // the day as yyyy-mm-dd
     };
 
     QList<Ürün> Ürünler;
@@ -36,7 +29,7 @@ class VeriModeli {
 
     static bool Eş(const QString& a, const QString& b);
 
-    bool ÜrünVar(const QString& grup, const QString& ad) const;
+    bool ÜrünVar(const QString& grup, const QString& ad) const { return İlkÜrün(grup, ad); }
     bool MalzemeVar(const QString& ad) const;
     void GrubuSil(const QString& grup);
     void ÜrünüSil(const QString& grup, const QString& ad);

@@ -11,17 +11,16 @@ class KayıtYüzeyi : public SayfaYüzeyi {
         int Sayfa;
         double X, Y, Genişlik;
         double Doğal;  // the text's width before it was narrowed
-        Yazı yazı;
         QString Metin;
         Yer yer;
         double Sağ() const { return X + Genişlik; }
     };
 
-    explicit KayıtYüzeyi(double genişlik = 210, double yükseklik = 297, bool başlar = true)
-        : m_genişlik(genişlik), m_yükseklik(yükseklik), m_başlar(başlar) {}
+    explicit KayıtYüzeyi(double genişlik = 210, double yükseklik = 297)
+        : m_genişlik(genişlik), m_yükseklik(yükseklik) {}
 
-    bool Başla() override { return m_başlar; }
-    void Bitir() override { m_döküm.append(QStringLiteral("BİTTİ")); }
+    bool Başla() override { return true; }
+    void Bitir() override { m_döküm.append("BİTTİ"); }
     double Genişlik() const override { return m_genişlik; }
     double Yükseklik() const override { return m_yükseklik; }
     double MetinGenişliği(const QString& metin) const override {
@@ -38,16 +37,14 @@ class KayıtYüzeyi : public SayfaYüzeyi {
     QString SayfaMetinleri(int sayfa) const;
 
     // Every operation, a line each.
-    QString Döküm() const { return m_döküm.join(QLatin1Char('\n')) + QLatin1Char('\n'); }
+    QString Döküm() const { return m_döküm.join('\n') + '\n'; }
 
   protected:
     double MetniKoy(const QString& metin, Yer yer) override;
-    void SayfaAç() override { m_döküm.append(QStringLiteral("SAYFA")); }
+    void SayfaAç() override { m_döküm.append("SAYFA"); }
 
   private:
-    double m_genişlik;
-    double m_yükseklik;
-    bool m_başlar;
+    double m_genişlik, m_yükseklik;
     QStringList m_döküm;
 };
 

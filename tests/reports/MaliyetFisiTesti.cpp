@@ -3,24 +3,14 @@
 
 namespace {
 
+// After the rows: the material cost, the four percentages, the total; quantity and unit cost; the waste rate, and
+// both with waste.
 MaliyetFişi Masa() {
-    MaliyetFişi fiş;
-    fiş.Ürün = "Çalışma Masası";
-    fiş.Satırlar = {{"2,50 Metre", "Çam Kereste", "1.250,50", "3.126,25"},
-                    {"8,00 Adet", "İğne Başlı Vida", "0,25", "2,00"},
-                    {"0,33 Kilogram", "Tutkal, beyaz", "3,02", "0,99"}};
-    fiş.MalzemeMaliyeti = "3.129,24";
-    fiş.İşçilikYüzdesi = "20";
-    fiş.KârYüzdesi = "12,5";
-    fiş.DiğerYüzdesi = "0,50";
-    fiş.VadeYüzdesi = "3,00";
-    fiş.ToplamMaliyet = "4.255,77";
-    fiş.ToplamMiktar = "10,83";
-    fiş.BirimMaliyet = "392,96";
-    fiş.FireOranı = "5";
-    fiş.FireliMiktar = "10,29";
-    fiş.FireliBirimMaliyet = "304,11";
-    return fiş;
+    const QList<QStringList> satırlar{{"2,50 Metre", "Çam Kereste", "1.250,50", "3.126,25"},
+                                      {"8,00 Adet", "İğne Başlı Vida", "0,25", "2,00"},
+                                      {"0,33 Kilogram", "Tutkal, beyaz", "3,02", "0,99"}};
+    return {"Çalışma Masası", satırlar, "3.129,24", "20", "12,5",  "0,50",  "3,00",
+            "4.255,77",       "10,83",  "392,96",   "5",  "10,29", "304,11"};
 }
 
 // The texts from this one on.

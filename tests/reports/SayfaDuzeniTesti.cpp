@@ -9,13 +9,9 @@
 #include "MetinTablosu.h"
 
 TEST(SayfaDüzeni, TamMilimetreYarımlarıÇifteYuvarlar) {
-    const struct {
-        double Milimetre;
-        int Tam;
-    } durumlar[] = {
-        {297.5, 298}, {296.5, 296}, {209.9, 210}, {210 / 1.6, 131}, {-0.5, 0},
-    };
-    for (const auto& durum : durumlar) EXPECT_EQ(TamMilimetre(durum.Milimetre), durum.Tam) << durum.Milimetre;
+    for (const auto& [milimetre, tam] :
+         {std::pair(297.5, 298), {296.5, 296}, {209.9, 210}, {210 / 1.6, 131}, {-0.5, 0}})
+        EXPECT_EQ(TamMilimetre(milimetre), tam) << milimetre;
 }
 
 // The page's size counts in whole millimetres, before columns and edges are taken from it.

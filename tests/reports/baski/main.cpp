@@ -4,7 +4,9 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QBuffer>
 #include <QFile>
+#include <QPdfWriter>
 #include <QTest>
 #include <QTreeWidget>
 #include <cmath>
@@ -13,12 +15,12 @@
 
 #include "AnaForm.h"
 #include "ApilerModulu.h"
+#include "AygitYuzeyi.h"
 #include "DegiskenModulu.h"
 #include "MalzemeHareketleriFormu.h"
 #include "MalzemeListesiFormu.h"
 #include "MesajKutusu.h"
 #include "OdbcModulu.h"
-#include "OlcenYuzey.h"
 #include "PdfMetni.h"
 #include "UrunListesiFormu.h"
 #include "Yazdirma.h"
@@ -38,6 +40,40 @@ void Hata(const QString& metin) {
     std::fprintf(stderr, "  %s\n", metin.toUtf8().constData());
     ++Hatalar;
 }
+
+// A text of a printout: where its top left corner should stand, in millimetres from the page's corner.
+struct BeklenenMetin {
+    int Sayfa;
+    double X, Y, Genişlik;
+    QString Metin;
+};
+
+struct ÖlçenAygıt {
+    QBuffer Dosya;
+    QPdfWriter Yazar{&Dosya};
+    explicit ÖlçenAygıt(const QPageLayout& alan) {
+        Dosya.open(QIODevice::WriteOnly);
+        Yazar.setPageLayout(alan);
+    }
+};
+
+// Notes where the texts of a printout go on a page with this printable area.
+class ÖlçenYüzey : private ÖlçenAygıt, public AygıtYüzeyi {
+  public:
+    explicit ÖlçenYüzey(const QPageLayout& alan)
+        : ÖlçenAygıt(alan), AygıtYüzeyi(Yazar), m_köşe(alan.paintRect(QPageLayout::Millimeter).topLeft()) {}
+    QList<BeklenenMetin> Metinler;
+
+  protected:
+    double MetniKoy(const QString& metin, Yer yer) override {
+        const double genişlik = AygıtYüzeyi::MetniKoy(metin, yer);
+        if (!metin.isEmpty()) Metinler.append({SayfaNo(), m_köşe.x() + X(), m_köşe.y() + Y(), genişlik, metin});
+        return genişlik;
+    }
+
+  private:
+    QPointF m_köşe;  // of the printable area
+};
 
 bool Yakın(double a, double b) {
     return std::abs(a - b) <= Tolerans;
@@ -80,24 +116,22 @@ QString MetniBul(QList<PdfKelimesi>& sayfa, const BeklenenMetin& metin) {
 
 void Karşılaştır(PdfMetni pdf, const QList<BeklenenMetin>& beklenen) {
     const int sayfaSayısı = beklenen.constLast().Sayfa;
-    if (pdf.SayfaSayısı != sayfaSayısı || pdf.Sayfalar.size() != sayfaSayısı) {
-        Hata(u"%1 pages instead of %2"_s.arg(pdf.SayfaSayısı).arg(sayfaSayısı));
-        return;
-    }
-    if (!Yakın(pdf.Kâğıt.width(), Kâğıt.width()) || !Yakın(pdf.Kâğıt.height(), Kâğıt.height())) {
+    if (pdf.SayfaSayısı != sayfaSayısı || pdf.Sayfalar.size() != sayfaSayısı)
+        return Hata(u"%1 pages instead of %2"_s.arg(pdf.SayfaSayısı).arg(sayfaSayısı));
+    if (!Yakın(pdf.Kâğıt.width(), Kâğıt.width()) || !Yakın(pdf.Kâğıt.height(), Kâğıt.height()))
         Hata(u"paper of %1 x %2 points"_s.arg(pdf.Kâğıt.width()).arg(pdf.Kâğıt.height()));
-    }
     QString akış;
     for (const BeklenenMetin& metin : beklenen) akış += MetniBul(pdf.Sayfalar[metin.Sayfa - 1], metin);
-    for (const auto& sayfa : pdf.Sayfalar) {
+    for (const auto& sayfa : pdf.Sayfalar)
         for (const PdfKelimesi& fazla : sayfa) Hata(u"nobody expects: "_s + fazla.Metin);
-    }
     if (pdf.Akış != akış) Hata(u"another order of texts"_s);
 }
 
-// Presses the button once to learn what it prints, and once more to print it.
-void YazdırVeKarşılaştır(const QString& ad, QAbstractButton& düğme, const QString& pdfYolu) {
+// Presses the form's button once to learn what it prints, and once more to print it.
+void YazdırVeKarşılaştır(const QString& ad, QWidget& form, const QString& pdfYolu) {
     const int önceki = Hatalar;
+    auto& düğme = *form.findChild<QAbstractButton*>(u"YazdırButonu"_s);
+    if (!QTest::qWaitFor([&düğme] { return düğme.isEnabled(); })) return Hata(ad + u": nothing to print"_s);
     ÖlçenYüzey ölçen(
         QPageLayout(QPageSize(Kâğıt, QPageSize::Point), QPageLayout::Portrait, Kenarlar, QPageLayout::Millimeter));
     YazıcıyıAyarla([&ölçen](const Yazdırılacak& iş) { iş.Yaz(ölçen); });
@@ -111,10 +145,7 @@ void YazdırVeKarşılaştır(const QString& ad, QAbstractButton& düğme, const
             return dosya.open(QIODevice::ReadOnly) && dosya.readAll().trimmed().endsWith("%%EOF");
         },
         Süre);
-    if (!geldi || ölçen.Metinler.isEmpty()) {
-        Hata(ad + u": no job arrived"_s);
-        return;
-    }
+    if (!geldi || ölçen.Metinler.isEmpty()) return Hata(ad + u": no job arrived"_s);
     Karşılaştır(PdfOku(pdfYolu), ölçen.Metinler);
     std::printf("%s: %lld texts on %d page(s): %s\n", ad.toUtf8().constData(),
                 static_cast<long long>(ölçen.Metinler.size()), ölçen.Metinler.constLast().Sayfa,
@@ -126,9 +157,7 @@ void RaporuYazdır(const QString& pdfYolu) {
     Form form;
     if constexpr (requires { form.Yükle(); }) form.Yükle();
     form.show();
-    auto& düğme = *form.template findChild<QAbstractButton*>(u"YazdırButonu"_s);
-    if (!QTest::qWaitFor([&düğme] { return düğme.isEnabled(); })) return Hata(form.objectName() + u" is empty"_s);
-    YazdırVeKarşılaştır(form.objectName(), düğme, pdfYolu);
+    YazdırVeKarşılaştır(form.objectName(), form, pdfYolu);
 }
 
 void FişiYazdır(const QString& ürün, const QString& pdfYolu) {
@@ -138,9 +167,7 @@ void FişiYazdır(const QString& ürün, const QString& pdfYolu) {
     const auto düğümler = ağaç.findItems(ürün, Qt::MatchExactly | Qt::MatchRecursive);
     if (düğümler.isEmpty()) return Hata(u"not in the tree: "_s + ürün);
     ağaç.setCurrentItem(düğümler.first());
-    auto& düğme = *form.findChild<QAbstractButton*>(u"YazdırButonu"_s);
-    if (!QTest::qWaitFor([&düğme] { return düğme.isEnabled(); })) return Hata(ürün + u" has no materials"_s);
-    YazdırVeKarşılaştır(u"AnaForm, "_s + ürün, düğme, pdfYolu);
+    YazdırVeKarşılaştır(u"AnaForm, "_s + ürün, form, pdfYolu);
 }
 
 }  // namespace
