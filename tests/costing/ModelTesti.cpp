@@ -8,7 +8,6 @@
 #include <array>
 
 #include "AnaFormOrtami.h"
-#include "SayiMetni.h"
 #include "VeriModeli.h"
 
 namespace {

@@ -8,13 +8,7 @@
 #include "SayfaDuzeni.h"
 #include "MetinTablosu.h"
 
-TEST(SayfaDüzeni, TamMilimetreYarımlarıÇifteYuvarlar) {
-    for (const auto& [milimetre, tam] :
-         {std::pair(297.5, 298), {296.5, 296}, {209.9, 210}, {210 / 1.6, 131}, {-0.5, 0}})
-        EXPECT_EQ(TamMilimetre(milimetre), tam) << milimetre;
-}
-
-// The page's size counts in whole millimetres, before columns and edges are taken from it.
+// The page's size counts in whole millimetres, halves to the even one, before columns and edges are taken from it.
 TEST(SayfaDüzeni, SayfaBoyuTamMilimetredir) {
     KayıtYüzeyi yüzey(211.5, 296.5);
     SayfaDüzeni düzen(yüzey, "Başlık",
