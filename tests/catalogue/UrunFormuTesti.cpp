@@ -36,6 +36,7 @@ TEST_F(ÜrünFormu, EklemeDenetlerYerleştirirVeBaştanBaşlar) {
     Çalıştır("DELETE FROM UrunTablosu WHERE UrunGrubu= '" + okunmaz + "'");
     Tıkla("ÜrünEkleKaydetButonu");
     EXPECT_EQ(Kip(), Ekleme);
+    Kutular().Al();
 
     Çalıştır("UPDATE UrunTablosu SET UrunGrubu= 'Dolap' WHERE UrunGrubu= 'DOLAP'");
     Aç<ÜrünEkleSilFormu>(AnaForm);

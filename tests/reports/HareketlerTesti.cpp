@@ -5,6 +5,8 @@
 #include "BaskiTesti.h"
 #include "HareketSatiri.h"
 #include "MalzemeHareketleriFormu.h"
+#include "MetinTemsilcisi.h"
+#include "Tablo.h"
 
 namespace {
 
@@ -74,29 +76,16 @@ TEST_F(Hareketler, BugününSatırlarıÜrünSırasında) {
 
 // The date that was written is taken, or none is.
 TEST_F(Hareketler, YazılanTarihAlınır) {
-    const struct {
-        const char* Yazılan;
-        QDate Alınan;  // null: refused
-    } durumlar[] = {
-        {"15.10.2025", {2025, 10, 15}},
-        {"1.2.20", {2020, 2, 1}},
-        {"010298", {1998, 2, 1}},
-        {"15102025", {2025, 10, 15}},
-        {"2025-10-15", {2025, 10, 15}},
-        {" 15 / 10 / 2025", {2025, 10, 15}},
-        {"31.02.2026", {}},
-        {"15.10", {}},
-        {"15..2025", {}},
-        {"15.10.202", {}},
-        {"1.2.0026", {}},
-        {"15 Ekim 2025", {}},
-        {"", {}},
-    };
     Gün({2026, 11, 23});
     Aç<MalzemeHareketleriFormu>();
-    for (const auto& [yazılan, alınan] : durumlar) {
+    for (const QStringList& satır :
+         Tablo("15.10.2025 > 2025-10-15 | 1.2.20 > 2020-02-01 | 010298 > 1998-02-01 | 15102025 > 2025-10-15 | "
+               "2025-10-15 > 2025-10-15 |  15 / 10 / 2025 > 2025-10-15 | 31.02.2026 >  | 15.10 >  | 15..2025 >  | "
+               "15.10.202 >  | 1.2.0026 >  | 15 Ekim 2025 >  |  > ")) {
+        const QString& yazılan = satır[0];
+        const QDate alınan = QDate::fromString(satır[1], Qt::ISODate);  // null: refused
         const QDate önceki = HareketTarihi;
-        TarihDeğiştir([&, yazılan = yazılan, alınan = alınan] {
+        TarihDeğiştir([&] {
             QApplication::setActiveWindow(&Form());     // so that leaving the box is felt there
             QTest::keyClick(&Tarih(), Qt::Key_Delete);  // all of it is selected
             QTest::keyClicks(&Tarih(), yazılan);
@@ -107,11 +96,12 @@ TEST_F(Hareketler, YazılanTarihAlınır) {
             EXPECT_TRUE(Tarih().hasFocus());
             Tıkla("İptalButonu");
         });
-        EXPECT_EQ(HareketTarihi, alınan.isValid() ? alınan : önceki) << yazılan;
+        EXPECT_EQ(HareketTarihi, alınan.isValid() ? alınan : önceki) << yazılan.toStdString();
     }
 }
 
 TEST_F(Hareketler, BaşkaGünOklaBölümlePanoylaTakvimleSeçilir) {
+    KullanımEkle("Grup", "Sandık", "Çivi", "999999999999 Adet", "999999999", "#9/2/2026#");
     Aç<MalzemeHareketleriFormu>();
     const auto alınan = [this](const std::function<void(QDateEdit&)>& iş) {
         TarihDeğiştir([&] {
@@ -140,15 +130,22 @@ TEST_F(Hareketler, BaşkaGünOklaBölümlePanoylaTakvimleSeçilir) {
     QGuiApplication::clipboard()->setText("7.8.2026\n");
     EXPECT_EQ(alınan([](QDateEdit& kutu) { QTest::keySequence(&kutu, QKeySequence::Paste); }), QDate(2026, 8, 7));
     EXPECT_EQ(alınan([](QDateEdit& kutu) {
-                  QTest::keyClicks(&kutu, "1.9.2026");
-                  QTest::mouseClick(&kutu, Qt::LeftButton, {}, QPoint(kutu.width() - 5, kutu.height() / 2));
                   auto* takvim = kutu.calendarWidget();
+                  const QPoint ok(kutu.width() - 5, kutu.height() / 2);
+                  QTest::keyClicks(&kutu, "31.2");
+                  QTest::mouseClick(&kutu, Qt::LeftButton, {}, ok);
+                  QTest::keyClick(takvim, Qt::Key_Escape);
+                  EXPECT_EQ(kutu.text(), "31.2");
+                  Yaz(kutu, "1.9.2026");
+                  QTest::mouseClick(&kutu, Qt::LeftButton, {}, ok);
                   EXPECT_TRUE(takvim->isVisible() && takvim->selectedDate() == QDate(2026, 9, 1));
                   QWidget* günler = takvim->findChild<QWidget*>("qt_calendar_calendarview");
                   for (const Qt::Key tuş : {Qt::Key_Right, Qt::Key_Return}) QTest::keyClick(günler, tuş);
                   EXPECT_EQ(kutu.text(), "02.09.2026");
               }),
               QDate(2026, 9, 2));
+    EXPECT_EQ(Satırlar(Liste), "Çivi|999.999.999.999,00 Adet|999.999.999,00|?|Sandık");
+    EXPECT_EQ(Yer(Liste, "Çivi").data(AyrıntıRolü), Metin(MetinNo::TutarÇokBüyük));
     // The next opening starts with today again.
     Aç<MalzemeHareketleriFormu>();
     EXPECT_EQ(SatırSayısı(), 3);
