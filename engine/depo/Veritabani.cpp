@@ -38,7 +38,7 @@ AçıkDosya VeriDosyasıAç(const std::string& verilen, std::string_view parola)
     if (PragmaOku(vt.get(), "PRAGMA application_id") != DosyaKimliği) SqliteHatasıFırlat(SQLITE_NOTADB);
     if (PragmaOku(vt.get(), "PRAGMA user_version") != DosyaSürümü)
         throw Hata(Durum::Bağlanamadı, "Veri dosyasını programın başka bir sürümü yazmış; bu sürüm onu okuyamıyor.");
-    Katalog şema(vt.get());
+    DosyaŞeması şema(vt.get());
     if (!şema.ParolaTablosuVar()) ParolaBilgisiBozuk();
     if (!ParolaDoğru(vt.get(), parola)) throw Hata(Durum::YetkiYok, "Veri dosyasının parolası yanlış.");
     GeçiciDosya::KalıntıyıSil(yol);
@@ -86,7 +86,7 @@ void Veritabanı::Bağlan() {
     constexpr int adım = 1000;  // instructions of SQLite between two looks at the flag
     AçıkDosya dosya = VeriDosyasıAç(m_yol, m_parola);
     m_vt = std::move(dosya.Vt);
-    m_katalog = std::move(dosya.Şema);
+    m_şema = std::move(dosya.Şema);
     const auto iptalEdildi = [](void* nesne) -> int {
         const std::atomic<bool>* bayrak = static_cast<Veritabanı*>(nesne)->m_nöbetçi.load();
         return bayrak && bayrak->load() ? 1 : 0;
@@ -130,19 +130,19 @@ void Veritabanı::Hazırlan() {
     }
 }
 
-const Katalog& Veritabanı::KataloğuAl() {
-    if (!m_katalog) m_katalog.emplace(m_vt.get());
-    return *m_katalog;
+const DosyaŞeması& Veritabanı::ŞemayıAl() {
+    if (!m_şema) m_şema.emplace(m_vt.get());
+    return *m_şema;
 }
 
 const TabloTanımı* Veritabanı::Tablo(std::string_view ad) {
-    if (const TabloTanımı* bulunan = KataloğuAl().Bul(ad)) return bulunan;
-    m_katalog.reset();  // another connection may have created it meanwhile
-    return KataloğuAl().Bul(ad);
+    if (const TabloTanımı* bulunan = ŞemayıAl().Bul(ad)) return bulunan;
+    m_şema.reset();  // another connection may have created it meanwhile
+    return ŞemayıAl().Bul(ad);
 }
 
 bool Veritabanı::DizinVar(std::string_view ad) {
-    return KataloğuAl().DizinVar(ad);
+    return ŞemayıAl().DizinVar(ad);
 }
 
 SqliteKomutu Veritabanı::Çevir(std::string_view deyim) {
@@ -178,7 +178,7 @@ std::int64_t Veritabanı::Uygula(const SqliteKomutu& komut) {
     }
     const std::int64_t önceki = sqlite3_total_changes64(m_vt.get());
     Yürüt(deyim);
-    if (komut.Tür == SqliteKomutu::Sınıf::Tanım) m_katalog.reset();
+    if (komut.Tür == SqliteKomutu::Sınıf::Tanım) m_şema.reset();
     if (!HareketAçık()) YerindeMi();
     return komut.Tür == SqliteKomutu::Sınıf::Tanım ? 0 : sqlite3_total_changes64(m_vt.get()) - önceki;
 }
@@ -199,7 +199,7 @@ void Veritabanı::Onayla() {
 }
 
 void Veritabanı::GeriAl() {
-    m_katalog.reset();
+    m_şema.reset();
     if (HareketAçık()) SqliteYürüt(m_vt.get(), "ROLLBACK");
     m_hareket = false;
 }

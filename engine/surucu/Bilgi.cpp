@@ -1,4 +1,4 @@
-#include "Baglanti.h"
+#include "BaglantiNesnesi.h"
 
 #include <cstring>
 
@@ -99,7 +99,7 @@ constexpr MetinBilgisi MetinBilgileri[] = {
 
 }  // namespace
 
-SQLRETURN Bağlantı::BilgiVer(SQLUSMALLINT bilgi, SQLPOINTER değer, SQLSMALLINT boy, SQLSMALLINT* uzunluk) {
+SQLRETURN BağlantıNesnesi::BilgiVer(SQLUSMALLINT bilgi, SQLPOINTER değer, SQLSMALLINT boy, SQLSMALLINT* uzunluk) {
     for (const SayısalBilgi& sayısal : SayısalBilgiler) {
         if (sayısal.Bilgi != bilgi) continue;
         const auto kısa = static_cast<SQLUSMALLINT>(sayısal.Değer);
