@@ -18,7 +18,7 @@ using ÖrnekVeriTesti = AraçTesti;
 // would have stored, over days that reach back from today.
 TEST_F(ÖrnekVeriTesti, YazılanGeriOkunur) {
     ASSERT_EQ(Çalıştır({u"ornek"_s, Yol(u"Örnek.vtb"_s)}).kod, 0);
-    VeriBağlantısı veri(Yol(u"Örnek.vtb"_s));
+    TestVerisi veri(Yol(u"Örnek.vtb"_s));
     QHash<QString, QString> fiyatlar;
     for (const QStringList& satır : veri.Oku(u"SELECT MalzemeAdi, MalzemeFiyati FROM MalzemeTablosu"_s))
         fiyatlar.insert(satır[0], satır[1]);
