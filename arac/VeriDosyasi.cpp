@@ -4,12 +4,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <cerrno>
 #include <csignal>
-#include <cstdio>
-#include <fcntl.h>
-#include <unistd.h>
 
+#include "GeciciDosya.h"
 #include "OdbcHareketi.h"
 #include "OdbcSurucu.h"
 
@@ -40,21 +37,6 @@ constexpr const char16_t* KULLANIM_DİZİNLERİ[] = {
     u"CREATE INDEX MalzemeninUrunleri ON UrunMalzemeTablosu (KullanilanMalzemeAdi)",
     u"CREATE INDEX GununHareketleri ON UrunMalzemeTablosu (KullanimTarihi, UrunAdi)",
 };
-
-// QFile::rename would copy over a file that appears in the last moment.
-void ÜzerineYazmadanTaşı(const QString& kaynak, const QString& hedef) {
-    if (renameat2(AT_FDCWD, QFile::encodeName(kaynak), AT_FDCWD, QFile::encodeName(hedef), RENAME_NOREPLACE) != 0) {
-        throw VeriHatası(u"%1 adı verilemedi (sistem hatası %2); klasörü ve diski denetleyin."_s.arg(hedef).arg(errno));
-    }
-}
-
-// Puts the new name itself on disk.
-void KlasörüDiskeYaz(const QString& klasör) {
-    const int tanıtıcı = open(QFile::encodeName(klasör), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (tanıtıcı < 0) return;
-    fsync(tanıtıcı);
-    close(tanıtıcı);
-}
 
 QString Neden(const QList<OdbcHatası>& hatalar) {
     return OdbcİletileriniAl(hatalar).value(0);
@@ -114,6 +96,9 @@ void VeriDosyasıYap(const QString& hedef, const std::function<void(VeriYazıcı
         throw VeriHatası(u"Veri dosyası oluşturulamadı: "_s + SürücüKurulumHataları().value(0));
     Doldur(geçici, doldur);
     YarıdaKesildiMi();
-    ÜzerineYazmadanTaşı(geçici, yol);
-    KlasörüDiskeYaz(bilgi.absolutePath());
+    const Dosya::Sonuç taşıma = Dosya::Taşı(QFile::encodeName(geçici).toStdString(),
+                                            QFile::encodeName(yol).toStdString(), Dosya::Yerleştirme::Yeni);
+    if (!taşıma.Yapıldı())
+        throw VeriHatası(
+            u"%1 adı verilemedi (sistem hatası %2); klasörü ve diski denetleyin."_s.arg(yol).arg(taşıma.Neden));
 }

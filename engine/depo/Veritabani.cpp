@@ -19,10 +19,10 @@ std::int64_t PragmaOku(sqlite3* vt, const char* sql) {
 // What a crash before the journal's first sync leaves: a journal that says nothing, which SQLite neither plays back nor
 // clears. Holding the write lock after a read, it is nobody's. A client that is writing just now keeps its own.
 void BoşGünlüğüSil(sqlite3* vt, const std::string& yol) {
-    if (!GünlükVar(yol) || sqlite3_db_readonly(vt, "main") == 1) return;
+    if (!Dosya::GünlükVar(yol) || sqlite3_db_readonly(vt, "main") == 1) return;
     sqlite3_busy_timeout(vt, 0);
     if (sqlite3_exec(vt, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) == SQLITE_OK) {
-        RollbackGünlüğünüSil(yol);
+        Dosya::Sil(yol + "-journal");
         SqliteYürüt(vt, "ROLLBACK");
     }
     sqlite3_busy_timeout(vt, KilitBekleme);
@@ -31,7 +31,7 @@ void BoşGünlüğüSil(sqlite3* vt, const std::string& yol) {
 }  // namespace
 
 AçıkDosya VeriDosyasıAç(const std::string& verilen, std::string_view parola) {
-    if (!OlağanDosyaVar(verilen)) throw Hata(Durum::Bağlanamadı, "Veri dosyası bulunamadı: " + verilen);
+    if (!Dosya::OlağanDosyaVar(verilen)) throw Hata(Durum::Bağlanamadı, "Veri dosyası bulunamadı: " + verilen);
     const std::string yol = GerçekYol(verilen);
     GünlükleriDenetle(yol);
     SqliteBağlantısı vt = SqliteAç(yol);
@@ -41,7 +41,8 @@ AçıkDosya VeriDosyasıAç(const std::string& verilen, std::string_view parola)
     DosyaŞeması şema(vt.get());
     if (!şema.ParolaTablosuVar()) ParolaBilgisiBozuk();
     if (!ParolaDoğru(vt.get(), parola)) throw Hata(Durum::YetkiYok, "Veri dosyasının parolası yanlış.");
-    GeçiciDosya::KalıntıyıSil(yol);
+    // What cannot be cleared is in nobody's way; the next one to make such a file is told.
+    static_cast<void>(Dosya::GeçiciDosya::KalıntıyıSil(yol));
     BoşGünlüğüSil(vt.get(), yol);
     return {std::move(vt), std::move(şema)};
 }
