@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
-#include "VeriDeyimleri.h"
-#include "VeriBaglantisi.h"
+#include "Deyimler.h"
 #include "VeriDosyasi.h"
 
 using namespace Qt::StringLiterals;
@@ -33,11 +32,11 @@ QString BüyükMalzemeAdı(int sıra) {
     return Numaralı(u"Çeşitli Malzeme %1"_s, sıra);
 }
 
-void BüyükVeriYaz(VeriBağlantısı& bağlantı, int satırSayısı, QDate bugün) {
+void BüyükVeriYaz(VeriYazıcısı& yazıcı, int satırSayısı, QDate bugün) {
     const int malzemeSayısı = std::max(satırSayısı / 10, BÜYÜK_ÜRÜNÜN_MALZEMESİ);
     for (int i = 0; i < malzemeSayısı; ++i) {
         YarıdaKesildiMi();
-        bağlantı.Çalıştır(VeriDeyimleri::MalzemeEkle(BüyükMalzemeAdı(i), Fiyat(i)));
+        yazıcı.Çalıştır(Deyimler::MalzemeEkle(BüyükMalzemeAdı(i), Fiyat(i)));
     }
     // A step without a common divisor with the catalogue's size keeps a product's materials apart and uses them all.
     int adım = 7919;
@@ -51,13 +50,13 @@ void BüyükVeriYaz(VeriBağlantısı& bağlantı, int satırSayısı, QDate bug
         if (satır % BÜYÜK_ÜRÜNÜN_MALZEMESİ == 0) {
             grup = BüyükGrupAdı(ürünSırası / BÜYÜK_GRUBUN_ÜRÜNÜ);
             ürün = BüyükÜrünAdı(ürünSırası);
-            tarih = VeriDeyimleri::Tarih(bugün.addDays(-(ürünSırası % GÜN_SAYISI)));
-            bağlantı.Çalıştır(VeriDeyimleri::ÜrünEkle(grup, ürün));
-            bağlantı.Çalıştır(VeriDeyimleri::YüzdeleriYaz(grup, ürün, u"12,50", u"20,00", u"-3,25", u"4,75"));
+            tarih = Deyimler::Tarih(bugün.addDays(-(ürünSırası % GÜN_SAYISI)));
+            yazıcı.Çalıştır(Deyimler::ÜrünEkle(grup, ürün));
+            yazıcı.Çalıştır(Deyimler::YüzdeleriKaydet(u"12,50"_s, u"20,00"_s, u"-3,25"_s, u"4,75"_s, grup, ürün));
         }
         const int malzeme = int(qint64(satır) * adım % malzemeSayısı);
         const QString miktar = u"%1,%2 Adet"_s.arg(satır % 90 + 1).arg(satır % 100, 2, 10, QChar(u'0'));
-        bağlantı.Çalıştır(
-            VeriDeyimleri::KullanılanMalzemeEkle(tarih, grup, ürün, BüyükMalzemeAdı(malzeme), miktar, Fiyat(malzeme)));
+        yazıcı.Çalıştır(
+            Deyimler::KullanılanMalzemeEkle({grup, ürün, BüyükMalzemeAdı(malzeme), miktar, Fiyat(malzeme), tarih}));
     }
 }

@@ -3,7 +3,7 @@
 #include <QDate>
 #include <QString>
 
-class VeriBağlantısı;
+class VeriYazıcısı;
 
 // A large, regular file for measuring: products of 20 materials each, 50 products to a group, and a catalogue of a
 // tenth as many materials as there are rows (at least 20).
@@ -15,4 +15,4 @@ QString BüyükÜrünAdı(int sıra);
 QString BüyükMalzemeAdı(int sıra);
 
 // Writes `satırSayısı` used-material rows and what they refer to. Throws VeriHatası.
-void BüyükVeriYaz(VeriBağlantısı& bağlantı, int satırSayısı, QDate bugün);
+void BüyükVeriYaz(VeriYazıcısı& yazıcı, int satırSayısı, QDate bugün);

@@ -2,24 +2,26 @@
 
 #include <QHash>
 
-#include "VeriBaglantisi.h"
-#include "VeriDeyimleri.h"
+#include "Deyimler.h"
+#include "VeriDosyasi.h"
 
-void ÖrnekVeriYaz(VeriBağlantısı& bağlantı, QDate bugün) {
+void ÖrnekVeriYaz(VeriYazıcısı& yazıcı, QDate bugün) {
     QHash<QStringView, QStringView> fiyatlar;
     for (const ÖrnekMalzeme& malzeme : ÖrnekMalzemeler()) {
-        bağlantı.Çalıştır(VeriDeyimleri::MalzemeEkle(malzeme.ad, malzeme.fiyat));
+        yazıcı.Çalıştır(Deyimler::MalzemeEkle(malzeme.ad.toString(), malzeme.fiyat.toString()));
         fiyatlar.insert(malzeme.ad, malzeme.fiyat);
     }
     for (const ÖrnekÜrün& ürün : ÖrnekÜrünler()) {
         const ÖrnekYüzdeler& yüzde = ürün.yüzdeler;
-        bağlantı.Çalıştır(VeriDeyimleri::ÜrünEkle(ürün.grup, ürün.ad));
-        bağlantı.Çalıştır(
-            VeriDeyimleri::YüzdeleriYaz(ürün.grup, ürün.ad, yüzde.işçilik, yüzde.kâr, yüzde.diğer, yüzde.vade));
-        const QString tarih = VeriDeyimleri::Tarih(bugün.addDays(-ürün.günÖnce));
-        for (const ÖrnekMiktar& satır : ürün.malzemeler) {
-            bağlantı.Çalıştır(VeriDeyimleri::KullanılanMalzemeEkle(tarih, ürün.grup, ürün.ad, satır.malzeme,
-                                                                   satır.miktar, fiyatlar.value(satır.malzeme)));
-        }
+        const QString grup = ürün.grup.toString();
+        const QString ad = ürün.ad.toString();
+        yazıcı.Çalıştır(Deyimler::ÜrünEkle(grup, ad));
+        yazıcı.Çalıştır(Deyimler::YüzdeleriKaydet(yüzde.işçilik.toString(), yüzde.kâr.toString(),
+                                                  yüzde.diğer.toString(), yüzde.vade.toString(), grup, ad));
+        const QString tarih = Deyimler::Tarih(bugün.addDays(-ürün.günÖnce));
+        for (const ÖrnekMiktar& satır : ürün.malzemeler)
+            yazıcı.Çalıştır(
+                Deyimler::KullanılanMalzemeEkle({grup, ad, satır.malzeme.toString(), satır.miktar.toString(),
+                                                 fiyatlar.value(satır.malzeme).toString(), tarih}));
     }
 }

@@ -4,7 +4,7 @@
 #include <QList>
 #include <QStringView>
 
-class VeriBağlantısı;
+class VeriYazıcısı;
 
 // The sample: a small furniture workshop. Numbers are written as a user types them.
 
@@ -37,4 +37,4 @@ const QList<ÖrnekMalzeme>& ÖrnekMalzemeler();
 const QList<ÖrnekÜrün>& ÖrnekÜrünler();
 
 // Writes the sample into a data file that has the tables. Throws VeriHatası.
-void ÖrnekVeriYaz(VeriBağlantısı& bağlantı, QDate bugün);
+void ÖrnekVeriYaz(VeriYazıcısı& yazıcı, QDate bugün);

@@ -4,13 +4,11 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <cerrno>
 #include <csignal>
-#include <cstdio>
-#include <fcntl.h>
-#include <unistd.h>
 
-#include "VeriBaglantisi.h"
+#include "GeciciDosya.h"
+#include "OdbcHareketi.h"
+#include "OdbcSurucu.h"
 
 using namespace Qt::StringLiterals;
 
@@ -40,22 +38,40 @@ constexpr const char16_t* KULLANIM_DİZİNLERİ[] = {
     u"CREATE INDEX GununHareketleri ON UrunMalzemeTablosu (KullanimTarihi, UrunAdi)",
 };
 
-// QFile::rename would copy over a file that appears in the last moment.
-void ÜzerineYazmadanTaşı(const QString& kaynak, const QString& hedef) {
-    if (renameat2(AT_FDCWD, QFile::encodeName(kaynak), AT_FDCWD, QFile::encodeName(hedef), RENAME_NOREPLACE) != 0) {
-        throw VeriHatası(u"%1 adı verilemedi (sistem hatası %2); klasörü ve diski denetleyin."_s.arg(hedef).arg(errno));
+QString Neden(const QList<OdbcHatası>& hatalar) {
+    return OdbcİletileriniAl(hatalar).value(0);
+}
+
+// Rows together, which makes many of them fast.
+void Doldur(const QString& dosya, const std::function<void(VeriYazıcısı&)>& doldur) {
+    OdbcBağlantısı bağlantı;
+    const OdbcSonucu açılış = bağlantı.Aç(BağlantıMetni(dosya));
+    if (!bağlantı.Tanıtıcı()) throw VeriHatası(u"ODBC sürücülerine erişilemiyor."_s);
+    if (!açılış.Başarılı()) throw VeriHatası(u"Veri dosyası açılamadı: "_s + Neden(açılış.Hatalar));
+    VeriYazıcısı yazıcı(bağlantı);
+    for (const char16_t* tablo : TABLOLAR) yazıcı.Çalıştır(QString::fromUtf16(tablo));
+    OdbcHareketi hareket(bağlantı);
+    const OdbcSonucu başlangıç = hareket.Başla();
+    if (!başlangıç.Başarılı()) throw VeriHatası(u"Toplu yazma açılamadı: "_s + Neden(başlangıç.Hatalar));
+    doldur(yazıcı);
+    const OdbcSonucu onay = hareket.Onayla();
+    if (!onay.Başarılı()) throw VeriHatası(u"Yazılanlar onaylanamadı: "_s + Neden(onay.Hatalar));
+    for (const char16_t* dizin : KULLANIM_DİZİNLERİ) {
+        YarıdaKesildiMi();
+        yazıcı.Çalıştır(QString::fromUtf16(dizin));
     }
 }
 
-// Puts the new name itself on disk.
-void KlasörüDiskeYaz(const QString& klasör) {
-    const int tanıtıcı = open(QFile::encodeName(klasör), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (tanıtıcı < 0) return;
-    fsync(tanıtıcı);
-    close(tanıtıcı);
+}  // namespace
+
+VeriYazıcısı::VeriYazıcısı(OdbcBağlantısı& bağlantı) {
+    if (m_deyim.Aç(bağlantı) != 0) throw VeriHatası(u"Veri dosyası açılamadı: "_s + Neden(bağlantı.HatalarınıAl()));
 }
 
-}  // namespace
+void VeriYazıcısı::Çalıştır(const QString& deyim) {
+    if (m_deyim.Çalıştır(deyim) != 0)
+        throw VeriHatası(u"Deyim çalıştırılamadı: %1\n%2"_s.arg(Neden(m_deyim.HatalarınıAl()), deyim));
+}
 
 void YarıdaKes() noexcept {
     yarıdaKesildi = 1;
@@ -65,7 +81,7 @@ void YarıdaKesildiMi() {
     if (yarıdaKesildi) throw VeriHatası(u"İşlem yarıda kesildi."_s);
 }
 
-void VeriDosyasıYap(const QString& hedef, const std::function<void(VeriBağlantısı&)>& doldur) {
+void VeriDosyasıYap(const QString& hedef, const std::function<void(VeriYazıcısı&)>& doldur) {
     const QFileInfo bilgi(hedef);
     const QString yol = bilgi.absoluteFilePath();
     if (bilgi.exists() || bilgi.isSymLink()) {
@@ -76,19 +92,13 @@ void VeriDosyasıYap(const QString& hedef, const std::function<void(VeriBağlant
         throw VeriHatası(u"%1 klasörüne yazılamıyor; yazma iznini ve diski denetleyin."_s.arg(bilgi.absolutePath()));
     }
     const QString geçici = klasör.filePath(u"Yeni.vtb"_s);
-    BoşVeriDosyasıOluştur(geçici);
-    {
-        VeriBağlantısı bağlantı(geçici);
-        for (const char16_t* tablo : TABLOLAR) bağlantı.Çalıştır(QString::fromUtf16(tablo));
-        bağlantı.Toplucaya();
-        doldur(bağlantı);
-        bağlantı.Onayla();
-        for (const char16_t* dizin : KULLANIM_DİZİNLERİ) {
-            YarıdaKesildiMi();
-            bağlantı.Çalıştır(QString::fromUtf16(dizin));
-        }
-    }
+    if (!BoşVeriDosyasıOluştur(geçici))
+        throw VeriHatası(u"Veri dosyası oluşturulamadı: "_s + SürücüKurulumHataları().value(0));
+    Doldur(geçici, doldur);
     YarıdaKesildiMi();
-    ÜzerineYazmadanTaşı(geçici, yol);
-    KlasörüDiskeYaz(bilgi.absolutePath());
+    const Dosya::Sonuç taşıma = Dosya::Taşı(QFile::encodeName(geçici).toStdString(),
+                                            QFile::encodeName(yol).toStdString(), Dosya::Yerleştirme::Yeni);
+    if (!taşıma.Yapıldı())
+        throw VeriHatası(
+            u"%1 adı verilemedi (sistem hatası %2); klasörü ve diski denetleyin."_s.arg(yol).arg(taşıma.Neden));
 }

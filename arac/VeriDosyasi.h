@@ -2,14 +2,33 @@
 
 #include <QString>
 #include <functional>
+#include <stdexcept>
 
-class VeriBağlantısı;
+#include "OdbcTanitici.h"
+
+// What went wrong, in words for the terminal.
+class VeriHatası : public std::runtime_error {
+  public:
+    explicit VeriHatası(const QString& metin) : std::runtime_error(metin.toStdString()) {}
+    QString Metin() const { return QString::fromUtf8(what()); }
+};
+
+// Writes into the data file in the making, one statement after the other.
+class VeriYazıcısı {
+  public:
+    // Throws VeriHatası.
+    explicit VeriYazıcısı(OdbcBağlantısı& bağlantı);
+    void Çalıştır(const QString& deyim);
+
+  private:
+    OdbcDeyimi m_deyim;
+};
 
 // Makes a data file in one piece: it is built in a folder of its own beside the target, and gets its name only when
 // all is written and on disk. An existing file is never overwritten; a failure, an interrupt or a killed process
 // leaves nothing under the target's name. Throws VeriHatası.
-// `doldur` writes the rows.
-void VeriDosyasıYap(const QString& hedef, const std::function<void(VeriBağlantısı&)>& doldur);
+// `doldur` writes the rows, which are written together: without success none of them is kept.
+void VeriDosyasıYap(const QString& hedef, const std::function<void(VeriYazıcısı&)>& doldur);
 
 // Ends the work at the next statement, as a failure. May be called from a signal handler.
 void YarıdaKes() noexcept;

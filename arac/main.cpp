@@ -5,8 +5,8 @@
 #include <cstdio>
 
 #include "BuyukVeri.h"
+#include "OdbcSurucu.h"
 #include "OrnekVeri.h"
-#include "VeriBaglantisi.h"
 #include "VeriDosyasi.h"
 
 using namespace Qt::StringLiterals;
@@ -32,7 +32,7 @@ int KullanımıGöster() {
     return YanlışKullanım;
 }
 
-int Oluştur(const QString& dosya, const std::function<void(VeriBağlantısı&)>& doldur) {
+int Oluştur(const QString& dosya, const std::function<void(VeriYazıcısı&)>& doldur) {
     for (int sinyal : {SIGINT, SIGTERM, SIGHUP}) std::signal(sinyal, [](int) { YarıdaKes(); });
     try {
         SürücüKlasörünüAyarla(QCoreApplication::applicationDirPath());
@@ -53,16 +53,16 @@ int main(int argc, char** argv) {
     const QDate bugün = QDate::currentDate();
     const QString komut = sözler.value(0);
     if (sözler.size() == 2 && komut == u"yeni") {
-        return Oluştur(sözler[1], [](VeriBağlantısı&) {});
+        return Oluştur(sözler[1], [](VeriYazıcısı&) {});
     }
     if (sözler.size() == 2 && komut == u"ornek") {
-        return Oluştur(sözler[1], [&](VeriBağlantısı& bağlantı) { ÖrnekVeriYaz(bağlantı, bugün); });
+        return Oluştur(sözler[1], [&](VeriYazıcısı& yazıcı) { ÖrnekVeriYaz(yazıcı, bugün); });
     }
     if (sözler.size() == 3 && komut == u"buyuk") {
         bool sayı = false;
         const int satır = sözler[2].toInt(&sayı);
         if (sayı && satır > 0 && satır <= EN_ÇOK_SATIR) {
-            return Oluştur(sözler[1], [&](VeriBağlantısı& bağlantı) { BüyükVeriYaz(bağlantı, satır, bugün); });
+            return Oluştur(sözler[1], [&](VeriYazıcısı& yazıcı) { BüyükVeriYaz(yazıcı, satır, bugün); });
         }
     }
     return KullanımıGöster();

@@ -7,6 +7,7 @@
 
 #include "AnaForm.h"
 #include "Cift.h"
+#include "Deyimler.h"
 #include "OlcumFormOrtami.h"
 #include "Yukleyiciler.h"
 
@@ -108,8 +109,7 @@ void ÇıplakAğaç(benchmark::State& durum) {
     const auto vt = ÖlçümOrtamı::ÇıplakAç(ÖlçümOrtamı::VeriKlasörü(ÇokSatır));
     QTreeWidget ağaç;
     for (auto _ : durum) {
-        const auto sorgu = ÖlçümOrtamı::ÇıplakSorgu(
-            vt.get(), "SELECT UrunGrubu, UrunAdi FROM UrunTablosu ORDER BY UrunGrubu, UrunAdi");
+        const auto sorgu = ÖlçümOrtamı::ÇıplakSorgu(vt.get(), Deyimler::ÜrünAğacı().toUtf8());
         QList<QTreeWidgetItem*> gruplar;
         while (sqlite3_step(sorgu.get()) == SQLITE_ROW) {
             const QString grup = ÖlçümOrtamı::ÇıplakMetin(sorgu.get(), 0);
@@ -143,10 +143,7 @@ void ÇıplakKalabalık(benchmark::State& durum) {
     }
     const auto vt = ÖlçümOrtamı::ÇıplakAç(ÖlçümOrtamı::VeriKlasörü(AzSatır, Kalabalık));
     const QByteArray sql =
-        u"SELECT KullanilanMalzemeMiktari, KullanilanMalzemeAdi, KullanilanMalzemeFiyati FROM "
-        u"UrunMalzemeTablosu WHERE UrunGrubu='%1' AND UrunAdi='%2' ORDER BY KullanilanMalzemeAdi"_s
-            .arg(ÖlçümOrtamı::KalabalıkGrup(), ÖlçümOrtamı::KalabalıkÜrün())
-            .toUtf8();
+        Deyimler::KullanılanMalzemeler(ÖlçümOrtamı::KalabalıkGrup(), ÖlçümOrtamı::KalabalıkÜrün()).toUtf8();
     for (auto _ : durum) {
         liste.clear();
         const auto sorgu = ÖlçümOrtamı::ÇıplakSorgu(vt.get(), sql);

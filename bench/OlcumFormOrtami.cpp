@@ -12,11 +12,10 @@
 
 #include "BuyukVeri.h"
 #include "DegiskenModulu.h"
+#include "Deyimler.h"
+#include "OdbcHareketi.h"
 #include "OdbcModulu.h"
 #include "TurkceSira.h"
-#include "VeriBaglantisi.h"
-#include "VeriDeyimleri.h"
-#include "VeriDosyasi.h"
 
 using namespace Qt::StringLiterals;
 
@@ -39,15 +38,14 @@ int TürkçeSıra(void*, int boyA, const void* a, int boyB, const void* b) {
                                std::string_view(static_cast<const char*>(b), size_t(boyB)));
 }
 
-void KalabalıkYaz(VeriBağlantısı& veri, int kalabalık) {
-    using namespace VeriDeyimleri;
-    veri.Çalıştır(ÜrünEkle(ÖlçümOrtamı::KalabalıkGrup(), ÖlçümOrtamı::KalabalıkÜrün()));
-    const QString tarih = Tarih(QDate::currentDate());
-    for (int i = 0; i < kalabalık; ++i) {
-        veri.Çalıştır(KullanılanMalzemeEkle(tarih, ÖlçümOrtamı::KalabalıkGrup(), ÖlçümOrtamı::KalabalıkÜrün(),
-                                            BüyükMalzemeAdı(i), u"%1,25 Adet"_s.arg(i % 300 + 1),
-                                            u"%1,5075"_s.arg(i * 7 % 2500)));
-    }
+void KalabalıkYaz(VeriYazıcısı& veri, int kalabalık) {
+    const QString grup = ÖlçümOrtamı::KalabalıkGrup();
+    const QString ürün = ÖlçümOrtamı::KalabalıkÜrün();
+    veri.Çalıştır(Deyimler::ÜrünEkle(grup, ürün));
+    const QString tarih = Deyimler::Tarih(QDate::currentDate());
+    for (int i = 0; i < kalabalık; ++i)
+        veri.Çalıştır(Deyimler::KullanılanMalzemeEkle(
+            {grup, ürün, BüyükMalzemeAdı(i), u"%1,25 Adet"_s.arg(i % 300 + 1), u"%1,5075"_s.arg(i * 7 % 2500), tarih}));
 }
 
 }  // namespace
@@ -78,7 +76,7 @@ QString VeriKlasörü(int satırSayısı, int kalabalık) {
     if (QFile::exists(dosya)) return klasör;
     std::fprintf(stderr, "making %s\n", dosya.toUtf8().constData());
     try {
-        VeriDosyasıYap(dosya, [=](VeriBağlantısı& veri) {
+        VeriDosyasıYap(dosya, [=](VeriYazıcısı& veri) {
             BüyükVeriYaz(veri, satırSayısı, QDate::currentDate());
             if (kalabalık > 0) KalabalıkYaz(veri, kalabalık);
         });
@@ -86,6 +84,16 @@ QString VeriKlasörü(int satırSayısı, int kalabalık) {
         Başarmalı(false, hata.Metin());
     }
     return klasör;
+}
+
+void Yaz(const QString& klasör, const std::function<void(VeriYazıcısı&)>& yaz) {
+    OdbcBağlantısı bağlantı;
+    Başarmalı(bağlantı.Aç(BağlantıMetni(klasör + u"/Varnek.vtb"_s)).Başarılı(), klasör);
+    VeriYazıcısı yazıcı(bağlantı);
+    OdbcHareketi hareket(bağlantı);
+    Başarmalı(hareket.Başla().Başarılı(), klasör);
+    yaz(yazıcı);
+    Başarmalı(hareket.Onayla().Başarılı(), klasör);
 }
 
 QString KalabalıkGrup() {

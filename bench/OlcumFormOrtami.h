@@ -3,7 +3,10 @@
 #include <sqlite3.h>
 
 #include <QString>
+#include <functional>
 #include <memory>
+
+#include "VeriDosyasi.h"
 
 // What the measurements of the forms share: the data files, the program's connection to one of them at a time, and the
 // bare SQLite library on the same files.
@@ -17,6 +20,9 @@ void Kur();
 QString VeriKlasörü(int satırSayısı, int kalabalık = 0);
 QString KalabalıkGrup();
 QString KalabalıkÜrün();
+
+// Writes into the data file in this folder, all of it together.
+void Yaz(const QString& klasör, const std::function<void(VeriYazıcısı&)>& yaz);
 
 // Makes the program's connection lead to the data file in this folder.
 void Bağlan(const QString& klasör);

@@ -13,12 +13,11 @@
 #include "AnaFormErisimi.h"
 #include "BuyukVeri.h"
 #include "Cift.h"
+#include "Deyimler.h"
 #include "MalzemeEkleSilFormu.h"
 #include "MalzemeListesiOlusturFormu.h"
 #include "MesajKutusu.h"
 #include "OlcumFormOrtami.h"
-#include "VeriBaglantisi.h"
-#include "VeriDeyimleri.h"
 
 using namespace Qt::StringLiterals;
 
@@ -68,8 +67,7 @@ void ÇıplakAçılış(benchmark::State& durum) {
         auto* liste = new QListWidget;
         liste->setUniformItemSizes(true);
         (new QVBoxLayout(form.get()))->addWidget(liste);
-        const auto sorgu =
-            ÖlçümOrtamı::ÇıplakSorgu(vt.get(), "SELECT MalzemeAdi FROM MalzemeTablosu ORDER BY MalzemeAdi");
+        const auto sorgu = ÖlçümOrtamı::ÇıplakSorgu(vt.get(), Deyimler::MalzemeListesi().toUtf8());
         QStringList adlar;
         while (sqlite3_step(sorgu.get()) == SQLITE_ROW) adlar.append(ÖlçümOrtamı::ÇıplakMetin(sorgu.get(), 0));
         liste->addItems(adlar);
@@ -106,15 +104,13 @@ void ÇıplakAçılış(benchmark::State& durum) {
 QString YaygınKlasörü() {
     static const QString klasör = [] {
         const QString yeni = ÖlçümOrtamı::VeriKlasörü(2'000);
-        VeriBağlantısı veri(yeni + u"/Varnek.vtb"_s);
-        veri.Çalıştır(u"DELETE FROM UrunMalzemeTablosu WHERE UrunGrubu= 'YAYGIN'"_s);
-        veri.Toplucaya();
-        for (int i = 0; i < Yaygın; ++i) {
-            veri.Çalıştır(VeriDeyimleri::KullanılanMalzemeEkle(VeriDeyimleri::Tarih(QDate::currentDate()), u"YAYGIN"_s,
-                                                               BüyükÜrünAdı(i), BüyükMalzemeAdı(0), u"2 Adet"_s,
-                                                               u"1"_s));
-        }
-        veri.Onayla();
+        ÖlçümOrtamı::Yaz(yeni, [](VeriYazıcısı& veri) {
+            veri.Çalıştır(Deyimler::GrubunMalzemeleriniSil(u"YAYGIN"_s));
+            const QString tarih = Deyimler::Tarih(QDate::currentDate());
+            for (int i = 0; i < Yaygın; ++i)
+                veri.Çalıştır(Deyimler::KullanılanMalzemeEkle(
+                    {u"YAYGIN"_s, BüyükÜrünAdı(i), BüyükMalzemeAdı(0), u"2 Adet"_s, u"1"_s, tarih}));
+        });
         return yeni;
     }();
     return klasör;
@@ -172,7 +168,7 @@ void ÇıplakFiyat(benchmark::State& durum) {
 }
 
 void AktarılanlarıSil(const QString& klasör) {
-    VeriBağlantısı(klasör + u"/Varnek.vtb"_s).Çalıştır(u"DELETE FROM UrunMalzemeTablosu WHERE UrunGrubu= 'ÖLÇÜM'"_s);
+    ÖlçümOrtamı::Yaz(klasör, [](VeriYazıcısı& veri) { veri.Çalıştır(Deyimler::GrubunMalzemeleriniSil(u"ÖLÇÜM"_s)); });
 }
 
 void Aktarma(benchmark::State& durum) {

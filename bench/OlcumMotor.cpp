@@ -1,18 +1,17 @@
 // Reading through driver manager and driver beside the bare library and beside Debian's SQLite ODBC driver, all on one
 // file; and one product's rows out of a large file beside a small one.
-#include <sqlext.h>
 #include <sqlite3.h>
 
 #include <QDate>
-#include <QFile>
 #include <QTemporaryDir>
 #include <cstdlib>
 #include <cstring>
-#include <string>
 
 #include "BuyukVeri.h"
 #include "Cift.h"
-#include "VeriBaglantisi.h"
+#include "Deyimler.h"
+#include "OdbcSurucu.h"
+#include "OdbcTanitici.h"
 #include "VeriDosyasi.h"
 
 namespace {
@@ -28,44 +27,17 @@ void Başarmalı(bool başardı, const char* ne) {
     std::exit(2);
 }
 
-// A connection through the driver manager, the way the program uses it: one statement at a time, values as text.
-class Odbc {
-  public:
-    explicit Odbc(std::string tanım) {
-        SQLAllocEnv(&m_ortam);
-        SQLAllocConnect(m_ortam, &m_bağlantı);
-        const SQLRETURN sonuç =
-            SQLDriverConnect(m_bağlantı, nullptr, Metin(tanım), SQL_NTS, nullptr, 0, nullptr, SQL_DRIVER_NOPROMPT);
-        Başarmalı(SQL_SUCCEEDED(sonuç), "Bağlantı");
-    }
-    ~Odbc() {
-        SQLDisconnect(m_bağlantı);
-        SQLFreeConnect(m_bağlantı);
-        SQLFreeEnv(m_ortam);
-    }
-
-    // Reads every row's three columns; the number of rows.
-    int Oku(std::string sorgu) {
-        SQLHSTMT deyim = nullptr;
-        SQLAllocStmt(m_bağlantı, &deyim);
-        Başarmalı(SQLExecDirect(deyim, Metin(sorgu), SQLINTEGER(sorgu.size())) == SQL_SUCCESS, "Sorgu");
-        char tampon[255];
-        SQLLEN uzunluk = 0;
-        int satır = 0;
-        for (; SQLFetch(deyim) == SQL_SUCCESS; ++satır)
-            for (SQLUSMALLINT sütun = 1; sütun <= 3; ++sütun)
-                SQLGetData(deyim, sütun, SQL_C_CHAR, tampon, sizeof tampon, &uzunluk);
-        SQLFreeStmt(deyim, SQL_DROP);
-        benchmark::DoNotOptimize(tampon);
-        return satır;
-    }
-
-  private:
-    static SQLCHAR* Metin(std::string& metin) { return reinterpret_cast<SQLCHAR*>(metin.data()); }
-
-    SQLHENV m_ortam = nullptr;
-    SQLHDBC m_bağlantı = nullptr;
-};
+// Reads every row's columns through the driver manager, the way the program does; the number of rows.
+int OdbcOku(OdbcBağlantısı& bağlantı, const QString& sorgu) {
+    int sayı = 0;
+    const OdbcSonucu sonuç = bağlantı.Oku(sorgu, [&sayı](OdbcSatırı& satır) {
+        for (int sütun = 1; sütun <= satır.SütunSayısı(); ++sütun) benchmark::DoNotOptimize(satır.Baytlar(sütun));
+        ++sayı;
+        return true;
+    });
+    Başarmalı(sonuç.Başarılı(), "Sorgu");
+    return sayı;
+}
 
 // The same with nothing but the library: step, text of each column, copy.
 int ÇıplakOku(sqlite3* vt, const char* sorgu) {
@@ -85,34 +57,28 @@ int ÇıplakOku(sqlite3* vt, const char* sorgu) {
     return satır;
 }
 
-std::string ÜrünSorgusu() {
-    const QString grup = BüyükGrupAdı(SeçilenÜrün / BÜYÜK_GRUBUN_ÜRÜNÜ);
-    return (QString::fromUtf8(OkunanSütunlar) + " WHERE UrunGrubu= '" + grup + "' AND UrunAdi= '" +
-            BüyükÜrünAdı(SeçilenÜrün) + "' ORDER BY KullanilanMalzemeAdi ASC")
-        .toStdString();
+QString ÜrünSorgusu() {
+    return Deyimler::KullanılanMalzemeler(BüyükGrupAdı(SeçilenÜrün / BÜYÜK_GRUBUN_ÜRÜNÜ), BüyükÜrünAdı(SeçilenÜrün));
 }
 
-std::string BüyükDosya(const QTemporaryDir& klasör, int satır) {
+QString BüyükDosya(const QTemporaryDir& klasör, int satır) {
     const QString yol = klasör.filePath(QString::number(satır) + ".vtb");
-    VeriDosyasıYap(yol, [satır](VeriBağlantısı& veri) { BüyükVeriYaz(veri, satır, QDate(2024, 1, 31)); });
-    return yol.toStdString();
+    VeriDosyasıYap(yol, [satır](VeriYazıcısı& veri) { BüyükVeriYaz(veri, satır, QDate(2024, 1, 31)); });
+    return yol;
 }
 
-std::string BizimTanım(const std::string& yol) {
-    return "DRIVER={Microsoft Access Driver (*.mdb)};DBQ=" + yol + ";UID=Admin;PWD=Kumsaldaki";
-}
-
-ÖlçümYüzü OdbcOkuma(const std::string& tanım, const std::string& sorgu, int beklenen) {
+ÖlçümYüzü OdbcOkuma(const QString& bağlantıMetni, const QString& sorgu, int beklenen) {
     return [=](benchmark::State& durum) {
-        Odbc odbc(tanım);
-        for (auto _ : durum) Başarmalı(odbc.Oku(sorgu) == beklenen, "Okuma");
+        OdbcBağlantısı bağlantı;
+        Başarmalı(bağlantı.Aç(bağlantıMetni).Başarılı(), "Bağlantı");
+        for (auto _ : durum) Başarmalı(OdbcOku(bağlantı, sorgu) == beklenen, "Okuma");
     };
 }
 
-ÖlçümYüzü ÇıplakOkuma(const std::string& yol) {
+ÖlçümYüzü ÇıplakOkuma(const QString& yol) {
     return [=](benchmark::State& durum) {
         sqlite3* vt = nullptr;
-        Başarmalı(sqlite3_open_v2(yol.c_str(), &vt, SQLITE_OPEN_READWRITE, nullptr) == SQLITE_OK, "Açma");
+        Başarmalı(sqlite3_open_v2(yol.toUtf8(), &vt, SQLITE_OPEN_READWRITE, nullptr) == SQLITE_OK, "Açma");
         for (auto _ : durum) Başarmalı(ÇıplakOku(vt, OkunanSütunlar) == OkunanSatır, "Okuma");
         sqlite3_close(vt);
     };
@@ -123,17 +89,17 @@ std::string BizimTanım(const std::string& yol) {
 int main(int argc, char** argv) {
     SürücüKlasörünüAyarla(VARNEK_BIN);
     const QTemporaryDir klasör;
-    const std::string küçük = BüyükDosya(klasör, 1'000);
-    const std::string orta = BüyükDosya(klasör, OkunanSatır);
-    const std::string büyük = BüyükDosya(klasör, 1'000'000);
-    const std::string debian = "DRIVER=" SQLITE_ODBC ";Database=" + orta;
+    const QString küçük = BüyükDosya(klasör, 1'000);
+    const QString orta = BüyükDosya(klasör, OkunanSatır);
+    const QString büyük = BüyükDosya(klasör, 1'000'000);
+    const QString debian = QStringLiteral("DRIVER=" SQLITE_ODBC ";Database=") + orta;
 
-    ÇiftEkle("300.000 satır, çıplak SQLite'a göre", 1.3, OdbcOkuma(BizimTanım(orta), OkunanSütunlar, OkunanSatır),
+    ÇiftEkle("300.000 satır, çıplak SQLite'a göre", 1.3, OdbcOkuma(BağlantıMetni(orta), OkunanSütunlar, OkunanSatır),
              ÇıplakOkuma(orta));
-    ÇiftEkle("300.000 satır, libsqliteodbc'ye göre", 1.0, OdbcOkuma(BizimTanım(orta), OkunanSütunlar, OkunanSatır),
+    ÇiftEkle("300.000 satır, libsqliteodbc'ye göre", 1.0, OdbcOkuma(BağlantıMetni(orta), OkunanSütunlar, OkunanSatır),
              OdbcOkuma(debian, OkunanSütunlar, OkunanSatır));
     ÇiftEkle("ürün seçmek, 1.000.000 satırda 1.000 satıra göre", 1.2,
-             OdbcOkuma(BizimTanım(büyük), ÜrünSorgusu(), BÜYÜK_ÜRÜNÜN_MALZEMESİ),
-             OdbcOkuma(BizimTanım(küçük), ÜrünSorgusu(), BÜYÜK_ÜRÜNÜN_MALZEMESİ));
+             OdbcOkuma(BağlantıMetni(büyük), ÜrünSorgusu(), BÜYÜK_ÜRÜNÜN_MALZEMESİ),
+             OdbcOkuma(BağlantıMetni(küçük), ÜrünSorgusu(), BÜYÜK_ÜRÜNÜN_MALZEMESİ));
     return ÇiftleriÖlç(argc, argv);
 }

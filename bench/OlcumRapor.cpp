@@ -7,13 +7,12 @@
 #include <memory>
 
 #include "Cift.h"
+#include "Deyimler.h"
 #include "MalzemeHareketleriFormu.h"
 #include "OlcumFormOrtami.h"
 #include "OrtakFonksiyonlarModulu.h"
 #include "RaporCiktilari.h"
 #include "Saat.h"
-#include "VeriBaglantisi.h"
-#include "VeriDeyimleri.h"
 #include "Yazdirma.h"
 
 using namespace Qt::StringLiterals;
@@ -34,14 +33,12 @@ QString GünKlasörü() {
             vt.get(), "SELECT Count(*) FROM UrunMalzemeTablosu WHERE KullanimTarihi = 20010203");
         if (sqlite3_step(sayı.get()) == SQLITE_ROW && sqlite3_column_int(sayı.get(), 0) > 0) return yeni;
         sqlite3_reset(sayı.get());
-        VeriBağlantısı veri(yeni + u"/Varnek.vtb"_s);
-        veri.Toplucaya();
-        for (int i = 0; i < GününSatırı; ++i) {
-            veri.Çalıştır(VeriDeyimleri::KullanılanMalzemeEkle(
-                VeriDeyimleri::Tarih(Gün), u"GÜN"_s, u"Ürün %1"_s.arg(i * 7919 % 500), u"Malzeme %1"_s.arg(i),
-                u"%1,25 Adet"_s.arg(i % 300 + 1), u"%1,5075"_s.arg(i * 7 % 2500)));
-        }
-        veri.Onayla();
+        ÖlçümOrtamı::Yaz(yeni, [](VeriYazıcısı& veri) {
+            for (int i = 0; i < GününSatırı; ++i)
+                veri.Çalıştır(Deyimler::KullanılanMalzemeEkle({u"GÜN"_s, u"Ürün %1"_s.arg(i * 7919 % 500),
+                                                               u"Malzeme %1"_s.arg(i), u"%1,25 Adet"_s.arg(i % 300 + 1),
+                                                               u"%1,5075"_s.arg(i * 7 % 2500), Deyimler::Tarih(Gün)}));
+        });
         return yeni;
     }();
     return klasör;

@@ -10,6 +10,9 @@ ev=/home/usta
 veri="$ev/.local/share/Tovrek/Varnek/Varnek.vtb"
 yedek="$ev/.local/share/Tovrek/Vtb Yedekleri/Varnek.ydk"
 
+# The main window's title: the package's version as the program writes it.
+baslik="Tovrek - Varnek $(dpkg-deb -f /varnek.deb Version | sed 's/^\([0-9]*\)\.\([0-9]*\)\.\([0-9]*\).*/\1.\2\3/')"
+
 pencere() { # pencere TITLE: waits for a window with this title
     local i
     for i in $(seq 100); do
@@ -26,7 +29,7 @@ tus() { sleep 1; kullanici xdotool key --clearmodifiers "$@"; }
 ac_kapat() {
     kullanici "$@" &
     local surec=$!
-    olmali pencere 'Tovrek - Varnek 2.24'
+    olmali pencere "$baslik"
     tus Escape # "do you want to add a product": no
     tus Escape # leave
     tus Return # yes
@@ -67,7 +70,7 @@ kullanici "$tasinan/varnek-veri" ornek "$yedek"
 ilk=$(sha256sum <"$yedek")
 kullanici "$tasinan/Varnek" &
 surec=$!
-olmali pencere 'Tovrek - Varnek 2.24'
+olmali pencere "$baslik"
 tus Escape
 tus Return
 wait $surec
@@ -80,9 +83,9 @@ kullanici "$tasinan/varnek-veri" yeni "$tasinan/Varnek.vtb"
 kullanici touch -d '10 days ago' "$tasinan/Varnek.vtb"
 kullanici "$tasinan/Varnek" &
 surec=$!
-olmali pencere 'Tovrek - Varnek 2.24'
+olmali pencere "$baslik"
 tus Return # restore: yes
-olmali pencere '^Tovrek - Varnek 2.24$'
+olmali pencere "^$baslik\$"
 sleep 3
 tus Escape
 tus Return
@@ -112,7 +115,7 @@ olmali test "$(dpkg-query -W -f '${Version}' varnek)" != "$(dpkg-deb -f /varnek.
 olmali test "$(sha256sum <"$veri")" = "$ilk"
 kullanici varnek &
 surec=$!
-olmali pencere 'Tovrek - Varnek 2.24'
+olmali pencere "$baslik"
 tus Escape
 tus Return
 wait $surec

@@ -19,9 +19,9 @@ void BütünlüğüDenetle(sqlite3* vt) {
 // crash's, SQLite undoes the half transaction first: should this run be cut off before the new file is in place, the
 // old target is still whole.
 void HedefinGünlüğünüBitir(const std::string& hedef) {
-    if (!GünlükVar(hedef)) return;
+    if (!Dosya::GünlükVar(hedef)) return;
     GünlükleriDenetle(hedef);
-    if (OlağanDosyaVar(hedef)) {
+    if (Dosya::OlağanDosyaVar(hedef)) {
         try {
             const SqliteBağlantısı vt = SqliteAç(hedef);
             SqliteYürüt(vt.get(), "BEGIN IMMEDIATE; COMMIT");
@@ -29,9 +29,8 @@ void HedefinGünlüğünüBitir(const std::string& hedef) {
             if ((hata.Yerel() & 0xFF) == SQLITE_BUSY) throw;  // in use; anything else: no data file worth saving
         }
     }
-    GünlükleriSil(hedef);
     // Should the new name reach the disk and the end of the old journal not, the journal would meet the new content.
-    if (!KlasörüEşitle(hedef)) SqliteHatasıFırlat(SQLITE_IOERR);
+    if (!Dosya::GünlükleriSil(hedef) || !Dosya::KlasörüEşitle(hedef)) SqliteHatasıFırlat(SQLITE_IOERR);
 }
 
 // Compacts within the file: one transaction of SQLite, so that other clients stay connected and a crash is undone. The
@@ -44,7 +43,7 @@ void YerindeSıkıştır(sqlite3* vt) {
 }  // namespace
 
 void VeriDosyasıOluştur(const std::string& yol, std::string_view parola) {
-    if (YolVar(yol)) throw Hata(Durum::Genel, "Bu adda bir dosya zaten var; üzerine yazılmadı: " + yol);
+    if (Dosya::YolVar(yol)) throw Hata(Durum::Genel, "Bu adda bir dosya zaten var; üzerine yazılmadı: " + yol);
     const std::string hedef = GerçekYol(yol);
     GeçiciDosya geçici(hedef);
     {
@@ -55,24 +54,24 @@ void VeriDosyasıOluştur(const std::string& yol, std::string_view parola) {
         ParolayıYaz(vt.get(), parola);
         SqliteYürüt(vt.get(), "COMMIT");
     }
-    if (!YolVar(hedef)) HedefinGünlüğünüBitir(hedef);  // left by a file that is gone
-    geçici.Yerleştir(GeçiciDosya::Yerleştirme::Yeni);
+    if (!Dosya::YolVar(hedef)) HedefinGünlüğünüBitir(hedef);  // left by a file that is gone
+    geçici.Yerleştir(Dosya::Yerleştirme::Yeni);
 }
 
 void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hedefYolu, std::string_view parola) {
     const AçıkDosya dosya = VeriDosyasıAç(kaynak, parola);
     sqlite3* vt = dosya.Vt.get();
     BütünlüğüDenetle(vt);
-    if (AynıDosya(kaynak, hedefYolu)) return YerindeSıkıştır(vt);
+    if (Dosya::AynıDosya(kaynak, hedefYolu)) return YerindeSıkıştır(vt);
     const std::string hedef = GerçekYol(hedefYolu);
-    if (YolVar(hedef) && !Yazılabilir(hedef))
+    if (Dosya::YolVar(hedef) && !Dosya::Yazılabilir(hedef))
         throw Hata(Durum::Genel, "Hedef dosya salt okunur; üzerine yazılmadı: " + hedefYolu);
     GeçiciDosya geçici(hedef);
     SqliteDeyimi sıkıştır(vt, "VACUUM INTO ?1");
     sıkıştır.Bağla(1, geçici.Yol());
     sıkıştır.Adım();
     HedefinGünlüğünüBitir(hedef);
-    geçici.Yerleştir(GeçiciDosya::Yerleştirme::Değiştir);
+    geçici.Yerleştir(Dosya::Yerleştirme::Değiştir);
 }
 
 }  // namespace Motor

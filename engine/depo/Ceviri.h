@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Deyim.h"
-#include "Katalog.h"
+#include "DosyaSemasi.h"
 
 #include <cstddef>
 

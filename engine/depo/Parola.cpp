@@ -1,7 +1,7 @@
 #include "Parola.h"
 
 #include "Hata.h"
-#include "Katalog.h"
+#include "DosyaSemasi.h"
 
 #include <nettle/pbkdf2.h>
 
@@ -28,7 +28,7 @@ std::string Özet(std::string_view parola, std::string_view tuz, std::int64_t te
 }
 
 std::string Tablo() {
-    return Tırnakla(Katalog::GizliTablo);
+    return Tırnakla(DosyaŞeması::GizliTablo);
 }
 
 }  // namespace
@@ -37,7 +37,7 @@ void ParolayıYaz(sqlite3* vt, std::string_view parola) {
     std::string tuz(TuzBoyu, '\0');
     std::random_device rastgele;
     std::generate(tuz.begin(), tuz.end(), [&rastgele] { return static_cast<char>(rastgele()); });
-    SqliteYürüt(vt, std::string(Katalog::GizliTabloSql).c_str());
+    SqliteYürüt(vt, std::string(DosyaŞeması::GizliTabloSql).c_str());
     SqliteDeyimi ekle(vt, "INSERT INTO " + Tablo() + " VALUES (?1, ?2, ?3)");
     ekle.BağlaBayt(1, tuz);
     ekle.Bağla(2, YeniTekrar);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Katalog.h"
+#include "DosyaSemasi.h"
 
 #include <optional>
 #include <string_view>

@@ -19,10 +19,10 @@ std::int64_t PragmaOku(sqlite3* vt, const char* sql) {
 // What a crash before the journal's first sync leaves: a journal that says nothing, which SQLite neither plays back nor
 // clears. Holding the write lock after a read, it is nobody's. A client that is writing just now keeps its own.
 void BoşGünlüğüSil(sqlite3* vt, const std::string& yol) {
-    if (!GünlükVar(yol) || sqlite3_db_readonly(vt, "main") == 1) return;
+    if (!Dosya::GünlükVar(yol) || sqlite3_db_readonly(vt, "main") == 1) return;
     sqlite3_busy_timeout(vt, 0);
     if (sqlite3_exec(vt, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) == SQLITE_OK) {
-        RollbackGünlüğünüSil(yol);
+        Dosya::Sil(yol + "-journal");
         SqliteYürüt(vt, "ROLLBACK");
     }
     sqlite3_busy_timeout(vt, KilitBekleme);
@@ -31,17 +31,18 @@ void BoşGünlüğüSil(sqlite3* vt, const std::string& yol) {
 }  // namespace
 
 AçıkDosya VeriDosyasıAç(const std::string& verilen, std::string_view parola) {
-    if (!OlağanDosyaVar(verilen)) throw Hata(Durum::Bağlanamadı, "Veri dosyası bulunamadı: " + verilen);
+    if (!Dosya::OlağanDosyaVar(verilen)) throw Hata(Durum::Bağlanamadı, "Veri dosyası bulunamadı: " + verilen);
     const std::string yol = GerçekYol(verilen);
     GünlükleriDenetle(yol);
     SqliteBağlantısı vt = SqliteAç(yol);
     if (PragmaOku(vt.get(), "PRAGMA application_id") != DosyaKimliği) SqliteHatasıFırlat(SQLITE_NOTADB);
     if (PragmaOku(vt.get(), "PRAGMA user_version") != DosyaSürümü)
         throw Hata(Durum::Bağlanamadı, "Veri dosyasını programın başka bir sürümü yazmış; bu sürüm onu okuyamıyor.");
-    Katalog şema(vt.get());
+    DosyaŞeması şema(vt.get());
     if (!şema.ParolaTablosuVar()) ParolaBilgisiBozuk();
     if (!ParolaDoğru(vt.get(), parola)) throw Hata(Durum::YetkiYok, "Veri dosyasının parolası yanlış.");
-    GeçiciDosya::KalıntıyıSil(yol);
+    // What cannot be cleared is in nobody's way; the next one to make such a file is told.
+    static_cast<void>(Dosya::GeçiciDosya::KalıntıyıSil(yol));
     BoşGünlüğüSil(vt.get(), yol);
     return {std::move(vt), std::move(şema)};
 }
@@ -86,7 +87,7 @@ void Veritabanı::Bağlan() {
     constexpr int adım = 1000;  // instructions of SQLite between two looks at the flag
     AçıkDosya dosya = VeriDosyasıAç(m_yol, m_parola);
     m_vt = std::move(dosya.Vt);
-    m_katalog = std::move(dosya.Şema);
+    m_şema = std::move(dosya.Şema);
     const auto iptalEdildi = [](void* nesne) -> int {
         const std::atomic<bool>* bayrak = static_cast<Veritabanı*>(nesne)->m_nöbetçi.load();
         return bayrak && bayrak->load() ? 1 : 0;
@@ -130,19 +131,19 @@ void Veritabanı::Hazırlan() {
     }
 }
 
-const Katalog& Veritabanı::KataloğuAl() {
-    if (!m_katalog) m_katalog.emplace(m_vt.get());
-    return *m_katalog;
+const DosyaŞeması& Veritabanı::ŞemayıAl() {
+    if (!m_şema) m_şema.emplace(m_vt.get());
+    return *m_şema;
 }
 
 const TabloTanımı* Veritabanı::Tablo(std::string_view ad) {
-    if (const TabloTanımı* bulunan = KataloğuAl().Bul(ad)) return bulunan;
-    m_katalog.reset();  // another connection may have created it meanwhile
-    return KataloğuAl().Bul(ad);
+    if (const TabloTanımı* bulunan = ŞemayıAl().Bul(ad)) return bulunan;
+    m_şema.reset();  // another connection may have created it meanwhile
+    return ŞemayıAl().Bul(ad);
 }
 
 bool Veritabanı::DizinVar(std::string_view ad) {
-    return KataloğuAl().DizinVar(ad);
+    return ŞemayıAl().DizinVar(ad);
 }
 
 SqliteKomutu Veritabanı::Çevir(std::string_view deyim) {
@@ -178,7 +179,7 @@ std::int64_t Veritabanı::Uygula(const SqliteKomutu& komut) {
     }
     const std::int64_t önceki = sqlite3_total_changes64(m_vt.get());
     Yürüt(deyim);
-    if (komut.Tür == SqliteKomutu::Sınıf::Tanım) m_katalog.reset();
+    if (komut.Tür == SqliteKomutu::Sınıf::Tanım) m_şema.reset();
     if (!HareketAçık()) YerindeMi();
     return komut.Tür == SqliteKomutu::Sınıf::Tanım ? 0 : sqlite3_total_changes64(m_vt.get()) - önceki;
 }
@@ -199,7 +200,7 @@ void Veritabanı::Onayla() {
 }
 
 void Veritabanı::GeriAl() {
-    m_katalog.reset();
+    m_şema.reset();
     if (HareketAçık()) SqliteYürüt(m_vt.get(), "ROLLBACK");
     m_hareket = false;
 }

@@ -2,7 +2,7 @@
 
 #include "Ceviri.h"
 #include "DegerMetni.h"
-#include "Katalog.h"
+#include "DosyaSemasi.h"
 #include "Sqlite.h"
 
 #include <atomic>
@@ -20,7 +20,7 @@ inline constexpr int DosyaSürümü = 1;
 // An open data file with what its schema holds.
 struct AçıkDosya {
     SqliteBağlantısı Vt;
-    Katalog Şema;
+    DosyaŞeması Şema;
 };
 
 // Opens an existing data file, checks that it is one, that it holds nothing foreign and that the password is right, and
@@ -93,7 +93,7 @@ class Veritabanı : private Şema {
   private:
     const TabloTanımı* Tablo(std::string_view ad) override;
     bool DizinVar(std::string_view ad) override;
-    const Katalog& KataloğuAl();
+    const DosyaŞeması& ŞemayıAl();
     SqliteDeyimi Hazırla(const SqliteKomutu& komut);
     void Yürüt(SqliteDeyimi& deyim);
 
@@ -107,7 +107,7 @@ class Veritabanı : private Şema {
     std::string m_yol;
     std::string m_parola;
     SqliteBağlantısı m_vt;
-    std::optional<Katalog> m_katalog;  // none: to be read again
+    std::optional<DosyaŞeması> m_şema;  // none: to be read again
     bool m_elleOnay = false;
     bool m_hareket = false;  // begun, and neither committed nor rolled back by the client
 };

@@ -1,5 +1,5 @@
 // The ODBC entry points of environment and connection: each unpacks its arguments and calls one method.
-#include "Baglanti.h"
+#include "BaglantiNesnesi.h"
 
 using namespace Motor;
 
@@ -20,50 +20,51 @@ SQLRETURN SQL_API SQLFreeEnv(SQLHENV ortam) {
 SQLRETURN SQL_API SQLAllocConnect(SQLHENV ortam, SQLHDBC* bağlantı) {
     return Koru<Ortam>(ortam, [&](Ortam&) {
         *bağlantı = nullptr;
-        *bağlantı = new Bağlantı;
+        *bağlantı = new BağlantıNesnesi;
         return SQL_SUCCESS;
     });
 }
 
 SQLRETURN SQL_API SQLFreeConnect(SQLHDBC bağlantı) {
     if (!bağlantı) return SQL_INVALID_HANDLE;
-    delete static_cast<Bağlantı*>(bağlantı);
+    delete static_cast<BağlantıNesnesi*>(bağlantı);
     return SQL_SUCCESS;
 }
 
 SQLRETURN SQL_API SQLConnect(SQLHDBC bağlantı, SQLCHAR* kaynak, SQLSMALLINT kaynakBoyu, SQLCHAR*, SQLSMALLINT,
                              SQLCHAR* parola, SQLSMALLINT parolaBoyu) {
-    return Koru<Bağlantı>(bağlantı, [&](Bağlantı& nesne) {
+    return Koru<BağlantıNesnesi>(bağlantı, [&](BağlantıNesnesi& nesne) {
         return nesne.Bağlan(MetinAl(kaynak, kaynakBoyu), MetinAl(parola, parolaBoyu));
     });
 }
 
 SQLRETURN SQL_API SQLDriverConnect(SQLHDBC bağlantı, SQLHWND, SQLCHAR* metin, SQLSMALLINT metinBoyu, SQLCHAR* çıkış,
                                    SQLSMALLINT çıkışBoyu, SQLSMALLINT* uzunluk, SQLUSMALLINT) {
-    return Koru<Bağlantı>(bağlantı, [&](Bağlantı& nesne) {
+    return Koru<BağlantıNesnesi>(bağlantı, [&](BağlantıNesnesi& nesne) {
         return nesne.MetinleBağlan(MetinAl(metin, metinBoyu), çıkış, çıkışBoyu, uzunluk);
     });
 }
 
 SQLRETURN SQL_API SQLDisconnect(SQLHDBC bağlantı) {
-    return Koru<Bağlantı>(bağlantı, [](Bağlantı& nesne) { return nesne.Ayrıl(); });
+    return Koru<BağlantıNesnesi>(bağlantı, [](BağlantıNesnesi& nesne) { return nesne.Ayrıl(); });
 }
 
 SQLRETURN SQL_API SQLTransact(SQLHENV, SQLHDBC bağlantı, SQLUSMALLINT tür) {
-    return Koru<Bağlantı>(bağlantı, [&](Bağlantı& nesne) { return nesne.HareketiBitir(tür); });
+    return Koru<BağlantıNesnesi>(bağlantı, [&](BağlantıNesnesi& nesne) { return nesne.HareketiBitir(tür); });
 }
 
 SQLRETURN SQL_API SQLSetConnectOption(SQLHDBC bağlantı, SQLUSMALLINT ayar, SQLULEN değer) {
-    return Koru<Bağlantı>(bağlantı, [&](Bağlantı& nesne) { return nesne.AyarYaz(ayar, değer); });
+    return Koru<BağlantıNesnesi>(bağlantı, [&](BağlantıNesnesi& nesne) { return nesne.AyarYaz(ayar, değer); });
 }
 
 SQLRETURN SQL_API SQLGetConnectOption(SQLHDBC bağlantı, SQLUSMALLINT ayar, SQLPOINTER değer) {
-    return Koru<Bağlantı>(bağlantı, [&](Bağlantı& nesne) { return nesne.AyarOku(ayar, değer); });
+    return Koru<BağlantıNesnesi>(bağlantı, [&](BağlantıNesnesi& nesne) { return nesne.AyarOku(ayar, değer); });
 }
 
 SQLRETURN SQL_API SQLGetInfo(SQLHDBC bağlantı, SQLUSMALLINT bilgi, SQLPOINTER değer, SQLSMALLINT boy,
                              SQLSMALLINT* uzunluk) {
-    return Koru<Bağlantı>(bağlantı, [&](Bağlantı& nesne) { return nesne.BilgiVer(bilgi, değer, boy, uzunluk); });
+    return Koru<BağlantıNesnesi>(bağlantı,
+                                 [&](BağlantıNesnesi& nesne) { return nesne.BilgiVer(bilgi, değer, boy, uzunluk); });
 }
 
 }  // extern "C"

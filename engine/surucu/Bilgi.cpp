@@ -1,5 +1,6 @@
-#include "Baglanti.h"
+#include "BaglantiNesnesi.h"
 
+#include <array>
 #include <cstring>
 
 namespace Motor {
@@ -65,12 +66,24 @@ struct MetinBilgisi {
     std::string_view Değer;
 };
 
+// The version as ODBC writes it: ##.##.####
+constexpr std::array Sürüm = [] {
+    std::array metin{'0', '0', '.', '0', '0', '.', '0', '0', '0', '0'};
+    const auto yaz = [&metin](std::size_t son, int sayı) {
+        for (; sayı > 0; sayı /= 10) metin[son--] = static_cast<char>('0' + sayı % 10);
+    };
+    yaz(1, VARNEK_ANA);
+    yaz(4, VARNEK_IKINCIL);
+    yaz(9, VARNEK_DUZELTME);
+    return metin;
+}();
+
 constexpr MetinBilgisi MetinBilgileri[] = {
     {SQL_DRIVER_NAME, "libvarnek-motor.so"},
-    {SQL_DRIVER_VER, "02.02.0004"},
+    {SQL_DRIVER_VER, {Sürüm.data(), Sürüm.size()}},
     {SQL_DRIVER_ODBC_VER, "02.50"},
     {SQL_DBMS_NAME, "Varnek"},
-    {SQL_DBMS_VER, "02.02.0004"},
+    {SQL_DBMS_VER, {Sürüm.data(), Sürüm.size()}},
     {SQL_ACCESSIBLE_TABLES, "Y"},
     {SQL_ACCESSIBLE_PROCEDURES, "N"},
     {SQL_COLUMN_ALIAS, "Y"},
@@ -99,7 +112,7 @@ constexpr MetinBilgisi MetinBilgileri[] = {
 
 }  // namespace
 
-SQLRETURN Bağlantı::BilgiVer(SQLUSMALLINT bilgi, SQLPOINTER değer, SQLSMALLINT boy, SQLSMALLINT* uzunluk) {
+SQLRETURN BağlantıNesnesi::BilgiVer(SQLUSMALLINT bilgi, SQLPOINTER değer, SQLSMALLINT boy, SQLSMALLINT* uzunluk) {
     for (const SayısalBilgi& sayısal : SayısalBilgiler) {
         if (sayısal.Bilgi != bilgi) continue;
         const auto kısa = static_cast<SQLUSMALLINT>(sayısal.Değer);

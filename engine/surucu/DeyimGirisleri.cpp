@@ -6,7 +6,7 @@ using namespace Motor;
 extern "C" {
 
 SQLRETURN SQL_API SQLAllocStmt(SQLHDBC bağlantı, SQLHSTMT* deyim) {
-    return Koru<Bağlantı>(bağlantı, [&](Bağlantı& nesne) {
+    return Koru<BağlantıNesnesi>(bağlantı, [&](BağlantıNesnesi& nesne) {
         *deyim = nullptr;
         *deyim = nesne.Doğur<DeyimNesnesi>();
         return SQL_SUCCESS;
@@ -102,7 +102,7 @@ SQLRETURN SQL_API SQLGetStmtOption(SQLHSTMT deyim, SQLUSMALLINT ayar, SQLPOINTER
 SQLRETURN SQL_API SQLError(SQLHENV ortam, SQLHDBC bağlantı, SQLHSTMT deyim, SQLCHAR* durum, SQLINTEGER* yerel,
                            SQLCHAR* mesaj, SQLSMALLINT boy, SQLSMALLINT* uzunluk) {
     if (deyim) return static_cast<DeyimNesnesi*>(deyim)->Tanı.Al(durum, yerel, mesaj, boy, uzunluk);
-    if (bağlantı) return static_cast<Bağlantı*>(bağlantı)->Tanı.Al(durum, yerel, mesaj, boy, uzunluk);
+    if (bağlantı) return static_cast<BağlantıNesnesi*>(bağlantı)->Tanı.Al(durum, yerel, mesaj, boy, uzunluk);
     if (ortam) return static_cast<Ortam*>(ortam)->Tanı.Al(durum, yerel, mesaj, boy, uzunluk);
     return SQL_INVALID_HANDLE;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Baglanti.h"
+#include "BaglantiNesnesi.h"
 
 #include <atomic>
 #include <optional>
@@ -10,7 +10,7 @@ namespace Motor {
 // An ODBC statement: at most one running query or one finished change.
 class DeyimNesnesi : public BağlıNesne {
   public:
-    explicit DeyimNesnesi(Bağlantı& bağlantı) : m_bağlantı(bağlantı), m_veri(bağlantı.Veri()) {}
+    explicit DeyimNesnesi(BağlantıNesnesi& bağlantı) : m_bağlantı(bağlantı), m_veri(bağlantı.Veri()) {}
 
     Tanılar Tanı;
 
@@ -49,7 +49,7 @@ class DeyimNesnesi : public BağlıNesne {
     void İmleciKapat() noexcept;
     SQLRETURN ParçaVer(std::string_view metin, SQLPOINTER tampon, SQLLEN boy, SQLLEN* uzunluk);
 
-    Bağlantı& m_bağlantı;
+    BağlantıNesnesi& m_bağlantı;
     Veritabanı& m_veri;
     std::atomic<bool> m_iptal = false;
     std::atomic<std::thread::id> m_iplik;  // that executed it

@@ -47,7 +47,7 @@ SqliteKomutu TablolarKomutu(std::string_view tablo, std::string_view türler) {
     const bool tablolar = türler.empty() || türler == "%" || türler.find("TABLE") != std::string_view::npos;
     SqliteKomutu komut;
     komut.Sql = TablolarSql;
-    komut.Değerler = {std::string(Katalog::GizliTablo), KalıpYap(tablo), std::int64_t{tablolar}};
+    komut.Değerler = {std::string(DosyaŞeması::GizliTablo), KalıpYap(tablo), std::int64_t{tablolar}};
     komut.Sütunlar = {{"TABLE_QUALIFIER", SütunTürü::Metin, 128, false},
                       {"TABLE_OWNER", SütunTürü::Metin, 128, false},
                       {"TABLE_NAME", SütunTürü::Metin, 128, false},
@@ -59,7 +59,7 @@ SqliteKomutu TablolarKomutu(std::string_view tablo, std::string_view türler) {
 SqliteKomutu SütunlarKomutu(std::string_view tablo, std::string_view sütun) {
     SqliteKomutu komut;
     komut.Sql = SütunlarSql;
-    komut.Değerler = {std::string(Katalog::GizliTablo), KalıpYap(tablo), KalıpYap(sütun)};
+    komut.Değerler = {std::string(DosyaŞeması::GizliTablo), KalıpYap(tablo), KalıpYap(sütun)};
     komut.Sütunlar = {{"TABLE_QUALIFIER", SütunTürü::Metin, 128, false}, {"TABLE_OWNER", SütunTürü::Metin, 128, false},
                       {"TABLE_NAME", SütunTürü::Metin, 128, false},      {"COLUMN_NAME", SütunTürü::Metin, 128, true},
                       {"DATA_TYPE", SütunTürü::TamSayı, 0, true},        {"TYPE_NAME", SütunTürü::Metin, 128, true},

@@ -19,7 +19,7 @@ struct SqlTürü {
 };
 SqlTürü SqlTürüAl(const SütunTanımı& sütun);
 
-// The catalogue of tables and columns as queries with the columns that SQLTables and SQLColumns give. Names may hold
+// The lists of tables and columns as queries with the columns that SQLTables and SQLColumns give. Names may hold
 // the wildcards % and _; an empty name stands for all.
 SqliteKomutu TablolarKomutu(std::string_view tablo, std::string_view türler);
 SqliteKomutu SütunlarKomutu(std::string_view tablo, std::string_view sütun);

@@ -1,16 +1,13 @@
 #include "OdbcModulu.h"
 
-#include <QByteArray>
 #include <QFile>
 #include <QScopeGuard>
-#include <odbcinst.h>
 #include <optional>
-#include <sql.h>
-#include <sqlext.h>
 
 #include "DegiskenModulu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
+#include "OdbcSurucu.h"
 #include "OdbcTanitici.h"
 #include "SurumKaydi.h"
 
@@ -18,27 +15,13 @@ namespace {
 
 constexpr std::int16_t Başarı = 0;
 constexpr std::int16_t SatırKalmadı = 100;
-// Bytes that the file library takes for a data file's path, with room for what is written beside it: the copy by which
-// a backup is tried, in the making (".sinama.yeni").
-constexpr qsizetype EN_UZUN_YOL = 492;
+// VeriTamponu: 255 characters with the closing NUL, so 254 of a text.
+constexpr int TamponKarakteri = 254;
+constexpr std::int16_t Kesildi = 1;
 
 // One connection and one statement for the whole run.
 OdbcBağlantısı Bağlantı;
 OdbcDeyimi Deyim;
-
-// In braces a value may hold ";" and blanks at its ends; a closing brace is doubled.
-QString Süslü(QString değer) {
-    return QLatin1Char('{') + değer.replace(QLatin1Char('}'), QLatin1String("}}")) + QLatin1Char('}');
-}
-
-QString BağlantıMetni(const QString& kaynak, const QString& dosya) {
-    return kaynak + QStringLiteral(";DBQ=") + Süslü(dosya) + QStringLiteral(";UID=Admin;PWD=Kumsaldaki");
-}
-
-// The connection to a file without a data source.
-QString SürücüTanımı() {
-    return QStringLiteral("DRIVER=") + Süslü(SürücüAdı());
-}
 
 // Whether the data source stands in the user's ODBC settings as it is to be. The file itself is read: the driver
 // manager remembers for a while what it once read, also that there was nothing. Where no file is named, nothing can be
@@ -84,7 +67,7 @@ bool SatırGetir() {
 // Rows that ended before their end: what is missing, and the driver's reason.
 void YarımOkumayıGöster(MetinNo metin) {
     QStringList satırlar{Metin(metin)};
-    if (Deyim.Tanıtıcı()) satırlar += OdbcHatalarınıAl(nullptr, Deyim.Tanıtıcı());
+    satırlar += OdbcİletileriniAl(Deyim.HatalarınıAl());
     Deyim.Bırak();
     satırlar.removeDuplicates();
     satırlar.removeAll(QString());
@@ -92,17 +75,7 @@ void YarımOkumayıGöster(MetinNo metin) {
     MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam, satırlar.join(QLatin1Char('\n')));
 }
 
-// SQLConfigDataSource with NUL-separated attributes; the list ends in a NUL of its own.
-std::int16_t SürücüKurulumu(std::uint16_t istek, const QByteArray& nitelikler) {
-    return static_cast<std::int16_t>(
-        SQLConfigDataSource(nullptr, istek, SürücüAdı().toUtf8().constData(), nitelikler.constData()));
-}
-
 }  // namespace
-
-QString SürücüAdı() {
-    return QStringLiteral("Microsoft Access Driver (*.mdb)");
-}
 
 QString VeriKaynağıTanımı() {
     return QStringLiteral("DSN=") + Sürüm().ÜrünAdı;
@@ -122,11 +95,11 @@ bool ODBCBağlan() {
         return false;
     }
     // What stands there already is not written again: the driver manager cuts the whole file and writes it anew.
-    if (!VeriKaynağıKayıtlı().value_or(false)) VeriKaynağıKaydet(VeriKaynağıİsteği::Ekle);
+    if (!VeriKaynağıKayıtlı().value_or(false)) VeriKaynağıKaydet(Kurulumİsteği::Ekle);
     // Where the settings cannot be written (no home folder, a read-only one) there is no data source; the driver opens
     // the file all the same.
-    const QString kaynak = VeriKaynağıKayıtlı().value_or(true) ? VeriKaynağıTanımı() : SürücüTanımı();
-    SonDönüşKodu = Bağlantı.Bağlan(BağlantıMetni(kaynak, UygulamaYolu + QStringLiteral("Varnek.vtb")));
+    const QString kaynak = VeriKaynağıKayıtlı().value_or(true) ? VeriKaynağıTanımı() : QString();
+    SonDönüşKodu = Bağlantı.Bağlan(BağlantıMetni(UygulamaYolu + QStringLiteral("Varnek.vtb"), kaynak));
     if (SonDönüşKodu != Başarı) {
         ODBCHatasıGöster();
         Bağlantı.Kapat();
@@ -137,43 +110,17 @@ bool ODBCBağlan() {
 
 void ODBCBağlantısınıKapat() {
     DeyimiBırak();
-    VeriKaynağıKaydet(VeriKaynağıİsteği::Kaldır);
+    VeriKaynağıKaydet(Kurulumİsteği::Kaldır);
     Bağlantı.Kapat();
 }
 
-void VeriKaynağıKaydet(VeriKaynağıİsteği istek) {
-    SürücüKurulumu(static_cast<std::uint16_t>(istek), VeriKaynağıTanımı().toUtf8() + '\0');
-}
-
-std::int16_t VeritabanınıSıkıştır(const QString& kaynak, const QString& hedef) {
-    QByteArray nitelikler("UID=Admin");
-    nitelikler.append('\0').append("PWD=Kumsaldaki").append('\0');
-    nitelikler.append("COMPACT_DB=").append(kaynak.toUtf8()).append(' ').append(hedef.toUtf8()).append('\0');
-    return SürücüKurulumu(static_cast<std::uint16_t>(VeriKaynağıİsteği::Ekle), nitelikler);
-}
-
-bool SürücüKayıtlı() {
-    char yol[512] = "";
-    return SQLGetPrivateProfileString(SürücüAdı().toUtf8().constData(), "Driver", "", yol, sizeof yol, "odbcinst.ini") >
-           0;
+void VeriKaynağıKaydet(Kurulumİsteği istek) {
+    SürücüKurulumu(istek, {VeriKaynağıTanımı()});
 }
 
 QString SürücüKurulumHatası() {
-    DWORD kod = 0;
-    char ileti[SQL_MAX_MESSAGE_LENGTH] = "";
-    WORD uzunluk = 0;
-    SQLInstallerError(1, &kod, ileti, sizeof ileti, &uzunluk);
-    const QString metin = QString::fromUtf8(ileti);
+    const QString metin = SürücüKurulumHataları().value(0);
     return metin.isEmpty() ? Metin(MetinNo::OdbcHatasıOkunamadı) : metin;
-}
-
-bool VeriDosyasıYoluSığıyor(const QString& yol) {
-    return yol.toUtf8().size() <= EN_UZUN_YOL;
-}
-
-std::int16_t VeriDosyasınaBağlan(OdbcBağlantısı& bağlantı, const QString& yol) {
-    if (bağlantı.OrtamAç() != Başarı || bağlantı.BağlantıAç() != Başarı) return SQL_ERROR;
-    return bağlantı.Bağlan(BağlantıMetni(SürücüTanımı(), yol));
 }
 
 bool SorguÇalıştır() {
@@ -183,11 +130,10 @@ bool SorguÇalıştır() {
         if (SonDönüşKodu == Başarı) return true;
     }
     // A statement's errors are gone once it is dropped, so they are taken before.
-    QStringList hatalar;
-    if (Deyim.Tanıtıcı()) hatalar = OdbcHatalarınıAl(nullptr, Deyim.Tanıtıcı());
+    QList<OdbcHatası> hatalar = Deyim.HatalarınıAl();
     DeyimiBırak();
-    if (Bağlantı.Tanıtıcı()) hatalar += OdbcHatalarınıAl(Bağlantı.Tanıtıcı(), nullptr);
-    HatalarıGöster(hatalar);
+    hatalar += Bağlantı.HatalarınıAl();
+    HatalarıGöster(OdbcİletileriniAl(hatalar));
     return false;
 }
 
@@ -222,7 +168,11 @@ Kayıt KaydıOku(const QString& deyim, const std::function<void()>& satır) {
 
 QString SütunOku(int sütun) {
     QString metin;
-    const std::int16_t sonuç = Deyim.Oku(sütun, metin);
+    std::int16_t sonuç = Deyim.Oku(sütun, metin);
+    if (metin.size() > TamponKarakteri) {
+        metin.truncate(metin.at(TamponKarakteri).isLowSurrogate() ? TamponKarakteri - 1 : TamponKarakteri);
+        sonuç = Kesildi;
+    }
     if (SonDönüşKodu == Başarı || sonuç < Başarı) SonDönüşKodu = sonuç;
     return metin;
 }
@@ -241,5 +191,5 @@ std::int32_t KayıtSayısıAl() {
 }
 
 void ODBCHatasıGöster() {
-    if (Bağlantı.Tanıtıcı()) HatalarıGöster(OdbcHatalarınıAl(Bağlantı.Tanıtıcı(), nullptr));
+    HatalarıGöster(OdbcİletileriniAl(Bağlantı.HatalarınıAl()));
 }

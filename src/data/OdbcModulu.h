@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <functional>
 
+#include "OdbcSurucu.h"
+
 // The program's only way to its data: one environment, one connection and one statement handle, and values that
 // travel as text. All calls come from the user-interface thread.
 //
@@ -16,8 +18,7 @@ inline QString SQLMetni;                // text of the next statement
 inline std::int16_t SonDönüşKodu = 0;   // result of the last ODBC call; everything but 0 is failure or end
 inline std::int32_t YüklenenKayıt = 0;  // rows that the running loader has read so far
 
-// The driver, and "DSN=" + the product's name once ODBCBağlan has run.
-QString SürücüAdı();
+// "DSN=" + the product's name, good once ODBCBağlan has run.
 QString VeriKaynağıTanımı();
 
 // Registers the user data source and connects to the data file in UygulamaYolu. On failure the message boxes have been
@@ -27,27 +28,11 @@ bool ODBCBağlan();
 // Removes the data source, disconnects and frees everything; results are ignored.
 void ODBCBağlantısınıKapat();
 
-// SQLConfigDataSource for the program's data source: 1 adds it, 3 removes it. The result is ignored.
-enum class VeriKaynağıİsteği : std::uint16_t { Ekle = 1, Kaldır = 3 };
-void VeriKaynağıKaydet(VeriKaynağıİsteği istek);
+// Adds the program's data source or takes it away; the result is ignored.
+void VeriKaynağıKaydet(Kurulumİsteği istek);
 
-// Asks the driver to write a compacted copy of one data file to another place (both in the form of KısaYolAl); a file
-// and itself: to compact it where it is, while others may go on using it. The driver reads the whole source first and
-// refuses a damaged one. 1 = success; otherwise the target is as it was, and SürücüKurulumHatası says why.
-std::int16_t VeritabanınıSıkıştır(const QString& kaynak, const QString& hedef);
-
-// Whether the driver manager knows the driver.
-bool SürücüKayıtlı();
-
-// The driver's reason for a SQLConfigDataSource that has just failed; never empty.
+// The first of SürücüKurulumHataları; never empty.
 QString SürücüKurulumHatası();
-
-// Whether the file library takes a path of this length (the real path: links followed).
-bool VeriDosyasıYoluSığıyor(const QString& yol);
-
-// Connects to any data file, beside the program's own connection and without a data source; shows nothing. 0 = success.
-class OdbcBağlantısı;
-std::int16_t VeriDosyasınaBağlan(OdbcBağlantısı& bağlantı, const QString& yol);
 
 // An ODBC error box each; an empty one says that there is nothing to be read.
 void HatalarıGöster(const QStringList& hatalar);

@@ -3,12 +3,10 @@
 #include <algorithm>
 
 #include "Deyimler.h"
-#include "OdbcModulu.h"
+#include "OdbcSurucu.h"
 #include "OdbcTanitici.h"
 
 namespace {
-
-constexpr std::int16_t Başarı = 0;
 
 // Numbers that the drivers give with an error of a damaged file; the lower eight bits count.
 constexpr int BOZUK = 11;
@@ -25,24 +23,24 @@ DosyaDenetimi Hatalı(const QList<OdbcHatası>& hatalar) {
     return sonuç;
 }
 
-DosyaDenetimi TabloyuSay(const OdbcBağlantısı& bağlantı, const QString& sayma) {
-    OdbcDeyimi deyim;
-    if (deyim.Aç(bağlantı) != Başarı) return Hatalı(OdbcHataKayıtlarınıAl(bağlantı.Tanıtıcı(), nullptr));
+DosyaDenetimi TabloyuSay(OdbcBağlantısı& bağlantı, const QString& sayma) {
     QString sayı;
-    if (deyim.Çalıştır(sayma) == Başarı && deyim.Getir() == Başarı && deyim.Oku(1, sayı) == Başarı)
-        return {sayı.toLongLong() > 0 ? DosyaDurumu::Dolu : DosyaDurumu::Boş, {}};
-    const QList<OdbcHatası> hatalar = OdbcHataKayıtlarınıAl(nullptr, deyim.Tanıtıcı());
-    const bool tabloYok =
-        std::any_of(hatalar.begin(), hatalar.end(), [](const OdbcHatası& hata) { return hata.Durum == TABLO_YOK; });
-    return tabloYok ? DosyaDenetimi{DosyaDurumu::Boş, {}} : Hatalı(hatalar);
+    const OdbcSonucu sonuç = bağlantı.Oku(sayma, [&sayı](OdbcSatırı& satır) {
+        sayı = satır.Metin(1);
+        return false;
+    });
+    if (sonuç.Başarılı()) return {sayı.toLongLong() > 0 ? DosyaDurumu::Dolu : DosyaDurumu::Boş, {}};
+    const bool tabloYok = std::any_of(sonuç.Hatalar.begin(), sonuç.Hatalar.end(),
+                                      [](const OdbcHatası& hata) { return hata.Durum == TABLO_YOK; });
+    return tabloYok ? DosyaDenetimi{DosyaDurumu::Boş, {}} : Hatalı(sonuç.Hatalar);
 }
 
 }  // namespace
 
 DosyaDenetimi VeriDosyasınıDenetle(const QString& yol) {
     OdbcBağlantısı bağlantı;
-    if (VeriDosyasınaBağlan(bağlantı, yol) != Başarı)
-        return Hatalı(OdbcHataKayıtlarınıAl(bağlantı.Tanıtıcı(), nullptr));
+    const OdbcSonucu açılış = bağlantı.Aç(BağlantıMetni(yol));
+    if (!açılış.Başarılı()) return Hatalı(açılış.Hatalar);
     for (const QString& sayma :
          {Deyimler::ÜrünSayısı(), Deyimler::MalzemeSayısı(), Deyimler::KullanılanMalzemeSayısı()}) {
         const DosyaDenetimi sonuç = TabloyuSay(bağlantı, sayma);

@@ -14,9 +14,9 @@ const SürümKaydı& Sürüm() {
     static const SürümKaydı kayıt{
         QStringLiteral("Tovrek"),
         QStringLiteral("Varnek"),
-        2,
-        2,
-        4,
+        VARNEK_ANA,
+        VARNEK_IKINCIL,
+        VARNEK_DUZELTME,
         QStringLiteral(
             "Bu program telif hakları yasasıyla korunmaktadır. İzinsiz çoğaltılması ve dağıtılması yasaktır.")};
     return kayıt;

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-// The program's version record.
+// The program's version record; the numbers are the CMake project's.
 struct SürümKaydı {
     QString ŞirketAdı;
     QString ÜrünAdı;

@@ -11,6 +11,7 @@
 #include "KarsilamaFormu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
+#include "OdbcSurucu.h"
 #include "SurumKaydi.h"
 #include "TekKopya.h"
 #include "VeritabaniHazirlik.h"
@@ -52,9 +53,7 @@ bool WindowsSürümünüDenetle(const BaşlatmaBağları& bağlar) {
 // manager looks here at the first call.
 void SürücüyüTanıt(const QString& programKlasörü) {
     const QString klasör = SondaTersBöluYap(programKlasörü);
-    if (!DosyaVar(klasör + QStringLiteral("odbcinst.ini"))) return;
-    qputenv("ODBCSYSINI", QFile::encodeName(klasör));
-    qunsetenv("ODBCINSTINI");
+    if (DosyaVar(klasör + QStringLiteral("odbcinst.ini"))) SürücüKlasörünüAyarla(klasör);
 }
 
 // The program's data source is registered in a file of its own beside its settings: the driver manager rewrites the

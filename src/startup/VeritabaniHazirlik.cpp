@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr std::int16_t SIKIŞTIRILDI = 1;
-
 void KutuGöster(MesajKutusu::Simge simge, const QString& metin) {
     MesajKutusuOrtala();
     MesajKutusu::Göster(simge, MesajKutusu::Düğmeler::Tamam, metin);
@@ -62,7 +60,7 @@ void Sıkıştır(const VeriYolları& yollar) {
     }
     const QString dosya = KısaYolAl(yollar.GerçekDosya);
     SonDönüşKodu = VeritabanınıSıkıştır(dosya, KısaYolAl(yollar.GerçekYedek));
-    if (SonDönüşKodu == SIKIŞTIRILDI) {
+    if (SonDönüşKodu != 0) {
         VeritabanınıSıkıştır(dosya, dosya);
     } else {
         YedekAlınamadı(yollar, SürücüKurulumHatası());

@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr std::int16_t SIKIŞTIRILDI = 1;
-
 void Bildir(MesajKutusu::Simge simge, MetinNo metin, const QString& yol) {
     MesajKutusuOrtala();
     MesajKutusu::Göster(simge, MesajKutusu::Düğmeler::Tamam, Metin(metin) + QLatin1Char('\n') + yol);
@@ -40,7 +38,7 @@ QString SınamaDosyası(const VeriYolları& yollar) {
 // away again.
 Sağlamlık HerSayfasınıOku(const VeriYolları& yollar) {
     const QString sınama = SınamaDosyası(yollar);
-    const bool okundu = VeritabanınıSıkıştır(KısaYolAl(yollar.GerçekYedek), KısaYolAl(sınama)) == SIKIŞTIRILDI;
+    const bool okundu = VeritabanınıSıkıştır(KısaYolAl(yollar.GerçekYedek), KısaYolAl(sınama));
     // The driver gives one code for every failure: where as much can be written, it was the reading.
     const bool yerVar = okundu || DosyaKopyala(yollar.Yedek, sınama);
     QFile::remove(sınama);

@@ -7,7 +7,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "VeriBaglantisi.h"
+#include "OdbcSurucu.h"
+#include "TestVerisi.h"
 
 // A fresh folder for each test, and the data-file tool as its users run it.
 class AraçTesti : public testing::Test {

@@ -16,7 +16,7 @@ using ÖrnekVeriTesti = AraçTesti;
 // back from today.
 TEST_F(ÖrnekVeriTesti, FormlarınYazacağıGibidir) {
     ASSERT_EQ(Çalıştır({u"ornek"_s, Yol(u"Örnek.vtb"_s)}).kod, 0);
-    VeriBağlantısı veri(Yol(u"Örnek.vtb"_s));
+    TestVerisi veri(Yol(u"Örnek.vtb"_s));
     QHash<QString, QString> fiyatlar;
     for (const QStringList& satır : veri.Oku(u"SELECT MalzemeAdi, MalzemeFiyati FROM MalzemeTablosu"_s)) {
         EXPECT_EQ(TürkçeBaşHarfBüyüt(satır[0]), satır[0]);

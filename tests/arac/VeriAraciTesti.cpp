@@ -131,7 +131,7 @@ TEST_F(VeriAracıTesti, WorksWhereverItsFolderLies) {
 TEST_F(VeriAracıTesti, LargeFileHoldsAsManyRowsAsAsked) {
     constexpr int satır = 79'190;
     ASSERT_EQ(Çalıştır({u"buyuk"_s, Yol(u"B.vtb"_s), QString::number(satır)}).kod, 0);
-    VeriBağlantısı veri(Yol(u"B.vtb"_s));
+    TestVerisi veri(Yol(u"B.vtb"_s));
     const auto sayı = [&](const QString& sorgu) { return veri.Oku(sorgu).size(); };
     EXPECT_EQ(sayı(u"SELECT UrunAdi FROM UrunMalzemeTablosu"_s), satır);
     EXPECT_EQ(sayı(u"SELECT UrunAdi FROM UrunTablosu"_s), 3960);

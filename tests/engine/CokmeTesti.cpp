@@ -24,7 +24,7 @@ int SayıOku(int boru, int yoksa) {
 TEST_F(MotorTesti, ÖldürülenYazıcı) {
     constexpr int satır = 1500;
     {
-        Bağ bağ(m_dosya);
+        TestVerisi bağ(m_dosya);
         KullanılanEkle(bağ, satır);
     }
     int sıradaki = 0;  // number of the next round trip
@@ -32,12 +32,12 @@ TEST_F(MotorTesti, ÖldürülenYazıcı) {
         int boru[2];
         ASSERT_EQ(pipe(boru), 0);
         const auto yaz = [&] {
-            Bağ bağ(m_dosya);
+            TestVerisi bağ(m_dosya);
             for (int i = sıradaki;; ++i) {
                 const std::string sayı = std::to_string(i);
-                const Sonuç güncelle = bağ.Çalıştır("UPDATE UrunMalzemeTablosu SET KullanilanMalzemeFiyati= '" + sayı +
-                                                    "' WHERE KullanilanMalzemeAdi= 'Kereste'");
-                const Sonuç ekle = bağ.Çalıştır(MalzemeEkle("M" + sayı, sayı));
+                const TestSonucu güncelle = bağ.Dene("UPDATE UrunMalzemeTablosu SET KullanilanMalzemeFiyati= '" + sayı +
+                                                     "' WHERE KullanilanMalzemeAdi= 'Kereste'");
+                const TestSonucu ekle = bağ.Dene(MalzemeEkle("M" + sayı, sayı));
                 const bool tamam = güncelle.Kod == SQL_SUCCESS && ekle.Kod == SQL_SUCCESS;
                 if (!tamam || write(boru[1], &i, sizeof i) != sizeof i) _exit(1);
             }
@@ -52,17 +52,17 @@ TEST_F(MotorTesti, ÖldürülenYazıcı) {
             önceki = std::exchange(onaylanan, SayıOku(boru[0], onaylanan));
         close(boru[0]);
 
-        Bağ bağ(m_dosya);
+        TestVerisi bağ(m_dosya);
         const Satırlar malzemeler = bağ.Oku("SELECT MalzemeFiyati FROM MalzemeTablosu");
         const int kayıtlı = static_cast<int>(malzemeler.size());
         ASSERT_GE(kayıtlı, onaylanan + 1) << "a confirmed row is gone";
         ASSERT_LE(kayıtlı, onaylanan + 2);
-        for (int i = 0; i < kayıtlı; ++i) ASSERT_EQ(malzemeler[i][0], std::to_string(i));
+        for (int i = 0; i < kayıtlı; ++i) ASSERT_EQ(malzemeler[i][0], QString::number(i));
         // Every row of the one statement has the same price, the last confirmed or the one under way.
         const Satırlar fiyatlar = bağ.Oku("SELECT KullanilanMalzemeFiyati FROM UrunMalzemeTablosu");
-        ASSERT_EQ(fiyatlar.size(), static_cast<std::size_t>(satır));
+        ASSERT_EQ(fiyatlar.size(), satır);
         for (const auto& fiyat : fiyatlar) ASSERT_EQ(fiyat, fiyatlar.front()) << "half a statement";
-        const int fiyat = std::stoi(fiyatlar.front().front());
+        const int fiyat = fiyatlar.front().front().toInt();
         ASSERT_TRUE(fiyat == std::max(kayıtlı - 1, 0) || fiyat == kayıtlı) << fiyat << " after " << kayıtlı;
         sıradaki = kayıtlı;
     }
@@ -73,7 +73,7 @@ TEST_F(MotorTesti, ÖldürülenYazıcı) {
 TEST_F(MotorTesti, ÖldürülenSıkıştırma) {
     constexpr int satır = 4000;
     {
-        Bağ bağ(m_dosya);
+        TestVerisi bağ(m_dosya);
         KullanılanEkle(bağ, satır);
     }
     const std::string oku = "SELECT * FROM UrunMalzemeTablosu";
@@ -84,23 +84,23 @@ TEST_F(MotorTesti, ÖldürülenSıkıştırma) {
 
     int eskiKalan = 0;
     int yenilenen = 0;
-    std::size_t yedektekiMalzeme = 0;
+    qsizetype yedektekiMalzeme = 0;
     constexpr int turlar = 24;
     for (int tur = 1; tur <= turlar; ++tur) {
         // Spread over the whole of it; the last round is killed when it is done, however busy the machine.
         const auto bekleme = tur < turlar ? süre * tur / 16 : süre * 20;
-        ASSERT_EQ(Bağ(m_dosya).Çalıştır(MalzemeEkle("M" + std::to_string(tur), "1")).Kod, SQL_SUCCESS);
+        TestVerisi(m_dosya).Çalıştır(MalzemeEkle("M" + std::to_string(tur), "1"));
         for (const std::string& hedef : {Yol("a.ydk"), m_dosya})
             ÖldürülenSüreçte([&] { Sıkıştır(m_dosya, hedef); },
                              [&] { usleep(static_cast<unsigned>(bekleme.count())); });
-        Bağ dosya(m_dosya);
-        ASSERT_EQ(dosya.Oku(oku).size(), static_cast<std::size_t>(satır));
-        ASSERT_EQ(dosya.Oku(HerMalzeme).size(), static_cast<std::size_t>(tur));
-        Bağ yedek(Yol("a.ydk"));
-        ASSERT_EQ(yedek.Oku(oku).size(), static_cast<std::size_t>(satır));
-        const std::size_t malzeme = yedek.Oku(HerMalzeme).size();
-        ASSERT_TRUE(malzeme == yedektekiMalzeme || malzeme == static_cast<std::size_t>(tur)) << malzeme;
-        ++(malzeme == static_cast<std::size_t>(tur) ? yenilenen : eskiKalan);
+        TestVerisi dosya(m_dosya);
+        ASSERT_EQ(dosya.Oku(oku).size(), satır);
+        ASSERT_EQ(dosya.Oku(HerMalzeme).size(), tur);
+        TestVerisi yedek(Yol("a.ydk"));
+        ASSERT_EQ(yedek.Oku(oku).size(), satır);
+        const qsizetype malzeme = yedek.Oku(HerMalzeme).size();
+        ASSERT_TRUE(malzeme == yedektekiMalzeme || malzeme == tur) << malzeme;
+        ++(malzeme == tur ? yenilenen : eskiKalan);
         yedektekiMalzeme = malzeme;
     }
     EXPECT_GT(eskiKalan, 0);

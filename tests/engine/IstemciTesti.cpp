@@ -1,5 +1,3 @@
-#include <odbcinst.h>
-
 #include <unistd.h>
 
 #include <atomic>
@@ -11,12 +9,12 @@
 // What an ODBC client sees beyond rows: lengths, truncation, diagnostics, descriptions, transactions.
 
 TEST_F(MotorTesti, UzunDeğerParçaParçaOkunur) {
-    Bağ bağ(m_dosya);
+    TestVerisi bağ(m_dosya);
     const std::string ad = "a" + Tekrar("ş", 100);  // 201 bytes
-    ASSERT_EQ(bağ.Çalıştır(MalzemeEkle(ad, "1")).Kod, SQL_SUCCESS);
-    Deyim deyim(bağ.Bağlantı);
+    bağ.Çalıştır(MalzemeEkle(ad, "1"));
+    Deyim deyim(bağ);
     ASSERT_EQ(deyim.Çalıştır(HerMalzeme), SQL_SUCCESS);
-    ASSERT_EQ(SQLFetch(deyim.Tanıtıcı), SQL_SUCCESS);
+    ASSERT_EQ(SQLFetch(deyim.Tanıtıcı()), SQL_SUCCESS);
 
     std::string okunan;
     char tampon[101];
@@ -25,40 +23,40 @@ TEST_F(MotorTesti, UzunDeğerParçaParçaOkunur) {
     std::vector<SQLLEN> kalanlar;
     while (kod == SQL_SUCCESS_WITH_INFO) {
         std::memset(tampon, '!', sizeof tampon);
-        kod = SQLGetData(deyim.Tanıtıcı, 1, SQL_C_CHAR, tampon, 101, &uzunluk);
+        kod = SQLGetData(deyim.Tanıtıcı(), 1, SQL_C_CHAR, tampon, 101, &uzunluk);
         kalanlar.push_back(uzunluk);
         okunan += tampon;
         if (kod != SQL_SUCCESS_WITH_INFO) continue;
         SQLCHAR durum[6] = "";
-        EXPECT_EQ(SQLError(nullptr, nullptr, deyim.Tanıtıcı, durum, nullptr, nullptr, 0, nullptr), SQL_SUCCESS);
+        EXPECT_EQ(SQLError(nullptr, nullptr, deyim.Tanıtıcı(), durum, nullptr, nullptr, 0, nullptr), SQL_SUCCESS);
         EXPECT_STREQ(reinterpret_cast<char*>(durum), "01004");
     }
     EXPECT_EQ(kod, SQL_SUCCESS);
     EXPECT_EQ(okunan, ad);
     // The buffer would end within a letter, which goes over to the next piece.
     EXPECT_EQ(kalanlar, (std::vector<SQLLEN>{201, 102, 2}));
-    EXPECT_EQ(SQLGetData(deyim.Tanıtıcı, 1, SQL_C_CHAR, tampon, 101, &uzunluk), SQL_NO_DATA);
+    EXPECT_EQ(SQLGetData(deyim.Tanıtıcı(), 1, SQL_C_CHAR, tampon, 101, &uzunluk), SQL_NO_DATA);
 
     // Exactly enough room, then too little for even one letter: the reading still comes to an end.
-    EXPECT_EQ(SQLGetData(deyim.Tanıtıcı, 2, SQL_C_CHAR, tampon, 2, &uzunluk), SQL_SUCCESS);
+    EXPECT_EQ(SQLGetData(deyim.Tanıtıcı(), 2, SQL_C_CHAR, tampon, 2, &uzunluk), SQL_SUCCESS);
     EXPECT_STREQ(tampon, "1");
     int okuma = 0;
-    while (SQLGetData(deyim.Tanıtıcı, 1, SQL_C_CHAR, tampon, 2, &uzunluk) == SQL_SUCCESS_WITH_INFO) ++okuma;
+    while (SQLGetData(deyim.Tanıtıcı(), 1, SQL_C_CHAR, tampon, 2, &uzunluk) == SQL_SUCCESS_WITH_INFO) ++okuma;
     EXPECT_EQ(okuma, 200);
-    EXPECT_EQ(SQLGetData(deyim.Tanıtıcı, 1, SQL_C_DOUBLE, tampon, 8, &uzunluk), SQL_ERROR);
-    EXPECT_EQ(SQLFetch(deyim.Tanıtıcı), SQL_NO_DATA);
+    EXPECT_EQ(SQLGetData(deyim.Tanıtıcı(), 1, SQL_C_DOUBLE, tampon, 8, &uzunluk), SQL_ERROR);
+    EXPECT_EQ(SQLFetch(deyim.Tanıtıcı()), SQL_NO_DATA);
 }
 
 TEST_F(MotorTesti, Tanılar) {
-    Bağ bağ(m_dosya);
-    Deyim deyim(bağ.Bağlantı);
+    TestVerisi bağ(m_dosya);
+    Deyim deyim(bağ);
     EXPECT_EQ(deyim.Çalıştır("SELECT Ölçü FROM X"), SQL_ERROR);
     SQLCHAR durum[6] = "";
     SQLCHAR mesaj[256] = "";
     SQLINTEGER yerel = -1;
     SQLSMALLINT uzunluk = 0;
     const auto hata = [&](SQLSMALLINT boy) {
-        return SQLError(nullptr, nullptr, deyim.Tanıtıcı, durum, &yerel, mesaj, boy, &uzunluk);
+        return SQLError(nullptr, nullptr, deyim.Tanıtıcı(), durum, &yerel, mesaj, boy, &uzunluk);
     };
     EXPECT_EQ(hata(20), SQL_SUCCESS_WITH_INFO);  // cut, and taken off the list all the same
     EXPECT_STREQ(reinterpret_cast<char*>(durum), "37000");
@@ -80,49 +78,48 @@ TEST_F(MotorTesti, Tanılar) {
 
 // Cancelling ends the one statement, whichever thread asks, and disturbs no other.
 TEST_F(MotorTesti, İptal) {
-    Bağ bağ(m_dosya);
+    TestVerisi bağ(m_dosya);
     KullanılanEkle(bağ, 3000);
     const std::string oku = "SELECT * FROM UrunMalzemeTablosu";
-    Deyim açık(bağ.Bağlantı);
-    Deyim diğer(bağ.Bağlantı);
+    Deyim açık(bağ);
+    Deyim diğer(bağ);
     ASSERT_EQ(açık.Çalıştır(oku), SQL_SUCCESS);
     ASSERT_EQ(diğer.Çalıştır(oku), SQL_SUCCESS);
-    EXPECT_EQ(SQLCancel(diğer.Tanıtıcı), SQL_SUCCESS);
+    EXPECT_EQ(SQLCancel(diğer.Tanıtıcı()), SQL_SUCCESS);
     int satır = 0;
-    while (SQLFetch(açık.Tanıtıcı) == SQL_SUCCESS) ++satır;
+    while (SQLFetch(açık.Tanıtıcı()) == SQL_SUCCESS) ++satır;
     EXPECT_EQ(satır, 3000);
-    SQLFreeStmt(açık.Tanıtıcı, SQL_CLOSE);
-    EXPECT_EQ(Bağ(m_dosya).Çalıştır(MalzemeEkle("a", "1")).Kod, SQL_SUCCESS) << "the cancelled cursor holds its lock";
+    SQLFreeStmt(açık.Tanıtıcı(), SQL_CLOSE);
+    TestVerisi(m_dosya).Çalıştır(MalzemeEkle("a", "1"));  // the cancelled cursor holds no lock
 
-    Deyim uzun(bağ.Bağlantı);
+    Deyim uzun(bağ);
     std::atomic<bool> bitti = false;
     std::thread iptalci([&] {
         while (!bitti) {
-            SQLCancel(uzun.Tanıtıcı);
+            SQLCancel(uzun.Tanıtıcı());
             usleep(200);
         }
     });
     std::string durum;
     for (int i = 0; i < 2000 && durum.empty(); ++i)
         if (uzun.Çalıştır("UPDATE UrunMalzemeTablosu SET UrunAdi= 'x' WHERE UrunGrubu= 'Masa'") == SQL_ERROR)
-            durum = bağ.İlkTanı(uzun.Tanıtıcı).Durum;
+            durum = uzun.İlkTanı().Durum;
     bitti = true;
     iptalci.join();
     EXPECT_EQ(durum, "S1008");
 }
 
 TEST_F(MotorTesti, VeriKaynağı) {
-    EXPECT_EQ(KaynakAyarla(ODBC_ADD_DSN, {"DSN=Varnek", "DBQ=" + m_dosya}), std::nullopt);
+    EXPECT_EQ(KaynakAyarla(Kurulumİsteği::Ekle, {"DSN=Varnek", "DBQ=" + m_dosya}), std::nullopt);
     for (const std::string& tanım :
-         {std::string("DSN=Varnek;PWD=") + Parola,
-          "DRIVER={" + std::string(Sürücü) + "}; dbq = {" + m_dosya + "} ; Pwd={Kumsaldaki}"})
-        EXPECT_EQ(Bağ().Bağlan(tanım).Kod, SQL_SUCCESS) << tanım;
-    EXPECT_EQ(Bağ().Bağlan("DSN=Varnek;PWD=x").Durum, "28000");
-    EXPECT_EQ(Bağ().Bağlan(std::string("DRIVER={") + Sürücü + "};PWD=x").Durum, "08001");
+         {"DSN=Varnek;PWD=" + Parola, "DRIVER={" + Sürücü + "}; dbq = {" + m_dosya + "} ; Pwd={" + Parola + "}"})
+        EXPECT_EQ(TestVerisi().Bağlan(tanım).Kod, SQL_SUCCESS) << tanım;
+    EXPECT_EQ(TestVerisi().Bağlan("DSN=Varnek;PWD=x").Durum, "28000");
+    EXPECT_EQ(TestVerisi().Bağlan("DRIVER={" + Sürücü + "};PWD=x").Durum, "08001");
     EXPECT_EQ(DosyaOku(getenv("ODBCINI")).find(Parola), std::string::npos);
-    EXPECT_EQ(KaynakAyarla(ODBC_REMOVE_DSN, {"DSN=Varnek"}), std::nullopt);
+    EXPECT_EQ(KaynakAyarla(Kurulumİsteği::Kaldır, {"DSN=Varnek"}), std::nullopt);
     EXPECT_EQ(DosyaOku(getenv("ODBCINI")).find("Varnek"), std::string::npos);
-    EXPECT_NE(KaynakAyarla(ODBC_ADD_DSN, {"DBQ=" + m_dosya}), std::nullopt);
+    EXPECT_NE(KaynakAyarla(Kurulumİsteği::Ekle, {"DBQ=" + m_dosya}), std::nullopt);
 }
 
 // A client of ODBC 3, through the driver manager's mapping.
@@ -168,28 +165,25 @@ TEST_F(MotorTesti, OdbcÜçİstemcisi) {
     SQLFreeHandle(SQL_HANDLE_ENV, ortam);
 }
 
-TEST_F(MotorTesti, TopluOnay) {
-    Bağ bağ(m_dosya);
-    SQLSetConnectOption(bağ.Bağlantı, SQL_AUTOCOMMIT, SQL_AUTOCOMMIT_OFF);
-    EXPECT_EQ(bağ.Çalıştır(MalzemeEkle("a", "1")).Kod, SQL_SUCCESS);
-    EXPECT_EQ(Bağ(m_dosya).Oku(HerMalzeme).size(), 0u);
-    EXPECT_EQ(SQLDisconnect(bağ.Bağlantı), SQL_ERROR);  // something is still to be decided
-    EXPECT_EQ(SQLTransact(nullptr, bağ.Bağlantı, SQL_ROLLBACK), SQL_SUCCESS);
-    EXPECT_EQ(bağ.Çalıştır(MalzemeEkle("b", "1")).Kod, SQL_SUCCESS);
-    EXPECT_EQ(SQLTransact(nullptr, bağ.Bağlantı, SQL_COMMIT), SQL_SUCCESS);
-    EXPECT_EQ(Bağ(m_dosya).Oku(HerMalzeme), (Satırlar{{"b", "1"}}));
+TEST_F(MotorTesti, AçıkHareketBağlantıyıTutar) {
+    TestVerisi bağ(m_dosya);
+    SQLSetConnectOption(bağ.Tanıtıcı(), SQL_AUTOCOMMIT, SQL_AUTOCOMMIT_OFF);
+    bağ.Çalıştır(MalzemeEkle("a", "1"));
+    EXPECT_EQ(SQLDisconnect(bağ.Tanıtıcı()), SQL_ERROR);  // something is still to be decided
+    EXPECT_EQ(SQLTransact(nullptr, bağ.Tanıtıcı(), SQL_ROLLBACK), SQL_SUCCESS);
+    EXPECT_EQ(SQLDisconnect(bağ.Tanıtıcı()), SQL_SUCCESS);
 }
 
 // A statement that its client forgot neither outlives the connection nor keeps the file locked.
 TEST_F(MotorTesti, AçıkKalanDeyim) {
-    Bağ bağ(m_dosya);
+    TestVerisi bağ(m_dosya);
     KullanılanEkle(bağ, 1000);
     SQLHSTMT deyim = nullptr;
-    SQLAllocStmt(bağ.Bağlantı, &deyim);
+    SQLAllocStmt(bağ.Tanıtıcı(), &deyim);
     const char* sql = "SELECT * FROM UrunMalzemeTablosu";
     ASSERT_EQ(SQLExecDirect(deyim, reinterpret_cast<SQLCHAR*>(const_cast<char*>(sql)), SQL_NTS), SQL_SUCCESS);
     ASSERT_EQ(SQLFetch(deyim), SQL_SUCCESS);
-    EXPECT_EQ(bağ.Çalıştır(MalzemeEkle("aynı bağlantı", "1")).Kod, SQL_SUCCESS);
-    EXPECT_EQ(SQLDisconnect(bağ.Bağlantı), SQL_SUCCESS);
-    EXPECT_EQ(Bağ(m_dosya).Çalıştır(MalzemeEkle("a", "1")).Kod, SQL_SUCCESS);
+    bağ.Çalıştır(MalzemeEkle("aynı bağlantı", "1"));
+    EXPECT_EQ(SQLDisconnect(bağ.Tanıtıcı()), SQL_SUCCESS);
+    TestVerisi(m_dosya).Çalıştır(MalzemeEkle("a", "1"));
 }

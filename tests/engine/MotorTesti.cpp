@@ -1,6 +1,5 @@
 #include "MotorTesti.h"
 
-#include <odbcinst.h>
 #include <linux/capability.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -11,124 +10,23 @@
 #include <fstream>
 #include <sstream>
 
-#include "VeriBaglantisi.h"
 #include "VeriDosyasi.h"
 
-namespace {
-
-SQLCHAR* Metin(const std::string& metin) {
-    return reinterpret_cast<SQLCHAR*>(const_cast<char*>(metin.c_str()));
-}
-
-Sonuç SonucuAl(SQLRETURN kod, SQLHDBC bağlantı, SQLHSTMT deyim) {
-    Sonuç sonuç{kod, {}, {}, 0};
-    if (kod == SQL_SUCCESS) return sonuç;
-    SQLCHAR durum[6] = "";
-    SQLCHAR mesaj[512] = "";
-    SQLINTEGER yerel = 0;
-    SQLError(SQL_NULL_HENV, bağlantı, deyim, durum, &yerel, mesaj, sizeof mesaj, nullptr);
-    sonuç.Yerel = yerel;
-    sonuç.Durum = reinterpret_cast<char*>(durum);
-    sonuç.Mesaj = reinterpret_cast<char*>(mesaj);
-    return sonuç;
-}
-
-std::string SütunOku(SQLHSTMT deyim, SQLUSMALLINT sütun) {
-    char tampon[2048] = "";
-    SQLLEN uzunluk = 0;
-    EXPECT_EQ(SQLGetData(deyim, sütun, SQL_C_CHAR, tampon, sizeof tampon, &uzunluk), SQL_SUCCESS);
-    return uzunluk == SQL_NULL_DATA ? "<NULL>" : std::string(tampon, static_cast<std::size_t>(uzunluk));
-}
-
-}  // namespace
-
 std::string Tanım(const std::string& yol, const std::string& parola) {
-    return std::string("DRIVER={") + Sürücü + "};DBQ=" + yol + ";UID=Admin;PWD=" + parola;
+    return "DRIVER={" + Sürücü + "};DBQ=" + yol + ";UID=Admin;PWD=" + parola;
 }
 
-Bağ::Bağ() {
-    SQLAllocEnv(&Ortam);
-    SQLAllocConnect(Ortam, &Bağlantı);
+std::optional<std::string> KaynakAyarla(Kurulumİsteği istek, std::initializer_list<TestMetni> çiftler) {
+    if (SürücüKurulumu(istek, QStringList(çiftler.begin(), çiftler.end()))) return std::nullopt;
+    return SürücüKurulumHataları().join(QLatin1Char('\n')).toStdString();
 }
 
-Bağ::Bağ(const std::string& yol) : Bağ() {
-    const Sonuç sonuç = Bağlan(Tanım(yol));
-    EXPECT_EQ(sonuç.Kod, SQL_SUCCESS) << sonuç.Mesaj;
-}
-
-Bağ::~Bağ() {
-    SQLDisconnect(Bağlantı);
-    SQLFreeConnect(Bağlantı);
-    SQLFreeEnv(Ortam);
-}
-
-SQLRETURN Bağ::Dene(const std::string& tanım) {
-    SQLCHAR boş[1];
-    return SQLDriverConnect(Bağlantı, nullptr, Metin(tanım), static_cast<SQLSMALLINT>(tanım.size()), boş, 0, nullptr,
-                            SQL_DRIVER_COMPLETE);
-}
-
-Sonuç Bağ::Bağlan(const std::string& tanım) {
-    return SonucuAl(Dene(tanım), Bağlantı, nullptr);
-}
-
-Sonuç Bağ::Çalıştır(const std::string& sql) {
-    Deyim deyim(Bağlantı);
-    return SonucuAl(deyim.Çalıştır(sql), nullptr, deyim.Tanıtıcı);
-}
-
-Sonuç Bağ::İlkTanı(SQLHSTMT deyim) {
-    return SonucuAl(SQL_ERROR, nullptr, deyim);
-}
-
-Satırlar Bağ::Oku(const std::string& sql) {
-    Satırlar satırlar;
-    Deyim deyim(Bağlantı);
-    const Sonuç sonuç = SonucuAl(deyim.Çalıştır(sql), nullptr, deyim.Tanıtıcı);
-    EXPECT_EQ(sonuç.Kod, SQL_SUCCESS) << sql << ": " << sonuç.Mesaj;
-    SQLSMALLINT sütunSayısı = 0;
-    SQLNumResultCols(deyim.Tanıtıcı, &sütunSayısı);
-    SQLRETURN kod = SQL_ERROR;
-    while (sonuç.Kod == SQL_SUCCESS && (kod = SQLFetch(deyim.Tanıtıcı)) == SQL_SUCCESS) {
-        auto& satır = satırlar.emplace_back();
-        for (SQLSMALLINT i = 1; i <= sütunSayısı; ++i)
-            satır.push_back(SütunOku(deyim.Tanıtıcı, static_cast<SQLUSMALLINT>(i)));
-    }
-    EXPECT_EQ(kod, SQL_NO_DATA) << sql;
-    return satırlar;
-}
-
-std::string Bağ::Tek(const std::string& sql) {
-    const Satırlar satırlar = Oku(sql);
-    return satırlar.size() == 1 && satırlar[0].size() == 1 ? satırlar[0][0] : "<not one value>";
-}
-
-SQLRETURN Deyim::Çalıştır(const std::string& sql) {
-    return SQLExecDirect(Tanıtıcı, Metin(sql), static_cast<SQLINTEGER>(sql.size()));
-}
-
-std::optional<std::string> KaynakAyarla(WORD istek, const std::vector<std::string>& çiftler) {
-    std::string liste;
-    for (const std::string& çift : çiftler) liste += çift + '\0';
-    liste += '\0';
-    if (SQLConfigDataSource(nullptr, istek, Sürücü, liste.c_str())) return std::nullopt;
-    // The installer's own record comes first, the driver's reason behind it.
-    std::string mesajlar;
-    for (WORD sıra = 1; sıra <= 8; ++sıra) {
-        char mesaj[512] = "";
-        DWORD kod = 0;
-        if (SQLInstallerError(sıra, &kod, mesaj, sizeof mesaj, nullptr) != SQL_SUCCESS) break;
-        mesajlar += mesaj;
-    }
-    return mesajlar;
-}
-
-std::optional<std::string> VeriDosyasıOluştur(const std::string& yol) {
-    return KaynakAyarla(ODBC_ADD_DSN, {std::string("PWD=") + Parola, "CREATE_DB=" + yol});
+std::optional<std::string> Oluştur(const std::string& yol) {
+    return KaynakAyarla(Kurulumİsteği::Ekle, {"PWD=" + Parola, "CREATE_DB=" + yol});
 }
 
 std::optional<std::string> Sıkıştır(const std::string& kaynak, const std::string& hedef, const std::string& parola) {
-    return KaynakAyarla(ODBC_ADD_DSN, {"UID=Admin", "PWD=" + parola, "COMPACT_DB=" + kaynak + " " + hedef});
+    return KaynakAyarla(Kurulumİsteği::Ekle, {"UID=Admin", "PWD=" + parola, "COMPACT_DB=" + kaynak + " " + hedef});
 }
 
 void ÖldürülenSüreçte(const std::function<void()>& iş, const std::function<void()>& bekle) {
@@ -174,7 +72,7 @@ MotorTesti::MotorTesti() {
     m_klasör = (std::filesystem::temp_directory_path() / "motor.XXXXXX").string();
     EXPECT_NE(mkdtemp(m_klasör.data()), nullptr);
     m_dosya = Yol("Varnek.vtb");
-    VeriDosyasıYap(QString::fromStdString(m_dosya), [](VeriBağlantısı&) {});
+    VeriDosyasıYap(QString::fromStdString(m_dosya), [](VeriYazıcısı&) {});
 }
 
 MotorTesti::~MotorTesti() {
@@ -189,17 +87,15 @@ std::vector<std::string> MotorTesti::Klasördekiler() const {
     return adlar;
 }
 
-void MotorTesti::KullanılanEkle(Bağ& bağ, int sayı) {
-    SQLSetConnectOption(bağ.Bağlantı, SQL_AUTOCOMMIT, SQL_AUTOCOMMIT_OFF);
-    for (int i = 0; i < sayı; ++i) {
-        const Sonuç sonuç = bağ.Çalıştır(
+void MotorTesti::KullanılanEkle(TestVerisi& bağ, int sayı) {
+    bağ.ElleOnayla();
+    for (int i = 0; i < sayı; ++i)
+        bağ.Çalıştır(
             "INSERT INTO UrunMalzemeTablosu (KullanimTarihi, UrunGrubu, UrunAdi, KullanilanMalzemeAdi, "
             "KullanilanMalzemeMiktari, KullanilanMalzemeFiyati) VALUES (#3/7/2004#, 'Masa', 'Yemek Masası', 'Kereste', "
             "'" +
             std::to_string(i) + " Adet', '0')");
-        ASSERT_EQ(sonuç.Kod, SQL_SUCCESS) << sonuç.Mesaj;
-    }
-    EXPECT_EQ(SQLSetConnectOption(bağ.Bağlantı, SQL_AUTOCOMMIT, SQL_AUTOCOMMIT_ON), SQL_SUCCESS);
+    bağ.Onayla();
 }
 
 std::string MalzemeEkle(const std::string& ad, const std::string& fiyat) {

@@ -6,58 +6,34 @@
 
 #include <filesystem>
 #include <functional>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <vector>
 
-// Everything here goes through the real driver manager.
+#include "OdbcSurucu.h"
+#include "TestVerisi.h"
 
-inline constexpr const char* Sürücü = "Microsoft Access Driver (*.mdb)";
-inline constexpr const char* Parola = "Kumsaldaki";
+// Everything here goes through the real driver manager. Connecting, running and reading are TestVerisi's; calls with
+// strange arguments are made as they are.
 
-using Satırlar = std::vector<std::vector<std::string>>;
+inline const std::string Sürücü = SürücüAdı().toStdString();
+inline const std::string Parola = VeriDosyasıParolası().toStdString();
 
-// The return code of a call and, unless it is SQL_SUCCESS, the first diagnostic.
-struct Sonuç {
-    SQLRETURN Kod = SQL_SUCCESS;
-    std::string Durum;
-    std::string Mesaj;
-    int Yerel = 0;
-};
+using Satırlar = QList<QStringList>;
 
 std::string Tanım(const std::string& yol, const std::string& parola = Parola);
 
-// One connection; closed by the destructor.
-class Bağ {
-  public:
-    Bağ();
-    explicit Bağ(const std::string& yol);  // fails the test when it cannot connect
-    ~Bağ();
-    Bağ(const Bağ&) = delete;
-    Bağ& operator=(const Bağ&) = delete;
-
-    SQLRETURN Dene(const std::string& tanım);  // takes no memory of its own
-    Sonuç Bağlan(const std::string& tanım);
-    Sonuç Çalıştır(const std::string& sql);
-    static Sonuç İlkTanı(SQLHSTMT deyim);  // of a statement that failed
-    Satırlar Oku(const std::string& sql);  // NULL reads "<NULL>"; a failure fails the test
-    std::string Tek(const std::string& sql);
-
-    SQLHENV Ortam = nullptr;
-    SQLHDBC Bağlantı = nullptr;
+// A statement for calls of its own, dropped by the destructor.
+struct Deyim : OdbcDeyimi {
+    explicit Deyim(TestVerisi& veri) { Aç(veri.Bağlantı()); }
+    SQLRETURN Çalıştır(const TestMetni& sql) { return OdbcDeyimi::Çalıştır(sql); }
+    TestSonucu İlkTanı() const { return OdbcSonucu{SQL_ERROR, HatalarınıAl()}; }
 };
 
-// A statement handle, dropped by the destructor.
-struct Deyim {
-    explicit Deyim(SQLHDBC bağlantı) { SQLAllocStmt(bağlantı, &Tanıtıcı); }
-    ~Deyim() { SQLFreeStmt(Tanıtıcı, SQL_DROP); }
-    SQLRETURN Çalıştır(const std::string& sql);
-    SQLHSTMT Tanıtıcı = nullptr;
-};
-
-// SQLConfigDataSource with this attribute list (pairs); the installer's message when it fails.
-std::optional<std::string> KaynakAyarla(WORD istek, const std::vector<std::string>& çiftler);
-std::optional<std::string> VeriDosyasıOluştur(const std::string& yol);
+// SQLConfigDataSource with this attribute list (pairs); the installer's messages when it fails.
+std::optional<std::string> KaynakAyarla(Kurulumİsteği istek, std::initializer_list<TestMetni> çiftler);
+std::optional<std::string> Oluştur(const std::string& yol);
 std::optional<std::string> Sıkıştır(const std::string& kaynak, const std::string& hedef,
                                     const std::string& parola = Parola);
 
@@ -81,7 +57,7 @@ class MotorTesti : public testing::Test {
     std::vector<std::string> Klasördekiler() const;
 
     // Writes `sayı` used materials of one product in one transaction.
-    void KullanılanEkle(Bağ& bağ, int sayı);
+    void KullanılanEkle(TestVerisi& bağ, int sayı);
 
     std::string m_klasör;
     std::string m_dosya;

@@ -8,7 +8,6 @@
 #include "OdbcModulu.h"
 #include "Saat.h"
 #include "SurumKaydi.h"
-#include "TestVerisi.h"
 
 namespace {
 

@@ -5,20 +5,9 @@
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
-#include <ostream>
 
 #include "KutuKuyrugu.h"
-
-// How failures show the toolkit's texts; of many rows only their number.
-inline void PrintTo(const QString& metin, std::ostream* çıktı) {
-    *çıktı << '"' << metin.toStdString() << '"';
-}
-inline void PrintTo(const QStringList& metinler, std::ostream* çıktı) {
-    PrintTo(metinler.join(QStringLiteral("\", \"")), çıktı);
-}
-inline void PrintTo(const QList<QStringList>& satırlar, std::ostream* çıktı) {
-    *çıktı << satırlar.size() << " rows";
-}
+#include "TestVerisi.h"
 
 // The base of tests that touch files, settings, the data source or message boxes: each test has a fresh folder with its
 // own program folder, per-user data, settings and ODBC data sources, shared variables as after a start, and the

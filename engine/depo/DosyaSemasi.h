@@ -14,7 +14,7 @@ enum class SütunTürü {
     Para,     // integer, ten-thousandths
     Ondalık,  // double
     Tarih,    // integer yyyymmdd
-    TamSayı   // integer; only of results (counts, catalogue figures)
+    TamSayı   // integer; only of results (counts, figures about tables and columns)
 };
 
 struct SütunTanımı {
@@ -34,7 +34,7 @@ struct TabloTanımı {
 
 // The tables and indexes of a data file that clients see. The engine's own table has a name that no statement can
 // spell.
-class Katalog {
+class DosyaŞeması {
   public:
     static constexpr std::string_view GizliTablo = "Varnek#Parola";
     static constexpr std::string_view GizliTabloSql =
@@ -42,7 +42,7 @@ class Katalog {
 
     // Reads the file's schema. Throws Hata (08001, native SQLITE_NOTADB) when it holds anything that the engine does
     // not write: a view, a trigger, a virtual table or an expression would run as part of the program's statements.
-    explicit Katalog(sqlite3* vt);
+    explicit DosyaŞeması(sqlite3* vt);
 
     const TabloTanımı* Bul(std::string_view tablo) const;
     bool DizinVar(std::string_view dizin) const;

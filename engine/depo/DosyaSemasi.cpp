@@ -1,4 +1,4 @@
-#include "Katalog.h"
+#include "DosyaSemasi.h"
 
 #include "Hata.h"
 #include "SaklananTanim.h"
@@ -12,7 +12,7 @@ const SütunTanımı& TabloTanımı::Sütun(std::string_view ad) const {
     throw Hata(Durum::SütunYok, Ad + " tablosunda " + std::string(ad.substr(0, 64)) + " adında bir sütun yok.");
 }
 
-Katalog::Katalog(sqlite3* vt) {
+DosyaŞeması::DosyaŞeması(sqlite3* vt) {
     SqliteDeyimi şema(vt, "SELECT type, name, tbl_name, sql FROM sqlite_schema");
     while (şema.Adım()) {
         const std::string_view tür = şema.Metin(0);
@@ -35,13 +35,13 @@ Katalog::Katalog(sqlite3* vt) {
     }
 }
 
-const TabloTanımı* Katalog::Bul(std::string_view tablo) const {
+const TabloTanımı* DosyaŞeması::Bul(std::string_view tablo) const {
     for (const TabloTanımı& aday : m_tablolar)
         if (AsciiEşit(aday.Ad, tablo)) return &aday;
     return nullptr;
 }
 
-bool Katalog::DizinVar(std::string_view dizin) const {
+bool DosyaŞeması::DizinVar(std::string_view dizin) const {
     for (const std::string& aday : m_dizinler)
         if (AsciiEşit(aday, dizin)) return true;
     return false;

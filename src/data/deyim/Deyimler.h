@@ -1,10 +1,13 @@
 #pragma once
 
+#include <QDate>
 #include <QString>
 
 // The text of every statement that the program issues. Texts and numbers go between single quotes as they are; nothing
 // is escaped: a name with a single quote makes its statement fail. Dates are date literals (#3/7/2004#).
 namespace Deyimler {
+
+QString Tarih(QDate tarih);  // #month/day/year#
 
 // Products and groups
 QString ÜrünSayısı();

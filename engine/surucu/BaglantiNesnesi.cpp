@@ -1,10 +1,10 @@
-#include "Baglanti.h"
+#include "BaglantiNesnesi.h"
 
 #include <cstring>
 
 namespace Motor {
 
-void Bağlantı::Aç(const Öznitelikler& öznitelikler) {
+void BağlantıNesnesi::Aç(const Öznitelikler& öznitelikler) {
     m_veriKaynağı = öznitelikler.Değer("DSN");
     const auto değer = [&](const char* anahtar) {
         const std::string* verilen = öznitelikler.Bul(anahtar);
@@ -15,7 +15,7 @@ void Bağlantı::Aç(const Öznitelikler& öznitelikler) {
     m_veri = std::make_unique<Veritabanı>(m_yol, değer("PWD"));
 }
 
-SQLRETURN Bağlantı::Bağlan(std::string_view veriKaynağı, std::string_view parola) {
+SQLRETURN BağlantıNesnesi::Bağlan(std::string_view veriKaynağı, std::string_view parola) {
     Öznitelikler öznitelikler;
     öznitelikler.Ekle("DSN", std::string(veriKaynağı));
     if (!parola.empty()) öznitelikler.Ekle("PWD", std::string(parola));
@@ -23,12 +23,13 @@ SQLRETURN Bağlantı::Bağlan(std::string_view veriKaynağı, std::string_view p
     return SQL_SUCCESS;
 }
 
-SQLRETURN Bağlantı::MetinleBağlan(std::string_view metin, SQLCHAR* çıkış, SQLSMALLINT boy, SQLSMALLINT* uzunluk) {
+SQLRETURN BağlantıNesnesi::MetinleBağlan(std::string_view metin, SQLCHAR* çıkış, SQLSMALLINT boy,
+                                         SQLSMALLINT* uzunluk) {
     Aç(Öznitelikler::BağlantıMetninden(metin));
     return MetinVer(Tanı, metin, çıkış, boy, uzunluk);
 }
 
-SQLRETURN Bağlantı::Ayrıl() {
+SQLRETURN BağlantıNesnesi::Ayrıl() {
     if (m_veri && m_veri->HareketAçık())
         throw Hata(Durum::AçıkHareket, "Onaylanmamış değişiklikler var; bağlantı kapatılamaz.");
     m_bağlılar.clear();
@@ -36,16 +37,16 @@ SQLRETURN Bağlantı::Ayrıl() {
     return SQL_SUCCESS;
 }
 
-void Bağlantı::Bırak(const BağlıNesne* nesne) noexcept {
+void BağlantıNesnesi::Bırak(const BağlıNesne* nesne) noexcept {
     std::erase_if(m_bağlılar, [nesne](const auto& bağlı) { return bağlı.get() == nesne; });
 }
 
-Veritabanı& Bağlantı::Veri() {
+Veritabanı& BağlantıNesnesi::Veri() {
     if (!m_veri) throw Hata(Durum::SıraHatası, "Veri dosyasına bağlanılmamış.");
     return *m_veri;
 }
 
-SQLRETURN Bağlantı::HareketiBitir(SQLUSMALLINT tür) {
+SQLRETURN BağlantıNesnesi::HareketiBitir(SQLUSMALLINT tür) {
     Veritabanı& veri = Veri();
     const Nöbet nöbet(veri, m_iptalsiz);
     if (tür == SQL_COMMIT)
@@ -55,7 +56,7 @@ SQLRETURN Bağlantı::HareketiBitir(SQLUSMALLINT tür) {
     return SQL_SUCCESS;
 }
 
-SQLRETURN Bağlantı::AyarYaz(SQLUSMALLINT ayar, SQLULEN değer) {
+SQLRETURN BağlantıNesnesi::AyarYaz(SQLUSMALLINT ayar, SQLULEN değer) {
     switch (ayar) {
         case SQL_AUTOCOMMIT: {
             Veritabanı& veri = Veri();
@@ -72,7 +73,7 @@ SQLRETURN Bağlantı::AyarYaz(SQLUSMALLINT ayar, SQLULEN değer) {
     }
 }
 
-SQLRETURN Bağlantı::AyarOku(SQLUSMALLINT ayar, SQLPOINTER değer) {
+SQLRETURN BağlantıNesnesi::AyarOku(SQLUSMALLINT ayar, SQLPOINTER değer) {
     if (!değer) throw Hata(Durum::BoşGösterge, "Değer için yer verilmemiş.");
     const auto yaz = [değer](SQLUINTEGER sayı) {
         std::memcpy(değer, &sayı, sizeof sayı);

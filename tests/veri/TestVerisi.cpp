@@ -1,8 +1,6 @@
 #include "TestVerisi.h"
 
 #include <gtest/gtest.h>
-#include <sql.h>
-#include <sqlext.h>
 
 #include <QFile>
 #include <QHash>
@@ -10,13 +8,9 @@
 #include <QTemporaryDir>
 #include <algorithm>
 
-#include "OdbcModulu.h"
+#include "OdbcSurucu.h"
 
 namespace {
-
-std::string Hatalar(void* bağlantı, void* deyim) {
-    return OdbcHatalarınıAl(bağlantı, deyim).join(QLatin1Char('\n')).toStdString();
-}
 
 // The data-file tool is asked once for each kind of file; the tests get copies.
 const QString& Kalıp(const QString& tür) {
@@ -33,51 +27,58 @@ const QString& Kalıp(const QString& tür) {
     return yol;
 }
 
+void Başarmalı(const OdbcSonucu& sonuç, const QString& ne) {
+    EXPECT_TRUE(sonuç.Başarılı()) << ne.toStdString() << ": "
+                                  << OdbcİletileriniAl(sonuç.Hatalar).join(QLatin1Char('\n')).toStdString();
+}
+
 }  // namespace
 
-void VeriDosyasıOluştur(const QString& yol, const QString& tür) {
+void VeriDosyasıOluştur(const TestMetni& yol, const QString& tür) {
     ASSERT_TRUE(QFile::copy(Kalıp(tür), yol)) << yol.toStdString();
 }
 
-TestVerisi::TestVerisi(const QString& yol) {
-    const bool açıldı = VeriDosyasınaBağlan(m_bağlantı, yol) == 0;
-    EXPECT_TRUE(açıldı) << yol.toStdString() << ": "
-                        << (m_bağlantı.Tanıtıcı() ? Hatalar(m_bağlantı.Tanıtıcı(), nullptr) : std::string());
+TestSonucu::TestSonucu(const OdbcSonucu& sonuç) : Kod(sonuç.Kod) {
+    const OdbcHatası ilk = sonuç.Hatalar.value(0);
+    Durum = ilk.Durum.toStdString();
+    Mesaj = ilk.İleti.toStdString();
+    Yerel = ilk.Yerel;
 }
 
-void TestVerisi::Çalıştır(const QString& sql) {
-    OdbcDeyimi deyim;
-    ASSERT_EQ(deyim.Aç(m_bağlantı), 0);
-    EXPECT_EQ(deyim.Çalıştır(sql), 0) << sql.toStdString() << ": " << Hatalar(nullptr, deyim.Tanıtıcı());
+TestVerisi::TestVerisi(const TestMetni& yol) {
+    Başarmalı(m_bağlantı.Aç(BağlantıMetni(yol)), yol);
+}
+
+void TestVerisi::Çalıştır(const TestMetni& sql) {
+    Başarmalı(m_bağlantı.Çalıştır(sql), sql);
 }
 
 void TestVerisi::ElleOnayla() {
-    EXPECT_EQ(SQLSetConnectOption(m_bağlantı.Tanıtıcı(), SQL_AUTOCOMMIT, SQL_AUTOCOMMIT_OFF), 0);
+    m_hareket.emplace(m_bağlantı);
+    Başarmalı(m_hareket->Başla(), QStringLiteral("begin"));
 }
 
 void TestVerisi::Onayla() {
-    EXPECT_EQ(SQLTransact(SQL_NULL_HENV, m_bağlantı.Tanıtıcı(), SQL_COMMIT), 0);
+    Başarmalı(m_hareket->Onayla(), QStringLiteral("commit"));
 }
 
-QList<QStringList> TestVerisi::Oku(const QString& sql) {
+QList<QStringList> TestVerisi::Oku(const TestMetni& sql) {
     QList<QStringList> satırlar;
-    OdbcDeyimi deyim;
-    if (deyim.Aç(m_bağlantı) != 0 || deyim.Çalıştır(sql) != 0) {
-        ADD_FAILURE() << sql.toStdString() << ": " << (deyim.Tanıtıcı() ? Hatalar(nullptr, deyim.Tanıtıcı()) : "");
-        return satırlar;
-    }
-    SQLSMALLINT sütunSayısı = 0;
-    SQLNumResultCols(deyim.Tanıtıcı(), &sütunSayısı);
-    while (deyim.Getir() == 0) {
-        QStringList satır;
-        for (int sütun = 1; sütun <= sütunSayısı; ++sütun) {
-            QString metin;
-            EXPECT_EQ(deyim.Oku(sütun, metin), 0) << sql.toStdString();
-            satır += metin;
+    const auto ekle = [&satırlar](OdbcSatırı& satır) {
+        QStringList& değerler = satırlar.emplaceBack();
+        for (int sütun = 1; sütun <= satır.SütunSayısı(); ++sütun) {
+            const auto değer = satır.Baytlar(sütun);
+            değerler += değer ? QString::fromUtf8(değer->data(), qsizetype(değer->size())) : QStringLiteral("<NULL>");
         }
-        satırlar += satır;
-    }
+        return true;
+    };
+    Başarmalı(m_bağlantı.Oku(sql, ekle), sql);
     return satırlar;
+}
+
+std::string TestVerisi::Tek(const TestMetni& sql) {
+    const QList<QStringList> satırlar = Oku(sql);
+    return satırlar.size() == 1 && satırlar[0].size() == 1 ? satırlar[0][0].toStdString() : "<not one value>";
 }
 
 QList<QStringList> TestVerisi::HerSatır() {

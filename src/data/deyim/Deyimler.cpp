@@ -37,6 +37,10 @@ constexpr QLatin1String ÜrünMalzemeTablosu("UrunMalzemeTablosu");
 
 }  // namespace
 
+QString Tarih(QDate tarih) {
+    return QStringLiteral("#%1/%2/%3#").arg(tarih.month()).arg(tarih.day()).arg(tarih.year());
+}
+
 QString ÜrünSayısı() {
     return QStringLiteral("SELECT Count(UrunAdi) AS KayitSayisi FROM UrunTablosu");
 }

@@ -23,7 +23,7 @@ class BağlıNesne {
 };
 
 // An ODBC connection.
-class Bağlantı {
+class BağlantıNesnesi {
   public:
     Tanılar Tanı;
 

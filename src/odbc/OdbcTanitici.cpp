@@ -1,0 +1,181 @@
+#include "OdbcTanitici.h"
+
+#include <QByteArray>
+
+#include <sql.h>
+#include <sqlext.h>
+
+#include "Utf8.h"
+
+namespace {
+
+QByteArray Baytlar(const QString& metin) {
+    return metin.toUtf8();
+}
+
+SQLCHAR* SqlMetni(QByteArray& metin) {
+    return reinterpret_cast<SQLCHAR*>(metin.data());
+}
+
+// Exactly one of the handles is given.
+QList<OdbcHatası> HataKayıtlarınıAl(void* bağlantı, void* deyim) {
+    QList<OdbcHatası> hatalar;
+    std::array<SQLCHAR, 16> durum{};
+    std::array<SQLCHAR, 256> ileti;
+    for (;;) {
+        SQLINTEGER yerelHata = 0;
+        SQLSMALLINT uzunluk = 0;
+        const SQLRETURN sonuç = SQLError(nullptr, bağlantı, deyim, durum.data(), &yerelHata, ileti.data(),
+                                         static_cast<SQLSMALLINT>(ileti.size()), &uzunluk);
+        // A message longer than the buffer (success with information) still counts; anything else ends the list.
+        if (!SQL_SUCCEEDED(sonuç)) return hatalar;
+        const auto boy = static_cast<std::size_t>(qBound(0, int{uzunluk}, static_cast<int>(ileti.size()) - 1));
+        const std::string_view metin = YarımKarakteriAt({reinterpret_cast<const char*>(ileti.data()), boy});
+        hatalar.append({QString::fromLatin1(reinterpret_cast<const char*>(durum.data())), yerelHata,
+                        QString::fromUtf8(metin.data(), static_cast<qsizetype>(metin.size()))});
+    }
+}
+
+}  // namespace
+
+QStringList OdbcİletileriniAl(const QList<OdbcHatası>& hatalar) {
+    QStringList iletiler;
+    for (const OdbcHatası& hata : hatalar) iletiler.append(hata.İleti);
+    return iletiler;
+}
+
+std::int16_t OdbcBağlantısı::OrtamAç() {
+    return SQLAllocEnv(&m_ortam);
+}
+
+std::int16_t OdbcBağlantısı::BağlantıAç() {
+    return SQLAllocConnect(m_ortam, &m_bağlantı);
+}
+
+std::int16_t OdbcBağlantısı::Bağlan(const QString& bağlantıMetni) {
+    QByteArray metin = Baytlar(bağlantıMetni);
+    SQLSMALLINT çıktıBoyu = 0;
+    SQLCHAR çıktı[1] = {0};
+    const SQLRETURN sonuç =
+        SQLDriverConnect(m_bağlantı, nullptr, SqlMetni(metin), static_cast<SQLSMALLINT>(metin.size()), çıktı, 0,
+                         &çıktıBoyu, SQL_DRIVER_COMPLETE);
+    m_bağlı = SQL_SUCCEEDED(sonuç);
+    return sonuç;
+}
+
+OdbcSonucu OdbcBağlantısı::Aç(const QString& bağlantıMetni) {
+    std::int16_t kod = OrtamAç();
+    if (kod == SQL_SUCCESS) kod = BağlantıAç();
+    if (kod == SQL_SUCCESS) kod = Bağlan(bağlantıMetni);
+    return Sonuç(kod);
+}
+
+void OdbcBağlantısı::Kapat() {
+    // With a transaction open the driver would not let go.
+    if (m_hareket) SQLTransact(SQL_NULL_HENV, m_bağlantı, SQL_ROLLBACK);
+    if (m_bağlı) SQLDisconnect(m_bağlantı);
+    if (m_bağlantı) SQLFreeConnect(m_bağlantı);
+    if (m_ortam) SQLFreeEnv(m_ortam);
+    m_bağlı = m_hareket = false;
+    m_bağlantı = nullptr;
+    m_ortam = nullptr;
+}
+
+OdbcSonucu OdbcBağlantısı::Çalıştır(const QString& sql) {
+    OdbcDeyimi deyim;
+    if (const std::int16_t kod = deyim.Aç(*this)) return Sonuç(kod);
+    if (const std::int16_t kod = deyim.Çalıştır(sql)) return {kod, deyim.HatalarınıAl()};
+    return {SQL_SUCCESS, {}, deyim.EtkilenenSatır()};
+}
+
+OdbcSonucu OdbcBağlantısı::Oku(const QString& sql, const std::function<bool(OdbcSatırı&)>& satır) {
+    OdbcDeyimi deyim;
+    if (const std::int16_t kod = deyim.Aç(*this)) return Sonuç(kod);
+    std::int16_t kod = deyim.Çalıştır(sql);
+    if (kod == SQL_SUCCESS) {
+        OdbcSatırı sıradaki(deyim);
+        bool sürsün = true;
+        while (sürsün && (kod = deyim.Getir()) == SQL_SUCCESS) {
+            sürsün = satır(sıradaki);
+            kod = sıradaki.Kod();
+            if (kod != SQL_SUCCESS) break;
+        }
+        if (kod == SQL_NO_DATA) kod = SQL_SUCCESS;
+    }
+    return {kod, kod == SQL_SUCCESS ? QList<OdbcHatası>() : deyim.HatalarınıAl()};
+}
+
+QList<OdbcHatası> OdbcBağlantısı::HatalarınıAl() const {
+    return m_bağlantı ? HataKayıtlarınıAl(m_bağlantı, nullptr) : QList<OdbcHatası>();
+}
+
+OdbcSonucu OdbcBağlantısı::Sonuç(std::int16_t kod) const {
+    return {kod, kod == SQL_SUCCESS ? QList<OdbcHatası>() : HatalarınıAl()};
+}
+
+std::int16_t OdbcDeyimi::Aç(const OdbcBağlantısı& bağlantı) {
+    Bırak();
+    if (!bağlantı.Tanıtıcı()) return SQL_INVALID_HANDLE;
+    const SQLRETURN sonuç = SQLAllocStmt(bağlantı.Tanıtıcı(), &m_deyim);
+    if (!SQL_SUCCEEDED(sonuç)) m_deyim = nullptr;
+    return sonuç;
+}
+
+std::int16_t OdbcDeyimi::Çalıştır(const QString& sql) {
+    QByteArray metin = Baytlar(sql);
+    return SQLExecDirect(m_deyim, SqlMetni(metin), static_cast<SQLINTEGER>(metin.size()));
+}
+
+std::int16_t OdbcDeyimi::Getir() {
+    return m_deyim ? SQLFetch(m_deyim) : SQL_INVALID_HANDLE;
+}
+
+int OdbcDeyimi::SütunSayısı() const {
+    SQLSMALLINT sayı = 0;
+    return SQL_SUCCEEDED(SQLNumResultCols(m_deyim, &sayı)) ? sayı : 0;
+}
+
+std::int64_t OdbcDeyimi::EtkilenenSatır() const {
+    SQLLEN sayı = -1;
+    return SQL_SUCCEEDED(SQLRowCount(m_deyim, &sayı)) ? static_cast<std::int64_t>(sayı) : -1;
+}
+
+std::int16_t OdbcDeyimi::Oku(int sütun, std::optional<std::string_view>& değer) {
+    SQLLEN uzunluk = 0;
+    const SQLRETURN sonuç = SQLGetData(m_deyim, static_cast<SQLUSMALLINT>(sütun), SQL_C_CHAR, m_tampon.data(),
+                                       static_cast<SQLLEN>(m_tampon.size()), &uzunluk);
+    değer.reset();
+    if (!SQL_SUCCEEDED(sonuç) || uzunluk == SQL_NULL_DATA) return sonuç;
+    // A value that was cut ends where the driver put the closing NUL.
+    değer = sonuç == SQL_SUCCESS ? std::string_view(m_tampon.data(), static_cast<std::size_t>(uzunluk))
+                                 : std::string_view(m_tampon.data());
+    return sonuç;
+}
+
+std::int16_t OdbcDeyimi::Oku(int sütun, QString& metin) {
+    std::optional<std::string_view> değer;
+    const std::int16_t sonuç = Oku(sütun, değer);
+    metin = değer ? QString::fromUtf8(değer->data(), static_cast<qsizetype>(değer->size())) : QString();
+    return sonuç;
+}
+
+void OdbcDeyimi::Bırak() {
+    if (m_deyim) SQLFreeStmt(m_deyim, SQL_DROP);
+    m_deyim = nullptr;
+}
+
+QList<OdbcHatası> OdbcDeyimi::HatalarınıAl() const {
+    return m_deyim ? HataKayıtlarınıAl(nullptr, m_deyim) : QList<OdbcHatası>();
+}
+
+std::optional<std::string_view> OdbcSatırı::Baytlar(int sütun) {
+    std::optional<std::string_view> değer;
+    const std::int16_t kod = m_deyim.Oku(sütun, değer);
+    if (m_kod == SQL_SUCCESS) m_kod = kod;
+    return değer;
+}
+
+QString OdbcSatırı::Metin(int sütun) {
+    const std::optional<std::string_view> değer = Baytlar(sütun);
+    return değer ? QString::fromUtf8(değer->data(), static_cast<qsizetype>(değer->size())) : QString();
+}
