@@ -54,11 +54,10 @@ std::int16_t OdbcBağlantısı::BağlantıAç() {
 
 std::int16_t OdbcBağlantısı::Bağlan(const QString& bağlantıMetni) {
     QByteArray metin = Baytlar(bağlantıMetni);
-    SQLSMALLINT çıktıBoyu = 0;
-    SQLCHAR çıktı[1] = {0};
+    // No buffer for the completed text: there are drivers that write into one of length 0.
     const SQLRETURN sonuç =
-        SQLDriverConnect(m_bağlantı, nullptr, SqlMetni(metin), static_cast<SQLSMALLINT>(metin.size()), çıktı, 0,
-                         &çıktıBoyu, SQL_DRIVER_COMPLETE);
+        SQLDriverConnect(m_bağlantı, nullptr, SqlMetni(metin), static_cast<SQLSMALLINT>(metin.size()), nullptr, 0,
+                         nullptr, SQL_DRIVER_COMPLETE);
     m_bağlı = SQL_SUCCEEDED(sonuç);
     return sonuç;
 }
