@@ -163,6 +163,32 @@ bool İleBaşlar(QStringView metin, QStringView ön) noexcept {
     return true;
 }
 
+bool İçerir(QStringView metin, QStringView aranan) noexcept {
+    for (; metin.size() >= aranan.size(); metin = metin.mid(1)) {
+        if (İleBaşlar(metin, aranan)) return true;
+        if (metin.isEmpty()) break;
+    }
+    return aranan.isEmpty();
+}
+
+void AnahtarıEkle(std::string_view metin, std::string& anahtar) {
+    constexpr char uzun = '\xff';
+    Utf8Okuyucu okuyucu{metin.data(), metin.data() + metin.size()};
+    while (!okuyucu.Bitti()) {
+        const std::uint32_t ağırlık = okuyucu.Sonraki();
+        if (ağırlık < 0x80) {
+            anahtar += static_cast<char>(ağırlık);
+        } else if (ağırlık >= RakamBandı && ağırlık < HarfBandı) {
+            anahtar += static_cast<char>(ağırlık - RakamBandı);
+        } else if (ağırlık >= HarfBandı && ağırlık < HarfBandı + Alfabe.size()) {
+            anahtar += static_cast<char>(0x80 + (ağırlık - HarfBandı));
+        } else {
+            anahtar += uzun;
+            for (int kayma = 16; kayma >= 0; kayma -= 8) anahtar += static_cast<char>(ağırlık >> kayma & 0xFF);
+        }
+    }
+}
+
 char16_t Büyük(char16_t harf) noexcept {
     if (harf == u'i') return u'İ';
     if (harf == u'ı') return u'I';
