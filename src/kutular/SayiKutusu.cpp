@@ -26,6 +26,12 @@ void Söyle(MesajKutusu::Simge simge, const QString& metin) {
     MesajKutusu::Göster(simge, MesajKutusu::Düğmeler::Tamam, metin);
 }
 
+// Digits behind the comma.
+qsizetype OndalıkSayısı(const QString& metin) {
+    const qsizetype virgül = metin.indexOf(QLatin1Char(','));
+    return virgül < 0 ? 0 : metin.size() - virgül - 1;
+}
+
 // Stops the press or the turn of the wheel that has taken the focus and is still on its way to the control there.
 class OlayDurduran : public QObject {
   public:
@@ -85,7 +91,7 @@ void SayıKutusu::YeriSakla() {
 bool SayıKutusu::TuşGeçer(const QKeyEvent& tuş) const {
     const QString yazı = YazılanMetin(tuş);
     return std::all_of(yazı.begin(), yazı.end(), [this](QChar harf) {
-        return (harf >= u'0' && harf <= u'9') || harf == u',' || (harf == u'-' && m_tür == Tür::EksiliYüzde);
+        return (harf >= u'0' && harf <= u'9') || harf == u',' || (harf == u'-' && EksiOlur());
     });
 }
 
@@ -112,14 +118,15 @@ QString SayıKutusu::Ek(const QString& metin, int imleç) const {
 // text that comes in from elsewhere a dot in an odd place means a decimal point: that one must not be read over.
 bool SayıKutusu::KabulEdilir(const QString& metin, const QString& ek) const {
     if (metin.size() > EnUzunSayı) return false;
-    const bool eksiOlur = m_tür == Tür::EksiliYüzde;
+    if (m_tür == Tür::Serbest && OndalıkSayısı(metin) > 4) return false;
+    const bool eksiOlur = EksiOlur();
     if (eksiOlur && metin == u"-") return true;
     if (!eksiOlur && (ek.contains(QChar(u'-')) || ek.contains(QChar(u'+')))) return false;
     return SayıMı(metin, ek.contains(QChar(u'.')) ? NoktaKuralı::Yerinde : NoktaKuralı::Serbest);
 }
 
 bool SayıKutusu::Bitir() {
-    if (!Yüzdeli() && text().isEmpty()) return true;
+    if (m_tür == Tür::Serbest || (!Yüzdeli() && text().isEmpty())) return true;
     const auto biçimli = SayıMetniBiçimle(text().isEmpty() ? QStringLiteral("0") : text(), OndalıkBasamak);
     if (biçimli) {
         setText(*biçimli);
@@ -149,14 +156,14 @@ bool SayıKutusu::Saklanır() {
 Para SayıKutusu::EnBüyük() const {
     constexpr std::int64_t paranınSonu = std::numeric_limits<std::int64_t>::max();
     if (Yüzdeli()) return Para::OnBindeBirden(1'000'000 * Para::Ölçek);
-    return Para::OnBindeBirden(m_tür == Tür::Tutar ? paranınSonu : paranınSonu / Para::Ölçek * Para::Ölçek);
+    return Para::OnBindeBirden(Parasal() ? paranınSonu : paranınSonu / Para::Ölçek * Para::Ölçek);
 }
 
 QString SayıKutusu::SığmamaNedeni() const {
     const Para enBüyük = EnBüyük();
     const auto sayı = ParaOku(text());
     if (!sayı || *sayı > enBüyük || *sayı < Para::OnBindeBirden(-enBüyük.OnBindeBir()))
-        return Metin(MetinNo::SayıÇokBüyük) + QLatin1Char(' ') + SayıBiçimle(enBüyük, m_tür == Tür::Tutar ? 4 : 0);
+        return Metin(MetinNo::SayıÇokBüyük) + QLatin1Char(' ') + SayıBiçimle(enBüyük, Parasal() ? 4 : 0);
     if (m_tür == Tür::Miktar && !DoubleSaklar(text())) return Metin(MetinNo::BasamakÇokFazla);
     return {};
 }

@@ -16,10 +16,14 @@ class SayıKutusu : public GirişKutusu {
         Yüzde,        // an empty box becomes 0 on leaving; a text that cannot be read is reported and stays
         EksiliYüzde,  // the same, and "-" is allowed
         Tutar,        // a price, stored as money: an empty or unreadable text stays as it is
-        Miktar        // the same for a quantity, which is computed with as a double
+        Miktar,       // the same for a quantity, which is computed with as a double
+        Serbest       // money with up to four decimals, which stay as they were typed
     };
 
     explicit SayıKutusu(Tür tür, QWidget* sahip = nullptr);
+
+    // Whether a box of the kind Serbest takes "-".
+    void EksiOlsun(bool olur) { m_eksiOlur = olur; }
 
     // To be asked before the text is stored. False: it is no number, or one that would be refused, or come back as
     // another; the user has been told, the text stays and the box has the focus.
@@ -37,6 +41,8 @@ class SayıKutusu : public GirişKutusu {
     void focusOutEvent(QFocusEvent* olay) override;
 
   private:
+    bool EksiOlur() const { return m_tür == Tür::EksiliYüzde || (m_tür == Tür::Serbest && m_eksiOlur); }
+    bool Parasal() const { return m_tür == Tür::Tutar || m_tür == Tür::Serbest; }
     bool Yüzdeli() const { return m_tür == Tür::Yüzde || m_tür == Tür::EksiliYüzde; }
     void YeriSakla();
     bool TuşGeçer(const QKeyEvent& tuş) const;
@@ -50,4 +56,5 @@ class SayıKutusu : public GirişKutusu {
     int m_ekinYeri = 0;    // where an inserted text begins
     bool m_alındı = true;  // the last edit was not refused
     bool m_yöntemYazıyor = false;
+    bool m_eksiOlur = false;
 };

@@ -1,6 +1,7 @@
 #include "Saat.h"
 
 #include <QLocale>
+#include <QTime>
 #include <utility>
 
 namespace {
@@ -14,6 +15,10 @@ std::function<QDate()>& Saat() {
 
 QDate Bugün() {
     return Saat() ? Saat()() : QDate::currentDate();
+}
+
+QString ŞimdikiZaman() {
+    return Bugün().toString(QStringLiteral("yyyy-MM-dd ")) + QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
 }
 
 void SaatiAyarla(std::function<QDate()> bugün) {
