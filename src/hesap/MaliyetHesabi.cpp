@@ -1,6 +1,7 @@
 #include "MaliyetHesabi.h"
 
 #include <cmath>
+#include <cstdlib>
 
 #include "SayiMetni.h"
 
@@ -8,10 +9,6 @@ namespace {
 
 std::optional<double> Sonlu(double değer) {
     return std::isfinite(değer) ? std::optional(değer) : std::nullopt;
-}
-
-Para Oran(const QString& yüzde) {
-    return ParaOku(yüzde).value_or(Para());
 }
 
 // What cannot be computed leaves the rate standing in the amount's place.
@@ -29,17 +26,45 @@ std::optional<Para> Topla(std::optional<Para> a, Para b) {
 }  // namespace
 
 MaliyetTutarları MaliyetHesapla(const MaliyetGirdisi& girdi) {
-    const std::optional<Para> malzeme = ParaOku(girdi.MalzemeMaliyeti);
+    return MaliyetHesapla(ParaOku(girdi.MalzemeMaliyeti), {YüzdeOranı(girdi.İşçilik), YüzdeOranı(girdi.Kâr),
+                                                           YüzdeOranı(girdi.Diğer), YüzdeOranı(girdi.Vade)});
+}
+
+MaliyetTutarları MaliyetHesapla(std::optional<Para> malzeme, const MaliyetOranları& oranlar) {
     MaliyetTutarları sonuç;
-    sonuç.İşçilik = Tutar(Oran(girdi.İşçilik), malzeme);
-    sonuç.Kâr = Tutar(Oran(girdi.Kâr), malzeme);
-    sonuç.Diğer = Tutar(Oran(girdi.Diğer), malzeme);
-    sonuç.Vade = Tutar(Oran(girdi.Vade), malzeme);
+    sonuç.İşçilik = Tutar(oranlar.İşçilik, malzeme);
+    sonuç.Kâr = Tutar(oranlar.Kâr, malzeme);
+    sonuç.Diğer = Tutar(oranlar.Diğer, malzeme);
+    sonuç.Vade = Tutar(oranlar.Vade, malzeme);
     if (malzeme) {
         const auto yüzdeler = Topla(Topla(::Topla(sonuç.İşçilik, sonuç.Kâr), sonuç.Diğer), sonuç.Vade);
         sonuç.Toplam = Topla(yüzdeler, *malzeme).value_or(Para());
     }
     return sonuç;
+}
+
+QString YüzdeMetni(const QString& saklanan, int basamak) {
+    if (saklanan.isEmpty()) return QStringLiteral("0");
+    const QString metin = NoktayıVirgüleÇevir(saklanan);
+    return SayıMetniBiçimle(metin, basamak, NoktaKuralı::Yerinde).value_or(metin);
+}
+
+Para YüzdeOranı(const QString& metin) {
+    return ParaOku(metin).value_or(Para());
+}
+
+std::optional<Para> GösterilenTutar(Para tutar, int basamak) {
+    std::int64_t adım = 1;
+    for (int hane = basamak; hane < 4; ++hane) adım *= 10;
+    const std::int64_t kalan = tutar.OnBindeBir() % adım;
+    const std::int64_t kesik = tutar.OnBindeBir() - kalan;
+    const std::int64_t eklenen = 2 * std::abs(kalan) < adım ? 0 : kalan < 0 ? -adım : adım;
+    return ::Topla(Para::OnBindeBirden(kesik), Para::OnBindeBirden(eklenen));
+}
+
+Para GösterilenToplam(Para malzeme, const MaliyetOranları& oranlar, int basamak) {
+    const Para toplam = MaliyetHesapla(GösterilenTutar(malzeme, basamak), oranlar).Toplam;
+    return GösterilenTutar(toplam, basamak).value_or(toplam);
 }
 
 std::optional<double> BirimMaliyet(const QString& toplamMaliyet, double toplamMiktar) {

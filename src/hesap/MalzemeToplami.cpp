@@ -8,12 +8,19 @@ MiktarParçaları MiktarıAyır(QStringView miktar) {
     return {miktar.left(ilk), miktar.mid(ilk), miktar.mid(miktar.lastIndexOf(u' ') + 1)};
 }
 
+std::optional<double> MiktarSayısı(QStringView miktar) {
+    return DoubleOku(MiktarıAyır(miktar).Sayı, NoktaKuralı::Yerinde);
+}
+
+std::optional<Para> MalzemeTutarı(double miktar, Para fiyat) {
+    return Para::Doubledan(fiyat.Double() * miktar);
+}
+
 MalzemeSatırı MalzemeToplamı::Ekle(const QString& miktar, const QString& fiyat, int basamak) {
     MalzemeSatırı satır{miktar, fiyat, {}};
     const MiktarParçaları parçalar = MiktarıAyır(miktar);
     BirimeBak(parçalar.Birim);
 
-    // In a stored number a dot can only part thousands: "12.5" must not count as 125.
     const std::optional<Ondalık> adet = OndalıkOku(parçalar.Sayı, NoktaKuralı::Yerinde);
     const std::optional<double> sayı = adet ? EnYakınDouble(*adet) : std::nullopt;
     if (sayı) satır.Miktar = SayıBiçimle(*adet, basamak).append(parçalar.Kalan);

@@ -15,6 +15,12 @@ struct MiktarParçaları {
 };
 MiktarParçaları MiktarıAyır(QStringView miktar);
 
+// The stored quantity's number. A dot can only part thousands in it: "12.5" must not count as 125.
+std::optional<double> MiktarSayısı(QStringView miktar);
+
+// The amount of a used material as money. Nothing: beyond its range.
+std::optional<Para> MalzemeTutarı(double miktar, Para fiyat);
+
 // A used material as the list shows it.
 struct MalzemeSatırı {
     QString Miktar;
