@@ -108,6 +108,10 @@ bool ODBCBağlan() {
     return true;
 }
 
+OdbcBağlantısı& ODBCBağlantısı() {
+    return Bağlantı;
+}
+
 void ODBCBağlantısınıKapat() {
     DeyimiBırak();
     VeriKaynağıKaydet(Kurulumİsteği::Kaldır);

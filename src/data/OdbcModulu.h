@@ -28,6 +28,10 @@ bool ODBCBağlan();
 // Removes the data source, disconnects and frees everything; results are ignored.
 void ODBCBağlantısınıKapat();
 
+// The program's own connection, for work that shows nothing itself; open between ODBCBağlan and ODBCBağlantısınıKapat.
+class OdbcBağlantısı;
+OdbcBağlantısı& ODBCBağlantısı();
+
 // Adds the program's data source or takes it away; the result is ignored.
 void VeriKaynağıKaydet(Kurulumİsteği istek);
 

@@ -104,6 +104,16 @@ OdbcSonucu OdbcBağlantısı::Oku(const QString& sql, const std::function<bool(O
     return {kod, kod == SQL_SUCCESS ? QList<OdbcHatası>() : deyim.HatalarınıAl()};
 }
 
+OdbcSonucu OdbcBağlantısı::TabloVar(const QString& ad, bool& var) {
+    OdbcDeyimi deyim;
+    if (const std::int16_t kod = deyim.Aç(*this)) return Sonuç(kod);
+    std::int16_t kod = deyim.TablolarıBul(ad);
+    if (kod == SQL_SUCCESS) kod = deyim.Getir();
+    var = kod == SQL_SUCCESS;
+    if (kod == SQL_SUCCESS || kod == SQL_NO_DATA) return {};
+    return {kod, deyim.HatalarınıAl()};
+}
+
 QList<OdbcHatası> OdbcBağlantısı::HatalarınıAl() const {
     return m_bağlantı ? HataKayıtlarınıAl(m_bağlantı, nullptr) : QList<OdbcHatası>();
 }
@@ -123,6 +133,12 @@ std::int16_t OdbcDeyimi::Aç(const OdbcBağlantısı& bağlantı) {
 std::int16_t OdbcDeyimi::Çalıştır(const QString& sql) {
     QByteArray metin = Baytlar(sql);
     return SQLExecDirect(m_deyim, SqlMetni(metin), static_cast<SQLINTEGER>(metin.size()));
+}
+
+std::int16_t OdbcDeyimi::TablolarıBul(const QString& ad) {
+    QByteArray metin = Baytlar(ad);
+    return SQLTables(m_deyim, nullptr, 0, nullptr, 0, SqlMetni(metin), static_cast<SQLSMALLINT>(metin.size()), nullptr,
+                     0);
 }
 
 std::int16_t OdbcDeyimi::Getir() {

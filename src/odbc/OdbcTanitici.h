@@ -39,6 +39,9 @@ class OdbcBağlantısı {
     // reading, which is no failure. A failure says that rows are missing; those that came before it were handed over.
     OdbcSonucu Oku(const QString& sql, const std::function<bool(OdbcSatırı&)>& satır);
 
+    // Whether the data file has a table of this name.
+    OdbcSonucu TabloVar(const QString& ad, bool& var);
+
     // Takes every pending error off the connection, in the order in which the driver keeps them.
     QList<OdbcHatası> HatalarınıAl() const;
 
@@ -64,7 +67,8 @@ class OdbcDeyimi {
 
     std::int16_t Aç(const OdbcBağlantısı& bağlantı);
     std::int16_t Çalıştır(const QString& sql);
-    std::int16_t Getir();  // the next row; 100 at their end
+    std::int16_t TablolarıBul(const QString& ad);  // a row for each table of this name
+    std::int16_t Getir();                          // the next row; 100 at their end
 
     int SütunSayısı() const;
     std::int64_t EtkilenenSatır() const;  // -1 when the driver does not tell
