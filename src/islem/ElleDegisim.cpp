@@ -1,0 +1,80 @@
+#include "ElleDegisim.h"
+
+#include "OdbcHareketi.h"
+#include "OdbcTanitici.h"
+
+namespace {
+
+std::optional<std::int64_t> Say(OdbcBağlantısı& bağlantı, const QString& deyim) {
+    std::int64_t sayı = 0;
+    const OdbcSonucu sonuç = bağlantı.Oku(deyim, [&sayı](OdbcSatırı& satır) {
+        sayı = SaklananSayı(satır.Baytlar(1).value_or(""));
+        return false;
+    });
+    return sonuç.Başarılı() ? std::optional(sayı) : std::nullopt;
+}
+
+}  // namespace
+
+void ElleDeğişim::Hazırla(const QString& malzeme, Para yeni) {
+    m_kaydedilir = false;
+    m_ayrılar.clear();
+    m_yeni = yeni;
+    bool bulundu = false;
+    bool okundu = m_bağlantı
+                      .Oku(Deyimler::Malzemenin(malzeme),
+                           [&](OdbcSatırı& satır) {
+                               m_malzeme = satır.Metin(1);
+                               const std::optional<Para> eski = SaklananPara(satır.Baytlar(2).value_or(""));
+                               m_eski = eski.value_or(Para());
+                               bulundu = eski.has_value();
+                               return false;
+                           })
+                      .Başarılı();
+    const auto hepsi = Say(m_bağlantı, Deyimler::KullanılanSayısı(malzeme));
+    const auto katalogdaki = Say(m_bağlantı, Deyimler::KullanılanSayısı(malzeme, m_eski));
+    okundu = okundu && hepsi && katalogdaki && FiyatTablolarıVar(m_bağlantı, m_tablolarVar).Tamam() &&
+             SıradakiİşlemNo(m_bağlantı, m_tablolarVar, m_no).Tamam();
+    if (okundu && *hepsi != *katalogdaki) {
+        okundu = m_bağlantı
+                     .Oku(Deyimler::MalzemeninKullanımları(malzeme),
+                          [this](OdbcSatırı& satır) {
+                              const std::optional<Para> fiyat = SaklananPara(satır.Baytlar(4).value_or(""));
+                              if (fiyat && *fiyat != m_eski)
+                                  m_ayrılar.push_back({satır.Metin(1), satır.Metin(2), m_malzeme, satır.Metin(3),
+                                                       TarihYazımı(satır.Metin(5)), *fiyat});
+                              return true;
+                          })
+                     .Başarılı();
+    }
+    m_okunamadı = !okundu;
+    m_kaydedilir = okundu && bulundu && (m_eski != m_yeni || !m_ayrılar.empty());
+}
+
+bool ElleDeğişim::Kaydet(const Yazılan& yazılan, Deyimler::Fiyat::İşlem& işlem) {
+    işlem.No = m_no;
+    if (!İşlemiYaz(m_bağlantı, m_tablolarVar, işlem).Tamam()) return false;
+    if (!m_bağlantı.Çalıştır(Deyimler::Fiyat::DeğişimEkle({m_no, m_malzeme, m_eski, m_yeni})).Başarılı()) return false;
+    if (!yazılan.Ürünlerde) return true;
+    for (const KullanılanSatır& satır : m_ayrılar)
+        if (!m_bağlantı
+                 .Çalıştır(Deyimler::Fiyat::AyrıSatırEkle(
+                     {m_no, satır.Grup, satır.Ürün, m_malzeme, satır.Tarih, satır.Miktar, satır.Fiyat}))
+                 .Başarılı())
+            return false;
+    return true;
+}
+
+ElleDeğişim::Son ElleDeğişim::Yürüt(const std::function<Yazılan()>& deyimler, const QString& açıklama,
+                                    const QString& zaman, OdbcSonucu& hata) {
+    OdbcHareketi hareket(m_bağlantı);
+    hata = hareket.Başla();
+    if (!hata.Başarılı()) return Son::Yazılamadı;
+    const Yazılan yazılan = deyimler();
+    Deyimler::Fiyat::İşlem işlem{0, zaman, TürSözcüğü(İşlemTürü::Elle), açıklama};
+    const bool kaydedildi = m_kaydedilir && yazılan.Katalogda ? Kaydet(yazılan, işlem) : !m_okunamadı;
+    if (!yazılan.Katalogda && !yazılan.Ürünlerde) return Son::Yazılamadı;  // told already
+    hata = hareket.Onayla();
+    if (!hata.Başarılı()) return Son::Yazılamadı;
+    return kaydedildi ? Son::Tamam : Son::Kaydedilemedi;
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "FiyatKayitlari.h"
+#include "FiyatPlani.h"
+
+// Carrying a plan out: every price of its ticked materials, in the catalogue and in every used row, with the
+// operation's record, in one transaction; all of it or nothing.
+
+struct İşlemBilgisi {
+    İşlemTürü Tür = İşlemTürü::Toplu;
+    QString Açıklama;
+    std::int64_t Karşılığı = 0;
+};
+
+enum class UygulamaSonu {
+    Tamam,
+    Vazgeçildi,  // by the user, nothing was written
+    Değişmiş,    // the data are not those that the plan was made from; nothing was written
+    Olmadı       // a statement failed; nothing was written
+};
+struct [[nodiscard]] UygulamaSonucu {
+    UygulamaSonu Son = UygulamaSonu::Tamam;
+    OdbcSonucu Odbc;  // of what failed
+    QString Malzeme;  // where the data differ
+};
+
+// `zaman`: local, "yyyy-MM-dd HH:mm:ss". `ilerleme` is told how many materials are done; it is not asked any more once
+// committing has begun.
+UygulamaSonucu FiyatlarıUygula(OdbcBağlantısı& bağlantı, const FiyatPlanı& plan, const İşlemBilgisi& bilgi,
+                               const QString& zaman, const İlerleme& ilerleme = {});

@@ -1,0 +1,274 @@
+#include "FiyatPlani.h"
+
+#include <QDate>
+#include <algorithm>
+#include <limits>
+
+#include "FiyatDeyimleri.h"
+#include "MalzemeToplami.h"
+#include "OdbcTanitici.h"
+#include "TurkceSira.h"
+
+namespace {
+
+// As the data file compares them.
+bool AynıSatır(const KullanılanSatır& a, const KullanılanSatır& b) {
+    const auto aynı = [](const QString& x, const QString& y) { return Türkçe::Karşılaştır(x, y) == 0; };
+    return a.Fiyat == b.Fiyat && a.Tarih == b.Tarih && aynı(a.Miktar, b.Miktar) && aynı(a.Ürün, b.Ürün) &&
+           aynı(a.Grup, b.Grup);
+}
+
+}  // namespace
+
+QString TarihYazımı(const QString& saklanan) {
+    const QDate gün = QDate::fromString(saklanan.left(10), Qt::ISODate);
+    return QStringLiteral("#%1/%2/%3#").arg(gün.month()).arg(gün.day()).arg(gün.year());
+}
+
+PlanNedeni NedenBul(FiyatDurumu durum) {
+    switch (durum) {
+        case FiyatDurumu::Değişir:
+            return PlanNedeni::Yok;
+        case FiyatDurumu::Olağandışı:
+            return PlanNedeni::Olağandışı;
+        case FiyatDurumu::Değişmiyor:
+            return PlanNedeni::Değişmiyor;
+        case FiyatDurumu::TersineDöndü:
+            return PlanNedeni::TersineDöndü;
+        case FiyatDurumu::SıfırYaDaAltı:
+            return PlanNedeni::SıfırYaDaAltı;
+        case FiyatDurumu::ÇokBüyük:
+            break;
+    }
+    return PlanNedeni::ÇokBüyük;
+}
+
+// Goes through the used rows: adds up what every product costs now and keeps what the new prices change.
+class FiyatPlanı::Okuyucu {
+  public:
+    Okuyucu(FiyatPlanı& plan, ÜrünKataloğu& ürünler, const MalzemeKataloğu& malzemeler)
+        : m_plan(plan),
+          m_ürünler(ürünler),
+          m_malzemeler(malzemeler),
+          m_planda(malzemeler.Malzemeler.size(), AdDizini::YOK) {
+        for (std::uint32_t i = 0; i < plan.m_malzemeler.size(); ++i) {
+            const QByteArray ad = plan.m_malzemeler[i].Malzeme.toUtf8();
+            const std::uint32_t yer = malzemeler.Dizin.Bul({ad.constData(), static_cast<std::size_t>(ad.size())});
+            if (yer != AdDizini::YOK) m_planda[yer] = i;
+        }
+    }
+
+    void Al(OdbcSatırı& satır) {
+        const std::uint32_t ürün = ÜrünüBul(satır);
+        const std::uint32_t malzeme = m_malzemeler.Dizin.Bul(Baytlar(satır, 3));
+        const std::optional<double> miktar = MiktarıOku(Baytlar(satır, 4));
+        const std::optional<Para> fiyat = SaklananPara(Baytlar(satır, 5));
+        const std::optional<Para> tutar = Tutar(miktar, fiyat);
+        if (ürün != AdDizini::YOK) ÜrüneEkle(m_ürünler.Ürünler[ürün], tutar, malzeme != AdDizini::YOK);
+        const std::uint32_t plandaki = malzeme == AdDizini::YOK ? AdDizini::YOK : m_planda[malzeme];
+        if (plandaki != AdDizini::YOK && fiyat) PlanaEkle(satır, {ürün, plandaki, 0}, miktar, *fiyat, tutar);
+    }
+
+    std::vector<Satır> Satırlar;
+
+  private:
+    static std::string_view Baytlar(OdbcSatırı& satır, int sütun) {
+        return satır.Baytlar(sütun).value_or(std::string_view());
+    }
+
+    static std::optional<Para> Tutar(std::optional<double> miktar, std::optional<Para> fiyat) {
+        return miktar && fiyat ? MalzemeTutarı(*miktar, *fiyat) : std::nullopt;
+    }
+
+    // Neighbouring rows are mostly of one product.
+    std::uint32_t ÜrünüBul(OdbcSatırı& satır) {
+        const std::string_view grup = Baytlar(satır, 1);
+        bool aynı = m_sonVar && grup == m_sonGrup;
+        if (!aynı) m_sonGrup = grup;
+        const std::string_view ad = Baytlar(satır, 2);
+        aynı = aynı && ad == m_sonAd;
+        if (!aynı) {
+            m_sonAd = ad;
+            m_sonÜrün = m_ürünler.Dizin.Bul(m_sonGrup, m_sonAd);
+            m_sonVar = true;
+        }
+        return m_sonÜrün;
+    }
+
+    std::optional<double> MiktarıOku(std::string_view miktar) {
+        return MiktarSayısı(QString::fromUtf8(miktar.data(), static_cast<qsizetype>(miktar.size())));
+    }
+
+    static void ÜrüneEkle(KatalogÜrünü& ürün, std::optional<Para> tutar, bool katalogda) {
+        if (!katalogda) ürün.KatalogDışı = true;
+        const std::optional<Para> toplam = tutar ? Topla(Para::OnBindeBirden(ürün.Malzeme), *tutar) : std::nullopt;
+        if (toplam)
+            ürün.Malzeme = toplam->OnBindeBir();
+        else
+            ürün.Eksik = true;
+    }
+
+    void PlanaEkle(OdbcSatırı& okunan, Satır satır, std::optional<double> miktar, Para fiyat,
+                   std::optional<Para> tutar) {
+        PlanMalzemesi& malzeme = m_plan.m_malzemeler[satır.Malzeme];
+        ++malzeme.Satır;
+        const bool değişir = DağılımaEkle(malzeme, fiyat);
+        TekSatır* tek = malzeme.Tekler.empty() ? nullptr : TekiBul(malzeme, okunan, fiyat);
+        if (!değişir && !tek) return;
+        ++malzeme.DeğişenSatır;
+        if (fiyat != malzeme.Eski) malzeme.Ayrılar.push_back(SatırıAl(okunan, fiyat));
+        const std::optional<Para> yeni = Tutar(miktar, tek ? tek->Hedef : malzeme.Yeni);
+        satır.Fark = yeni.value_or(Para()).OnBindeBir() - tutar.value_or(Para()).OnBindeBir();
+        Satırlar.push_back(satır);
+    }
+
+    // Whether rows of this price get the new one.
+    static bool DağılımaEkle(PlanMalzemesi& malzeme, Para fiyat) {
+        for (FiyatlıSatırlar& satırlar : malzeme.Dağılım) {
+            if (satırlar.Fiyat != fiyat) continue;
+            ++satırlar.Sayı;
+            return satırlar.Değişir;
+        }
+        const auto& fiyatlar = malzeme.Fiyatlar;
+        const bool değişir = malzeme.HerSatır || std::find(fiyatlar.begin(), fiyatlar.end(), fiyat) != fiyatlar.end();
+        malzeme.Dağılım.push_back({fiyat, 1, değişir});
+        return değişir;
+    }
+
+    KullanılanSatır SatırıAl(OdbcSatırı& okunan, Para fiyat) const {
+        return {QString::fromStdString(m_sonGrup),
+                QString::fromStdString(m_sonAd),
+                okunan.Metin(3),
+                okunan.Metin(4),
+                TarihYazımı(okunan.Metin(6)),
+                fiyat};
+    }
+
+    TekSatır* TekiBul(PlanMalzemesi& malzeme, OdbcSatırı& okunan, Para fiyat) const {
+        const KullanılanSatır satır = SatırıAl(okunan, fiyat);
+        for (TekSatır& tek : malzeme.Tekler) {
+            if (tek.Bulundu || !AynıSatır(tek.Satır, satır)) continue;
+            tek.Bulundu = true;
+            return &tek;
+        }
+        return nullptr;
+    }
+
+    FiyatPlanı& m_plan;
+    ÜrünKataloğu& m_ürünler;
+    const MalzemeKataloğu& m_malzemeler;
+    std::vector<std::uint32_t> m_planda;  // place in the plan of each material of the catalogue
+    std::string m_sonGrup;
+    std::string m_sonAd;
+    std::uint32_t m_sonÜrün = AdDizini::YOK;
+    bool m_sonVar = false;
+};
+
+İşSonucu FiyatPlanı::Kur(OdbcBağlantısı& bağlantı, std::vector<FiyatÖnerisi> öneriler, int basamak,
+                         const İlerleme& ilerleme) {
+    *this = {};
+    m_basamak = basamak;
+    m_malzemeler.reserve(öneriler.size());
+    for (FiyatÖnerisi& öneri : öneriler) {
+        if (Uygulanır(öneri.Neden) && !Deyimler::Yazılabilir(öneri.Malzeme)) öneri.Neden = PlanNedeni::AdıYazılamaz;
+        if (!Uygulanır(öneri.Neden)) öneri.İşaretli = false;
+        m_malzemeler.push_back({std::move(öneri)});
+    }
+    MalzemeKataloğu malzemeler;
+    İşSonucu sonuç = malzemeler.Oku(bağlantı, ilerleme);
+    ÜrünKataloğu ürünler;
+    if (sonuç.Tamam()) sonuç = ürünler.Oku(bağlantı, basamak, ilerleme);
+    if (!sonuç.Tamam()) return sonuç;
+
+    Okuyucu okuyucu(*this, ürünler, malzemeler);
+    std::int64_t okunan = 0;
+    bool vazgeçildi = false;
+    const OdbcSonucu odbc = bağlantı.Oku(Deyimler::TümKullanılanlar(), [&](OdbcSatırı& satır) {
+        okuyucu.Al(satır);
+        vazgeçildi = ilerleme && !ilerleme(++okunan);
+        return !vazgeçildi;
+    });
+    SatırlarıDiz(okuyucu.Satırlar);
+    ÜrünleriKur(ürünler);
+    return İşSonucuYap(odbc, vazgeçildi);
+}
+
+// By material, so that a tick reaches its rows alone.
+void FiyatPlanı::SatırlarıDiz(std::vector<Satır>& satırlar) {
+    m_ilkSatır.assign(m_malzemeler.size() + 1, 0);
+    for (const Satır& satır : satırlar) ++m_ilkSatır[satır.Malzeme + 1];
+    for (std::size_t i = 1; i < m_ilkSatır.size(); ++i) m_ilkSatır[i] += m_ilkSatır[i - 1];
+    std::vector<std::size_t> sıradaki = m_ilkSatır;
+    m_satırlar.resize(satırlar.size());
+    for (const Satır& satır : satırlar) m_satırlar[sıradaki[satır.Malzeme]++] = satır;
+    satırlar = {};
+}
+
+// Only the products that a material of the plan reaches are kept.
+void FiyatPlanı::ÜrünleriKur(ÜrünKataloğu& katalog) {
+    std::vector<std::uint32_t> yerler(katalog.Ürünler.size(), AdDizini::YOK);
+    for (Satır& satır : m_satırlar) {
+        if (!Uygulanır(m_malzemeler[satır.Malzeme].Neden)) satır.Ürün = AdDizini::YOK;
+        if (satır.Ürün == AdDizini::YOK) continue;
+        std::uint32_t& yer = yerler[satır.Ürün];
+        if (yer == AdDizini::YOK) {
+            KatalogÜrünü& ürün = katalog.Ürünler[satır.Ürün];
+            yer = static_cast<std::uint32_t>(m_ürünler.size());
+            const Para önce = GösterilenToplam(Para::OnBindeBirden(ürün.Malzeme), ürün.Oranlar, m_basamak);
+            m_ürünler.push_back({std::move(ürün.Grup), std::move(ürün.Ad), önce, önce, ürün.Eksik, ürün.KatalogDışı});
+            m_hesaplar.push_back({ürün.Oranlar, ürün.Malzeme, ürün.Eksik});
+        }
+        satır.Ürün = yer;
+    }
+    m_işaretliler.assign(m_ürünler.size(), 0);
+    for (const Satır& satır : m_satırlar) {
+        if (satır.Ürün == AdDizini::YOK || !m_malzemeler[satır.Malzeme].İşaretli) continue;
+        m_hesaplar[satır.Ürün].Sonra += satır.Fark;
+        ++m_işaretliler[satır.Ürün];
+    }
+    for (std::uint32_t i = 0; i < m_ürünler.size(); ++i) SonrayıHesapla(i);
+}
+
+void FiyatPlanı::SonrayıHesapla(std::uint32_t ürün) {
+    const ÜrünHesabı& hesap = m_hesaplar[ürün];
+    PlanÜrünü& satır = m_ürünler[ürün];
+    constexpr Geniş sınır = std::numeric_limits<std::int64_t>::max();
+    const Geniş malzeme = std::clamp(hesap.Sonra, -sınır, sınır);
+    satır.Eksik = hesap.Eksik || malzeme != hesap.Sonra;
+    satır.Sonra = m_işaretliler[ürün] == 0 ? satır.Önce
+                                           : GösterilenToplam(Para::OnBindeBirden(static_cast<std::int64_t>(malzeme)),
+                                                              hesap.Oranlar, m_basamak);
+}
+
+std::vector<std::uint32_t> FiyatPlanı::İşaretle(std::uint32_t malzeme, bool işaretli) {
+    PlanMalzemesi& satır = m_malzemeler[malzeme];
+    std::vector<std::uint32_t> değişenler;
+    if (satır.İşaretli == işaretli || !Uygulanır(satır.Neden)) return değişenler;
+    satır.İşaretli = işaretli;
+    for (std::size_t i = m_ilkSatır[malzeme]; i < m_ilkSatır[malzeme + 1]; ++i) {
+        const Satır& kullanılan = m_satırlar[i];
+        if (kullanılan.Ürün == AdDizini::YOK) continue;
+        m_hesaplar[kullanılan.Ürün].Sonra += işaretli ? kullanılan.Fark : -kullanılan.Fark;
+        m_işaretliler[kullanılan.Ürün] += işaretli ? 1 : -1;
+        değişenler.push_back(kullanılan.Ürün);
+    }
+    std::sort(değişenler.begin(), değişenler.end());
+    değişenler.erase(std::unique(değişenler.begin(), değişenler.end()), değişenler.end());
+    for (const std::uint32_t ürün : değişenler) SonrayıHesapla(ürün);
+    return değişenler;
+}
+
+PlanÖzeti FiyatPlanı::Özet() const {
+    PlanÖzeti özet;
+    for (std::size_t i = 0; i < m_malzemeler.size(); ++i) {
+        const PlanMalzemesi& malzeme = m_malzemeler[i];
+        if (!malzeme.İşaretli) continue;
+        ++özet.Malzeme;
+        özet.Satır += malzeme.DeğişenSatır;
+        özet.AyrıSatır += static_cast<std::int64_t>(malzeme.Ayrılar.size());
+        for (std::size_t satır = m_ilkSatır[i]; satır < m_ilkSatır[i + 1]; ++satır)
+            özet.ÜrünsüzSatır += m_satırlar[satır].Ürün == AdDizini::YOK;
+    }
+    özet.Ürün = std::count_if(m_işaretliler.begin(), m_işaretliler.end(), [](std::uint32_t sayı) { return sayı > 0; });
+    return özet;
+}

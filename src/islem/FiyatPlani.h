@@ -1,0 +1,134 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+#include "FiyatKurali.h"
+#include "KatalogOkuma.h"
+#include "UrunToplamlari.h"
+
+// Why a material is left out of a plan or not ticked in it.
+enum class PlanNedeni {
+    Yok,
+    Olağandışı,
+    SonradanDeğişmiş,  // its price is not the one that the operation to be taken back gave it
+    ElleDeğişmiş,      // its price is not the one that its currency's last rate gave it
+    Çakışıyor,         // the list gives it several prices
+    // From here on it cannot be carried out at all.
+    Değişmiyor,
+    TersineDöndü,
+    SıfırYaDaAltı,
+    ÇokBüyük,
+    AdıYazılamaz  // no statement can name it
+};
+constexpr bool Uygulanır(PlanNedeni neden) {
+    return neden < PlanNedeni::Değişmiyor;
+}
+PlanNedeni NedenBul(FiyatDurumu durum);
+
+// A date as the data file gives it ("2026-11-23 00:00:00") as a literal of a statement.
+QString TarihYazımı(const QString& saklanan);
+
+// A used row as it stands in the data file.
+struct KullanılanSatır {
+    QString Grup;
+    QString Ürün;
+    QString Malzeme;
+    QString Miktar;
+    QString Tarih;  // date literal
+    Para Fiyat;
+};
+
+// A used row that gets a price of its own.
+struct TekSatır {
+    KullanılanSatır Satır;
+    Para Hedef;
+    bool Bulundu = false;  // by the plan, in the data file
+};
+
+// A new price for a material of the catalogue.
+struct FiyatÖnerisi {
+    QString Malzeme;  // as the catalogue spells it
+    Para Eski;        // the catalogue's price
+    Para Yeni;
+    PlanNedeni Neden = PlanNedeni::Yok;
+    bool İşaretli = true;
+    bool HerSatır = true;          // the new price goes to every used row; otherwise only to those with one of
+    std::vector<Para> Fiyatlar{};  // these prices
+    std::vector<TekSatır> Tekler{};
+};
+
+struct FiyatlıSatırlar {
+    Para Fiyat;
+    std::int64_t Sayı = 0;
+    bool Değişir = true;
+};
+
+struct PlanMalzemesi : FiyatÖnerisi {
+    std::int64_t Satır = 0;                  // used rows
+    std::int64_t DeğişenSatır = 0;           // those that the plan reaches
+    std::vector<FiyatlıSatırlar> Dağılım{};  // how many of the used rows have which price
+    std::vector<KullanılanSatır> Ayrılar{};  // reached ones whose price is another than the catalogue's
+};
+
+// A product that the plan's materials reach.
+struct PlanÜrünü {
+    QString Grup;
+    QString Ad;
+    Para Önce;  // totals as the main form shows them
+    Para Sonra;
+    bool Eksik = false;
+    bool KatalogDışı = false;
+};
+
+struct PlanÖzeti {
+    std::int64_t Malzeme = 0;  // ticked
+    std::int64_t Satır = 0;
+    std::int64_t Ürün = 0;
+    std::int64_t ÜrünsüzSatır = 0;  // of those rows, whose product is not in the product table
+    std::int64_t AyrıSatır = 0;     // of those rows, whose price is another than the catalogue's
+};
+
+// What new prices do to every product, before anything is written. Made in one pass over each table; afterwards it
+// holds nothing open and asks nothing more.
+class FiyatPlanı {
+  public:
+    // `basamak`: the decimals that the main form shows.
+    İşSonucu Kur(OdbcBağlantısı& bağlantı, std::vector<FiyatÖnerisi> öneriler, int basamak,
+                 const İlerleme& ilerleme = {});
+
+    const std::vector<PlanMalzemesi>& Malzemeler() const { return m_malzemeler; }
+    const std::vector<PlanÜrünü>& Ürünler() const { return m_ürünler; }
+    PlanÖzeti Özet() const;
+
+    // What cannot be carried out stays unticked. Gives the products whose total changed (places in Ürünler).
+    std::vector<std::uint32_t> İşaretle(std::uint32_t malzeme, bool işaretli);
+
+  private:
+    struct Satır {
+        std::uint32_t Ürün;  // AdDizini::YOK: in no product of the product table
+        std::uint32_t Malzeme;
+        std::int64_t Fark;  // ten-thousandths, when the material is ticked
+    };
+    class Okuyucu;
+    __extension__ using Geniş = __int128;
+    struct ÜrünHesabı {
+        MaliyetOranları Oranlar;
+        Geniş Sonra = 0;  // material cost in ten-thousandths
+        bool Eksik = false;
+    };
+
+    void SatırlarıDiz(std::vector<Satır>& satırlar);
+    void ÜrünleriKur(ÜrünKataloğu& katalog);
+    void SonrayıHesapla(std::uint32_t ürün);
+
+    int m_basamak = 2;
+    std::vector<PlanMalzemesi> m_malzemeler;
+    std::vector<PlanÜrünü> m_ürünler;
+    std::vector<ÜrünHesabı> m_hesaplar;        // beside m_ürünler
+    std::vector<std::uint32_t> m_işaretliler;  // ticked rows of each product, beside m_ürünler
+    std::vector<Satır> m_satırlar;             // by material
+    std::vector<std::size_t> m_ilkSatır;       // of each material, and their end
+};

@@ -1,0 +1,296 @@
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <csignal>
+#include <random>
+
+#include "FiyatIslemi.h"
+#include "GeriAlma.h"
+#include "MaliyetHesabi.h"
+#include "MalzemeToplami.h"
+#include "SayiMetni.h"
+#include "VarnekTesti.h"
+
+// Prices as a whole: what the plan says must be what the main form would show, and what is carried out or taken back
+// must be all of it or nothing.
+
+namespace {
+
+constexpr int BASAMAK = 2;
+const QString ZAMAN = QStringLiteral("2026-11-23 10:00:00");
+
+class Fiyatİşlemi : public VarnekTesti {
+  protected:
+    void SetUp() override {
+        VeriDosyasıOluştur(VeriDosyası());
+        m_veri = std::make_unique<TestVerisi>(VeriDosyası());
+    }
+    OdbcBağlantısı& Bağ() { return m_veri->Bağlantı(); }
+
+    void MalzemeEkle(const QString& ad, const QString& fiyat) {
+        m_veri->Çalıştır(
+            QString("INSERT INTO MalzemeTablosu (MalzemeAdi, MalzemeFiyati) VALUES ('%1', '%2')").arg(ad, fiyat));
+    }
+    void ÜrünEkle(const QString& grup, const QString& ad, const QString& işçilik) {
+        m_veri->Çalıştır(QString("INSERT INTO UrunTablosu (UrunGrubu, UrunAdi, IscilikYuzdesi, KarYuzdesi, "
+                                 "DigerVarnekYuzdesi, VadeFarkiYuzdesi) VALUES ('%1', '%2', '%3', '7,125', '-2', '0')")
+                             .arg(grup, ad, işçilik));
+    }
+    void Kullan(const QString& grup, const QString& ürün, const QString& malzeme, const QString& miktar,
+                const QString& fiyat, int gün = 1) {
+        m_veri->Çalıştır(QString("INSERT INTO UrunMalzemeTablosu (KullanimTarihi, UrunGrubu, UrunAdi, "
+                                 "KullanilanMalzemeAdi, KullanilanMalzemeMiktari, KullanilanMalzemeFiyati) VALUES "
+                                 "(#11/%1/2026#, '%2', '%3', '%4', '%5', '%6')")
+                             .arg(gün)
+                             .arg(grup, ürün, malzeme, miktar, fiyat));
+    }
+
+    // A catalogue with what real files hold: other prices than the catalogue's, rows that nothing tells apart, names
+    // that differ in letter case, rows without product or material, quantities that cannot be read.
+    void Doldur() {
+        m_veri->ElleOnayla();
+        std::mt19937 rastgele(20261123);
+        const auto sayı = [&](int en, int boy) { return std::uniform_int_distribution(en, boy)(rastgele); };
+        const auto fiyat = [&] { return QString("%1,%2").arg(sayı(0, 900)).arg(sayı(1, 9999), 4, 10, QChar('0')); };
+        QStringList fiyatlar;
+        for (int i = 0; i < 30; ++i) {
+            fiyatlar.append(fiyat());
+            MalzemeEkle(QString("Çıta %1").arg(i), fiyatlar.last());
+        }
+        for (int i = 0; i < 12; ++i) ÜrünEkle("IŞIK", QString("Ürün %1").arg(i), fiyat());
+        ÜrünEkle("ışık", "ürün 3", "1");  // the same as IŞIK, Ürün 3, and later in the file
+        const QString miktarlar[] = {"1 Adet", "2,5 Küçük Kutu", "0,3333 Metre", "1.250 m", "çok", "12.5 Adet"};
+        for (int i = 0; i < 400; ++i) {
+            const int malzeme = sayı(0, 31);
+            Kullan("Işık", QString("ÜRÜN %1").arg(sayı(0, 12)), QString("ÇITA %1").arg(malzeme), miktarlar[sayı(0, 5)],
+                   sayı(0, 3) == 0 ? QString::number(sayı(1, 3)) : fiyatlar.value(malzeme, "5"), sayı(1, 2));
+        }
+        m_veri->Onayla();
+    }
+
+    // What the main form shows for each product: group, name, total.
+    QStringList Toplamlar() {
+        QStringList sonuç;
+        for (const QStringList& ü : m_veri->Oku("SELECT UrunGrubu, UrunAdi FROM UrunTablosu ORDER BY UrunAdi")) {
+            if (ü[0] == "ışık") continue;
+            const QString koşul = QString("WHERE UrunGrubu= '%1' AND UrunAdi= '%2'").arg(ü[0], ü[1]);
+            MalzemeToplamı toplam;
+            for (const QStringList& k : m_veri->Oku("SELECT KullanilanMalzemeMiktari, KullanilanMalzemeFiyati FROM "
+                                                    "UrunMalzemeTablosu " +
+                                                    koşul))
+                toplam.Ekle(k[0], NoktayıVirgüleÇevir(k[1]), BASAMAK);
+            const QStringList y = m_veri
+                                      ->Oku(
+                                          "SELECT IscilikYuzdesi, KarYuzdesi, DigerVarnekYuzdesi, VadeFarkiYuzdesi "
+                                          "FROM UrunTablosu " +
+                                          koşul)
+                                      .first();
+            const auto kutu = [&y](int i) { return YüzdeMetni(y[i], BASAMAK); };
+            const MaliyetGirdisi girdi{SayıBiçimle(toplam.Tutar(), BASAMAK), kutu(0), kutu(1), kutu(2), kutu(3)};
+            sonuç += ü[1] + "=" + SayıBiçimle(MaliyetHesapla(girdi).Toplam, BASAMAK);
+        }
+        sonuç.sort();
+        return sonuç;
+    }
+
+    static QStringList PlanınToplamları(const FiyatPlanı& plan, Para PlanÜrünü::*alan) {
+        QStringList sonuç;
+        for (const PlanÜrünü& ü : plan.Ürünler()) sonuç += ü.Ad + "=" + SayıBiçimle(ü.*alan, BASAMAK);
+        sonuç.sort();
+        return sonuç;
+    }
+
+    FiyatPlanı ZamPlanı(Para yüzde) {
+        MalzemeKataloğu katalog;
+        EXPECT_TRUE(katalog.Oku(Bağ()).Tamam());
+        std::vector<FiyatÖnerisi> öneriler;
+        for (const KatalogMalzemesi& m : katalog.Malzemeler) {
+            const YeniFiyat yeni = FiyatıBelirle(m.Fiyat, KesinTutar(m.Fiyat).YüzdeEkle(yüzde), {});
+            öneriler.push_back({m.Ad, m.Fiyat, yeni.Fiyat, NedenBul(yeni.Durum)});
+        }
+        FiyatPlanı plan;
+        EXPECT_TRUE(plan.Kur(Bağ(), öneriler, BASAMAK).Tamam());
+        return plan;
+    }
+
+    FiyatPlanı DönüşPlanı(std::int64_t işlem, İşlemTürü tür) {
+        std::vector<FiyatÖnerisi> öneriler;
+        QStringList eksikler;
+        EXPECT_TRUE(GeriAlmaÖnerileri(Bağ(), işlem, tür, öneriler, eksikler).Tamam());
+        FiyatPlanı plan;
+        EXPECT_TRUE(plan.Kur(Bağ(), öneriler, BASAMAK).Tamam());
+        return plan;
+    }
+
+    UygulamaSonu Uygula(const FiyatPlanı& plan, İşlemTürü tür = İşlemTürü::Toplu, std::int64_t karşılığı = 0) {
+        return FiyatlarıUygula(Bağ(), plan, {tür, "Zam", karşılığı}, ZAMAN).Son;
+    }
+
+    // Catalogue and used rows, sorted: rows deleted and put in again come last in the file.
+    QStringList Fiyatlar() {
+        QStringList satırlar;
+        for (const QStringList& s : m_veri->Oku("SELECT MalzemeAdi, MalzemeFiyati FROM MalzemeTablosu"))
+            satırlar += s.join('|');
+        for (const QStringList& s : m_veri->Oku("SELECT * FROM UrunMalzemeTablosu")) satırlar += s.join('|');
+        satırlar.sort();
+        return satırlar;
+    }
+
+    std::unique_ptr<TestVerisi> m_veri;
+};
+
+// What stands in one of the lists only.
+QStringList Fark(QStringList a, QStringList b) {
+    const QStringList ilki = a;
+    for (const QString& satır : b) a.removeOne(satır);
+    for (const QString& satır : ilki) b.removeOne(satır);
+    return a + b;
+}
+
+}  // namespace
+
+TEST(FiyatKuralı, BirKezVeDoğrudanAdımaYuvarlar) {
+    struct Durum {
+        const char* Eski;
+        const char* Yüzde;
+        std::int64_t Adım;
+        YuvarlamaYönü Yön;
+        const char* Yeni;
+        FiyatDurumu Sonuç;
+    };
+    using enum FiyatDurumu;
+    constexpr auto yakın = YuvarlamaYönü::EnYakın;
+    const Durum durumlar[] = {
+        {"0,0968", "5", 0, yakın, "0,1016", Değişir},
+        {"0,0001", "50", 0, yakın, "0,0002", Değişir},  // 0,00015 and 0,00025: halves to even
+        {"0,0005", "-50", 0, yakın, "0,0002", Değişir},
+        {"10,00", "4,45", 1000, yakın, "10,40", Değişir},  // 10,445: not first to 10,45, then to 10,50
+        {"10,00", "4,5", 1000, yakın, "10,50", Değişir},   // halves away from zero
+        {"10,00", "0,01", 10000, YuvarlamaYönü::Yukarı, "11,00", Değişir},
+        {"10,00", "-0,01", 10000, YuvarlamaYönü::Aşağı, "9,00", Değişir},
+        {"10,30", "1", 10000, yakın, "10,30", TersineDöndü},  // 10,403 would become 10
+        {"10,00", "1", 10000, yakın, "10,00", TersineDöndü},  // no change though a rise was meant
+        {"10,00", "-96", 100000, YuvarlamaYönü::Aşağı, "10,00", SıfırYaDaAltı},
+        {"10,00", "-100", 0, yakın, "10,00", SıfırYaDaAltı},
+        {"1,00", "900,01", 0, yakın, "10,0001", Olağandışı},
+        {"922337203685477,00", "900000", 0, yakın, "922337203685477,00", ÇokBüyük},
+    };
+    for (const Durum& d : durumlar) {
+        SCOPED_TRACE(std::string(d.Eski) + " " + d.Yüzde + " " + std::to_string(d.Adım));
+        const Para eski = *ParaOku(QString(d.Eski));
+        const YeniFiyat y =
+            FiyatıBelirle(eski, KesinTutar(eski).YüzdeEkle(*ParaOku(QString(d.Yüzde))), {d.Adım, d.Yön});
+        EXPECT_EQ(y.Durum, d.Sonuç);
+        EXPECT_EQ(y.Fiyat, *ParaOku(QString(d.Yeni)));
+    }
+    // A price for a box of 1.000 with a discount: 96,83 × 0,88 ÷ 1000 = 0,0852104
+    const auto kutu = KesinTutar(*ParaOku(u"96,83")).YüzdeEkle(*ParaOku(u"-12"))->Böl(*ParaOku(u"1000"));
+    EXPECT_EQ(Yuvarla(*kutu, {}), ParaOku(u"0,0852"));
+}
+
+TEST_F(Fiyatİşlemi, PlanAnaFormlaBirdir) {
+    Doldur();
+    const QStringList önce = Toplamlar();
+    FiyatPlanı plan = ZamPlanı(*ParaOku(u"17,35"));
+    EXPECT_EQ(PlanınToplamları(plan, &PlanÜrünü::Önce), önce);
+    // Unticking and ticking again leaves no trace; the last material stays out.
+    for (std::uint32_t i = 0; i < plan.Malzemeler().size(); ++i) plan.İşaretle(i, false);
+    EXPECT_EQ(PlanınToplamları(plan, &PlanÜrünü::Sonra), önce);
+    EXPECT_EQ(plan.Özet().Ürün, 0);
+    for (std::uint32_t i = 0; i + 1 < plan.Malzemeler().size(); ++i) plan.İşaretle(i, true);
+    ASSERT_EQ(Uygula(plan), UygulamaSonu::Tamam);
+    EXPECT_EQ(Toplamlar(), PlanınToplamları(plan, &PlanÜrünü::Sonra));
+}
+
+TEST_F(Fiyatİşlemi, GeriAlmakVeYinelemekHerSatırıBulur) {
+    Doldur();
+    const QStringList önce = Fiyatlar();
+    ASSERT_EQ(Uygula(ZamPlanı(*ParaOku(u"10"))), UygulamaSonu::Tamam);
+    const QStringList sonra = Fiyatlar();
+    ASSERT_NE(sonra, önce);
+    ASSERT_EQ(Uygula(DönüşPlanı(1, İşlemTürü::GeriAlma), İşlemTürü::GeriAlma, 1), UygulamaSonu::Tamam);
+    EXPECT_EQ(Fark(Fiyatlar(), önce), QStringList());
+    std::vector<Deyimler::Fiyat::İşlem> işlemler;
+    ASSERT_TRUE(İşlemleriOku(Bağ(), işlemler).Tamam());
+    EXPECT_FALSE(GeriAlınacakİşlem(işlemler));
+    ASSERT_TRUE(YinelenecekİşlemiBul(işlemler));
+    ASSERT_EQ(Uygula(DönüşPlanı(1, İşlemTürü::Yineleme), İşlemTürü::Yineleme, 1), UygulamaSonu::Tamam);
+    EXPECT_EQ(Fark(Fiyatlar(), sonra), QStringList());
+    ASSERT_TRUE(İşlemleriOku(Bağ(), işlemler).Tamam());
+    EXPECT_TRUE(GeriAlınacakİşlem(işlemler));
+    EXPECT_FALSE(YinelenecekİşlemiBul(işlemler));
+
+    // What was changed since stays, unless it is ticked.
+    m_veri->Çalıştır("UPDATE MalzemeTablosu SET MalzemeFiyati= '77' WHERE MalzemeAdi= 'çıta 4'");
+    const FiyatPlanı plan = DönüşPlanı(1, İşlemTürü::GeriAlma);
+    for (const PlanMalzemesi& m : plan.Malzemeler())
+        EXPECT_EQ(m.Malzeme == "Çıta 4", m.Neden == PlanNedeni::SonradanDeğişmiş && !m.İşaretli)
+            << m.Malzeme.toStdString();
+    ASSERT_EQ(Uygula(plan, İşlemTürü::GeriAlma, 1), UygulamaSonu::Tamam);
+    EXPECT_EQ(m_veri->Tek("SELECT MalzemeFiyati FROM MalzemeTablosu WHERE MalzemeAdi= 'Çıta 4'"), "77");
+}
+
+// Whatever another client did since the plan was made, nothing is written.
+TEST_F(Fiyatİşlemi, DeğişenVeriyeYazılmaz) {
+    Doldur();
+    const QString değişimler[] = {
+        "UPDATE MalzemeTablosu SET MalzemeFiyati= '3' WHERE MalzemeAdi= 'Çıta 29'",
+        "UPDATE UrunMalzemeTablosu SET KullanilanMalzemeFiyati= '123' WHERE KullanilanMalzemeAdi= 'Çıta 29'",
+        "DELETE FROM UrunMalzemeTablosu WHERE KullanilanMalzemeAdi= 'Çıta 29'",
+        "DELETE FROM MalzemeTablosu WHERE MalzemeAdi= 'Çıta 29'",
+    };
+    for (const QString& değişim : değişimler) {
+        SCOPED_TRACE(değişim.toStdString());
+        const FiyatPlanı plan = ZamPlanı(*ParaOku(u"10"));
+        TestVerisi(VeriDosyası()).Çalıştır(değişim);
+        const QStringList önce = Fiyatlar();
+        EXPECT_EQ(Uygula(plan), UygulamaSonu::Değişmiş);
+        EXPECT_EQ(Fark(Fiyatlar(), önce), QStringList());
+        // The connection writes each statement at once again.
+        m_veri->Çalıştır("UPDATE UrunTablosu SET KarYuzdesi= '1' WHERE UrunAdi= 'Ürün 1' AND UrunGrubu= 'IŞIK'");
+        EXPECT_EQ(TestVerisi(VeriDosyası())
+                      .Tek("SELECT KarYuzdesi FROM UrunTablosu WHERE UrunAdi= 'Ürün 1' AND "
+                           "UrunGrubu= 'IŞIK'"),
+                  "1");
+    }
+    const QStringList önce = Fiyatlar();
+    const UygulamaSonucu bırakılan =
+        FiyatlarıUygula(Bağ(), ZamPlanı(*ParaOku(u"10")), {}, ZAMAN, [](std::int64_t biten) { return biten < 12; });
+    EXPECT_EQ(bırakılan.Son, UygulamaSonu::Vazgeçildi);
+    EXPECT_EQ(Fark(Fiyatlar(), önce), QStringList());
+}
+
+TEST_F(Fiyatİşlemi, ÖldürülenYarımBırakmaz) {
+    Doldur();
+    const FiyatPlanı plan = ZamPlanı(*ParaOku(u"10"));
+    const QStringList önce = Fiyatlar();
+    m_veri.reset();
+    int öncekiler = 0;
+    for (int tur = 1; tur < 40; tur += 3) {  // the last ones are killed after the commit
+        const pid_t çocuk = fork();
+        if (çocuk == 0) {
+            TestVerisi veri(VeriDosyası());
+            static_cast<void>(FiyatlarıUygula(veri.Bağlantı(), plan, {}, ZAMAN, [tur](std::int64_t biten) {
+                if (biten == tur) kill(getpid(), SIGKILL);
+                return true;
+            }));
+            kill(getpid(), SIGKILL);
+        }
+        int durum = 0;
+        waitpid(çocuk, &durum, 0);
+        m_veri = std::make_unique<TestVerisi>(VeriDosyası());
+        const bool yazıldı = Fiyatlar() != önce;
+        bool var = false;
+        ASSERT_TRUE(FiyatTablolarıVar(Bağ(), var).Tamam());
+        ASSERT_EQ(var, yazıldı) << "a record without prices, or prices without a record";
+        if (yazıldı) {
+            ASSERT_EQ(Uygula(DönüşPlanı(1, İşlemTürü::GeriAlma), İşlemTürü::GeriAlma, 1), UygulamaSonu::Tamam);
+            ASSERT_EQ(Fark(Fiyatlar(), önce), QStringList());
+            break;
+        }
+        ++öncekiler;
+        m_veri.reset();
+    }
+    EXPECT_GT(öncekiler, 0);
+}
