@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QTableView>
+
+#include "TabloModeli.h"
+
+// A long list: one row is marked at a time, Space ticks it, a click on a caption sorts, Ctrl+C copies the marked row
+// and, with Shift, all shown ones; Tab leaves the list.
+class Tablo : public QTableView {
+  public:
+    // `model` belongs to the caller and outlives the table.
+    Tablo(const QString& ad, TabloModeli& model, QWidget* sahip = nullptr);
+
+    // The marked row's number in the source.
+    std::optional<std::size_t> SeçiliSatır() const;
+
+    // Wide enough for all columns.
+    QSize sizeHint() const override;
+
+    // All shown rows, tab between cells, with the captions.
+    QString GörünenlerinMetni() const;
+
+  protected:
+    void keyPressEvent(QKeyEvent* olay) override;
+    void focusInEvent(QFocusEvent* olay) override;
+    int sizeHintForColumn(int sütun) const override;
+
+  private:
+    QString SatırMetni(int satır) const;
+
+    TabloModeli& m_model;
+};
