@@ -35,6 +35,7 @@ class SessizAnaForm : public AnaFormErişimi {
     void DüğümüSeç(std::int32_t) override {}
     std::optional<Ürün> SeçiliÜrün() const override { return Ürün{u"ÖLÇÜM"_s, u"Ölçüm Ürünü"_s}; }
     QStringList KullanılanMalzemeAdları() const override { return {}; }
+    void FiyatGeçmişiniGöster(const QString&, QWidget*) override {}
     void MalzemeTablosuYükle() override {}
 };
 

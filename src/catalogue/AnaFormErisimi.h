@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <optional>
 
+class QWidget;
+
 // What the catalogue forms need of the main form. The main form supplies it; a test may supply its own.
 class AnaFormErişimi {
   public:
@@ -31,6 +33,9 @@ class AnaFormErişimi {
 
     // Names in the selected product's list of used materials, as shown.
     virtual QStringList KullanılanMalzemeAdları() const = 0;
+
+    // Shows the recorded prices of a material, over `sahip`.
+    virtual void FiyatGeçmişiniGöster(const QString& malzeme, QWidget* sahip) = 0;
 
     // Reloads the selected product's used materials and percentages and recomputes its cost.
     virtual void MalzemeTablosuYükle() = 0;

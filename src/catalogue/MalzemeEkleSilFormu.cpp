@@ -8,11 +8,13 @@
 #include "AnaFormErisimi.h"
 #include "DegiskenModulu.h"
 #include "Deyimler.h"
+#include "ElleDegisim.h"
 #include "GirisKutusu.h"
 #include "MesajKutusu.h"
 #include "FormParcalari.h"
 #include "MetinTablosu.h"
 #include "KatalogListesi.h"
+#include "Saat.h"
 #include "SayiKutusu.h"
 #include "SayiMetni.h"
 #include "Yukleyiciler.h"
@@ -50,6 +52,8 @@ void MalzemeEkleSilFormu::KontrolleriKur() {
     m_fiyatDeğiştir =
         RolDeğiştirenDüğme(QStringLiteral("MalzemeFiyatıDeğiştirButonu"), {MetinNo::FiyatDeğiştir, MetinNo::Kaydet},
                            [this] { MalzemeFiyatıDeğiştirButonu_Click(); });
+    m_geçmiş =
+        DüğmeOluştur(QStringLiteral("FiyatGeçmişiButonu"), MetinNo::FiyatGeçmişiDüğmesi, [this] { GeçmişiGöster(); });
     m_kapatİptal = RolDeğiştirenDüğme(QStringLiteral("KapatİptalButonu"), {MetinNo::Kapat, MetinNo::İptal},
                                       [this] { KapatİptalButonu_Click(); });
 }
@@ -71,7 +75,7 @@ void MalzemeEkleSilFormu::Yerleştir() {
     sağ->addWidget(m_çerçeve);
     sağ->addLayout(DüğmeSırası({m_ekleKaydet, m_sil, m_fiyatDeğiştir}));
     sağ->addStretch();
-    sağ->addWidget(m_kapatİptal, 0, Qt::AlignRight);
+    sağ->addLayout(DüğmeSırası({m_geçmiş, nullptr, m_kapatİptal}));
 
     auto* düzen = new QHBoxLayout(FormAltlığı(this));
     düzen->addLayout(sol, 1);
@@ -96,6 +100,7 @@ void MalzemeEkleSilFormu::ListeyiEtkinleştir(bool etkin) {
     m_bul->setEnabled(etkin);
     m_sil->setEnabled(etkin);
     m_fiyatDeğiştir->setEnabled(etkin);
+    m_geçmiş->setEnabled(etkin);
 }
 
 void MalzemeEkleSilFormu::SatırıSeç(int satır) {
@@ -153,6 +158,7 @@ void MalzemeEkleSilFormu::FiyatKipineGeç() {
     m_ad->setEnabled(false);
     m_ekleKaydet->setEnabled(false);
     m_sil->setEnabled(false);
+    m_geçmiş->setEnabled(false);
     m_fiyatDeğiştir->setText(Metin(MetinNo::Kaydet));
     m_kapatİptal->setText(Metin(MetinNo::İptal));
     m_fiyat->setFocus();
@@ -165,6 +171,7 @@ void MalzemeEkleSilFormu::FiyattanDön() {
     m_ad->setEnabled(true);
     m_ekleKaydet->setEnabled(true);
     m_sil->setEnabled(true);
+    m_geçmiş->setEnabled(true);
     m_fiyatDeğiştir->setText(Metin(MetinNo::FiyatDeğiştir));
     m_kapatİptal->setText(Metin(MetinNo::Kapat));
 }
@@ -241,6 +248,14 @@ void MalzemeEkleSilFormu::SeçiliÜrünüYenile() {
     if (SeçiliÜrünSırası >= 0) m_anaForm.DüğümüSeç(SeçiliÜrünSırası);
 }
 
+void MalzemeEkleSilFormu::GeçmişiGöster() {
+    const QListWidgetItem* seçili = m_liste->SeçiliÖğe();
+    if (seçili)
+        m_anaForm.FiyatGeçmişiniGöster(seçili->text(), this);
+    else
+        Uyar(MetinNo::MalzemeSeçiniz, *m_liste);
+}
+
 void MalzemeEkleSilFormu::MalzemeFiyatıDeğiştirButonu_Click() {
     if (GeçerliKip() == Kip::Gözatma) {
         FiyatDeğişimineBaşla();
@@ -265,10 +280,24 @@ void MalzemeEkleSilFormu::FiyatDeğişimineBaşla() {
 void MalzemeEkleSilFormu::FiyatıKaydet() {
     const QString ad = m_liste->SeçiliÖğe()->text();
     const QString fiyat = m_fiyat->text();
+    ElleDeğişim kayıt(ODBCBağlantısı());
+    kayıt.Hazırla(ad, ParaOku(fiyat).value_or(Para()));
+    ElleDeğişim::Yazılan yazılan;
     // The second statement runs whatever became of the first.
-    const bool katalogda = DeyimiYürüt(Deyimler::FiyatDeğiştir(ad, fiyat));
-    const bool ürünlerde = DeyimiYürüt(Deyimler::ÜrünlerdeFiyatDeğiştir(ad, fiyat));
-    if (katalogda != ürünlerde) YarımKaldı(katalogda ? MetinNo::FiyatÜrünlerdeEski : MetinNo::FiyatKatalogdaEski);
+    const auto deyimler = [&] {
+        yazılan.Katalogda = DeyimiYürüt(Deyimler::FiyatDeğiştir(ad, fiyat));
+        yazılan.Ürünlerde = DeyimiYürüt(Deyimler::ÜrünlerdeFiyatDeğiştir(ad, fiyat));
+        return yazılan;
+    };
+    OdbcSonucu hata;
+    const ElleDeğişim::Son son = kayıt.Yürüt(deyimler, Metin(MetinNo::ElleAçıklaması), ŞimdikiZaman(), hata);
+    if (!hata.Başarılı()) HatalarıGöster(OdbcİletileriniAl(hata.Hatalar));
+    if (son != ElleDeğişim::Son::Yazılamadı && yazılan.Katalogda != yazılan.Ürünlerde)
+        YarımKaldı(yazılan.Katalogda ? MetinNo::FiyatÜrünlerdeEski : MetinNo::FiyatKatalogdaEski);
+    if (son == ElleDeğişim::Son::Kaydedilemedi) {
+        MesajKutusuOrtala();
+        MesajKutusu::Göster(Simge::Ünlem, Düğmeler::Tamam, Metin(MetinNo::GeçmişeYazılamadı));
+    }
     SeçiliÜrünüYenile();
     FiyattanDön();
     SeçileniGöster();

@@ -49,6 +49,7 @@ class MalzemeEkleSilFormu : public QDialog {
     void FiyatDeğişimineBaşla();
     void FiyatıKaydet();
     void SeçiliÜrünüYenile();
+    void GeçmişiGöster();
     bool GirilenlerUygun();
 
     AnaFormErişimi& m_anaForm;
@@ -60,5 +61,6 @@ class MalzemeEkleSilFormu : public QDialog {
     KomutDüğmesi* m_ekleKaydet;
     KomutDüğmesi* m_sil;
     KomutDüğmesi* m_fiyatDeğiştir;
+    KomutDüğmesi* m_geçmiş;
     KomutDüğmesi* m_kapatİptal;
 };

@@ -72,6 +72,7 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void DüğümüSeç(std::int32_t sıra) override;
     std::optional<Ürün> SeçiliÜrün() const override;
     QStringList KullanılanMalzemeAdları() const override;
+    void FiyatGeçmişiniGöster(const QString& malzeme, QWidget* sahip) override;
 
     void ÜrünEkleSil();
     void İlkÜrünüEkle();
@@ -80,6 +81,10 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void ListedenMalzemeSil();
     void DeğişiklikleriKaydet();
     void MiktarlarıGöster();
+
+    void FiyatMenüsünüKur();
+    void ToplucaFiyatDeğiştir();
+    void FiyatlarDeğişti();
 
     void RaporKomutlarınıKur();
     void YazdırmayaİzinVer(bool izin);

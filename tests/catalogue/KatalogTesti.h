@@ -10,6 +10,7 @@ class SahteAnaForm : public AnaFormErişimi {
     void DüğümüSeç(std::int32_t sıra) override { Çağrılar += QStringLiteral("seç %1").arg(sıra); }
     std::optional<Ürün> SeçiliÜrün() const override { return Ürün{"MASA", "Sehpa"}; }
     QStringList KullanılanMalzemeAdları() const override { return {"KERESTE"}; }
+    void FiyatGeçmişiniGöster(const QString&, QWidget*) override {}
     void MalzemeTablosuYükle() override { Çağrılar += "yükle"; }
 
     QString Çağrılar;

@@ -1,0 +1,60 @@
+// The main form's menu of prices, and what the price forms change on the form.
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "AnaForm.h"
+#include "FiyatGecmisiFormu.h"
+#include "FiyatIsi.h"
+#include "MesajKutusu.h"
+#include "MetinTablosu.h"
+#include "TopluFiyatFormu.h"
+#include "UrunAgaci.h"
+
+void AnaForm::FiyatMenüsünüKur() {
+    QMenu* menü = menuBar()->addMenu(Metin(MetinNo::FiyatlarMenüsü));
+    menü->setObjectName(QStringLiteral("FiyatlarMenüsü"));
+    const auto girişEkle = [this, menü](const QString& ad, MetinNo metin, std::function<void()> iş) {
+        menü->addAction(KomutOluştur(ad, metin, std::move(iş)));
+    };
+    const auto değişirse = [this](bool (*iş)(QWidget*)) {
+        return [this, iş] {
+            if (iş(this)) FiyatlarDeğişti();
+        };
+    };
+    girişEkle(QStringLiteral("TopluFiyatMenüsü"), MetinNo::TopluFiyatMenüsü, [this] { ToplucaFiyatDeğiştir(); });
+    girişEkle(QStringLiteral("FiyatGeçmişiMenüsü"), MetinNo::FiyatGeçmişiMenüsü, [this] {
+        FiyatGeçmişiFormu form(true, this);
+        if (form.Yükle()) form.exec();
+        if (form.Uygulandı()) FiyatlarDeğişti();
+    });
+    menü->addSeparator()->setObjectName(QStringLiteral("MenüÇizgisi4"));
+    girişEkle(QStringLiteral("GeriAlMenüsü"), MetinNo::GeriAlMenüsü, değişirse(SonİşlemiGeriAl));
+    girişEkle(QStringLiteral("YineleMenüsü"), MetinNo::YineleMenüsü, değişirse(SonGeriAlınanıYinele));
+}
+
+void AnaForm::ToplucaFiyatDeğiştir() {
+    TopluFiyatFormu form(this);
+    if (!form.Yükle()) return;
+    if (form.Boş()) {
+        MesajKutusuOrtala();
+        MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam,
+                            Metin(MetinNo::MalzemeListesiBoşFiyat));
+        return;
+    }
+    form.exec();
+    if (form.Uygulandı()) FiyatlarDeğişti();
+}
+
+// As after a price that was changed in the material's form.
+void AnaForm::FiyatlarDeğişti() {
+    const std::int32_t sıra = m_ağaç->SeçiliSıra();
+    if (sıra >= 0) DüğümüSeç(sıra);
+}
+
+// From the material form: for looking only.
+void AnaForm::FiyatGeçmişiniGöster(const QString& malzeme, QWidget* sahip) {
+    FiyatGeçmişiFormu form(false, sahip);
+    if (form.Yükle(malzeme)) form.exec();
+}

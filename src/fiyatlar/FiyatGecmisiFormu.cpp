@@ -1,0 +1,279 @@
+#include "FiyatGecmisiFormu.h"
+
+#include <QDateTime>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QSplitter>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "BasamakGrafigi.h"
+#include "FiyatMetinleri.h"
+#include "FormParcalari.h"
+#include "GeriAlma.h"
+#include "GirisKutusu.h"
+#include "MetinTablosu.h"
+#include "OdbcModulu.h"
+#include "Tablo.h"
+#include "TurkceSira.h"
+
+namespace {
+
+enum Sütunlar { GMalzeme, GZaman, GEski, GYeni, GFark, GYüzde, GTür, GAçıklama, GDurum };
+
+const QList<TabloSütunu> MALZEME_SÜTUNLARI{{MetinNo::MalzemeSütunu, 20}, {MetinNo::FiyatıSütunu, 9, true}};
+const QList<TabloSütunu> GEÇMİŞ_SÜTUNLARI{
+    {MetinNo::MalzemeSütunu, 20},         {MetinNo::ZamanSütunu, 14},      {MetinNo::EskiFiyatSütunu, 11, true},
+    {MetinNo::YeniFiyatSütunu, 11, true}, {MetinNo::FarkSütunu, 10, true}, {MetinNo::YüzdeSütunu, 8, true},
+    {MetinNo::İşlemSütunu, 14},           {MetinNo::AçıklamaSütunu, 26},   {MetinNo::DurumSütunu, 12}};
+
+constexpr std::size_t EN_ÇOK_KAYIT = 10'000;
+
+QDateTime ZamanOku(const QString& zaman) {
+    return QDateTime::fromString(zaman, QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+}
+
+}  // namespace
+
+class FiyatGeçmişiFormu::MalzemeKaynağı : public TabloKaynağı {
+  public:
+    std::vector<KatalogMalzemesi> Malzemeler;
+    std::vector<bool> İşaretliler;
+
+    std::size_t SatırSayısı() const override { return Malzemeler.size(); }
+    QString Hücre(std::size_t satır, int sütun) const override {
+        return sütun == 0 ? Malzemeler[satır].Ad : FiyatMetni(Malzemeler[satır].Fiyat);
+    }
+    int Karşılaştır(std::size_t a, std::size_t b, int sütun) const override {
+        if (sütun == 0) return TabloKaynağı::Karşılaştır(a, b, sütun);
+        return Malzemeler[a].Fiyat < Malzemeler[b].Fiyat ? -1 : Malzemeler[b].Fiyat < Malzemeler[a].Fiyat ? 1 : 0;
+    }
+    std::optional<bool> İşaret(std::size_t satır) const override { return İşaretliler[satır]; }
+    void İşaretle(std::size_t satır, bool işaretli) override { İşaretliler[satır] = işaretli; }
+};
+
+class FiyatGeçmişiFormu::GeçmişKaynağı : public TabloKaynağı {
+  public:
+    struct Satır {
+        Deyimler::Fiyat::Değişim Değişim;  // operation 0: a price that no operation wrote
+        const Deyimler::Fiyat::İşlem* İşlem = nullptr;
+    };
+    std::vector<Satır> Satırlar;
+
+    std::size_t SatırSayısı() const override { return Satırlar.size(); }
+    QString Hücre(std::size_t satır, int sütun) const override {
+        const auto& [d, işlem] = Satırlar[satır];
+        switch (sütun) {
+            case GMalzeme:
+                return d.Malzeme;
+            case GZaman:
+                return işlem ? ZamanOku(işlem->Zaman).toString(QStringLiteral("dd.MM.yyyy HH:mm")) : QString();
+            case GEski:
+                return d.Malzemenin == Deyimler::Fiyat::Varlık::Eklendi ? QString() : FiyatMetni(d.Eski);
+            case GYeni:
+                return d.Malzemenin == Deyimler::Fiyat::Varlık::Silindi ? QString() : FiyatMetni(d.Yeni);
+            case GFark:
+                return d.Malzemenin == Deyimler::Fiyat::Varlık::Aynı ? FiyatFarkı(d.Eski, d.Yeni) : QString();
+            case GYüzde:
+                return d.Malzemenin == Deyimler::Fiyat::Varlık::Aynı ? YüzdeFarkı(d.Eski, d.Yeni) : QString();
+            case GTür:
+                return işlem ? TürMetni(işlem->Tür) : Metin(MetinNo::KayıtDışı);
+            case GAçıklama:
+                return işlem ? işlem->Açıklama : QString();
+            default:
+                return işlem && işlem->GeriAlan != 0 ? Metin(MetinNo::GeriAlındı) : QString();
+        }
+    }
+    int Karşılaştır(std::size_t a, std::size_t b, int sütun) const override {
+        const auto sırala = [](const auto& x, const auto& y) { return x < y ? -1 : y < x ? 1 : 0; };
+        const Deyimler::Fiyat::Değişim& x = Satırlar[a].Değişim;
+        const Deyimler::Fiyat::Değişim& y = Satırlar[b].Değişim;
+        switch (sütun) {
+            case GZaman:
+                return sırala(x.İşlem, y.İşlem);  // the numbers alone give the order
+            case GEski:
+                return sırala(x.Eski, y.Eski);
+            case GYeni:
+                return sırala(x.Yeni, y.Yeni);
+            case GFark:
+            case GYüzde: {
+                const double fark = (x.Yeni.Double() - x.Eski.Double()) / (sütun == GFark ? 1 : x.Eski.Double());
+                const double öbür = (y.Yeni.Double() - y.Eski.Double()) / (sütun == GFark ? 1 : y.Eski.Double());
+                return sırala(fark, öbür);
+            }
+            default:
+                return TabloKaynağı::Karşılaştır(a, b, sütun);
+        }
+    }
+    QString Açıklama(std::size_t satır) const override { return Hücre(satır, GAçıklama); }
+};
+
+FiyatGeçmişiFormu::FiyatGeçmişiFormu(bool geriAlınır, QWidget* sahip)
+    : QDialog(sahip),
+      m_malzemeler(std::make_unique<MalzemeKaynağı>()),
+      m_geçmiş(std::make_unique<GeçmişKaynağı>()),
+      m_malzemeModeli(std::make_unique<TabloModeli>(*m_malzemeler, MALZEME_SÜTUNLARI)),
+      m_geçmişModeli(std::make_unique<TabloModeli>(*m_geçmiş, GEÇMİŞ_SÜTUNLARI)) {
+    setObjectName(QStringLiteral("FiyatGeçmişiFormu"));
+    setWindowTitle(Metin(MetinNo::FiyatGeçmişiBaşlığı));
+    KontrolleriKur();
+    m_geriAl->setVisible(geriAlınır);
+    Yerleştir();
+}
+
+FiyatGeçmişiFormu::~FiyatGeçmişiFormu() {
+    // The views go before the models that they show.
+    delete m_malzemeTablosu;
+    delete m_geçmişTablosu;
+}
+
+void FiyatGeçmişiFormu::KontrolleriKur() {
+    m_süz = new GirişKutusu;
+    m_süz->setObjectName(QStringLiteral("MalzemeSüzKutusu"));
+    connect(m_süz, &QLineEdit::textChanged, this, [this](const QString& metin) {
+        const QString aranan = metin.simplified();
+        m_malzemeModeli->Süz(
+            [this, aranan](std::size_t satır) { return Türkçe::İçerir(m_malzemeler->Malzemeler[satır].Ad, aranan); });
+    });
+    m_malzemeTablosu = new Tablo(QStringLiteral("MalzemeTablosu"), *m_malzemeModeli);
+    m_malzemeModeli->İşaretlenince([this] { GeçmişiOku(); });
+    m_geçmişTablosu = new Tablo(QStringLiteral("GeçmişTablosu"), *m_geçmişModeli);
+    connect(m_geçmişTablosu->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { DüğmeyiAyarla(); });
+    m_grafik = new BasamakGrafiği(QStringLiteral("GeçmişGrafiği"), Metin(MetinNo::GrafikBoş));
+    m_grafik->setAccessibleName(Metin(MetinNo::GrafikEtiketi));
+    m_not = new QLabel;
+    m_not->setObjectName(QStringLiteral("NotEtiketi"));
+    m_geriAl = DüğmeOluştur(QStringLiteral("GeriAlButonu"), MetinNo::İşlemiGeriAl, [this] { GeriAl(); });
+}
+
+void FiyatGeçmişiFormu::Yerleştir() {
+    auto* sol = new QWidget;
+    auto* solDüzen = new QVBoxLayout(sol);
+    solDüzen->setContentsMargins(0, 0, 0, 0);
+    solDüzen->addWidget(VurgulananEtiket(1, MetinNo::MalzemeSüz, m_süz));
+    solDüzen->addWidget(m_süz);
+    solDüzen->addWidget(VurgulananEtiket(2, MetinNo::MalzemelerEtiketi, m_malzemeTablosu));
+    solDüzen->addWidget(m_malzemeTablosu, 1);
+    auto* alt = new QWidget;
+    auto* altDüzen = new QVBoxLayout(alt);
+    altDüzen->setContentsMargins(0, 0, 0, 0);
+    altDüzen->addWidget(VurgulananEtiket(3, MetinNo::DeğişimlerEtiketi, m_geçmişTablosu));
+    altDüzen->addWidget(m_geçmişTablosu, 1);
+    altDüzen->addWidget(m_not);
+    auto* sağ = new QSplitter(Qt::Vertical);
+    sağ->setObjectName(QStringLiteral("SağBölen"));
+    sağ->setChildrenCollapsible(false);
+    sağ->addWidget(m_grafik);
+    sağ->addWidget(alt);
+    auto* bölen = new QSplitter(Qt::Horizontal);
+    bölen->setObjectName(QStringLiteral("Bölen"));
+    bölen->setChildrenCollapsible(false);
+    bölen->addWidget(sol);
+    bölen->addWidget(sağ);
+    bölen->setStretchFactor(1, 1);
+    const int solGenişlik = m_malzemeTablosu->sizeHint().width();
+    bölen->setSizes({solGenişlik, 1040 - solGenişlik});
+    auto* kapat = DüğmeOluştur(QStringLiteral("KapatButonu"), MetinNo::Kapat, [this] { reject(); });
+    auto* düzen = new QVBoxLayout(this);
+    düzen->addWidget(bölen, 1);
+    düzen->addLayout(DüğmeSırası({m_geriAl, nullptr, kapat}));
+    m_malzemeTablosu->setFocus();
+    resize(1040, 620);
+}
+
+bool FiyatGeçmişiFormu::Yükle(const QString& malzeme) {
+    MalzemeKataloğu katalog;
+    İşSonucu sonuç = katalog.Oku(ODBCBağlantısı());
+    if (sonuç.Tamam()) sonuç = İşlemleriOku(ODBCBağlantısı(), m_işlemler);
+    if (!sonuç.Tamam()) {
+        İşSonucunuGöster(sonuç);
+        return false;
+    }
+    m_işlemYerleri.clear();
+    for (std::size_t i = 0; i < m_işlemler.size(); ++i) m_işlemYerleri[m_işlemler[i].No] = i;
+    const std::uint32_t seçilen = malzeme.isEmpty() ? AdDizini::YOK : katalog.Dizin.Bul(malzeme.toStdString());
+    m_malzemeler->İşaretliler.assign(katalog.Malzemeler.size(), false);
+    if (seçilen != AdDizini::YOK) m_malzemeler->İşaretliler[seçilen] = true;
+    m_malzemeler->Malzemeler = std::move(katalog.Malzemeler);
+    m_malzemeModeli->Yenile();
+    if (seçilen != AdDizini::YOK) {
+        m_malzemeTablosu->setCurrentIndex(m_malzemeModeli->index(static_cast<int>(seçilen), 0));
+        m_malzemeTablosu->scrollTo(m_malzemeTablosu->currentIndex());
+    }
+    GeçmişiOku();
+    return true;
+}
+
+void FiyatGeçmişiFormu::GeçmişiOku() {
+    m_geçmiş->Satırlar.clear();
+    m_fazlaVar = false;
+    İşSonucu sonuç;
+    const auto ekle = [this](const std::vector<Deyimler::Fiyat::Değişim>& değişimler) {
+        for (const auto& değişim : değişimler) {
+            const auto yer = m_işlemYerleri.find(değişim.İşlem);
+            m_geçmiş->Satırlar.push_back({değişim, yer == m_işlemYerleri.end() ? nullptr : &m_işlemler[yer->second]});
+        }
+    };
+    bool seçiliVar = false;
+    std::vector<Deyimler::Fiyat::Değişim> değişimler;
+    for (std::size_t i = 0; i < m_malzemeler->Malzemeler.size() && sonuç.Tamam(); ++i) {
+        if (!m_malzemeler->İşaretliler[i]) continue;
+        seçiliVar = true;
+        const KatalogMalzemesi& malzeme = m_malzemeler->Malzemeler[i];
+        if (!Deyimler::Yazılabilir(malzeme.Ad)) continue;
+        sonuç = DeğişimleriOku(ODBCBağlantısı(), Deyimler::Fiyat::MalzemeninDeğişimleri(malzeme.Ad), değişimler,
+                               EN_ÇOK_KAYIT, m_fazlaVar);
+        // A price that no operation wrote: another program, or the time before the records.
+        if (!değişimler.empty() && değişimler.front().Yeni != malzeme.Fiyat)
+            m_geçmiş->Satırlar.push_back({{0, malzeme.Ad, değişimler.front().Yeni, malzeme.Fiyat}, nullptr});
+        ekle(değişimler);
+    }
+    if (!seçiliVar && sonuç.Tamam()) {
+        sonuç = DeğişimleriOku(ODBCBağlantısı(), Deyimler::Fiyat::Değişimler(), değişimler, EN_ÇOK_KAYIT, m_fazlaVar);
+        ekle(değişimler);
+    }
+    m_geçmişModeli->Yenile();
+    m_not->setText(m_fazlaVar ? Metin(MetinNo::YalnızSonKayıtlar).arg(EN_ÇOK_KAYIT) : QString());
+    m_not->setVisible(m_fazlaVar);
+    GrafiğiGöster();
+    DüğmeyiAyarla();
+    İşSonucunuGöster(sonuç);
+}
+
+void FiyatGeçmişiFormu::GrafiğiGöster() {
+    QList<BasamakDizisi> diziler;
+    const QDateTime şimdi = QDateTime::currentDateTime();
+    for (std::size_t i = 0; i < m_malzemeler->Malzemeler.size(); ++i) {
+        if (!m_malzemeler->İşaretliler[i]) continue;
+        BasamakDizisi dizi{m_malzemeler->Malzemeler[i].Ad, m_malzemeler->Malzemeler[i].Fiyat.Double(), {}};
+        for (auto satır = m_geçmiş->Satırlar.rbegin(); satır != m_geçmiş->Satırlar.rend(); ++satır) {
+            if (Türkçe::Karşılaştır(QStringView(satır->Değişim.Malzeme), QStringView(dizi.Ad)) != 0) continue;
+            if (dizi.Noktalar.isEmpty()) dizi.İlkDeğer = satır->Değişim.Eski.Double();
+            QDateTime zaman = satır->İşlem ? ZamanOku(satır->İşlem->Zaman) : şimdi;
+            // A clock that was set back: the order of the operations holds.
+            if (!dizi.Noktalar.isEmpty()) zaman = std::max(zaman, dizi.Noktalar.last().Zaman);
+            dizi.Noktalar.append({zaman, satır->Değişim.Yeni.Double()});
+        }
+        diziler.append(dizi);
+    }
+    m_grafik->Göster(diziler, şimdi);
+}
+
+const Deyimler::Fiyat::İşlem* FiyatGeçmişiFormu::Seçiliİşlem() const {
+    const std::optional<std::size_t> satır = m_geçmişTablosu->SeçiliSatır();
+    return satır ? m_geçmiş->Satırlar[*satır].İşlem : nullptr;
+}
+
+void FiyatGeçmişiFormu::DüğmeyiAyarla() {
+    const Deyimler::Fiyat::İşlem* işlem = Seçiliİşlem();
+    m_geriAl->setEnabled(işlem && Kendiİşlemi(*işlem) && işlem->GeriAlan == 0);
+}
+
+void FiyatGeçmişiFormu::GeriAl() {
+    const Deyimler::Fiyat::İşlem* işlem = Seçiliİşlem();
+    if (!işlem || !İşlemiGeriAl(Deyimler::Fiyat::İşlem(*işlem), this)) return;
+    m_uygulandı = true;
+    static_cast<void>(Yükle());
+}

@@ -1,0 +1,76 @@
+#include "FiyatIsi.h"
+
+#include <QWidget>
+
+#include "DegiskenModulu.h"
+#include "FiyatMetinleri.h"
+#include "FiyatOnizlemeFormu.h"
+#include "GeriAlma.h"
+#include "IlerlemeKutusu.h"
+#include "MesajKutusu.h"
+#include "MetinTablosu.h"
+#include "OdbcModulu.h"
+
+namespace {
+
+using Deyimler::Fiyat::İşlem;
+
+void Bildir(MetinNo metin) {
+    MesajKutusuOrtala();
+    MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(metin));
+}
+
+bool GeriAlYaDaYinele(const İşlem& işlem, İşlemTürü tür, QWidget* sahip) {
+    const MetinNo açıklama = tür == İşlemTürü::GeriAlma ? MetinNo::GeriAlmaAçıklaması : MetinNo::YinelemeAçıklaması;
+    const Fiyatİşi iş{
+        {tür, Metin(açıklama).arg(işlem.No).arg(işlem.Açıklama), işlem.No},
+        [no = işlem.No, tür](std::vector<FiyatÖnerisi>& öneriler, QStringList& notlar) {
+            QStringList eksikler;
+            İşSonucu sonuç = GeriAlmaÖnerileri(ODBCBağlantısı(), no, tür, öneriler, eksikler);
+            if (!eksikler.isEmpty())
+                notlar.append(Metin(MetinNo::KatalogdaOlmayanlar).arg(eksikler.join(QStringLiteral(", "))));
+            return sonuç;
+        }};
+    return FiyatİşiniYürüt(iş, sahip);
+}
+
+bool SonuncuyuYürüt(std::optional<İşlem> (*bul)(const std::vector<İşlem>&), İşlemTürü tür, MetinNo yok,
+                    QWidget* sahip) {
+    std::vector<İşlem> işlemler;
+    const İşSonucu sonuç = İşlemleriOku(ODBCBağlantısı(), işlemler);
+    if (!sonuç.Tamam()) {
+        İşSonucunuGöster(sonuç);
+        return false;
+    }
+    const std::optional<İşlem> işlem = bul(işlemler);
+    if (!işlem) {
+        Bildir(yok);
+        return false;
+    }
+    return GeriAlYaDaYinele(*işlem, tür, sahip);
+}
+
+}  // namespace
+
+void İşSonucunuGöster(const İşSonucu& sonuç) {
+    if (sonuç.Son != İşSonu::Olmadı) return;
+    const QStringList iletiler = OdbcİletileriniAl(sonuç.Odbc.Hatalar);
+    HatalarıGöster(iletiler.isEmpty() ? QStringList{QString()} : iletiler);
+}
+
+bool FiyatİşiniYürüt(const Fiyatİşi& iş, QWidget* sahip) {
+    FiyatÖnizlemeFormu form(iş, sahip);
+    return form.PlanıKur() && form.exec() == QDialog::Accepted;
+}
+
+bool İşlemiGeriAl(const İşlem& işlem, QWidget* sahip) {
+    return GeriAlYaDaYinele(işlem, İşlemTürü::GeriAlma, sahip);
+}
+
+bool SonİşlemiGeriAl(QWidget* sahip) {
+    return SonuncuyuYürüt(GeriAlınacakİşlem, İşlemTürü::GeriAlma, MetinNo::GeriAlınacakYok, sahip);
+}
+
+bool SonGeriAlınanıYinele(QWidget* sahip) {
+    return SonuncuyuYürüt(YinelenecekİşlemiBul, İşlemTürü::Yineleme, MetinNo::YinelenecekYok, sahip);
+}

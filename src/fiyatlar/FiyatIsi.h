@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+#include "FiyatIslemi.h"
+#include "FiyatPlani.h"
+
+class QWidget;
+
+// What all ways to new prices hand over: where the new prices come from, and how the operation is to be recorded. They
+// are asked for again when the data have changed meanwhile.
+struct Fiyatİşi {
+    İşlemBilgisi Bilgi;
+    std::function<İşSonucu(std::vector<FiyatÖnerisi>& öneriler, QStringList& notlar)> Öner;
+};
+
+// Makes the plan, shows it, carries it out if the user wants it. True: carried out.
+bool FiyatİşiniYürüt(const Fiyatİşi& iş, QWidget* sahip);
+
+// "Geri Al" and "Yinele" for one operation; where there is nothing to be done a message says so.
+bool İşlemiGeriAl(const Deyimler::Fiyat::İşlem& işlem, QWidget* sahip);
+bool SonİşlemiGeriAl(QWidget* sahip);
+bool SonGeriAlınanıYinele(QWidget* sahip);
+
+// Shows why reading or writing failed, a box for each error. Nothing for success and where the user gave up.
+void İşSonucunuGöster(const İşSonucu& sonuç);

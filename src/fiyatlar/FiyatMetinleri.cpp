@@ -1,0 +1,99 @@
+#include "FiyatMetinleri.h"
+
+#include <algorithm>
+
+#include "DegiskenModulu.h"
+#include "MetinTablosu.h"
+#include "SayiMetni.h"
+
+namespace {
+
+// The decimals that a price has.
+int BasamakSayısı(Para fiyat) {
+    std::int64_t sayım = fiyat.OnBindeBir();
+    int basamak = 4;
+    while (basamak > 0 && sayım % 10 == 0) {
+        sayım /= 10;
+        --basamak;
+    }
+    return basamak;
+}
+
+QString İşaretli(const QString& metin, bool artı) {
+    return artı ? QLatin1Char('+') + metin : metin;
+}
+
+QString Fark(Para önce, Para sonra, QString (*biçim)(Para)) {
+    const std::optional<Para> fark = Topla(sonra, Para::OnBindeBirden(-önce.OnBindeBir()));
+    return fark ? İşaretli(biçim(*fark), *fark > Para()) : QString();
+}
+
+}  // namespace
+
+QString FiyatMetni(Para fiyat) {
+    return SayıBiçimle(fiyat, std::max(BasamakSayısı(fiyat), OndalıkBasamak));
+}
+
+QString ToplamMetni(Para toplam) {
+    return SayıBiçimle(toplam, OndalıkBasamak);
+}
+
+QString FiyatFarkı(Para önce, Para sonra) {
+    return Fark(önce, sonra, FiyatMetni);
+}
+
+QString ToplamFarkı(Para önce, Para sonra) {
+    return Fark(önce, sonra, ToplamMetni);
+}
+
+QString YüzdeFarkı(Para önce, Para sonra) {
+    if (önce.OnBindeBir() == 0) return {};
+    const double oran = (sonra.Double() - önce.Double()) / std::abs(önce.Double()) * 100;
+    return İşaretli(SayıBiçimle(oran, 2).value_or(QString()), oran >= 0.005);
+}
+
+QString NedenMetni(PlanNedeni neden) {
+    switch (neden) {
+        case PlanNedeni::Yok:
+            return {};
+        case PlanNedeni::Olağandışı:
+            return Metin(MetinNo::NedenOlağandışı);
+        case PlanNedeni::SonradanDeğişmiş:
+            return Metin(MetinNo::NedenSonradanDeğişmiş);
+        case PlanNedeni::ElleDeğişmiş:
+            return Metin(MetinNo::NedenElleDeğişmiş);
+        case PlanNedeni::Çakışıyor:
+            return Metin(MetinNo::NedenÇakışıyor);
+        case PlanNedeni::Değişmiyor:
+            return Metin(MetinNo::NedenDeğişmiyor);
+        case PlanNedeni::TersineDöndü:
+            return Metin(MetinNo::NedenTersineDöndü);
+        case PlanNedeni::SıfırYaDaAltı:
+            return Metin(MetinNo::NedenSıfırYaDaAltı);
+        case PlanNedeni::ÇokBüyük:
+            return Metin(MetinNo::NedenÇokBüyük);
+        case PlanNedeni::AdıYazılamaz:
+            return Metin(MetinNo::NedenAdıYazılamaz);
+    }
+    return {};
+}
+
+QString TürMetni(const QString& sözcük) {
+    const std::optional<İşlemTürü> tür = SözcüğünTürü(sözcük);
+    if (!tür) return sözcük;
+    switch (*tür) {
+        case İşlemTürü::Elle:
+            return Metin(MetinNo::TürElle);
+        case İşlemTürü::Toplu:
+            return Metin(MetinNo::TürToplu);
+        case İşlemTürü::Liste:
+            return Metin(MetinNo::TürListe);
+        case İşlemTürü::Kur:
+            return Metin(MetinNo::TürKur);
+        case İşlemTürü::GeriAlma:
+            return Metin(MetinNo::TürGeriAlma);
+        case İşlemTürü::Yineleme:
+            break;
+    }
+    return Metin(MetinNo::TürYineleme);
+}

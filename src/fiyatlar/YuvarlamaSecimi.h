@@ -1,0 +1,14 @@
+#pragma once
+
+#include "FiyatKurali.h"
+
+class QComboBox;
+
+// The two lists with which a form asks how prices are rounded: to which step, and in which direction.
+struct YuvarlamaSeçimi {
+    QComboBox* Adımlar;  // YuvarlamaListesi
+    QComboBox* Yönler;   // YuvarlamaYönüListesi; off while nothing is rounded
+
+    YuvarlamaSeçimi();
+    Yuvarlama Seçilen() const;
+};
