@@ -30,7 +30,7 @@ DosyaŞeması::DosyaŞeması(sqlite3* vt) {
         if (tür != "index" || !SaklananDizinMi(sql, ad, şema.Metin(2)))
             throw Hata(Durum::Bağlanamadı,
                        "Veri dosyasında bu programın yazmadığı bir öğe var; dosya güvenli olmadığı için açılmadı.",
-                       SQLITE_NOTADB);
+                       SQLITE_AUTH);
         m_dizinler.emplace_back(ad);
     }
 }

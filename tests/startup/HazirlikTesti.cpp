@@ -221,6 +221,13 @@ TEST_F(HazırlıkTesti, BozukYedekGeriYüklenmez) {
     EXPECT_FALSE(VeritabanınıHazırla());
     EXPECT_EQ(Kutular().Al().back().başlık, Metin(MetinNo::OdbcHatası));
     EXPECT_TRUE(QDir(ProgramKlasörü()).isEmpty());
+    // And one that holds what the program never writes: whole, but not to be trusted.
+    QByteArray yabancıÖğeli = sağlam;
+    yabancıÖğeli.replace(R"("KullanimTarihi", "UrunAdi"))", R"("KullanimTarihi", abs(-101)))");
+    Yaz(Yedek(), yabancıÖğeli);
+    Kutular().Yanıtla(Yanıt::Tamam);
+    EXPECT_FALSE(VeritabanınıHazırla());
+    EXPECT_TRUE(Kutular().Al().back().metin.contains(QStringLiteral("programın yazmadığı bir öğe")));
 }
 
 TEST_F(HazırlıkTesti, BozukDosyaSağlamYedeğinYeriniAlmaz) {
