@@ -48,8 +48,8 @@ int Oluştur(const QString& dosya, const std::function<void(VeriYazıcısı&)>& 
 }  // namespace
 
 int main(int argc, char** argv) {
-    QCoreApplication uygulama(argc, argv);
-    const QStringList sözler = uygulama.arguments().mid(1);
+    const QCoreApplication uygulama(argc, argv);
+    const QStringList sözler = QCoreApplication::arguments().mid(1);
     const QDate bugün = QDate::currentDate();
     const QString komut = sözler.value(0);
     if (sözler.size() == 2 && komut == u"yeni") {

@@ -38,7 +38,7 @@ void Denetle(Dosya::Sonuç sonuç, const std::string& yol) {
 
 std::string GerçekYol(const std::string& yol) {
     std::error_code hata;
-    const std::string gerçek = Dosya::GerçekYol(yol, hata);
+    std::string gerçek = Dosya::GerçekYol(yol, hata);
     if (!hata) return gerçek;
     const std::string klasör = std::filesystem::path(gerçek).parent_path().string();
     throw Hata(Durum::Bağlanamadı, "Klasör bulunamadı: " + klasör, hata.value());

@@ -40,8 +40,9 @@ class DosyaŞeması {
     static constexpr std::string_view GizliTabloSql =
         R"(CREATE TABLE "Varnek#Parola" (Tuz BLOB, Tekrar INTEGER, Ozet BLOB))";
 
-    // Reads the file's schema. Throws Hata (08001, native SQLITE_AUTH: no damage) when it holds anything that the engine does
-    // not write: a view, a trigger, a virtual table or an expression would run as part of the program's statements.
+    // Reads the file's schema. Throws Hata (08001, native SQLITE_AUTH: no damage) when it holds anything that the
+    // engine does not write: a view, a trigger, a virtual table or an expression would run as part of the program's
+    // statements.
     explicit DosyaŞeması(sqlite3* vt);
 
     const TabloTanımı* Bul(std::string_view tablo) const;

@@ -34,7 +34,7 @@ std::string SüslüDeğerAl(std::string_view& metin) {
 
 std::string DüzDeğerAl(std::string_view& metin) {
     const std::size_t ayraç = metin.find(';');
-    const std::string değer(Kırp(metin.substr(0, ayraç)));
+    std::string değer(Kırp(metin.substr(0, ayraç)));
     metin.remove_prefix(ayraç == std::string_view::npos ? metin.size() : ayraç + 1);
     return değer;
 }

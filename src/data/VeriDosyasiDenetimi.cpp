@@ -43,7 +43,7 @@ DosyaDenetimi VeriDosyasınıDenetle(const QString& yol) {
     if (!açılış.Başarılı()) return Hatalı(açılış.Hatalar);
     for (const QString& sayma :
          {Deyimler::ÜrünSayısı(), Deyimler::MalzemeSayısı(), Deyimler::KullanılanMalzemeSayısı()}) {
-        const DosyaDenetimi sonuç = TabloyuSay(bağlantı, sayma);
+        DosyaDenetimi sonuç = TabloyuSay(bağlantı, sayma);
         if (sonuç.Durum != DosyaDurumu::Boş) return sonuç;
     }
     return {DosyaDurumu::Boş, {}};

@@ -26,8 +26,8 @@ class TekSeçimli : public Görünüm {
 
     // `iş` runs once for each choice: when another row (or none) is chosen, by whatever means, and when the user clicks
     // the row that was chosen already. It does not run while the view's signals are blocked. To be called once.
-    void Seçilince(std::function<void()> iş) {
-        QObject::connect(this, &Görünüm::currentItemChanged, this, [iş] { iş(); });
+    void Seçilince(const std::function<void()>& iş) {
+        QObject::connect(this, &Görünüm::currentItemChanged, this, iş);
         QObject::connect(this, &QAbstractItemView::clicked, this, [this, iş](const QModelIndex& yer) {
             // A click that changed the row has been answered already.
             if (std::exchange(m_yenidenBasılan, {}) == yer) iş();
