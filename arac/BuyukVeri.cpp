@@ -32,8 +32,9 @@ QString BüyükMalzemeAdı(int sıra) {
     return Numaralı(u"Çeşitli Malzeme %1"_s, sıra);
 }
 
-void BüyükVeriYaz(VeriYazıcısı& yazıcı, int satırSayısı, QDate bugün) {
-    const int malzemeSayısı = std::max(satırSayısı / 10, BÜYÜK_ÜRÜNÜN_MALZEMESİ);
+void BüyükVeriYaz(VeriYazıcısı& yazıcı, int satırSayısı, QDate bugün, int malzemeSayısı) {
+    if (malzemeSayısı == 0) malzemeSayısı = satırSayısı / 10;
+    malzemeSayısı = std::max(malzemeSayısı, BÜYÜK_ÜRÜNÜN_MALZEMESİ);
     for (int i = 0; i < malzemeSayısı; ++i) {
         YarıdaKesildiMi();
         yazıcı.Çalıştır(Deyimler::MalzemeEkle(BüyükMalzemeAdı(i), Fiyat(i)));

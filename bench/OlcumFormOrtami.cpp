@@ -69,15 +69,15 @@ void Kur() {
     AyarUygulamaAdı = u"Tovrek\\Varnek"_s;
 }
 
-QString VeriKlasörü(int satırSayısı, int kalabalık) {
-    const QString klasör = ÖlçümKlasörü() + u"/%1-%2"_s.arg(satırSayısı).arg(kalabalık);
+QString VeriKlasörü(int satırSayısı, int kalabalık, int malzeme) {
+    const QString klasör = ÖlçümKlasörü() + u"/%1-%2-%3"_s.arg(satırSayısı).arg(kalabalık).arg(malzeme);
     const QString dosya = klasör + u"/Varnek.vtb"_s;
     Başarmalı(QDir().mkpath(klasör), klasör);
     if (QFile::exists(dosya)) return klasör;
     std::fprintf(stderr, "making %s\n", dosya.toUtf8().constData());
     try {
         VeriDosyasıYap(dosya, [=](VeriYazıcısı& veri) {
-            BüyükVeriYaz(veri, satırSayısı, QDate::currentDate());
+            BüyükVeriYaz(veri, satırSayısı, QDate::currentDate(), malzeme);
             if (kalabalık > 0) KalabalıkYaz(veri, kalabalık);
         });
     } catch (const VeriHatası& hata) {

@@ -17,7 +17,8 @@ void Kur();
 
 // The folder of a data file with this many used-material rows, and with one product of `kalabalık` materials more when
 // that is not 0. It is made when it is not there yet.
-QString VeriKlasörü(int satırSayısı, int kalabalık = 0);
+// `malzeme`: the catalogue's size; 0: as BüyükVeriYaz has it.
+QString VeriKlasörü(int satırSayısı, int kalabalık = 0, int malzeme = 0);
 QString KalabalıkGrup();
 QString KalabalıkÜrün();
 

@@ -171,22 +171,14 @@ bool İçerir(QStringView metin, QStringView aranan) noexcept {
     return aranan.isEmpty();
 }
 
-void AnahtarıEkle(std::string_view metin, std::string& anahtar) {
-    constexpr char uzun = '\xff';
+std::uint64_t Özet(std::string_view metin, std::uint64_t önceki) noexcept {
+    // FNV-1a over the weights, with one more mixing at the end, so that the low bits alone may be used.
+    std::uint64_t özet = önceki ^ 0xcbf2'9ce4'8422'2325;
     Utf8Okuyucu okuyucu{metin.data(), metin.data() + metin.size()};
-    while (!okuyucu.Bitti()) {
-        const std::uint32_t ağırlık = okuyucu.Sonraki();
-        if (ağırlık < 0x80) {
-            anahtar += static_cast<char>(ağırlık);
-        } else if (ağırlık >= RakamBandı && ağırlık < HarfBandı) {
-            anahtar += static_cast<char>(ağırlık - RakamBandı);
-        } else if (ağırlık >= HarfBandı && ağırlık < HarfBandı + Alfabe.size()) {
-            anahtar += static_cast<char>(0x80 + (ağırlık - HarfBandı));
-        } else {
-            anahtar += uzun;
-            for (int kayma = 16; kayma >= 0; kayma -= 8) anahtar += static_cast<char>(ağırlık >> kayma & 0xFF);
-        }
-    }
+    while (!okuyucu.Bitti()) özet = (özet ^ okuyucu.Sonraki()) * 0x0000'0100'0000'01b3;
+    özet ^= özet >> 32;
+    özet *= 0x9e37'79b9'7f4a'7c15;
+    return özet ^ özet >> 29;
 }
 
 char16_t Büyük(char16_t harf) noexcept {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QStringView>
-#include <string>
+#include <cstdint>
 #include <string_view>
 
 // The one table of Turkish letter order and case that the data engine, the sorted lists and the prefix searches share.
@@ -22,9 +22,9 @@ bool İleBaşlar(QStringView metin, QStringView ön) noexcept;
 // True when `aranan` stands anywhere in `metin` by the same rules; an empty one stands in every text.
 bool İçerir(QStringView metin, QStringView aranan) noexcept;
 
-// Appends what two UTF-8 texts have in common exactly when Karşılaştır finds them equal: for look-ups of many names.
-// Bytes below 0x20 do not occur in it for printable texts.
-void AnahtarıEkle(std::string_view metin, std::string& anahtar);
+// The same number for UTF-8 texts that Karşılaştır finds equal, and hardly ever for others. `önceki`: of a text before
+// this one, so that several are taken together.
+std::uint64_t Özet(std::string_view metin, std::uint64_t önceki = 0) noexcept;
 
 // One code unit's upper and lower case: the four I letters by our own rule, everything else as Unicode has it.
 char16_t Büyük(char16_t harf) noexcept;

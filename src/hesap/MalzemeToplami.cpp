@@ -1,5 +1,7 @@
 #include "MalzemeToplami.h"
 
+#include <algorithm>
+
 #include "SayiMetni.h"
 
 MiktarParçaları MiktarıAyır(QStringView miktar) {
@@ -10,6 +12,29 @@ MiktarParçaları MiktarıAyır(QStringView miktar) {
 
 std::optional<double> MiktarSayısı(QStringView miktar) {
     return DoubleOku(MiktarıAyır(miktar).Sayı, NoktaKuralı::Yerinde);
+}
+
+std::optional<double> MiktarSayısı(std::string_view miktar) {
+    // Nearly all quantities are plain digits with a comma or none: whole numbers that doubles hold exactly, and the
+    // quotient of two such is the nearest double itself.
+    constexpr int sınır = 15;
+    constexpr double onlar[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    std::int64_t sayı = 0;
+    int rakam = 0;
+    int kesir = -1;  // digits behind the comma; -1: no comma yet
+    for (const char harf : miktar) {
+        if (harf == ' ' && rakam > 0) break;
+        if (harf == ',' && kesir < 0) {
+            kesir = 0;
+            continue;
+        }
+        if (harf < '0' || harf > '9' || ++rakam > sınır)
+            return MiktarSayısı(QStringView(QString::fromUtf8(miktar.data(), static_cast<qsizetype>(miktar.size()))));
+        sayı = sayı * 10 + (harf - '0');
+        if (kesir >= 0) ++kesir;
+    }
+    if (rakam == 0) return std::nullopt;
+    return static_cast<double>(sayı) / onlar[std::max(kesir, 0)];
 }
 
 std::optional<Para> MalzemeTutarı(double miktar, Para fiyat) {

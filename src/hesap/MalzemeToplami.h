@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringView>
 #include <optional>
+#include <string_view>
 
 #include "Para.h"
 
@@ -17,6 +18,7 @@ MiktarParçaları MiktarıAyır(QStringView miktar);
 
 // The stored quantity's number. A dot can only part thousands in it: "12.5" must not count as 125.
 std::optional<double> MiktarSayısı(QStringView miktar);
+std::optional<double> MiktarSayısı(std::string_view miktar);  // UTF-8
 
 // The amount of a used material as money. Nothing: beyond its range.
 std::optional<Para> MalzemeTutarı(double miktar, Para fiyat);

@@ -55,13 +55,27 @@ class FiyatPlanı::Okuyucu {
             const QByteArray ad = plan.m_malzemeler[i].Malzeme.toUtf8();
             const std::uint32_t yer = malzemeler.Dizin.Bul({ad.constData(), static_cast<std::size_t>(ad.size())});
             if (yer != AdDizini::YOK) m_planda[yer] = i;
+            const PlanMalzemesi& m = plan.m_malzemeler[i];
+            m_sıklar.push_back({m.Eski, m.Yeni, m.HerSatır && m.Tekler.empty(), 0});
+        }
+        Satırlar.reserve(1024);
+    }
+
+    // After the last row.
+    void Bitir() {
+        for (std::size_t i = 0; i < m_sıklar.size(); ++i) {
+            PlanMalzemesi& malzeme = m_plan.m_malzemeler[i];
+            const std::int64_t satır = m_sıklar[i].Satır;
+            if (satır > 0) malzeme.Dağılım.push_back({malzeme.Eski, satır, true});
+            malzeme.DeğişenSatır += satır;
+            for (const FiyatlıSatırlar& satırlar : malzeme.Dağılım) malzeme.Satır += satırlar.Sayı;
         }
     }
 
     void Al(OdbcSatırı& satır) {
         const std::uint32_t ürün = ÜrünüBul(satır);
         const std::uint32_t malzeme = m_malzemeler.Dizin.Bul(Baytlar(satır, 3));
-        const std::optional<double> miktar = MiktarıOku(Baytlar(satır, 4));
+        const std::optional<double> miktar = MiktarSayısı(Baytlar(satır, 4));
         const std::optional<Para> fiyat = SaklananPara(Baytlar(satır, 5));
         const std::optional<Para> tutar = Tutar(miktar, fiyat);
         if (ürün != AdDizini::YOK) ÜrüneEkle(m_ürünler.Ürünler[ürün], tutar, malzeme != AdDizini::YOK);
@@ -95,10 +109,6 @@ class FiyatPlanı::Okuyucu {
         return m_sonÜrün;
     }
 
-    std::optional<double> MiktarıOku(std::string_view miktar) {
-        return MiktarSayısı(QString::fromUtf8(miktar.data(), static_cast<qsizetype>(miktar.size())));
-    }
-
     static void ÜrüneEkle(KatalogÜrünü& ürün, std::optional<Para> tutar, bool katalogda) {
         if (!katalogda) ürün.KatalogDışı = true;
         const std::optional<Para> toplam = tutar ? Topla(Para::OnBindeBirden(ürün.Malzeme), *tutar) : std::nullopt;
@@ -110,17 +120,24 @@ class FiyatPlanı::Okuyucu {
 
     void PlanaEkle(OdbcSatırı& okunan, Satır satır, std::optional<double> miktar, Para fiyat,
                    std::optional<Para> tutar) {
+        Sık& sık = m_sıklar[satır.Malzeme];
+        if (fiyat == sık.Eski && sık.Yalın) {
+            ++sık.Satır;
+            satır.Fark = Ondalığı(Tutar(miktar, sık.Yeni)) - Ondalığı(tutar);
+            Satırlar.push_back(satır);
+            return;
+        }
         PlanMalzemesi& malzeme = m_plan.m_malzemeler[satır.Malzeme];
-        ++malzeme.Satır;
         const bool değişir = DağılımaEkle(malzeme, fiyat);
         TekSatır* tek = malzeme.Tekler.empty() ? nullptr : TekiBul(malzeme, okunan, fiyat);
         if (!değişir && !tek) return;
         ++malzeme.DeğişenSatır;
         if (fiyat != malzeme.Eski) malzeme.Ayrılar.push_back(SatırıAl(okunan, fiyat));
-        const std::optional<Para> yeni = Tutar(miktar, tek ? tek->Hedef : malzeme.Yeni);
-        satır.Fark = yeni.value_or(Para()).OnBindeBir() - tutar.value_or(Para()).OnBindeBir();
+        satır.Fark = Ondalığı(Tutar(miktar, tek ? tek->Hedef : malzeme.Yeni)) - Ondalığı(tutar);
         Satırlar.push_back(satır);
     }
+
+    static std::int64_t Ondalığı(std::optional<Para> tutar) { return tutar.value_or(Para()).OnBindeBir(); }
 
     // Whether rows of this price get the new one.
     static bool DağılımaEkle(PlanMalzemesi& malzeme, Para fiyat) {
@@ -154,10 +171,19 @@ class FiyatPlanı::Okuyucu {
         return nullptr;
     }
 
+    // What most rows need of their material, close together.
+    struct Sık {
+        Para Eski;
+        Para Yeni;
+        bool Yalın;  // every row with the catalogue's price gets the new one
+        std::int64_t Satır;
+    };
+
     FiyatPlanı& m_plan;
     ÜrünKataloğu& m_ürünler;
     const MalzemeKataloğu& m_malzemeler;
     std::vector<std::uint32_t> m_planda;  // place in the plan of each material of the catalogue
+    std::vector<Sık> m_sıklar;            // beside the plan's materials
     std::string m_sonGrup;
     std::string m_sonAd;
     std::uint32_t m_sonÜrün = AdDizini::YOK;
@@ -188,6 +214,7 @@ class FiyatPlanı::Okuyucu {
         vazgeçildi = ilerleme && !ilerleme(++okunan);
         return !vazgeçildi;
     });
+    okuyucu.Bitir();
     SatırlarıDiz(okuyucu.Satırlar);
     ÜrünleriKur(ürünler);
     return İşSonucuYap(odbc, vazgeçildi);

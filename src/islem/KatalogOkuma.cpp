@@ -4,37 +4,10 @@
 
 #include "FiyatDeyimleri.h"
 #include "OdbcTanitici.h"
-#include "TurkceSira.h"
 
 İşSonucu İşSonucuYap(const OdbcSonucu& odbc, bool vazgeçildi) {
     if (!odbc.Başarılı()) return {İşSonu::Olmadı, odbc};
     return {vazgeçildi ? İşSonu::Vazgeçildi : İşSonu::Tamam, odbc};
-}
-
-const std::string& AdDizini::Anahtarı(std::string_view grup, std::string_view ad) const {
-    constexpr char ARA = '\x1f';
-    m_anahtar.clear();
-    Türkçe::AnahtarıEkle(grup, m_anahtar);
-    m_anahtar += ARA;
-    Türkçe::AnahtarıEkle(ad, m_anahtar);
-    return m_anahtar;
-}
-
-std::uint32_t AdDizini::BulYaDaEkle(std::string_view ad, std::uint32_t yeni) {
-    return BulYaDaEkle({}, ad, yeni);
-}
-
-std::uint32_t AdDizini::BulYaDaEkle(std::string_view grup, std::string_view ad, std::uint32_t yeni) {
-    return m_yerler.try_emplace(Anahtarı(grup, ad), yeni).first->second;
-}
-
-std::uint32_t AdDizini::Bul(std::string_view ad) const {
-    return Bul({}, ad);
-}
-
-std::uint32_t AdDizini::Bul(std::string_view grup, std::string_view ad) const {
-    const auto yer = m_yerler.find(Anahtarı(grup, ad));
-    return yer == m_yerler.end() ? YOK : yer->second;
 }
 
 std::optional<Para> SaklananPara(std::string_view baytlar) {

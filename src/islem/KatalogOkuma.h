@@ -4,11 +4,10 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
-#include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
+#include "AdDizini.h"
 #include "OdbcSonucu.h"
 #include "Para.h"
 
@@ -26,24 +25,6 @@ struct [[nodiscard]] İşSonucu {
     bool Tamam() const { return Son == İşSonu::Tamam; }
 };
 İşSonucu İşSonucuYap(const OdbcSonucu& odbc, bool vazgeçildi = false);
-
-// Finds a row by a name (or two, as group and product) as the data file compares names.
-class AdDizini {
-  public:
-    static constexpr std::uint32_t YOK = ~std::uint32_t{0};
-
-    // The number under which the names stand; `yeni` where they stood under none.
-    std::uint32_t BulYaDaEkle(std::string_view ad, std::uint32_t yeni);
-    std::uint32_t BulYaDaEkle(std::string_view grup, std::string_view ad, std::uint32_t yeni);
-    std::uint32_t Bul(std::string_view ad) const;
-    std::uint32_t Bul(std::string_view grup, std::string_view ad) const;
-
-  private:
-    const std::string& Anahtarı(std::string_view grup, std::string_view ad) const;
-
-    std::unordered_map<std::string, std::uint32_t> m_yerler;
-    mutable std::string m_anahtar;
-};
 
 struct KatalogMalzemesi {
     QString Ad;

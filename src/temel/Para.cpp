@@ -1,5 +1,6 @@
 #include "Para.h"
 
+#include <cmath>
 #include <limits>
 
 #include "Ondalik.h"
@@ -17,6 +18,14 @@ std::optional<Para> Sığdır(GenişSayı onBindeBir) {
 }  // namespace
 
 std::optional<Para> Para::Doubledan(double değer) {
+    // Far enough from a half the digits behind the 15th decide nothing: below this bound they are less than `pay`.
+    constexpr double sınır = 1e12;  // ten-thousandths
+    constexpr double pay = 0.01;
+    const double sayım = değer * Ölçek;
+    if (std::fabs(sayım) < sınır) {
+        const double yakın = std::nearbyint(sayım);
+        if (0.5 - std::fabs(sayım - yakın) > pay) return Para(static_cast<std::int64_t>(yakın));
+    }
     const auto sayı = OnBeşHaneyle(değer);
     return sayı ? Ondalıktan(*sayı) : std::nullopt;
 }
