@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing, and nothing else.
-#   scripts/kur.sh [test] [bicim]
+#   scripts/kur.sh [test] [bicim] [tidy]
 # Without arguments: what building and running need. test: running the tests and the tour without a display as well;
-# bicim: checking the formatting.
+# bicim: checking the formatting; tidy: looking for faults with clang-tidy.
 set -euo pipefail
 . "$(dirname "$0")/ortak.sh"
 
@@ -13,7 +13,8 @@ for kume in "$@"; do
     case $kume in
         test) paketler+=(xvfb xauth locales cups-daemon cups-client cups-core-drivers poppler-utils) ;;
         bicim) paketler+=(clang-format git) ;;
-        *) vazgec "kur.sh: unknown set '$kume' (test, bicim)" ;;
+        tidy) paketler+=(clang-tidy) ;;
+        *) vazgec "kur.sh: unknown set '$kume' (test, bicim, tidy)" ;;
     esac
 done
 

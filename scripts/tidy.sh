@@ -5,7 +5,7 @@
 set -euo pipefail
 . "$(dirname "$0")/ortak.sh"
 
-command -v clang-tidy >/dev/null || vazgec "Please install clang-tidy and try again."
+scripts/kur.sh tidy
 [ -e build/dev/compile_commands.json ] || cmake --preset dev
 if [ $# -eq 0 ]; then mapfile -t dosyalar < <(git ls-files 'sayi/*.cpp' 'turkce/*.cpp' 'dosya/*.cpp' 'engine/*.cpp' 'src/*.cpp' 'arac/*.cpp'); else dosyalar=("$@"); fi
 bildir "clang-tidy over ${#dosyalar[@]} files"

@@ -1,17 +1,11 @@
 #include "MetinTablosu.h"
 
-#include <algorithm>
-#include <iterator>
+#include "MetinSatirlari.h"
 
 namespace {
 
-struct Satır {
-    MetinNo Numara;
-    const char* Metin;  // UTF-8
-};
-
-// In the order of their numbers. Numbers from 2000 on are later additions.
-constexpr Satır Tablo[] = {
+// Numbers from 2000 on are later additions.
+constexpr MetinSatırı Tablo[] = {
     {MetinNo::SürümOkunamadı, "Windows'un sürüm bilgisi öğrenilirken bir hata oluştuğu için program devam edemiyor."},
     {MetinNo::SürümYetersiz,
      "Programın çalışabilmesi için bilgisayarınızda NT 4.0 ile \"Servis Pack 3\" veya daha yüksek bir sürümün yüklü "
@@ -313,124 +307,18 @@ constexpr Satır Tablo[] = {
     {MetinNo::TarihGeçersiz,
      "Bu tarih takvimde yok veya eksik yazılmış! Lütfen, günü, ayı ve yılı yazınız (örneğin 15.10.2026)."},
     {MetinNo::TutarÇokBüyük, "Tutarı çok büyük olduğu için hesaplanamadı."},
-
-    // Later additions: prices as a whole
-    {MetinNo::FiyatlarMenüsü, "Fiy&atlar"},
-    {MetinNo::TopluFiyatMenüsü, "&Toplu Fiyat Değiştir..."},
-    {MetinNo::FiyatListesiAlMenüsü, "Fiyat &Listesi Al..."},
-    {MetinNo::DövizKurlarıMenüsü, "&Döviz Kurları..."},
-    {MetinNo::FiyatGeçmişiMenüsü, "Fiyat &Geçmişi..."},
-    {MetinNo::GeriAlMenüsü, "Geri &Al..."},
-    {MetinNo::YineleMenüsü, "&Yinele..."},
-    {MetinNo::TopluFiyatBaşlığı, "Toplu Fiyat Değiştir"},
-    {MetinNo::MalzemeSüz, "Malzeme &Süz"},
-    {MetinNo::KullanılmayanlarSeçeneği, "Yalnız &kullanılmayanlar"},
-    {MetinNo::DeğişmeyenlerSeçeneği, "Şu tari&hten beri değişmeyenler:"},
-    {MetinNo::MalzemelerEtiketi, "&Malzemeler"},
-    {MetinNo::TümünüSeç, "Tü&münü Seç"},
-    {MetinNo::İşaretliSayısı, "%1 malzeme işaretli"},
-    {MetinNo::İşaretliVeGizliSayısı, "%1 malzeme işaretli (%2 tanesi süzgeç dışında)"},
-    {MetinNo::YüzdeSeçeneği, "Yüz&de (%)"},
-    {MetinNo::TutarSeçeneği, "T&utar (eklenir ya da çıkarılır)"},
-    {MetinNo::FiyatSeçeneği, "&Bu fiyat"},
-    {MetinNo::OranEtiketi, "De&ğer"},
-    {MetinNo::YuvarlamaEtiketi, "Yu&varlama"},
-    {MetinNo::YuvarlamaYönüEtiketi, "Yuvarlama yö&nü"},
-    {MetinNo::YuvarlamaYok, "Yuvarlama yok"},
-    {MetinNo::EnYakına, "En yakına"},
-    {MetinNo::YukarıYuvarla, "Yukarı"},
-    {MetinNo::AşağıYuvarla, "Aşağı"},
-    {MetinNo::FiyatÖnizle, "&Önizle..."},
-    {MetinNo::OranBoş, "Lütfen, bir değer giriniz!"},
-    {MetinNo::OranSıfır, "Sıfır hiçbir fiyatı değiştirmez! Lütfen, başka bir değer giriniz."},
-    {MetinNo::FiyatSıfır, "Fiyat sıfırdan büyük olmalı! Lütfen, başka bir değer giriniz."},
-    {MetinNo::YüzdeAçıklaması, "Toplu değişim: yüzde %1"},
-    {MetinNo::TutarAçıklaması, "Toplu değişim: tutar %1"},
-    {MetinNo::FiyatAçıklaması, "Toplu değişim: fiyat %1"},
-    {MetinNo::YuvarlamaAçıklaması, "; yuvarlama %1 (%2)"},
-    {MetinNo::MalzemeListesiBoşFiyat, "Malzeme listeniz boş; değiştirilecek fiyat yok."},
-    {MetinNo::FiyatÖnizlemeBaşlığı, "Fiyat Önizleme"},
-    {MetinNo::ÜrünlerEtiketi, "Ü&rünler"},
-    {MetinNo::Uygula, "&Uygula"},
-    {MetinNo::Vazgeç, "İptal"},
-    {MetinNo::PlanÖzeti, "%1 malzeme, %2 satır, %3 ürün"},
-    {MetinNo::BugünDeğişenSayısı, "Fiyatı bugün zaten değiştirilmiş malzeme: %1"},
-    {MetinNo::AyrıSatırSayısı, "Fiyatı katalogdan ayrı olup değişecek satır: %1"},
-    {MetinNo::ÜrünsüzSatırSayısı, "Ürünü ürün listesinde olmayan satır: %1"},
-    {MetinNo::PlanKuruluyor, "Fiyatların etkisi hesaplanıyor..."},
-    {MetinNo::FiyatlarYazılıyor, "Fiyatlar yazılıyor..."},
-    {MetinNo::İlerlemeİptali, "İptal"},
-    {MetinNo::FiyatlarYazılamadı, "Fiyatlar değiştirilemedi; hiçbir şey yazılmadı. \n%1"},
-    {MetinNo::VerilerDeğişmiş,
-     "Veriler bu arada değişmiş (%1); hiçbir şey yazılmadı. Önizleme yenileniyor, lütfen yeniden bakınız."},
-    {MetinNo::İşaretsiz, "işaretlenmedi"},
-    {MetinNo::KatalogdaOlmayanlar, "Artık malzeme listesinde olmayanlar: %1"},
-    {MetinNo::BulunamayanSatırlar, "%1 ürün satırı artık bulunamıyor"},
-    {MetinNo::MalzemeSütunu, "Malzeme"},
-    {MetinNo::EskiFiyatSütunu, "Eski fiyat"},
-    {MetinNo::YeniFiyatSütunu, "Yeni fiyat"},
-    {MetinNo::FarkSütunu, "Fark"},
-    {MetinNo::YüzdeSütunu, "%"},
-    {MetinNo::SatırSütunu, "Satır"},
-    {MetinNo::AyrıFiyatlıSütunu, "Ayrı fiyatlı"},
-    {MetinNo::NedenSütunu, "Açıklama"},
-    {MetinNo::ÜrünSütunu, "Ürün"},
-    {MetinNo::ÖncekiToplamSütunu, "Önceki toplam"},
-    {MetinNo::SonrakiToplamSütunu, "Sonraki toplam"},
-    {MetinNo::UyarıSütunu, "Uyarı"},
-    {MetinNo::SonDeğişimSütunu, "Son değişim"},
-    {MetinNo::ZamanSütunu, "Zaman"},
-    {MetinNo::İşlemSütunu, "İşlem"},
-    {MetinNo::AçıklamaSütunu, "Açıklama"},
-    {MetinNo::DurumSütunu, "Durum"},
-    {MetinNo::NedenOlağandışı, "olağan dışı"},
-    {MetinNo::NedenSonradanDeğişmiş, "sonradan değişti"},
-    {MetinNo::NedenElleDeğişmiş, "elle değiştirildi"},
-    {MetinNo::NedenÇakışıyor, "listede birden çok fiyat"},
-    {MetinNo::NedenDeğişmiyor, "değişmiyor"},
-    {MetinNo::NedenTersineDöndü, "yuvarlama tersine çeviriyor"},
-    {MetinNo::NedenSıfırYaDaAltı, "sıfır ya da altı"},
-    {MetinNo::NedenÇokBüyük, "çok büyük"},
-    {MetinNo::NedenAdıYazılamaz, "adında kesme işareti var"},
-    {MetinNo::UyarıSayılmayan, "sayılmayan satırı var"},
-    {MetinNo::UyarıKatalogDışı, "katalogda olmayan malzemesi var"},
-    {MetinNo::FiyatGeçmişiBaşlığı, "Fiyat Geçmişi"},
-    {MetinNo::DeğişimlerEtiketi, "D&eğişimler"},
-    {MetinNo::GrafikEtiketi, "Fiyatların zaman içindeki değişimi"},
-    {MetinNo::GrafikBoş, "Fiyatını görmek istediğiniz malzemeleri işaretleyiniz."},
-    {MetinNo::İşlemiGeriAl, "İşlemi Geri &Al..."},
-    {MetinNo::YalnızSonKayıtlar,
-     "Yalnız son %1 kayıt gösteriliyor; bir malzemenin tümünü görmek için onu işaretleyiniz."},
-    {MetinNo::KayıtDışı, "kayıt dışı"},
-    {MetinNo::GeriAlındı, "geri alındı"},
-    {MetinNo::TürElle, "Tek fiyat"},
-    {MetinNo::TürToplu, "Toplu değişim"},
-    {MetinNo::TürListe, "Fiyat listesi"},
-    {MetinNo::TürKur, "Döviz kuru"},
-    {MetinNo::TürGeriAlma, "Geri alma"},
-    {MetinNo::TürYineleme, "Yineleme"},
-    {MetinNo::GeriAlmaAçıklaması, "Geri alınan işlem %1: %2"},
-    {MetinNo::YinelemeAçıklaması, "Yinelenen işlem %1: %2"},
-    {MetinNo::GeriAlınacakYok, "Geri alınacak bir fiyat işlemi yok."},
-    {MetinNo::YinelenecekYok, "Yinelenecek bir fiyat işlemi yok."},
-    {MetinNo::ElleAçıklaması, "Malzeme formunda fiyat değişimi"},
-    {MetinNo::GeçmişeYazılamadı, "Yeni fiyat kaydedildi, ancak fiyat geçmişine yazılamadı; bu değişim geri alınamaz."},
-    {MetinNo::FiyatGeçmişiDüğmesi, "Fiyat &Geçmişi..."},
 };
 
-// The search goes by the order.
-static_assert(std::adjacent_find(std::begin(Tablo), std::end(Tablo), [](const Satır& bu, const Satır& sonraki) {
-                  return bu.Numara >= sonraki.Numara;
-              }) == std::end(Tablo));
+static_assert(Sıralı(Tablo));
 
 }  // namespace
 
 QString Metin(MetinNo numara) {
-    const auto* satır = std::lower_bound(std::begin(Tablo), std::end(Tablo), numara,
-                                         [](const Satır& s, MetinNo n) { return s.Numara < n; });
-    if (satır == std::end(Tablo) || satır->Numara != numara) {
+    const char* metin = MetniBul(Tablo, numara);
+    if (!metin) metin = FiyatMetniBul(numara);
+    if (!metin) {
         Q_ASSERT_X(false, "Metin", "unknown text number");
         return QStringLiteral("?%1?").arg(static_cast<int>(numara));
     }
-    return QString::fromUtf8(satır->Metin);
+    return QString::fromUtf8(metin);
 }

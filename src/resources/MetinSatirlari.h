@@ -1,0 +1,28 @@
+#pragma once
+
+#include <algorithm>
+#include <span>
+
+#include "MetinTablosu.h"
+
+// How the texts stand: in tables by subject, each in the order of its numbers.
+struct MetinSatırı {
+    MetinNo Numara;
+    const char* Metin;  // UTF-8
+};
+
+constexpr bool Sıralı(std::span<const MetinSatırı> tablo) {
+    return std::adjacent_find(tablo.begin(), tablo.end(), [](const MetinSatırı& bu, const MetinSatırı& sonraki) {
+               return bu.Numara >= sonraki.Numara;
+           }) == tablo.end();
+}
+
+// Null: the table has no such number.
+inline const char* MetniBul(std::span<const MetinSatırı> tablo, MetinNo numara) {
+    const auto satır = std::lower_bound(tablo.begin(), tablo.end(), numara,
+                                        [](const MetinSatırı& s, MetinNo n) { return s.Numara < n; });
+    return satır == tablo.end() || satır->Numara != numara ? nullptr : satır->Metin;
+}
+
+// The table of prices as a whole.
+const char* FiyatMetniBul(MetinNo numara);
