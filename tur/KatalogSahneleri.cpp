@@ -2,7 +2,6 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenu>
 #include <QPushButton>
 #include <QTest>
 #include <QTreeWidget>
@@ -12,19 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-void Bas(QWidget& form, const QString& düğme) {
-    Tur::Tıkla(Tur::Bul<QPushButton>(form, düğme));
-}
-
-void Esc(QWidget& form) {
-    QTest::keyClick(&form, Qt::Key_Escape);
-    Tur::Durul();
-}
-
-void MenüdenAç(QWidget& anaForm, const QString& giriş, const std::function<void(QWidget&)>& iş) {
-    Tur::Kipli([&] { Tur::Bul<QAction>(anaForm, giriş).trigger(); }, iş);
-}
 
 // The question that a button asks is photographed and declined.
 void SoruÇek(Tur& tur, QWidget& form, const QString& düğme, const QString& resim) {

@@ -47,12 +47,10 @@ void MenüSahnesi(Tur& tur, QWidget& anaForm, const QString& menü, const QStrin
 // A form of the help menu, opened from there.
 Sahne YardımSahnesi(const QString& giriş, const QString& resim) {
     return {resim, [=](Tur& tur, QWidget& anaForm) {
-                Tur::ÖneGetir(anaForm);
-                Tur::Kipli([&] { Tur::Bul<QAction>(anaForm, giriş).trigger(); },
-                           [&](QWidget& form) {
-                               tur.Çek(resim, form);
-                               Tur::Tıkla(Tur::Bul<QPushButton>(form, u"TamamButonu"_s));
-                           });
+                MenüdenAç(anaForm, giriş, [&](QWidget& form) {
+                    tur.Çek(resim, form);
+                    Bas(form, u"TamamButonu"_s);
+                });
             }};
 }
 
@@ -119,6 +117,20 @@ void ÜrünSeç(QWidget& anaForm, const QString& ad) {
     Tur::Bekle(u"selected: "_s + ad, [&] { return ağaç.currentItem() == &düğüm; });
 }
 
+void Bas(QWidget& form, const QString& düğme) {
+    Tur::Tıkla(Tur::Bul<QPushButton>(form, düğme));
+}
+
+void Esc(QWidget& form) {
+    QTest::keyClick(&form, Qt::Key_Escape);
+    Tur::Durul();
+}
+
+void MenüdenAç(QWidget& anaForm, const QString& giriş, const std::function<void(QWidget&)>& iş) {
+    Tur::ÖneGetir(anaForm);
+    Tur::Kipli([&] { Tur::Bul<QAction>(anaForm, giriş).trigger(); }, iş);
+}
+
 std::vector<Sahne> Sahneler() {
     std::vector<Sahne> sahneler{
         {u"grup"_s,
@@ -134,6 +146,8 @@ std::vector<Sahne> Sahneler() {
         {u"adlandirma"_s, Adlandırma},
         {u"program-menusu"_s,
          [](Tur& tur, QWidget& anaForm) { MenüSahnesi(tur, anaForm, u"ProgramMenüsü"_s, u"program-menusu"_s); }},
+        {u"fiyatlar-menusu"_s,
+         [](Tur& tur, QWidget& anaForm) { MenüSahnesi(tur, anaForm, u"FiyatlarMenüsü"_s, u"fiyatlar-menusu"_s); }},
         {u"yardim-menusu"_s,
          [](Tur& tur, QWidget& anaForm) { MenüSahnesi(tur, anaForm, u"YardımMenüsü"_s, u"yardim-menusu"_s); }},
         YardımSahnesi(u"HakkındaMenüsü"_s, u"hakkinda"_s),
@@ -144,5 +158,6 @@ std::vector<Sahne> Sahneler() {
     };
     for (Sahne& sahne : KatalogSahneleri()) sahneler.push_back(std::move(sahne));
     for (Sahne& sahne : RaporSahneleri()) sahneler.push_back(std::move(sahne));
+    for (Sahne& sahne : FiyatSahneleri()) sahneler.push_back(std::move(sahne));  // last: they change the data
     return sahneler;
 }

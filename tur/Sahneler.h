@@ -8,6 +8,12 @@
 std::vector<Sahne> Sahneler();
 std::vector<Sahne> KatalogSahneleri();
 std::vector<Sahne> RaporSahneleri();
+std::vector<Sahne> FiyatSahneleri();
 
 // Opens the group and clicks the node of this name on the main form's tree, as a user does.
 void ÜrünSeç(QWidget& anaForm, const QString& ad);
+
+void Bas(QWidget& form, const QString& düğme);
+void Esc(QWidget& form);
+// Runs `iş` on the form that a menu entry opens.
+void MenüdenAç(QWidget& anaForm, const QString& giriş, const std::function<void(QWidget&)>& iş);

@@ -85,12 +85,12 @@ void Tur::Yaz(QWidget& parça, const QString& metin) {
 void Tur::Kipli(const std::function<void()>& açan, const std::function<void(QWidget&)>& iş) {
     QWidget* önceki = QApplication::activeModalWidget();
     std::exception_ptr hata;
-    bool çalıştı = false;
+    const QWidget* açılan = nullptr;
     QTimer gözcü;
     QObject::connect(&gözcü, &QTimer::timeout, &gözcü, [&] {
         QWidget* pencere = QApplication::activeModalWidget();
-        if (çalıştı || !pencere || pencere == önceki || !pencere->isVisible()) return;
-        çalıştı = true;
+        if (açılan || !pencere || pencere == önceki || !pencere->isVisible()) return;
+        açılan = pencere;
         try {
             ÖneGetir(*pencere);
             iş(*pencere);
@@ -101,8 +101,9 @@ void Tur::Kipli(const std::function<void()>& açan, const std::function<void(QWi
     });
     gözcü.start(10);
     açan();
-    Bekle(u"a modal window"_s, [&] { return çalıştı; });
+    Bekle(u"a modal window"_s, [&] { return açılan; });
     if (hata) std::rethrow_exception(hata);
-    Bekle(u"the modal window's end"_s, [&] { return QApplication::activeModalWidget() == önceki; });
+    // The one before it may have ended with it.
+    Bekle(u"the modal window's end"_s, [&] { return QApplication::activeModalWidget() != açılan; });
     Durul();
 }

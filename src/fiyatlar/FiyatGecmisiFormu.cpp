@@ -185,16 +185,24 @@ void FiyatGeçmişiFormu::Yerleştir() {
 
 bool FiyatGeçmişiFormu::Yükle(const QString& malzeme) {
     MalzemeKataloğu katalog;
+    std::vector<Deyimler::Fiyat::İşlem> işlemler;  // the shown rows point to the former ones
     İşSonucu sonuç = katalog.Oku(ODBCBağlantısı());
-    if (sonuç.Tamam()) sonuç = İşlemleriOku(ODBCBağlantısı(), m_işlemler);
+    if (sonuç.Tamam()) sonuç = İşlemleriOku(ODBCBağlantısı(), işlemler);
     if (!sonuç.Tamam()) {
         İşSonucunuGöster(sonuç);
         return false;
     }
+    m_işlemler = std::move(işlemler);
     m_işlemYerleri.clear();
     for (std::size_t i = 0; i < m_işlemler.size(); ++i) m_işlemYerleri[m_işlemler[i].No] = i;
     const std::uint32_t seçilen = malzeme.isEmpty() ? AdDizini::YOK : katalog.Dizin.Bul(malzeme.toStdString());
-    m_malzemeler->İşaretliler.assign(katalog.Malzemeler.size(), false);
+    std::vector<bool> işaretliler(katalog.Malzemeler.size(), false);
+    for (std::size_t i = 0; i < m_malzemeler->Malzemeler.size(); ++i) {
+        if (!m_malzemeler->İşaretliler[i]) continue;
+        const std::uint32_t yer = katalog.Dizin.Bul(m_malzemeler->Malzemeler[i].Ad.toStdString());
+        if (yer != AdDizini::YOK) işaretliler[yer] = true;
+    }
+    m_malzemeler->İşaretliler = std::move(işaretliler);
     if (seçilen != AdDizini::YOK) m_malzemeler->İşaretliler[seçilen] = true;
     m_malzemeler->Malzemeler = std::move(katalog.Malzemeler);
     m_malzemeModeli->Yenile();
@@ -223,8 +231,10 @@ void FiyatGeçmişiFormu::GeçmişiOku() {
         seçiliVar = true;
         const KatalogMalzemesi& malzeme = m_malzemeler->Malzemeler[i];
         if (!Deyimler::Yazılabilir(malzeme.Ad)) continue;
+        bool fazlaVar = false;
         sonuç = DeğişimleriOku(ODBCBağlantısı(), Deyimler::Fiyat::MalzemeninDeğişimleri(malzeme.Ad), değişimler,
-                               EN_ÇOK_KAYIT, m_fazlaVar);
+                               EN_ÇOK_KAYIT, fazlaVar);
+        m_fazlaVar |= fazlaVar;
         // A price that no operation wrote: another program, or the time before the records.
         if (!değişimler.empty() && değişimler.front().Yeni != malzeme.Fiyat)
             m_geçmiş->Satırlar.push_back({{0, malzeme.Ad, değişimler.front().Yeni, malzeme.Fiyat}, nullptr});

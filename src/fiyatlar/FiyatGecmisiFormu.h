@@ -20,7 +20,7 @@ class FiyatGeçmişiFormu : public QDialog {
     FiyatGeçmişiFormu(bool geriAlınır, QWidget* sahip);
     ~FiyatGeçmişiFormu() override;
 
-    // Reads the catalogue and the records; ticks `malzeme` where it is given. False: the user has been told why not.
+    // Reads the catalogue and the records; ticks stay, `malzeme` gets one. False: the user has been told why not.
     bool Yükle(const QString& malzeme = {});
     bool Uygulandı() const { return m_uygulandı; }
 

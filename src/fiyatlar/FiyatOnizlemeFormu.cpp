@@ -25,14 +25,14 @@ enum ÜrünSütunları { ÜGrup, ÜAd, ÜÖnce, ÜSonra, ÜFark, ÜYüzde, ÜUya
 const QList<TabloSütunu> MALZEME_SÜTUNLARI{{MetinNo::MalzemeSütunu, 28},          {MetinNo::EskiFiyatSütunu, 12, true},
                                            {MetinNo::YeniFiyatSütunu, 12, true},  {MetinNo::FarkSütunu, 11, true},
                                            {MetinNo::YüzdeSütunu, 8, true},       {MetinNo::SatırSütunu, 5, true},
-                                           {MetinNo::AyrıFiyatlıSütunu, 5, true}, {MetinNo::NedenSütunu, 34}};
+                                           {MetinNo::AyrıFiyatlıSütunu, 5, true}, {MetinNo::NedenSütunu, 20}};
 const QList<TabloSütunu> ÜRÜN_SÜTUNLARI{{MetinNo::GrubuSütunu, 16},
                                         {MetinNo::ÜrünSütunu, 26},
                                         {MetinNo::ÖncekiToplamSütunu, 14, true},
                                         {MetinNo::SonrakiToplamSütunu, 14, true},
                                         {MetinNo::FarkSütunu, 12, true},
                                         {MetinNo::YüzdeSütunu, 8, true},
-                                        {MetinNo::UyarıSütunu, 30}};
+                                        {MetinNo::UyarıSütunu, 18}};
 
 template <typename T>
 int Sırala(const T& a, const T& b) {

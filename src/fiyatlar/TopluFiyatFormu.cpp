@@ -93,7 +93,12 @@ void TopluFiyatFormu::KontrolleriKur() {
     m_model->İşaretlenince([this] { SayıyıYaz(); });
     m_kullanılmayanlar = new QCheckBox(Metin(MetinNo::KullanılmayanlarSeçeneği));
     m_kullanılmayanlar->setObjectName(QStringLiteral("KullanılmayanlarSeçeneği"));
-    connect(m_kullanılmayanlar, &QCheckBox::toggled, this, [this] { SüzgeciUygula(); });
+    connect(m_kullanılmayanlar, &QCheckBox::toggled, this, [this](bool seçili) {
+        if (seçili && !KullanılanlarıOku())
+            m_kullanılmayanlar->setChecked(false);
+        else
+            SüzgeciUygula();
+    });
     m_değişmeyenler = new QCheckBox(Metin(MetinNo::DeğişmeyenlerSeçeneği));
     m_değişmeyenler->setObjectName(QStringLiteral("DeğişmeyenlerSeçeneği"));
     m_tarih = new TarihKutusu;
@@ -226,10 +231,6 @@ bool TopluFiyatFormu::KullanılanlarıOku() {
 
 // Ticks of rows that the filter hides stay: the number beside the table counts them too.
 void TopluFiyatFormu::SüzgeciUygula() {
-    if (m_kullanılmayanlar->isChecked() && !KullanılanlarıOku()) {
-        m_kullanılmayanlar->setChecked(false);
-        return;
-    }
     const QString aranan = m_süz->text().simplified();
     const bool kullanılmayan = m_kullanılmayanlar->isChecked();
     const QString gün = m_değişmeyenler->isChecked() ? m_tarih->date().toString(Qt::ISODate) : QString();

@@ -16,7 +16,7 @@ constexpr MetinSatırı Tablo[] = {
     {MetinNo::KullanılmayanlarSeçeneği, "Yalnız &kullanılmayanlar"},
     {MetinNo::DeğişmeyenlerSeçeneği, "Şu tari&hten beri değişmeyenler:"},
     {MetinNo::MalzemelerEtiketi, "&Malzemeler"},
-    {MetinNo::TümünüSeç, "Tü&münü Seç"},
+    {MetinNo::TümünüSeç, "&Tümünü Seç"},
     {MetinNo::İşaretliSayısı, "%1 malzeme işaretli"},
     {MetinNo::İşaretliVeGizliSayısı, "%1 malzeme işaretli (%2 tanesi süzgeç dışında)"},
     {MetinNo::YüzdeSeçeneği, "Yüz&de (%)"},

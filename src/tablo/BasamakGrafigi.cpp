@@ -53,7 +53,8 @@ class Çizer {
         double sol = 0;
         for (double değer = m_ölçek.Alt; değer <= m_ölçek.Üst + m_ölçek.Adım / 2; değer += m_ölçek.Adım)
             sol = std::max<double>(sol, boyacı.fontMetrics().horizontalAdvance(Metni(değer)));
-        m_alan = alan.adjusted(sol + 8, m_satır / 2, -8, -m_satır * SATIR_ARASI * (1 + SıraSayısı(alan.width())) - 4);
+        m_alan =
+            alan.adjusted(sol + 8, m_satır / 2, -8, -m_satır * (0.5 + SATIR_ARASI * (1 + SıraSayısı(alan.width()))));
     }
 
     void Çiz(const QPalette& palet) {
@@ -64,6 +65,8 @@ class Çizer {
     }
 
   private:
+    double Tarihler() const { return m_alan.bottom() + m_satır / 2; }  // clear of the scale's lowest figure
+
     static QString Metni(double değer, int basamak) { return SayıBiçimle(değer, basamak).value_or(QString()); }
     QString Metni(double değer) const { return Metni(değer, m_ölçek.Basamak); }
 
@@ -126,7 +129,7 @@ class Çizer {
             m_boyacı.drawLine(QPointF(x, m_alan.bottom()), QPointF(x, m_alan.bottom() + 4));
             m_boyacı.setPen(yazı);
             const double sol = std::clamp(x - genişlik / 2, 0.0, m_alan.right() + 8 - genişlik);
-            m_boyacı.drawText(QRectF(sol, m_alan.bottom() + 4, genişlik, m_satır), Qt::AlignCenter,
+            m_boyacı.drawText(QRectF(sol, Tarihler(), genişlik, m_satır), Qt::AlignCenter,
                               gün.toString(QStringLiteral("dd.MM.yyyy")));
         }
     }
@@ -147,7 +150,7 @@ class Çizer {
 
     void AçıklamaÇiz(const QPalette& palet) {
         double x = 0;
-        double y = m_alan.bottom() + 4 + m_satır * SATIR_ARASI;
+        double y = Tarihler() + m_satır * SATIR_ARASI;
         for (int i = 0; i < m_diziler.size(); ++i) {
             if (x > 0 && x + AçıklamaGenişliği(i) > m_alan.right() + 8) {
                 x = 0;
@@ -156,7 +159,9 @@ class Çizer {
             m_boyacı.setPen(Kalem(i));
             m_boyacı.drawLine(QPointF(x, y + m_satır / 2), QPointF(x + 24, y + m_satır / 2));
             m_boyacı.setPen(palet.color(QPalette::Text));
-            m_boyacı.drawText(QPointF(x + 30, y + m_boyacı.fontMetrics().ascent()), m_diziler[i].Ad);
+            const auto yer = static_cast<int>(m_alan.right() + 8 - x - 30);
+            m_boyacı.drawText(QPointF(x + 30, y + m_boyacı.fontMetrics().ascent()),
+                              m_boyacı.fontMetrics().elidedText(m_diziler[i].Ad, Qt::ElideRight, yer));
             x += AçıklamaGenişliği(i);
         }
     }

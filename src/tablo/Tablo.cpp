@@ -7,6 +7,7 @@
 #include <QScrollBar>
 
 #include "MetinTablosu.h"
+#include "MetinTemsilcisi.h"
 
 Tablo::Tablo(const QString& ad, TabloModeli& model, QWidget* sahip) : QTableView(sahip), m_model(model) {
     setObjectName(ad);
@@ -27,7 +28,12 @@ Tablo::Tablo(const QString& ad, TabloModeli& model, QWidget* sahip) : QTableView
     horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
-    for (int sütun = 0; sütun < model.columnCount(); ++sütun) setColumnWidth(sütun, sizeHintForColumn(sütun));
+    MetinTemsilcisi::Sütunlar yerler;
+    for (int sütun = 0; sütun < model.columnCount(); ++sütun) {
+        setColumnWidth(sütun, sizeHintForColumn(sütun));
+        if (model.Sütunlar().at(sütun).Sayı) yerler.Sayılar.append(sütun);
+    }
+    setItemDelegate(new MetinTemsilcisi(this, yerler));
     horizontalHeader()->setStretchLastSection(true);
 }
 
@@ -41,7 +47,9 @@ int Tablo::sizeHintForColumn(int sütun) const {
 
 QSize Tablo::sizeHint() const {
     constexpr int satır = 12;
-    return {horizontalHeader()->length() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth() + 2,
+    int sütunlar = 0;  // the header's own length takes the stretched last column in
+    for (int sütun = 0; sütun < m_model.columnCount(); ++sütun) sütunlar += sizeHintForColumn(sütun);
+    return {sütunlar + verticalScrollBar()->sizeHint().width() + 2 * frameWidth() + 2,
             horizontalHeader()->sizeHint().height() + satır * verticalHeader()->defaultSectionSize()};
 }
 

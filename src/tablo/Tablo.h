@@ -5,7 +5,7 @@
 #include "TabloModeli.h"
 
 // A long list: one row is marked at a time, Space ticks it, a click on a caption sorts, Ctrl+C copies the marked row
-// and, with Shift, all shown ones; Tab leaves the list.
+// and, with Shift, all shown ones; Tab leaves the list. No figure is cut unseen (MetinTemsilcisi).
 class Tablo : public QTableView {
   public:
     // `model` belongs to the caller and outlives the table.

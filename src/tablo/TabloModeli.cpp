@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "MetinTablosu.h"
+#include "MetinTemsilcisi.h"
 #include "TurkceSira.h"
 
 int TabloKaynağı::Karşılaştır(std::size_t a, std::size_t b, int sütun) const {
@@ -89,7 +90,7 @@ QVariant TabloModeli::data(const QModelIndex& yer, int rol) const {
             const std::optional<bool> işaret = m_kaynak.İşaret(satır);
             return işaret ? QVariant(*işaret ? Qt::Checked : Qt::Unchecked) : QVariant();
         }
-        case Qt::ToolTipRole:
+        case AyrıntıRolü:
         case Qt::AccessibleDescriptionRole: {
             const QString açıklama = m_kaynak.Açıklama(satır);
             return açıklama.isEmpty() ? QVariant() : QVariant(açıklama);

@@ -32,6 +32,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     FormuOku();
     Tıkla("İçindekilerMenüsü");
     const char* tarih = "GünlükMalzemeHareketleriGösterButonu";
+    const char* toplu = "TopluFiyatMenüsü";
     for (const auto& [açan, form] : {std::pair("ÜrünEkleSilMenüsü", "ÜrünEkleSilFormu"),
                                      {"MalzemeEkleSilMenüsü", "MalzemeEkleSilFormu"},
                                      {"ListeyeMalzemeEkleButonu", "MalzemeListesiOluşturFormu"},
@@ -39,18 +40,24 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {tarih, "MalzemeHareketleriFormu"},
                                      {"MalzemeListesiGösterButonu", "MalzemeListesiFormu"},
                                      {"ÜrünListesiGösterButonu", "ÜrünListesiFormu"},
+                                     {toplu, "TopluFiyatFormu"},
+                                     {"FiyatGeçmişiMenüsü", "FiyatGeçmişiFormu"},
                                      {"HakkındaMenüsü", "HakkındaFormu"},
                                      {"HataBildirmeMenüsü", "HataBildirmeFormu"}}) {
         SCOPED_TRACE(form);
-        Modal(açan, form, [this, hareketler = açan == tarih] {
+        Modal(açan, form, [this, açan = açan, tarih, toplu] {
             FormuOku();
-            if (hareketler) Modal("TarihDeğiştirButonu", "TarihDeğiştirFormu", [this] { FormuOku(); });
+            if (açan == tarih) Modal("TarihDeğiştirButonu", "TarihDeğiştirFormu", [this] { FormuOku(); });
+            if (açan != toplu) return;
+            Tıkla("TümünüSeçButonu");
+            Yaz("OranKutusu", "10");
+            Modal("ÖnizleButonu", "FiyatÖnizlemeFormu", [this] { FormuOku(); });
         });
     }
     EXPECT_EQ(m_açılanlar.join(' ').remove(".html"),
               "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu MalzemeListesiOlusturFormu MiktarGosterFormu "
-              "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu HakkindaFormu "
-              "HataBildirmeFormu");
+              "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu TopluFiyatFormu "
+              "FiyatOnizlemeFormu FiyatGecmisiFormu HakkindaFormu HataBildirmeFormu");
 }
 
 }  // namespace

@@ -1,0 +1,136 @@
+// Prices of many materials: changed, looked at over time, taken back. These scenes change the data.
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTableView>
+#include <QTest>
+#include <utility>
+
+#include "DegiskenModulu.h"
+#include "Saat.h"
+#include "Sahneler.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize KÜÇÜK(800, 560);
+
+QModelIndex Satır(QWidget& form, const QString& tablo, int sütun, const QString& metin) {
+    const auto& model = *Tur::Bul<QTableView>(form, tablo).model();
+    const QModelIndexList bulunan = model.match(model.index(0, sütun), Qt::DisplayRole, metin, 1, Qt::MatchStartsWith);
+    if (bulunan.isEmpty()) throw TurHatası(u"not in the table: "_s + metin);
+    return bulunan.first();
+}
+
+void İşaretle(QWidget& form, const QString& malzeme) {
+    auto& tablo = Tur::Bul<QTableView>(form, u"MalzemeTablosu"_s);
+    Tur::Tıkla(tablo, Satır(form, u"MalzemeTablosu"_s, 0, malzeme));
+    QTest::keyClick(&tablo, Qt::Key_Space);
+    Tur::Durul();
+}
+
+// Ticks what the filter shows and types the rule, with prices to 5 liras.
+void KuralYaz(QWidget& form, const QString& süzgeç, const QString& yüzde) {
+    Tur::Yaz(Tur::Bul<QLineEdit>(form, u"MalzemeSüzKutusu"_s), süzgeç);
+    Bas(form, u"TümünüSeçButonu"_s);
+    auto& oran = Tur::Bul<QLineEdit>(form, u"OranKutusu"_s);
+    Tur::Tıkla(oran);
+    Tur::Yaz(oran, yüzde);
+    auto& adımlar = Tur::Bul<QComboBox>(form, u"YuvarlamaListesi"_s);
+    adımlar.setCurrentIndex(adımlar.findText(u"5"_s));
+}
+
+void Önizle(QWidget& form, const std::function<void(QWidget&)>& iş) {
+    Tur::Kipli([&] { Bas(form, u"ÖnizleButonu"_s); }, iş);
+}
+
+void GünGeç(int önce) {
+    SaatiAyarla([önce] { return QDate::currentDate().addDays(-önce); });
+}
+
+void Toplu(Tur& tur, QWidget& anaForm) {
+    GünGeç(60);
+    MenüdenAç(anaForm, u"TopluFiyatMenüsü"_s, [&](QWidget& form) {
+        KuralYaz(form, {}, u"12,5"_s);
+        tur.Çek(u"toplu-fiyat"_s, form);
+        Önizle(form, [&](QWidget& önizleme) {
+            tur.Çek(u"fiyat-onizleme"_s, önizleme);
+            Bas(önizleme, u"UygulaButonu"_s);
+        });
+    });
+    GünGeç(20);
+    MenüdenAç(anaForm, u"TopluFiyatMenüsü"_s, [](QWidget& form) {
+        KuralYaz(form, u"kereste"_s, u"8"_s);
+        Önizle(form, [](QWidget& önizleme) { Bas(önizleme, u"UygulaButonu"_s); });
+    });
+    SaatiAyarla(nullptr);
+}
+
+void Geçmiş(Tur& tur, QWidget& anaForm) {
+    MenüdenAç(anaForm, u"FiyatGeçmişiMenüsü"_s, [&](QWidget& form) {
+        İşaretle(form, u"Gürgen Kereste"_s);
+        İşaretle(form, u"Çam Kereste"_s);
+        auto& geçmiş = Tur::Bul<QTableView>(form, u"GeçmişTablosu"_s);
+        Tur::Tıkla(geçmiş, Satır(form, u"GeçmişTablosu"_s, 7, u"Toplu değişim: yüzde 12"_s));
+        tur.Çek(u"fiyat-gecmisi"_s, form);
+        Tur::Kipli([&] { Bas(form, u"GeriAlButonu"_s); },
+                   [&](QWidget& önizleme) {
+                       tur.Çek(u"fiyat-geri-alma"_s, önizleme);
+                       Esc(önizleme);
+                   });
+        Esc(form);
+    });
+}
+
+// A material that costs as much as fifteen digits tell, used by a product, with the most decimals.
+void BüyükTutarEkle(QWidget& anaForm) {
+    const QString ad = u"Altın Varak"_s;
+    MenüdenAç(anaForm, u"MalzemeEkleSilMenüsü"_s, [&](QWidget& form) {
+        Bas(form, u"MalzemeEkleKaydetButonu"_s);
+        Tur::Yaz(Tur::Bul<QLineEdit>(form, u"MalzemeAdıKutusu"_s), ad);
+        Tur::Yaz(Tur::Bul<QLineEdit>(form, u"MalzemeFiyatıKutusu"_s), u"100000000000000,1234"_s);
+        Bas(form, u"MalzemeEkleKaydetButonu"_s);
+        Esc(form);
+    });
+    ÜrünSeç(anaForm, u"Orta Sehpa"_s);
+    Tur::Kipli([&] { Bas(anaForm, u"ListeyeMalzemeEkleButonu"_s); },
+               [&](QWidget& form) {
+                   Tur::Yaz(Tur::Bul<QLineEdit>(form, u"MalzemeBulKutusu"_s), ad);
+                   Tur::Yaz(Tur::Bul<QLineEdit>(form, u"MalzemeMiktarıKutusu"_s), u"1"_s);
+                   Tur::Bul<QComboBox>(form, u"MiktarTürüListesi"_s).setEditText(u"Adet"_s);
+                   Bas(form, u"ListeyeEkleButonu"_s);
+                   Tur::Kipli([&] { Bas(form, u"ListeyiAktarButonu"_s); },
+                              [](QWidget& soru) { QTest::keyClick(&soru, Qt::Key_Return); });
+               });
+}
+
+void KüçükÇek(Tur& tur, const QString& ad, QWidget& form) {
+    form.resize(KÜÇÜK);
+    Tur::Durul();
+    tur.Çek(ad, form);
+}
+
+void Sığmayan(Tur& tur, QWidget& anaForm) {
+    BüyükTutarEkle(anaForm);
+    const int basamak = std::exchange(OndalıkBasamak, 6);
+    MenüdenAç(anaForm, u"TopluFiyatMenüsü"_s, [&](QWidget& form) {
+        KuralYaz(form, u"al"_s, u"12,5"_s);
+        KüçükÇek(tur, u"toplu-fiyat-kucuk"_s, form);
+        Önizle(form, [&](QWidget& önizleme) {
+            KüçükÇek(tur, u"fiyat-onizleme-kucuk"_s, önizleme);
+            Bas(önizleme, u"UygulaButonu"_s);
+        });
+    });
+    MenüdenAç(anaForm, u"FiyatGeçmişiMenüsü"_s, [&](QWidget& form) {
+        İşaretle(form, u"Altın Varak"_s);
+        KüçükÇek(tur, u"fiyat-gecmisi-kucuk"_s, form);
+        Esc(form);
+    });
+    OndalıkBasamak = basamak;
+}
+
+}  // namespace
+
+std::vector<Sahne> FiyatSahneleri() {
+    return {{u"toplu-fiyat"_s, Toplu}, {u"fiyat-gecmisi"_s, Geçmiş}, {u"fiyat-sigmayan"_s, Sığmayan}};
+}
