@@ -28,6 +28,12 @@ const QList<TabloSütunu> GEÇMİŞ_SÜTUNLARI{
     {MetinNo::YeniFiyatSütunu, 11, true}, {MetinNo::FarkSütunu, 10, true}, {MetinNo::YüzdeSütunu, 8, true},
     {MetinNo::İşlemSütunu, 14},           {MetinNo::AçıklamaSütunu, 26},   {MetinNo::DurumSütunu, 12}};
 
+// Without an old price nothing can be said in per cent: before everything else.
+double Oranı(const Deyimler::Fiyat::Değişim& d) {
+    constexpr double yok = -1e300;
+    return d.Eski.OnBindeBir() == 0 ? yok : (d.Yeni.Double() - d.Eski.Double()) / d.Eski.Double();
+}
+
 constexpr std::size_t EN_ÇOK_KAYIT = 10'000;
 
 QDateTime ZamanOku(const QString& zaman) {
@@ -97,11 +103,9 @@ class FiyatGeçmişiFormu::GeçmişKaynağı : public TabloKaynağı {
             case GYeni:
                 return sırala(x.Yeni, y.Yeni);
             case GFark:
-            case GYüzde: {
-                const double fark = (x.Yeni.Double() - x.Eski.Double()) / (sütun == GFark ? 1 : x.Eski.Double());
-                const double öbür = (y.Yeni.Double() - y.Eski.Double()) / (sütun == GFark ? 1 : y.Eski.Double());
-                return sırala(fark, öbür);
-            }
+                return sırala(x.Yeni.Double() - x.Eski.Double(), y.Yeni.Double() - y.Eski.Double());
+            case GYüzde:
+                return sırala(Oranı(x), Oranı(y));
             default:
                 return TabloKaynağı::Karşılaştır(a, b, sütun);
         }

@@ -9,6 +9,7 @@
 #include "FiyatMetinleri.h"
 #include "FormParcalari.h"
 #include "IlerlemeKutusu.h"
+#include "KayitYeri.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "OdbcModulu.h"
@@ -17,165 +18,13 @@
 #include "Tablo.h"
 #include "Yazdirma.h"
 
-namespace {
-
-enum MalzemeSütunları { MAd, MEski, MYeni, MFark, MYüzde, MSatır, MAyrı, MNeden };
-enum ÜrünSütunları { ÜGrup, ÜAd, ÜÖnce, ÜSonra, ÜFark, ÜYüzde, ÜUyarı };
-
-const QList<TabloSütunu> MALZEME_SÜTUNLARI{{MetinNo::MalzemeSütunu, 28},          {MetinNo::EskiFiyatSütunu, 12, true},
-                                           {MetinNo::YeniFiyatSütunu, 12, true},  {MetinNo::FarkSütunu, 11, true},
-                                           {MetinNo::YüzdeSütunu, 8, true},       {MetinNo::SatırSütunu, 5, true},
-                                           {MetinNo::AyrıFiyatlıSütunu, 5, true}, {MetinNo::NedenSütunu, 20}};
-const QList<TabloSütunu> ÜRÜN_SÜTUNLARI{{MetinNo::GrubuSütunu, 16},
-                                        {MetinNo::ÜrünSütunu, 26},
-                                        {MetinNo::ÖncekiToplamSütunu, 14, true},
-                                        {MetinNo::SonrakiToplamSütunu, 14, true},
-                                        {MetinNo::FarkSütunu, 12, true},
-                                        {MetinNo::YüzdeSütunu, 8, true},
-                                        {MetinNo::UyarıSütunu, 18}};
-
-template <typename T>
-int Sırala(const T& a, const T& b) {
-    return a < b ? -1 : b < a ? 1 : 0;
-}
-
-double Büyüklük(Para önce, Para sonra) {
-    return std::abs(sonra.Double() - önce.Double());
-}
-
-double OranBüyüklüğü(Para önce, Para sonra) {
-    return önce.OnBindeBir() == 0 ? -1 : Büyüklük(önce, sonra) / std::abs(önce.Double());
-}
-
-}  // namespace
-
-class FiyatÖnizlemeFormu::MalzemeKaynağı : public TabloKaynağı {
-  public:
-    explicit MalzemeKaynağı(FiyatPlanı& plan) : m_plan(plan) {}
-
-    std::size_t SatırSayısı() const override { return m_plan.Malzemeler().size(); }
-    QString Hücre(std::size_t satır, int sütun) const override {
-        const PlanMalzemesi& m = m_plan.Malzemeler()[satır];
-        const bool yazılır = Uygulanır(m.Neden);
-        switch (sütun) {
-            case MAd:
-                return m.Malzeme;
-            case MEski:
-                return FiyatMetni(m.Eski);
-            case MYeni:
-                return yazılır ? FiyatMetni(m.Yeni) : QString();
-            case MFark:
-                return yazılır ? FiyatFarkı(m.Eski, m.Yeni) : QString();
-            case MYüzde:
-                return yazılır ? YüzdeFarkı(m.Eski, m.Yeni) : QString();
-            case MSatır:
-                return QString::number(m.DeğişenSatır);
-            case MAyrı:
-                return QString::number(m.Ayrılar.size());
-            default:
-                return Açıklama(satır);
-        }
-    }
-    int Karşılaştır(std::size_t a, std::size_t b, int sütun) const override {
-        const PlanMalzemesi& x = m_plan.Malzemeler()[a];
-        const PlanMalzemesi& y = m_plan.Malzemeler()[b];
-        switch (sütun) {
-            case MEski:
-                return Sırala(x.Eski, y.Eski);
-            case MYeni:
-                return Sırala(x.Yeni, y.Yeni);
-            case MFark:
-                return Sırala(Büyüklük(x.Eski, x.Yeni), Büyüklük(y.Eski, y.Yeni));
-            case MYüzde:
-                return Sırala(OranBüyüklüğü(x.Eski, x.Yeni), OranBüyüklüğü(y.Eski, y.Yeni));
-            case MSatır:
-                return Sırala(x.DeğişenSatır, y.DeğişenSatır);
-            case MAyrı:
-                return Sırala(x.Ayrılar.size(), y.Ayrılar.size());
-            default:
-                return TabloKaynağı::Karşılaştır(a, b, sütun);
-        }
-    }
-    std::optional<bool> İşaret(std::size_t satır) const override {
-        const PlanMalzemesi& m = m_plan.Malzemeler()[satır];
-        return Uygulanır(m.Neden) ? std::optional(m.İşaretli) : std::nullopt;
-    }
-    void İşaretle(std::size_t satır, bool işaretli) override {
-        static_cast<void>(m_plan.İşaretle(static_cast<std::uint32_t>(satır), işaretli));
-    }
-    QString Açıklama(std::size_t satır) const override {
-        const PlanMalzemesi& m = m_plan.Malzemeler()[satır];
-        QStringList metin;
-        if (m.Neden != PlanNedeni::Yok) metin.append(NedenMetni(m.Neden));
-        const auto eksik =
-            std::count_if(m.Tekler.begin(), m.Tekler.end(), [](const TekSatır& t) { return !t.Bulundu; });
-        if (eksik > 0) metin.append(Metin(MetinNo::BulunamayanSatırlar).arg(eksik));
-        return metin.join(QStringLiteral("; "));
-    }
-
-  private:
-    FiyatPlanı& m_plan;
-};
-
-class FiyatÖnizlemeFormu::ÜrünKaynağı : public TabloKaynağı {
-  public:
-    explicit ÜrünKaynağı(const FiyatPlanı& plan) : m_plan(plan) {}
-
-    std::size_t SatırSayısı() const override { return m_plan.Ürünler().size(); }
-    QString Hücre(std::size_t satır, int sütun) const override {
-        const PlanÜrünü& ü = m_plan.Ürünler()[satır];
-        switch (sütun) {
-            case ÜGrup:
-                return ü.Grup;
-            case ÜAd:
-                return ü.Ad;
-            case ÜÖnce:
-                return ToplamMetni(ü.Önce);
-            case ÜSonra:
-                return ToplamMetni(ü.Sonra);
-            case ÜFark:
-                return ToplamFarkı(ü.Önce, ü.Sonra);
-            case ÜYüzde:
-                return YüzdeFarkı(ü.Önce, ü.Sonra);
-            default:
-                return Açıklama(satır);
-        }
-    }
-    int Karşılaştır(std::size_t a, std::size_t b, int sütun) const override {
-        const PlanÜrünü& x = m_plan.Ürünler()[a];
-        const PlanÜrünü& y = m_plan.Ürünler()[b];
-        switch (sütun) {
-            case ÜÖnce:
-                return Sırala(x.Önce, y.Önce);
-            case ÜSonra:
-                return Sırala(x.Sonra, y.Sonra);
-            case ÜFark:
-                return Sırala(Büyüklük(x.Önce, x.Sonra), Büyüklük(y.Önce, y.Sonra));
-            case ÜYüzde:
-                return Sırala(OranBüyüklüğü(x.Önce, x.Sonra), OranBüyüklüğü(y.Önce, y.Sonra));
-            default:
-                return TabloKaynağı::Karşılaştır(a, b, sütun);
-        }
-    }
-    QString Açıklama(std::size_t satır) const override {
-        const PlanÜrünü& ü = m_plan.Ürünler()[satır];
-        QStringList metin;
-        if (ü.Eksik) metin.append(Metin(MetinNo::UyarıSayılmayan));
-        if (ü.KatalogDışı) metin.append(Metin(MetinNo::UyarıKatalogDışı));
-        return metin.join(QStringLiteral("; "));
-    }
-
-  private:
-    const FiyatPlanı& m_plan;
-};
-
 FiyatÖnizlemeFormu::FiyatÖnizlemeFormu(const Fiyatİşi& iş, QWidget* sahip)
     : QDialog(sahip),
       m_iş(iş),
-      m_malzemeler(std::make_unique<MalzemeKaynağı>(m_plan)),
-      m_ürünler(std::make_unique<ÜrünKaynağı>(m_plan)),
-      m_malzemeModeli(std::make_unique<TabloModeli>(*m_malzemeler, MALZEME_SÜTUNLARI)),
-      m_ürünModeli(std::make_unique<TabloModeli>(*m_ürünler, ÜRÜN_SÜTUNLARI)) {
+      m_malzemeler(std::make_unique<PlanınMalzemeleri>(m_plan)),
+      m_ürünler(std::make_unique<PlanınÜrünleri>(m_plan)),
+      m_malzemeModeli(std::make_unique<TabloModeli>(*m_malzemeler, PlanınMalzemeSütunları())),
+      m_ürünModeli(std::make_unique<TabloModeli>(*m_ürünler, PlanınÜrünSütunları())) {
     setObjectName(QStringLiteral("FiyatÖnizlemeFormu"));
     setWindowTitle(Metin(MetinNo::FiyatÖnizlemeBaşlığı));
     KontrolleriKur();
@@ -224,7 +73,8 @@ void FiyatÖnizlemeFormu::Yerleştir() {
     auto* önizle =
         DüğmeOluştur(QStringLiteral("ÖnizlemeButonu"), MetinNo::Önizleme, [this] { Önizle(*this, Rapor()); });
     auto* iptal = DüğmeOluştur(QStringLiteral("İptalButonu"), MetinNo::Vazgeç, [this] { reject(); });
-    QHBoxLayout* düğmeler = DüğmeSırası({m_uygula, m_yazdır, m_pdf, önizle, nullptr, iptal});
+    auto* excel = DüğmeOluştur(QStringLiteral("ExcelKaydetButonu"), MetinNo::ExcelKaydet, [this] { ExceleKaydet(); });
+    QHBoxLayout* düğmeler = DüğmeSırası({m_uygula, m_yazdır, m_pdf, önizle, excel, nullptr, iptal});
     auto* düzen = new QVBoxLayout(this);
     düzen->addWidget(m_özet);
     düzen->addWidget(bölen, 1);
@@ -308,37 +158,27 @@ void FiyatÖnizlemeFormu::Uygula() {
     }
 }
 
-// The rows as they stand on screen; what is left out comes last, with its reason.
-void FiyatÖnizlemeFormu::Yaz(SayfaYüzeyi& yüzey) const {
-    SayfaDüzeni düzen(yüzey, windowTitle(),
-                      {{MetinNo::MalzemeSütunu, 13.5, HücreTürü::Metin},
-                       {MetinNo::EskiFiyatSütunu, 2.3, HücreTürü::Sayı},
-                       {MetinNo::YeniFiyatSütunu, 1.75, HücreTürü::Sayı},
-                       {MetinNo::FarkSütunu, 1.35, HücreTürü::Sayı},
-                       {MetinNo::YüzdeSütunu, 1.15, HücreTürü::Sayı}});
-    if (!düzen.Başla()) return;
-    for (const bool alınan : {true, false}) {
-        for (int satır = 0; satır < m_malzemeModeli->rowCount(); ++satır) {
-            const std::size_t yer = m_malzemeModeli->KaynakSatırı(satır);
-            if (m_plan.Malzemeler()[yer].İşaretli != alınan) continue;
-            QStringList hücreler;
-            for (int sütun = MAd; sütun <= MYüzde; ++sütun) hücreler.append(m_malzemeler->Hücre(yer, sütun));
-            if (!alınan) {
-                const QString neden = m_malzemeler->Açıklama(yer);
-                hücreler[MAd] += QStringLiteral(" (%1)").arg(neden.isEmpty() ? Metin(MetinNo::İşaretsiz) : neden);
-            }
-            düzen.SatırYaz(hücreler);
-        }
-    }
-    for (int satır = 0; satır < m_ürünModeli->rowCount(); ++satır) {
-        const std::size_t yer = m_ürünModeli->KaynakSatırı(satır);
-        const auto hücre = [&](int sütun) { return m_ürünler->Hücre(yer, sütun); };
-        düzen.SatırYaz({hücre(ÜGrup) + QStringLiteral(" / ") + hücre(ÜAd), hücre(ÜÖnce), hücre(ÜSonra), hücre(ÜFark),
-                        hücre(ÜYüzde)});
-    }
-    düzen.Bitir();
+Yazdırılacak FiyatÖnizlemeFormu::Rapor() const {
+    return {windowTitle(), [this](SayfaYüzeyi& yüzey) { PlanıYaz(yüzey, windowTitle(), Görünen()); }};
 }
 
-Yazdırılacak FiyatÖnizlemeFormu::Rapor() const {
-    return {windowTitle(), [this](SayfaYüzeyi& yüzey) { Yaz(yüzey); }};
+GörünenPlan FiyatÖnizlemeFormu::Görünen() const {
+    return {*m_malzemeler, *m_malzemeModeli, *m_ürünler, *m_ürünModeli};
+}
+
+void FiyatÖnizlemeFormu::ExceleKaydet() {
+    const QString yol = KaydedilecekYer(*this, windowTitle(),
+                                        {QStringLiteral("ExcelDosyasıFormu"), QStringLiteral("xlsx"),
+                                         MetinNo::ExcelFormuBaşlığı, MetinNo::ExcelSüzgeci});
+    if (yol.isEmpty()) return;
+    setCursor(Qt::WaitCursor);
+    const YazmaSonucu sonuç = PlanıÇizelgeyeYaz(yol, windowTitle(), Görünen());
+    unsetCursor();
+    if (sonuç.Tamam()) return;
+    const QString neden = sonuç.Hata == YazmaHatası::ÇokSatır    ? Metin(MetinNo::ExcelÇokSatır)
+                          : sonuç.Hata == YazmaHatası::UzunMetin ? Metin(MetinNo::ExcelUzunMetin)
+                                                                 : sonuç.Ayrıntı;
+    MesajKutusuOrtala();
+    MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam,
+                        Metin(MetinNo::ExcelYazılamadı).arg(neden) + QLatin1Char('\n') + yol);
 }

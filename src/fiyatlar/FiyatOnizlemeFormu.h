@@ -3,7 +3,9 @@
 #include <QDialog>
 #include <memory>
 
+#include "FiyatCiktilari.h"
 #include "FiyatIsi.h"
+#include "FiyatOnizlemeTablolari.h"
 #include "TabloModeli.h"
 
 class KomutDüğmesi;
@@ -22,9 +24,6 @@ class FiyatÖnizlemeFormu : public QDialog {
     bool PlanıKur();
 
   private:
-    class MalzemeKaynağı;
-    class ÜrünKaynağı;
-
     void KontrolleriKur();
     void Yerleştir();
     void DüğmeleriKur();
@@ -32,15 +31,16 @@ class FiyatÖnizlemeFormu : public QDialog {
     void İşaretDeğişti();
     void BugünDeğişenleriSay();
     void Uygula();
-    void Yaz(class SayfaYüzeyi& yüzey) const;
+    void ExceleKaydet();
+    GörünenPlan Görünen() const;
     Yazdırılacak Rapor() const;
 
     Fiyatİşi m_iş;
     FiyatPlanı m_plan;
     QStringList m_notlar;
     std::vector<bool> m_bugünDeğişti;  // beside the plan's materials
-    std::unique_ptr<MalzemeKaynağı> m_malzemeler;
-    std::unique_ptr<ÜrünKaynağı> m_ürünler;
+    std::unique_ptr<PlanınMalzemeleri> m_malzemeler;
+    std::unique_ptr<PlanınÜrünleri> m_ürünler;
     std::unique_ptr<TabloModeli> m_malzemeModeli;
     std::unique_ptr<TabloModeli> m_ürünModeli;
     Tablo* m_malzemeTablosu;

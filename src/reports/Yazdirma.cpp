@@ -1,32 +1,27 @@
 #include "Yazdirma.h"
 
 #include <QAbstractButton>
-#include <QDir>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QSaveFile>
-#include <QStandardPaths>
 #include <memory>
 #include <utility>
 
 #include "AygitYuzeyi.h"
 #include "DegiskenModulu.h"
+#include "KayitYeri.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 
 using MesajKutusu::Düğmeler;
 using MesajKutusu::Simge;
-using MesajKutusu::Yanıt;
 
 namespace {
 
 constexpr int PdfÇözünürlüğü = 1200;  // dots per inch
-constexpr qsizetype EnUzunDosyaAdı = 100;
 
 std::function<void(const Yazdırılacak&)> YazıcıYerine;
 
@@ -85,39 +80,6 @@ void YazıcıdaYaz(const Yazdırılacak& iş) {
     iş.Yaz(yüzey);
 }
 
-// The document's name without the signs that file systems do not take.
-QString DosyaAdı(QString ad) {
-    for (QChar& harf : ad) {
-        if (harf < QLatin1Char(' ') || QStringLiteral("/\\:*?\"<>|").contains(harf)) harf = QLatin1Char('-');
-    }
-    return ad.left(EnUzunDosyaAdı).trimmed() + QStringLiteral(".pdf");
-}
-
-bool ÜzerineYazılsınMı(const QString& yol) {
-    MesajKutusuOrtala();
-    return MesajKutusu::Göster(Simge::Soru, Düğmeler::EvetHayır,
-                               Metin(MetinNo::ÜzerineYazmaSorusu) + QLatin1Char('\n') + yol, {},
-                               Yanıt::Hayır) == Yanıt::Evet;
-}
-
-// The file that the user chooses; empty: none.
-QString DosyaSor(QWidget& form, const QString& ad) {
-    static QString klasör = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    QFileDialog kutu(&form, Metin(MetinNo::PdfFormuBaşlığı), klasör, Metin(MetinNo::PdfSüzgeci));
-    kutu.setObjectName(QStringLiteral("PdfDosyasıFormu"));
-    kutu.setAcceptMode(QFileDialog::AcceptSave);
-    kutu.setDefaultSuffix(QStringLiteral("pdf"));
-    kutu.setOption(QFileDialog::DontConfirmOverwrite);
-    kutu.selectFile(DosyaAdı(ad));
-    while (kutu.exec() == QDialog::Accepted) {
-        const QString yol = kutu.selectedFiles().value(0);
-        if (QFileInfo::exists(yol) && !ÜzerineYazılsınMı(yol)) continue;
-        klasör = QFileInfo(yol).absolutePath();
-        return yol;
-    }
-    return {};
-}
-
 }  // namespace
 
 bool Yazdır(QWidget& form, QAbstractButton& düğme, const Yazdırılacak& iş) {
@@ -132,7 +94,9 @@ bool Yazdır(QWidget& form, QAbstractButton& düğme, const Yazdırılacak& iş)
 }
 
 void PdfKaydet(QWidget& form, QAbstractButton& düğme, const Yazdırılacak& iş) {
-    const QString yol = DosyaSor(form, iş.Ad);
+    const QString yol = KaydedilecekYer(
+        form, iş.Ad,
+        {QStringLiteral("PdfDosyasıFormu"), QStringLiteral("pdf"), MetinNo::PdfFormuBaşlığı, MetinNo::PdfSüzgeci});
     if (yol.isEmpty()) return;
     bool yazıldı = false;
     {

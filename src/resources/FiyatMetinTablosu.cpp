@@ -105,6 +105,15 @@ constexpr MetinSatırı Tablo[] = {
     {MetinNo::ElleAçıklaması, "Malzeme formunda fiyat değişimi"},
     {MetinNo::GeçmişeYazılamadı, "Yeni fiyat kaydedildi, ancak fiyat geçmişine yazılamadı; bu değişim geri alınamaz."},
     {MetinNo::FiyatGeçmişiDüğmesi, "Fiyat &Geçmişi..."},
+    {MetinNo::ExcelKaydet, "E&xcel Kaydet..."},
+    {MetinNo::ExcelFormuBaşlığı, "Excel Dosyası Olarak Kaydet"},
+    {MetinNo::ExcelSüzgeci, "Excel Dosyaları (*.xlsx)"},
+    {MetinNo::ExcelYazılamadı, "Excel dosyası yazılamadı! %1"},
+    {MetinNo::ExcelUzunMetin, "Bir metin, Excel dosyasının alabileceğinden uzun."},
+    {MetinNo::ExcelÇokSatır, "Satırlar, Excel dosyasının alabileceğinden çok."},
+    {MetinNo::TürSütunu, "Tür"},
+    {MetinNo::ÖnceSütunu, "Önce"},
+    {MetinNo::SonraSütunu, "Sonra"},
 };
 
 static_assert(Sıralı(Tablo));

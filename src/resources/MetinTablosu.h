@@ -334,6 +334,15 @@ enum class MetinNo : int {
     ElleAçıklaması = 2518,
     GeçmişeYazılamadı = 2519,
     FiyatGeçmişiDüğmesi = 2520,
+    ExcelKaydet = 2530,
+    ExcelFormuBaşlığı = 2531,
+    ExcelSüzgeci = 2532,
+    ExcelYazılamadı = 2533,
+    ExcelUzunMetin = 2534,
+    ExcelÇokSatır = 2535,
+    TürSütunu = 2536,
+    ÖnceSütunu = 2537,
+    SonraSütunu = 2538,
 };
 
 // The text. Each number has one; an enumerator without would be a fault of the program: it then reads "?number?", and a
