@@ -248,6 +248,8 @@ void FiyatGeçmişiFormu::GeçmişiOku() {
         sonuç = DeğişimleriOku(ODBCBağlantısı(), Deyimler::Fiyat::Değişimler(), değişimler, EN_ÇOK_KAYIT, m_fazlaVar);
         ekle(değişimler);
     }
+    // Not read is not empty, and a part is no history: the box says why.
+    if (!sonuç.Tamam()) m_geçmiş->Satırlar.clear();
     m_geçmişModeli->Yenile();
     m_not->setText(m_fazlaVar ? Metin(MetinNo::YalnızSonKayıtlar).arg(EN_ÇOK_KAYIT) : QString());
     m_not->setVisible(m_fazlaVar);

@@ -190,7 +190,7 @@ bool TopluFiyatFormu::Yükle() {
     m_kaynak->Satırlar.clear();
     for (KatalogMalzemesi& malzeme : katalog.Malzemeler)
         m_kaynak->Satırlar.push_back({std::move(malzeme), false, false, {}});
-    SonDeğişimleriOku();
+    if (!SonDeğişimleriOku()) return false;
     m_model->Yenile();
     SayıyıYaz();
     return true;

@@ -118,6 +118,19 @@ TEST_F(MalzemeFormu, FiyatDeğişimiHerGününSatırınaUlaşır) {
     EXPECT_EQ(Görünen(), "Çivi Çivi|1.234,50");
     EXPECT_EQ(Katalog() + Kullanılan(), "Abanoz|1250.5; Çivi|1234.5; İp|3Çivi|1234.5; Çivi|1234.5");
     EXPECT_EQ(AnaForm.Çağrılar, "seç 3seç 3");
+    // Recorded with what it was before, the used rows that had a price of their own singly.
+    EXPECT_EQ(Oku("SELECT MalzemeAdi, EskiFiyat, YeniFiyat FROM FiyatGecmisiTablosu"), "Çivi|12.5|1234.5");
+    EXPECT_EQ(Oku("SELECT UrunAdi, EskiFiyat FROM FiyatSatirTablosu"), "Sehpa|77; Sehpa|77");
+    // A record that fails (here its number is taken) does not keep the price back, nor does it pass unseen.
+    Çalıştır("UPDATE FiyatIslemTablosu SET IslemNo= '2' WHERE IslemNo= '1'");
+    Çalıştır(
+        "INSERT INTO FiyatIslemTablosu (IslemNo, IslemZamani, IslemTuru, Aciklama, Karsiligi, GeriAlan, DovizKodu, "
+        "EskiKur, YeniKur, EskiKurGunu) VALUES ('10000000000000000000000', '', '', '', '0', '0', '', '0', '0', '')");
+    Tıkla("MalzemeFiyatıDeğiştirButonu");
+    Yaz("MalzemeFiyatıKutusu", "5");
+    Beklenen(Simge::Ünlem, MetinNo::GeçmişeYazılamadı, Yanıt::Tamam);
+    Tıkla("MalzemeFiyatıDeğiştirButonu");
+    EXPECT_EQ(Katalog() + Kullanılan(), "Abanoz|1250.5; Çivi|5; İp|3Çivi|5; Çivi|5");
 
     Çalıştır("DELETE FROM MalzemeTablosu WHERE MalzemeAdi= 'Çivi'");
     Beklenen(Simge::Bilgi, MetinNo::SilinmişMalzeme, Yanıt::Tamam);
