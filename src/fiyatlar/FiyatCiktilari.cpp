@@ -1,6 +1,7 @@
 #include "FiyatCiktilari.h"
 
 #include <cmath>
+#include <optional>
 
 #include "MetinTablosu.h"
 #include "Ondalik.h"
@@ -13,32 +14,50 @@ QString NedenYaDaİşaretsiz(const GörünenPlan& plan, std::size_t yer) {
     return neden.isEmpty() ? Metin(MetinNo::İşaretsiz) : neden;
 }
 
-ÇizelgeDeğeri Fark(Para önce, Para sonra) {
-    const std::optional<Para> fark = Topla(sonra, Para::OnBindeBirden(-önce.OnBindeBir()));
-    return fark ? ÇizelgeDeğeri(*fark) : ÇizelgeDeğeri();
-}
+// A row is put together value by value: what is not there stays empty.
+class Satır {
+  public:
+    Satır& Metin(const QString& metin) {
+        m_değerler.emplaceBack(metin);
+        return *this;
+    }
+    Satır& Tutar(std::optional<Para> tutar) {
+        tutar ? m_değerler.emplaceBack(*tutar) : m_değerler.emplaceBack();
+        return *this;
+    }
+    // The amounts, their difference and what it is in per cent.
+    Satır& Değişim(Para önce, Para sonra) {
+        Tutar(önce).Tutar(sonra).Tutar(Topla(sonra, Para::OnBindeBirden(-önce.OnBindeBir())));
+        const auto oran = önce.OnBindeBir() == 0
+                              ? std::nullopt
+                              : OnBeşHaneyle((sonra.Double() - önce.Double()) / std::abs(önce.Double()) * 100);
+        oran ? m_değerler.emplaceBack(Yuvarla(*oran, 2, Yarım::SıfırdanUzağa)) : m_değerler.emplaceBack();
+        return *this;
+    }
+    const QList<ÇizelgeDeğeri>& Değerler() const { return m_değerler; }
 
-ÇizelgeDeğeri Yüzde(Para önce, Para sonra) {
-    if (önce.OnBindeBir() == 0) return {};
-    const auto oran = OnBeşHaneyle((sonra.Double() - önce.Double()) / std::abs(önce.Double()) * 100);
-    return oran ? ÇizelgeDeğeri(Yuvarla(*oran, 2, Yarım::SıfırdanUzağa)) : ÇizelgeDeğeri();
-}
+  private:
+    QList<ÇizelgeDeğeri> m_değerler;
+};
 
-QList<ÇizelgeDeğeri> MalzemeSatırı(const GörünenPlan& plan, std::size_t yer) {
+Satır MalzemeSatırı(const GörünenPlan& plan, std::size_t yer) {
     const PlanMalzemesi& m = plan.Malzemeler.Malzeme(yer);
-    QList<ÇizelgeDeğeri> satır{Metin(MetinNo::MalzemeSütunu), QString(), m.Malzeme, m.Eski};
+    Satır satır;
+    satır.Metin(Metin(MetinNo::MalzemeSütunu)).Metin({}).Metin(m.Malzeme);
     if (Uygulanır(m.Neden))
-        satır += {m.Yeni, Fark(m.Eski, m.Yeni), Yüzde(m.Eski, m.Yeni)};
+        satır.Değişim(m.Eski, m.Yeni);
     else
-        satır += {ÇizelgeDeğeri(), ÇizelgeDeğeri(), ÇizelgeDeğeri()};
-    satır += m.İşaretli ? plan.Malzemeler.Açıklama(yer) : NedenYaDaİşaretsiz(plan, yer);
+        satır.Tutar(m.Eski).Tutar({}).Tutar({}).Tutar({});
+    satır.Metin(m.İşaretli ? plan.Malzemeler.Açıklama(yer) : NedenYaDaİşaretsiz(plan, yer));
     return satır;
 }
 
-QList<ÇizelgeDeğeri> ÜrünSatırı(const GörünenPlan& plan, std::size_t yer) {
+Satır ÜrünSatırı(const GörünenPlan& plan, std::size_t yer) {
     const PlanÜrünü& ü = plan.Ürünler.Ürün(yer);
-    return {Metin(MetinNo::ÜrünSütunu), ü.Grup, ü.Ad, ü.Önce, ü.Sonra, Fark(ü.Önce, ü.Sonra), Yüzde(ü.Önce, ü.Sonra),
-            plan.Ürünler.Açıklama(yer)};
+    Satır satır;
+    satır.Metin(Metin(MetinNo::ÜrünSütunu)).Metin(ü.Grup).Metin(ü.Ad);
+    satır.Değişim(ü.Önce, ü.Sonra).Metin(plan.Ürünler.Açıklama(yer));
+    return satır;
 }
 
 }  // namespace
@@ -89,10 +108,11 @@ YazmaSonucu PlanıÇizelgeyeYaz(const QString& yol, const QString& başlık, con
     for (const bool alınan : {true, false}) {
         for (int satır = 0; satır < plan.MalzemeModeli.rowCount() && sonuç.Tamam(); ++satır) {
             const std::size_t yer = plan.MalzemeModeli.KaynakSatırı(satır);
-            if (plan.Malzemeler.Malzeme(yer).İşaretli == alınan) sonuç = yazıcı.SatırEkle(MalzemeSatırı(plan, yer));
+            if (plan.Malzemeler.Malzeme(yer).İşaretli == alınan)
+                sonuç = yazıcı.SatırEkle(MalzemeSatırı(plan, yer).Değerler());
         }
         for (int satır = 0; alınan && satır < plan.ÜrünModeli.rowCount() && sonuç.Tamam(); ++satır)
-            sonuç = yazıcı.SatırEkle(ÜrünSatırı(plan, plan.ÜrünModeli.KaynakSatırı(satır)));
+            sonuç = yazıcı.SatırEkle(ÜrünSatırı(plan, plan.ÜrünModeli.KaynakSatırı(satır)).Değerler());
     }
     return sonuç.Tamam() ? yazıcı.Bitir() : sonuç;
 }
