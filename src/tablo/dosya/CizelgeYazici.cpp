@@ -140,7 +140,7 @@ struct ÇizelgeYazıcı::Kitap {
     bool m_dolu = false;
 };
 
-ÇizelgeYazıcı::ÇizelgeYazıcı(QString yol, QString sayfaAdı, QList<ÇizelgeSütunu> sütunlar)
+ÇizelgeYazıcı::ÇizelgeYazıcı(QString yol, const QString& sayfaAdı, QList<ÇizelgeSütunu> sütunlar)
     : m_yol(std::move(yol)), m_sayfaAdı(SayfaAdınaUydur(sayfaAdı)), m_sütunlar(std::move(sütunlar)) {}
 
 ÇizelgeYazıcı::~ÇizelgeYazıcı() = default;

@@ -46,7 +46,7 @@ inline constexpr qint64 EnÇokVeriSatırı = 1'048'575;  // besides the captions
 // after any error, what stood there stands.
 class ÇizelgeYazıcı {
   public:
-    ÇizelgeYazıcı(QString yol, QString sayfaAdı, QList<ÇizelgeSütunu> sütunlar);
+    ÇizelgeYazıcı(QString yol, const QString& sayfaAdı, QList<ÇizelgeSütunu> sütunlar);
     ~ÇizelgeYazıcı();
     ÇizelgeYazıcı(const ÇizelgeYazıcı&) = delete;
     ÇizelgeYazıcı& operator=(const ÇizelgeYazıcı&) = delete;

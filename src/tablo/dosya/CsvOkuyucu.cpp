@@ -50,7 +50,7 @@ class CsvKesici {
         for (++m_yer;;) {
             const std::size_t tırnak = m_metin.find('"', m_yer);
             hücre += m_metin.substr(m_yer, tırnak - m_yer);
-            m_tırnakAçık = tırnak == m_metin.npos;
+            m_tırnakAçık = tırnak == std::string_view::npos;
             m_yer = m_tırnakAçık ? m_metin.size() : tırnak + 1;
             if (m_yer >= m_metin.size() || m_metin[m_yer] != '"') return;
             hücre += '"';

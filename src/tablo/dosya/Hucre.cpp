@@ -28,7 +28,8 @@ Ondalık AnlamlıHaneyle(Ondalık sayı) {
     if (ilk == std::string::npos || sayı.Rakamlar.size() - ilk <= AnlamlıHane) return sayı;
     const std::size_t fazla = sayı.Rakamlar.size() - ilk - AnlamlıHane;
     if (fazla > sayı.Basamak) return sayı;  // a whole number of more digits is no noise
-    sayı = Yuvarla(std::move(sayı), static_cast<int>(sayı.Basamak - fazla), Yarım::SıfırdanUzağa);
+    const int kalan = static_cast<int>(sayı.Basamak - fazla);
+    sayı = Yuvarla(std::move(sayı), kalan, Yarım::SıfırdanUzağa);
     for (; sayı.Basamak > 0 && sayı.Rakamlar.back() == '0'; --sayı.Basamak) sayı.Rakamlar.pop_back();
     return sayı;
 }

@@ -119,7 +119,7 @@ qint64 BaşlıkAra(std::span<const ÇizelgeSatırı> satırlar, const SütunTahm
 SütunTahmini SütunlarıTahminEt(std::span<const ÇizelgeSatırı> satırlar) {
     satırlar = satırlar.first(std::min<std::size_t>(satırlar.size(), TahmineYetenSatır));
     const int başlık = BaşlıkSırası(satırlar);
-    const auto veriler = satırlar.subspan(static_cast<std::size_t>(başlık + 1));
+    const auto veriler = satırlar.subspan(static_cast<std::size_t>(başlık) + 1);
     SütunTahmini tahmin;
     SütunPuanı enİyi;
     for (int sütun = 0; sütun < SütunSayısı(satırlar); ++sütun) {

@@ -113,7 +113,8 @@ QString TarihGöster(const Ondalık& sayı, bool tarih1904) {
 
 QString YüzdeGöster(Ondalık sayı) {
     sayı.Rakamlar += "00";
-    sayı = Yuvarla(std::move(sayı), 2 + static_cast<int>(sayı.Basamak), Yarım::SıfırdanUzağa);
+    const int basamak = 2 + static_cast<int>(sayı.Basamak);
+    sayı = Yuvarla(std::move(sayı), basamak, Yarım::SıfırdanUzağa);
     return u"%"_s + SayıBiçimle(sayı, 2);
 }
 
