@@ -219,7 +219,7 @@ void MalzemeListesiOluşturFormu::ListeyiTemizleButonu_Click() {
 
 void MalzemeListesiOluşturFormu::ListeyiAktarButonu_Click() {
     if (m_eklenecek->topLevelItemCount() == 0) return;
-    HareketTarihiSQL = TarihDeğişmezi(Bugün());
+    HareketTarihiSQL = Deyimler::Tarih(Bugün());
     if (Sor(Metin(MetinNo::AktarmaSorusu))) Aktar();
     accept();
 }

@@ -218,63 +218,61 @@ bool FiyatGeçmişiFormu::Yükle(const QString& malzeme) {
     return true;
 }
 
+const Deyimler::Fiyat::İşlem* FiyatGeçmişiFormu::İşlemiBul(std::int64_t no) const {
+    const auto yer = m_işlemYerleri.find(no);
+    return yer == m_işlemYerleri.end() ? nullptr : &m_işlemler[yer->second];
+}
+
+İşSonucu FiyatGeçmişiFormu::MalzemeninGeçmişiniOku(const KatalogMalzemesi& malzeme, BasamakDizisi& dizi) {
+    if (m_işlemler.empty() || !Deyimler::Yazılabilir(malzeme.Ad)) return {};
+    std::vector<Deyimler::Fiyat::Değişim> değişimler;
+    bool fazlaVar = false;
+    const İşSonucu sonuç = DeğişimleriOku(ODBCBağlantısı(), Deyimler::Fiyat::MalzemeninDeğişimleri(malzeme.Ad),
+                                          değişimler, EN_ÇOK_KAYIT, fazlaVar);
+    m_fazlaVar |= fazlaVar;
+    if (!sonuç.Tamam() || değişimler.empty()) return sonuç;
+    // A price that no operation wrote: another program, or the time before the records.
+    if (değişimler.front().Yeni != malzeme.Fiyat)
+        değişimler.insert(değişimler.begin(), {0, malzeme.Ad, değişimler.front().Yeni, malzeme.Fiyat});
+    for (const auto& değişim : değişimler) m_geçmiş->Satırlar.push_back({değişim, İşlemiBul(değişim.İşlem)});
+    dizi.İlkDeğer = değişimler.back().Eski.Double();
+    for (auto değişim = değişimler.rbegin(); değişim != değişimler.rend(); ++değişim) {
+        const Deyimler::Fiyat::İşlem* işlem = İşlemiBul(değişim->İşlem);
+        QDateTime zaman = işlem ? ZamanOku(işlem->Zaman) : QDateTime::currentDateTime();
+        // A clock that was set back: the order of the operations holds.
+        if (!dizi.Noktalar.isEmpty()) zaman = std::max(zaman, dizi.Noktalar.last().Zaman);
+        dizi.Noktalar.append({zaman, değişim->Yeni.Double()});
+    }
+    return sonuç;
+}
+
 void FiyatGeçmişiFormu::GeçmişiOku() {
     m_geçmiş->Satırlar.clear();
     m_fazlaVar = false;
     İşSonucu sonuç;
-    const auto ekle = [this](const std::vector<Deyimler::Fiyat::Değişim>& değişimler) {
-        for (const auto& değişim : değişimler) {
-            const auto yer = m_işlemYerleri.find(değişim.İşlem);
-            m_geçmiş->Satırlar.push_back({değişim, yer == m_işlemYerleri.end() ? nullptr : &m_işlemler[yer->second]});
-        }
-    };
-    bool seçiliVar = false;
-    std::vector<Deyimler::Fiyat::Değişim> değişimler;
+    QList<BasamakDizisi> diziler;
     for (std::size_t i = 0; i < m_malzemeler->Malzemeler.size() && sonuç.Tamam(); ++i) {
         if (!m_malzemeler->İşaretliler[i]) continue;
-        seçiliVar = true;
         const KatalogMalzemesi& malzeme = m_malzemeler->Malzemeler[i];
-        if (!Deyimler::Yazılabilir(malzeme.Ad)) continue;
-        bool fazlaVar = false;
-        sonuç = DeğişimleriOku(ODBCBağlantısı(), Deyimler::Fiyat::MalzemeninDeğişimleri(malzeme.Ad), değişimler,
-                               EN_ÇOK_KAYIT, fazlaVar);
-        m_fazlaVar |= fazlaVar;
-        // A price that no operation wrote: another program, or the time before the records.
-        if (!değişimler.empty() && değişimler.front().Yeni != malzeme.Fiyat)
-            m_geçmiş->Satırlar.push_back({{0, malzeme.Ad, değişimler.front().Yeni, malzeme.Fiyat}, nullptr});
-        ekle(değişimler);
+        diziler.append({malzeme.Ad, malzeme.Fiyat.Double(), {}});
+        sonuç = MalzemeninGeçmişiniOku(malzeme, diziler.last());
     }
-    if (!seçiliVar && sonuç.Tamam()) {
+    if (diziler.isEmpty() && !m_işlemler.empty()) {
+        std::vector<Deyimler::Fiyat::Değişim> değişimler;
         sonuç = DeğişimleriOku(ODBCBağlantısı(), Deyimler::Fiyat::Değişimler(), değişimler, EN_ÇOK_KAYIT, m_fazlaVar);
-        ekle(değişimler);
+        for (const auto& değişim : değişimler) m_geçmiş->Satırlar.push_back({değişim, İşlemiBul(değişim.İşlem)});
     }
     // Not read is not empty, and a part is no history: the box says why.
-    if (!sonuç.Tamam()) m_geçmiş->Satırlar.clear();
+    if (!sonuç.Tamam()) {
+        m_geçmiş->Satırlar.clear();
+        diziler.clear();
+    }
     m_geçmişModeli->Yenile();
     m_not->setText(m_fazlaVar ? Metin(MetinNo::YalnızSonKayıtlar).arg(EN_ÇOK_KAYIT) : QString());
     m_not->setVisible(m_fazlaVar);
-    GrafiğiGöster();
+    m_grafik->Göster(diziler, QDateTime::currentDateTime());
     DüğmeyiAyarla();
     İşSonucunuGöster(sonuç);
-}
-
-void FiyatGeçmişiFormu::GrafiğiGöster() {
-    QList<BasamakDizisi> diziler;
-    const QDateTime şimdi = QDateTime::currentDateTime();
-    for (std::size_t i = 0; i < m_malzemeler->Malzemeler.size(); ++i) {
-        if (!m_malzemeler->İşaretliler[i]) continue;
-        BasamakDizisi dizi{m_malzemeler->Malzemeler[i].Ad, m_malzemeler->Malzemeler[i].Fiyat.Double(), {}};
-        for (auto satır = m_geçmiş->Satırlar.rbegin(); satır != m_geçmiş->Satırlar.rend(); ++satır) {
-            if (Türkçe::Karşılaştır(QStringView(satır->Değişim.Malzeme), QStringView(dizi.Ad)) != 0) continue;
-            if (dizi.Noktalar.isEmpty()) dizi.İlkDeğer = satır->Değişim.Eski.Double();
-            QDateTime zaman = satır->İşlem ? ZamanOku(satır->İşlem->Zaman) : şimdi;
-            // A clock that was set back: the order of the operations holds.
-            if (!dizi.Noktalar.isEmpty()) zaman = std::max(zaman, dizi.Noktalar.last().Zaman);
-            dizi.Noktalar.append({zaman, satır->Değişim.Yeni.Double()});
-        }
-        diziler.append(dizi);
-    }
-    m_grafik->Göster(diziler, şimdi);
 }
 
 const Deyimler::Fiyat::İşlem* FiyatGeçmişiFormu::Seçiliİşlem() const {

@@ -10,6 +10,7 @@
 class BasamakGrafiği;
 class GirişKutusu;
 class KomutDüğmesi;
+struct BasamakDizisi;
 class QLabel;
 class Tablo;
 
@@ -31,7 +32,8 @@ class FiyatGeçmişiFormu : public QDialog {
     void KontrolleriKur();
     void Yerleştir();
     void GeçmişiOku();
-    void GrafiğiGöster();
+    İşSonucu MalzemeninGeçmişiniOku(const KatalogMalzemesi& malzeme, BasamakDizisi& dizi);
+    const Deyimler::Fiyat::İşlem* İşlemiBul(std::int64_t no) const;
     void GeriAl();
     void DüğmeyiAyarla();
     const Deyimler::Fiyat::İşlem* Seçiliİşlem() const;

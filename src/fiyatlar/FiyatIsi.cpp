@@ -22,15 +22,13 @@ void Bildir(MetinNo metin) {
 
 bool GeriAlYaDaYinele(const İşlem& işlem, İşlemTürü tür, QWidget* sahip) {
     const MetinNo açıklama = tür == İşlemTürü::GeriAlma ? MetinNo::GeriAlmaAçıklaması : MetinNo::YinelemeAçıklaması;
-    const Fiyatİşi iş{
-        {tür, Metin(açıklama).arg(işlem.No).arg(işlem.Açıklama), işlem.No},
-        [no = işlem.No, tür](std::vector<FiyatÖnerisi>& öneriler, QStringList& notlar) {
-            QStringList eksikler;
-            İşSonucu sonuç = GeriAlmaÖnerileri(ODBCBağlantısı(), no, tür, öneriler, eksikler);
-            if (!eksikler.isEmpty())
-                notlar.append(Metin(MetinNo::KatalogdaOlmayanlar).arg(eksikler.join(QStringLiteral(", "))));
-            return sonuç;
-        }};
+    const Fiyatİşi iş{{tür, Metin(açıklama).arg(işlem.No).arg(işlem.Açıklama), işlem.No, işlem.GeriAlan},
+                      [no = işlem.No, tür](std::vector<FiyatÖnerisi>& öneriler, QStringList& notlar) {
+                          QStringList eksikler;
+                          İşSonucu sonuç = GeriAlmaÖnerileri(ODBCBağlantısı(), no, tür, öneriler, eksikler);
+                          notlar += EksiklerNotu(eksikler);
+                          return sonuç;
+                      }};
     return FiyatİşiniYürüt(iş, sahip);
 }
 

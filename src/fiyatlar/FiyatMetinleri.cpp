@@ -78,6 +78,11 @@ QString NedenMetni(PlanNedeni neden) {
     return {};
 }
 
+QStringList EksiklerNotu(const QStringList& eksikler) {
+    if (eksikler.isEmpty()) return {};
+    return {Metin(MetinNo::KatalogdaOlmayanlar).arg(eksikler.join(QStringLiteral(", ")))};
+}
+
 QString TürMetni(const QString& sözcük) {
     const std::optional<İşlemTürü> tür = SözcüğünTürü(sözcük);
     if (!tür) return sözcük;

@@ -24,4 +24,7 @@ QString YüzdeFarkı(Para önce, Para sonra);
 // Why a material is left out or unticked; "" where nothing speaks against it.
 QString NedenMetni(PlanNedeni neden);
 
+// A note for the preview on materials that are not in the catalogue any more; none where there are none.
+QStringList EksiklerNotu(const QStringList& eksikler);
+
 QString TürMetni(const QString& sözcük);  // of an operation, for the user

@@ -91,11 +91,11 @@ bool FiyatÖnizlemeFormu::PlanıKur() {
     if (sonuç.Tamam())
         sonuç = m_plan.Kur(ODBCBağlantısı(), std::move(öneriler), OndalıkBasamak,
                            [&kutu](std::int64_t okunan) { return kutu.Bildir(okunan); });
+    if (sonuç.Tamam()) sonuç = BugünDeğişenleriSay();
     if (!sonuç.Tamam()) {
         İşSonucunuGöster(sonuç);
         return false;
     }
-    BugünDeğişenleriSay();
     m_malzemeModeli->Yenile();
     m_ürünTablosu->sortByColumn(ÜFark, Qt::DescendingOrder);
     m_ürünModeli->Yenile();
@@ -103,12 +103,14 @@ bool FiyatÖnizlemeFormu::PlanıKur() {
     return true;
 }
 
-void FiyatÖnizlemeFormu::BugünDeğişenleriSay() {
+İşSonucu FiyatÖnizlemeFormu::BugünDeğişenleriSay() {
     m_bugünDeğişti.assign(m_plan.Malzemeler().size(), false);
     AdDizini bugün;
-    if (!BugünDeğişenler(ODBCBağlantısı(), ŞimdikiZaman().left(10), bugün).Tamam()) return;
+    const İşSonucu sonuç = BugünDeğişenler(ODBCBağlantısı(), ŞimdikiZaman().left(10), bugün);
+    if (!sonuç.Tamam()) return sonuç;
     for (std::size_t i = 0; i < m_bugünDeğişti.size(); ++i)
         m_bugünDeğişti[i] = bugün.Bul(m_plan.Malzemeler()[i].Malzeme.toStdString()) != AdDizini::YOK;
+    return sonuç;
 }
 
 void FiyatÖnizlemeFormu::ÖzetiYaz() {
@@ -154,6 +156,11 @@ void FiyatÖnizlemeFormu::Uygula() {
             MesajKutusu::Göster(MesajKutusu::Simge::Ünlem, MesajKutusu::Düğmeler::Tamam,
                                 Metin(MetinNo::VerilerDeğişmiş).arg(sonuç.Malzeme));
             if (!PlanıKur()) reject();
+            return;
+        case UygulamaSonu::İşlemDeğişmiş:
+            MesajKutusuOrtala();
+            MesajKutusu::Göster(MesajKutusu::Simge::Ünlem, MesajKutusu::Düğmeler::Tamam, Metin(MetinNo::İşlemDeğişmiş));
+            reject();
             return;
     }
 }

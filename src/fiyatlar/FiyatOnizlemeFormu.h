@@ -29,7 +29,7 @@ class FiyatÖnizlemeFormu : public QDialog {
     void DüğmeleriKur();
     void ÖzetiYaz();
     void İşaretDeğişti();
-    void BugünDeğişenleriSay();
+    İşSonucu BugünDeğişenleriSay();
     void Uygula();
     void ExceleKaydet();
     GörünenPlan Görünen() const;

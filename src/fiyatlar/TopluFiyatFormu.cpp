@@ -110,7 +110,7 @@ void TopluFiyatFormu::KontrolleriKur() {
         m_tarih->setEnabled(seçili);
         SüzgeciUygula();
     });
-    connect(m_tarih, &QDateEdit::dateChanged, this, [this] { SüzgeciUygula(); });
+    m_tarih->Yazılınca([this] { SüzgeciUygula(); });
     m_tümünüSeç = DüğmeOluştur(QStringLiteral("TümünüSeçButonu"), MetinNo::TümünüSeç, [this] { TümünüSeç(); });
     m_sayı = new QLabel;
     m_sayı->setObjectName(QStringLiteral("İşaretliSayısıEtiketi"));
@@ -233,10 +233,12 @@ bool TopluFiyatFormu::KullanılanlarıOku() {
 void TopluFiyatFormu::SüzgeciUygula() {
     const QString aranan = m_süz->text().simplified();
     const bool kullanılmayan = m_kullanılmayanlar->isChecked();
-    const QString gün = m_değişmeyenler->isChecked() ? m_tarih->date().toString(Qt::ISODate) : QString();
-    m_model->Süz([this, aranan, kullanılmayan, gün](std::size_t yer) {
+    const bool değişmeyen = m_değişmeyenler->isChecked();
+    // Of a date that cannot be read nothing is known: no row is shown rather than those of another date.
+    const QString gün = m_tarih->YazılanTarih().value_or(QDate()).toString(Qt::ISODate);
+    m_model->Süz([this, aranan, kullanılmayan, değişmeyen, gün](std::size_t yer) {
         const MalzemeKaynağı::Satır& satır = m_kaynak->Satırlar[yer];
-        return (!kullanılmayan || !satır.Kullanılıyor) && (gün.isEmpty() || satır.SonDeğişim < gün) &&
+        return (!kullanılmayan || !satır.Kullanılıyor) && (!değişmeyen || satır.SonDeğişim < gün) &&
                Türkçe::İçerir(satır.Malzeme.Ad, aranan);
     });
     SayıyıYaz();
@@ -293,14 +295,19 @@ QString TopluFiyatFormu::Açıklama(Para değer) const {
     return açıklama;
 }
 
-İşSonucu TopluFiyatFormu::Öner(Para değer, const Yuvarlama& yuvarlama, std::vector<FiyatÖnerisi>& öneriler) const {
+İşSonucu TopluFiyatFormu::Öner(Para değer, const Yuvarlama& yuvarlama, std::vector<FiyatÖnerisi>& öneriler,
+                               QStringList& notlar) const {
     MalzemeKataloğu katalog;
     const İşSonucu sonuç = katalog.Oku(ODBCBağlantısı());
     if (!sonuç.Tamam()) return sonuç;
+    QStringList eksikler;
     for (const MalzemeKaynağı::Satır& satır : m_kaynak->Satırlar) {
         if (!satır.İşaretli) continue;
         const std::uint32_t yer = katalog.Dizin.Bul(satır.Malzeme.Ad.toStdString());
-        if (yer == AdDizini::YOK) continue;
+        if (yer == AdDizini::YOK) {
+            eksikler.append(satır.Malzeme.Ad);
+            continue;
+        }
         const KatalogMalzemesi& malzeme = katalog.Malzemeler[yer];
         const KesinTutar eski(malzeme.Fiyat);
         const auto kesin = m_yüzde->isChecked()   ? eski.YüzdeEkle(değer)
@@ -311,6 +318,7 @@ QString TopluFiyatFormu::Açıklama(Para değer) const {
         öneri.İşaretli = öneri.Neden == PlanNedeni::Yok;
         öneriler.push_back(std::move(öneri));
     }
+    notlar += EksiklerNotu(eksikler);
     return sonuç;
 }
 
@@ -319,8 +327,8 @@ void TopluFiyatFormu::Önizle() {
     if (!değer) return;
     const Yuvarlama yuvarlama = m_yuvarlama.Seçilen();
     const Fiyatİşi iş{{İşlemTürü::Toplu, Açıklama(*değer), 0},
-                      [this, değer = *değer, yuvarlama](std::vector<FiyatÖnerisi>& öneriler, QStringList&) {
-                          return Öner(değer, yuvarlama, öneriler);
+                      [this, değer = *değer, yuvarlama](std::vector<FiyatÖnerisi>& öneriler, QStringList& notlar) {
+                          return Öner(değer, yuvarlama, öneriler, notlar);
                       }};
     if (!FiyatİşiniYürüt(iş, this)) return;
     m_uygulandı = true;

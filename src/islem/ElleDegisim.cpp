@@ -1,5 +1,8 @@
 #include "ElleDegisim.h"
 
+#include <algorithm>
+
+#include "Deyimler.h"
 #include "OdbcHareketi.h"
 #include "OdbcTanitici.h"
 
@@ -22,7 +25,7 @@ void ElleDeğişim::Hazırla(const QString& malzeme, Para yeni) {
     m_yeni = yeni;
     bool bulundu = false;
     bool okundu = m_bağlantı
-                      .Oku(Deyimler::Malzemenin(malzeme),
+                      .Oku(Deyimler::MalzemeVeFiyatı(malzeme),
                            [&](OdbcSatırı& satır) {
                                m_malzeme = satır.Metin(1);
                                const std::optional<Para> eski = SaklananPara(satır.Baytlar(2).value_or(""));
@@ -51,18 +54,13 @@ void ElleDeğişim::Hazırla(const QString& malzeme, Para yeni) {
     m_kaydedilir = okundu && bulundu && (m_eski != m_yeni || !m_ayrılar.empty());
 }
 
-bool ElleDeğişim::Kaydet(const Yazılan& yazılan, Deyimler::Fiyat::İşlem& işlem) {
-    işlem.No = m_no;
+bool ElleDeğişim::Kaydet(const Yazılan& yazılan, const Deyimler::Fiyat::İşlem& işlem) {
     if (!İşlemiYaz(m_bağlantı, m_tablolarVar, işlem).Tamam()) return false;
     if (!m_bağlantı.Çalıştır(Deyimler::Fiyat::DeğişimEkle({m_no, m_malzeme, m_eski, m_yeni})).Başarılı()) return false;
     if (!yazılan.Ürünlerde) return true;
-    for (const KullanılanSatır& satır : m_ayrılar)
-        if (!m_bağlantı
-                 .Çalıştır(Deyimler::Fiyat::AyrıSatırEkle(
-                     {m_no, satır.Grup, satır.Ürün, m_malzeme, satır.Tarih, satır.Miktar, satır.Fiyat}))
-                 .Başarılı())
-            return false;
-    return true;
+    return std::all_of(m_ayrılar.begin(), m_ayrılar.end(), [this](const KullanılanSatır& satır) {
+        return m_bağlantı.Çalıştır(Deyimler::Fiyat::AyrıSatırEkle(m_no, satır)).Başarılı();
+    });
 }
 
 ElleDeğişim::Son ElleDeğişim::Yürüt(const std::function<Yazılan()>& deyimler, const QString& açıklama,
@@ -71,7 +69,7 @@ ElleDeğişim::Son ElleDeğişim::Yürüt(const std::function<Yazılan()>& deyim
     hata = hareket.Başla();
     if (!hata.Başarılı()) return Son::Yazılamadı;
     const Yazılan yazılan = deyimler();
-    Deyimler::Fiyat::İşlem işlem{0, zaman, TürSözcüğü(İşlemTürü::Elle), açıklama};
+    const Deyimler::Fiyat::İşlem işlem{m_no, zaman, TürSözcüğü(İşlemTürü::Elle), açıklama};
     const bool kaydedildi = m_kaydedilir && yazılan.Katalogda ? Kaydet(yazılan, işlem) : !m_okunamadı;
     if (!yazılan.Katalogda && !yazılan.Ürünlerde) return Son::Yazılamadı;  // told already
     hata = hareket.Onayla();

@@ -31,7 +31,7 @@ class ElleDeğişim {
               OdbcSonucu& hata);
 
   private:
-    bool Kaydet(const Yazılan& yazılan, Deyimler::Fiyat::İşlem& işlem);
+    bool Kaydet(const Yazılan& yazılan, const Deyimler::Fiyat::İşlem& işlem);
 
     OdbcBağlantısı& m_bağlantı;
     bool m_kaydedilir = false;

@@ -9,10 +9,7 @@
 
 namespace {
 
-using Deyimler::Fiyat::AyrıSatır;
-using Deyimler::Fiyat::Değişim;
-
-QString AnahtarMetni(const Deyimler::KullanılanAnahtarı& a) {
+QString AnahtarMetni(const KullanılanSatır& a) {
     return QStringList{a.Grup, a.Ürün, a.Miktar, a.Tarih, Deyimler::SaklanacakSayı(a.Fiyat)}.join(QChar(u'\x1f'));
 }
 
@@ -69,15 +66,14 @@ class Yazıcı {
 
     // After the others, whose change reached these rows too.
     bool TekleriYaz(const PlanMalzemesi& malzeme) {
-        QMap<QString, QPair<Deyimler::KullanılanAnahtarı, QList<Para>>> hedefler;  // rows that nothing tells apart
+        QMap<QString, QPair<KullanılanSatır, QList<Para>>> hedefler;  // rows that nothing tells apart
         for (const TekSatır& tek : malzeme.Tekler) {
             if (!tek.Bulundu) continue;
             const auto& fiyatlar = malzeme.Fiyatlar;
             const bool değişti =
                 malzeme.HerSatır || std::find(fiyatlar.begin(), fiyatlar.end(), tek.Satır.Fiyat) != fiyatlar.end();
-            const Deyimler::KullanılanAnahtarı anahtar{tek.Satır.Grup,  tek.Satır.Ürün,
-                                                       malzeme.Malzeme, tek.Satır.Miktar,
-                                                       tek.Satır.Tarih, değişti ? malzeme.Yeni : tek.Satır.Fiyat};
+            const KullanılanSatır anahtar{tek.Satır.Grup,   tek.Satır.Ürün,  malzeme.Malzeme,
+                                          tek.Satır.Miktar, tek.Satır.Tarih, değişti ? malzeme.Yeni : tek.Satır.Fiyat};
             auto& yer = hedefler[AnahtarMetni(anahtar)];
             yer.first = anahtar;
             yer.second.append(tek.Hedef);
@@ -86,9 +82,9 @@ class Yazıcı {
                            [this](const auto& yer) { return AynılarıYaz(yer.first, yer.second); });
     }
 
-    bool AynılarıYaz(const Deyimler::KullanılanAnahtarı& anahtar, const QList<Para>& hedefler) {
+    bool AynılarıYaz(const KullanılanSatır& anahtar, const QList<Para>& hedefler) {
         // Their spelling may differ, so they are read before they are written anew.
-        QList<Deyimler::KullanılanAnahtarı> satırlar;
+        QList<KullanılanSatır> satırlar;
         m_sonuç.Odbc = m_bağlantı.Oku(Deyimler::AynıKullanılanlar(anahtar), [&](OdbcSatırı& satır) {
             satırlar.append(
                 {satır.Metin(1), satır.Metin(2), satır.Metin(3), satır.Metin(4), anahtar.Tarih, anahtar.Fiyat});
@@ -107,9 +103,7 @@ class Yazıcı {
 
     bool AyrılarıKaydet(const PlanMalzemesi& malzeme) {
         for (const KullanılanSatır& satır : malzeme.Ayrılar)
-            if (!Ekle(Deyimler::Fiyat::AyrıSatırEkle(
-                    {m_işlem, satır.Grup, satır.Ürün, satır.Malzeme, satır.Tarih, satır.Miktar, satır.Fiyat})))
-                return false;
+            if (!Ekle(Deyimler::Fiyat::AyrıSatırEkle(m_işlem, satır))) return false;
         return true;
     }
 
@@ -147,9 +141,10 @@ UygulamaSonucu FiyatlarıUygula(OdbcBağlantısı& bağlantı, const FiyatPlanı
     if (const İşSonucu s = İşlemiYaz(bağlantı, tablolarVar, işlem); !s.Tamam()) return Olmadı(s.Odbc);
     if (bilgi.Karşılığı != 0) {
         const bool geri = bilgi.Tür == İşlemTürü::GeriAlma;
-        const OdbcSonucu s = bağlantı.Çalıştır(Deyimler::Fiyat::GeriAlanıYaz(bilgi.Karşılığı, geri ? işlem.No : 0));
+        const OdbcSonucu s = bağlantı.Çalıştır(
+            Deyimler::Fiyat::GeriAlanıYaz(bilgi.Karşılığı, bilgi.KarşılığıGeriAlan, geri ? işlem.No : 0));
         if (!s.Başarılı()) return Olmadı(s);
-        if (s.Etkilenen != 1) return {UygulamaSonu::Değişmiş, s, {}};
+        if (s.Etkilenen != 1) return {UygulamaSonu::İşlemDeğişmiş, s, {}};
     }
     Yazıcı yazıcı(bağlantı, işlem.No);
     if (UygulamaSonucu s = MalzemeleriYaz(yazıcı, plan, ilerleme); s.Son != UygulamaSonu::Tamam) return s;

@@ -12,14 +12,16 @@
 struct İşlemBilgisi {
     İşlemTürü Tür = İşlemTürü::Toplu;
     QString Açıklama;
-    std::int64_t Karşılığı = 0;
+    std::int64_t Karşılığı = 0;          // the operation that is taken back or put forward
+    std::int64_t KarşılığıGeriAlan = 0;  // what its GeriAlan was when it was chosen
 };
 
 enum class UygulamaSonu {
     Tamam,
-    Vazgeçildi,  // by the user, nothing was written
-    Değişmiş,    // the data are not those that the plan was made from; nothing was written
-    Olmadı       // a statement failed; nothing was written
+    Vazgeçildi,     // by the user, nothing was written
+    Değişmiş,       // the data are not those that the plan was made from; nothing was written
+    İşlemDeğişmiş,  // the operation has been taken back or put forward meanwhile; nothing was written
+    Olmadı          // a statement failed; nothing was written
 };
 struct [[nodiscard]] UygulamaSonucu {
     UygulamaSonu Son = UygulamaSonu::Tamam;

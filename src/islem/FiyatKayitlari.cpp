@@ -51,9 +51,6 @@ std::optional<İşlemTürü> SözcüğünTürü(const QString& sözcük) {
                         std::vector<Deyimler::Fiyat::Değişim>& değişimler, std::size_t enÇok, bool& fazlaVar) {
     değişimler.clear();
     fazlaVar = false;
-    bool var = false;
-    const İşSonucu tablolar = FiyatTablolarıVar(bağlantı, var);
-    if (!tablolar.Tamam() || !var) return tablolar;
     return İşSonucuYap(bağlantı.Oku(deyim, [&](OdbcSatırı& satır) {
         fazlaVar = değişimler.size() == enÇok;
         if (fazlaVar) return false;

@@ -27,7 +27,8 @@ std::optional<İşlemTürü> SözcüğünTürü(const QString& sözcük);
 // All operations, the latest first; none without the tables.
 İşSonucu İşlemleriOku(OdbcBağlantısı& bağlantı, std::vector<Deyimler::Fiyat::İşlem>& işlemler);
 
-// The changes that `deyim` (one of Deyimler::Fiyat's) names, in its order, at most `enÇok`. `fazlaVar`: there are more.
+// To be asked where there are operations: the changes that `deyim` (one of Deyimler::Fiyat's) names, in its order, at
+// most `enÇok`. `fazlaVar`: there are more.
 İşSonucu DeğişimleriOku(OdbcBağlantısı& bağlantı, const QString& deyim,
                         std::vector<Deyimler::Fiyat::Değişim>& değişimler, std::size_t enÇok, bool& fazlaVar);
 

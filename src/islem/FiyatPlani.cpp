@@ -3,13 +3,25 @@
 #include <QDate>
 #include <algorithm>
 #include <limits>
+#include <unordered_map>
 
-#include "FiyatDeyimleri.h"
+#include "Deyimler.h"
 #include "MalzemeToplami.h"
 #include "OdbcTanitici.h"
 #include "TurkceSira.h"
 
 namespace {
+
+std::string_view Baytları(const QByteArray& metin) {
+    return {metin.constData(), static_cast<std::size_t>(metin.size())};
+}
+
+std::uint64_t SatırÖzeti(const KullanılanSatır& satır) {
+    std::uint64_t özet = static_cast<std::uint64_t>(satır.Fiyat.OnBindeBir());
+    for (const QString& metin : {satır.Grup, satır.Ürün, satır.Miktar, satır.Tarih})
+        özet = Türkçe::Özet(Baytları(metin.toUtf8()), özet);
+    return özet;
+}
 
 // As the data file compares them.
 bool AynıSatır(const KullanılanSatır& a, const KullanılanSatır& b) {
@@ -21,8 +33,7 @@ bool AynıSatır(const KullanılanSatır& a, const KullanılanSatır& b) {
 }  // namespace
 
 QString TarihYazımı(const QString& saklanan) {
-    const QDate gün = QDate::fromString(saklanan.left(10), Qt::ISODate);
-    return QStringLiteral("#%1/%2/%3#").arg(gün.month()).arg(gün.day()).arg(gün.year());
+    return Deyimler::Tarih(QDate::fromString(saklanan.left(10), Qt::ISODate));
 }
 
 PlanNedeni NedenBul(FiyatDurumu durum) {
@@ -53,12 +64,13 @@ class FiyatPlanı::Okuyucu {
           m_planda(malzemeler.Malzemeler.size(), AdDizini::YOK) {
         for (std::uint32_t i = 0; i < plan.m_malzemeler.size(); ++i) {
             const QByteArray ad = plan.m_malzemeler[i].Malzeme.toUtf8();
-            const std::uint32_t yer = malzemeler.Dizin.Bul({ad.constData(), static_cast<std::size_t>(ad.size())});
+            const std::uint32_t yer = malzemeler.Dizin.Bul(Baytları(ad));
             if (yer != AdDizini::YOK) m_planda[yer] = i;
             const PlanMalzemesi& m = plan.m_malzemeler[i];
             m_sıklar.push_back({m.Eski, m.Yeni, m.HerSatır && m.Tekler.empty(), 0});
+            for (std::size_t t = 0; t < m.Tekler.size(); ++t)
+                m_tekler.emplace(SatırÖzeti(m.Tekler[t].Satır), Tek{i, t});
         }
-        Satırlar.reserve(1024);
     }
 
     // After the last row.
@@ -129,7 +141,7 @@ class FiyatPlanı::Okuyucu {
         }
         PlanMalzemesi& malzeme = m_plan.m_malzemeler[satır.Malzeme];
         const bool değişir = DağılımaEkle(malzeme, fiyat);
-        TekSatır* tek = malzeme.Tekler.empty() ? nullptr : TekiBul(malzeme, okunan, fiyat);
+        TekSatır* tek = malzeme.Tekler.empty() ? nullptr : TekiBul(satır.Malzeme, okunan, fiyat);
         if (!değişir && !tek) return;
         ++malzeme.DeğişenSatır;
         if (fiyat != malzeme.Eski) malzeme.Ayrılar.push_back(SatırıAl(okunan, fiyat));
@@ -161,11 +173,16 @@ class FiyatPlanı::Okuyucu {
                 fiyat};
     }
 
-    TekSatır* TekiBul(PlanMalzemesi& malzeme, OdbcSatırı& okunan, Para fiyat) const {
+    // Each recorded row is found once.
+    TekSatır* TekiBul(std::uint32_t malzeme, OdbcSatırı& okunan, Para fiyat) {
         const KullanılanSatır satır = SatırıAl(okunan, fiyat);
-        for (TekSatır& tek : malzeme.Tekler) {
-            if (tek.Bulundu || !AynıSatır(tek.Satır, satır)) continue;
+        auto [yer, son] = m_tekler.equal_range(SatırÖzeti(satır));
+        for (; yer != son; ++yer) {
+            if (yer->second.Malzeme != malzeme) continue;
+            TekSatır& tek = m_plan.m_malzemeler[malzeme].Tekler[yer->second.Sıra];
+            if (!AynıSatır(tek.Satır, satır)) continue;
             tek.Bulundu = true;
+            m_tekler.erase(yer);
             return &tek;
         }
         return nullptr;
@@ -178,12 +195,17 @@ class FiyatPlanı::Okuyucu {
         bool Yalın;  // every row with the catalogue's price gets the new one
         std::int64_t Satır;
     };
+    struct Tek {
+        std::uint32_t Malzeme;
+        std::size_t Sıra;  // in its Tekler
+    };
 
     FiyatPlanı& m_plan;
     ÜrünKataloğu& m_ürünler;
     const MalzemeKataloğu& m_malzemeler;
-    std::vector<std::uint32_t> m_planda;  // place in the plan of each material of the catalogue
-    std::vector<Sık> m_sıklar;            // beside the plan's materials
+    std::vector<std::uint32_t> m_planda;                   // place in the plan of each material of the catalogue
+    std::vector<Sık> m_sıklar;                             // beside the plan's materials
+    std::unordered_multimap<std::uint64_t, Tek> m_tekler;  // not found yet
     std::string m_sonGrup;
     std::string m_sonAd;
     std::uint32_t m_sonÜrün = AdDizini::YOK;
@@ -267,10 +289,10 @@ void FiyatPlanı::SonrayıHesapla(std::uint32_t ürün) {
                                                               hesap.Oranlar, m_basamak);
 }
 
-std::vector<std::uint32_t> FiyatPlanı::İşaretle(std::uint32_t malzeme, bool işaretli) {
+void FiyatPlanı::İşaretle(std::uint32_t malzeme, bool işaretli) {
     PlanMalzemesi& satır = m_malzemeler[malzeme];
+    if (satır.İşaretli == işaretli || !Uygulanır(satır.Neden)) return;
     std::vector<std::uint32_t> değişenler;
-    if (satır.İşaretli == işaretli || !Uygulanır(satır.Neden)) return değişenler;
     satır.İşaretli = işaretli;
     for (std::size_t i = m_ilkSatır[malzeme]; i < m_ilkSatır[malzeme + 1]; ++i) {
         const Satır& kullanılan = m_satırlar[i];
@@ -282,7 +304,6 @@ std::vector<std::uint32_t> FiyatPlanı::İşaretle(std::uint32_t malzeme, bool i
     std::sort(değişenler.begin(), değişenler.end());
     değişenler.erase(std::unique(değişenler.begin(), değişenler.end()), değişenler.end());
     for (const std::uint32_t ürün : değişenler) SonrayıHesapla(ürün);
-    return değişenler;
 }
 
 PlanÖzeti FiyatPlanı::Özet() const {

@@ -5,9 +5,12 @@
 #include <functional>
 #include <vector>
 
+#include "FiyatDeyimleri.h"
 #include "FiyatKurali.h"
 #include "KatalogOkuma.h"
 #include "UrunToplamlari.h"
+
+using Deyimler::KullanılanSatır;
 
 // Why a material is left out of a plan or not ticked in it.
 enum class PlanNedeni {
@@ -30,16 +33,6 @@ PlanNedeni NedenBul(FiyatDurumu durum);
 
 // A date as the data file gives it ("2026-11-23 00:00:00") as a literal of a statement.
 QString TarihYazımı(const QString& saklanan);
-
-// A used row as it stands in the data file.
-struct KullanılanSatır {
-    QString Grup;
-    QString Ürün;
-    QString Malzeme;
-    QString Miktar;
-    QString Tarih;  // date literal
-    Para Fiyat;
-};
 
 // A used row that gets a price of its own.
 struct TekSatır {
@@ -103,8 +96,8 @@ class FiyatPlanı {
     const std::vector<PlanÜrünü>& Ürünler() const { return m_ürünler; }
     PlanÖzeti Özet() const;
 
-    // What cannot be carried out stays unticked. Gives the products whose total changed (places in Ürünler).
-    std::vector<std::uint32_t> İşaretle(std::uint32_t malzeme, bool işaretli);
+    // What cannot be carried out stays unticked.
+    void İşaretle(std::uint32_t malzeme, bool işaretli);
 
   private:
     struct Satır {

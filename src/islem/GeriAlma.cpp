@@ -10,18 +10,11 @@ using Deyimler::Fiyat::İşlem;
 
 namespace {
 
-std::string_view Baytları(const QByteArray& metin) {
-    return {metin.constData(), static_cast<std::size_t>(metin.size())};
-}
-
 // The single rows of an operation, with the price that each had before it.
-İşSonucu TekleriOku(OdbcBağlantısı& bağlantı, std::int64_t işlem,
-                    std::vector<std::pair<QString, KullanılanSatır>>& tekler) {
+İşSonucu TekleriOku(OdbcBağlantısı& bağlantı, std::int64_t işlem, std::vector<KullanılanSatır>& tekler) {
     return İşSonucuYap(bağlantı.Oku(Deyimler::Fiyat::İşleminAyrıSatırları(işlem), [&tekler](OdbcSatırı& satır) {
-        tekler.emplace_back(
-            satır.Metin(3),
-            KullanılanSatır{satır.Metin(1), satır.Metin(2), satır.Metin(3), satır.Metin(5), TarihYazımı(satır.Metin(4)),
-                            SaklananPara(satır.Baytlar(6).value_or("")).value_or(Para())});
+        tekler.push_back({satır.Metin(1), satır.Metin(2), satır.Metin(3), satır.Metin(5), TarihYazımı(satır.Metin(4)),
+                          SaklananPara(satır.Baytlar(6).value_or("")).value_or(Para())});
         return true;
     }));
 }
@@ -31,13 +24,14 @@ FiyatÖnerisi Öneri(const Değişim& değişim, const KatalogMalzemesi& malzeme
     const Para beklenen = geri ? değişim.Yeni : değişim.Eski;
     const Para hedef = geri ? değişim.Eski : değişim.Yeni;
     FiyatÖnerisi öneri{malzeme.Ad, malzeme.Fiyat, hedef};
-    if (malzeme.Fiyat == hedef)
+    const bool yalnızSatırlar = değişim.Eski == değişim.Yeni;  // only used rows got another price
+    if (malzeme.Fiyat == hedef && !yalnızSatırlar)
         öneri.Neden = PlanNedeni::Değişmiyor;
     else if (malzeme.Fiyat != beklenen)
         öneri.Neden = PlanNedeni::SonradanDeğişmiş;
     öneri.İşaretli = öneri.Neden == PlanNedeni::Yok;
     öneri.HerSatır = false;
-    öneri.Fiyatlar = {beklenen};
+    if (!yalnızSatırlar) öneri.Fiyatlar = {beklenen};
     if (malzeme.Fiyat != beklenen) öneri.Fiyatlar.push_back(malzeme.Fiyat);
     return öneri;
 }
@@ -71,29 +65,31 @@ std::optional<İşlem> YinelenecekİşlemiBul(const std::vector<İşlem>& işlem
     bool fazlaVar = false;
     constexpr std::size_t hepsi = std::numeric_limits<std::size_t>::max();
     İşSonucu sonuç = DeğişimleriOku(bağlantı, Deyimler::Fiyat::İşleminDeğişimleri(işlem), değişimler, hepsi, fazlaVar);
-    std::vector<std::pair<QString, KullanılanSatır>> tekler;
+    std::vector<KullanılanSatır> tekler;
     if (sonuç.Tamam()) sonuç = TekleriOku(bağlantı, işlem, tekler);
     MalzemeKataloğu katalog;
     if (sonuç.Tamam()) sonuç = katalog.Oku(bağlantı);
     if (!sonuç.Tamam()) return sonuç;
 
     AdDizini yerler;
+    std::vector<Para> yeniFiyatlar;  // that the operation gave, beside the offers
     for (const Değişim& değişim : değişimler) {
-        const QByteArray ad = değişim.Malzeme.toUtf8();
-        const std::uint32_t yer = katalog.Dizin.Bul(Baytları(ad));
+        const std::string ad = değişim.Malzeme.toStdString();
+        const std::uint32_t yer = katalog.Dizin.Bul(ad);
         if (yer == AdDizini::YOK) {
             eksikler.append(değişim.Malzeme);
             continue;
         }
-        yerler.BulYaDaEkle(Baytları(ad), static_cast<std::uint32_t>(öneriler.size()));
+        yerler.BulYaDaEkle(ad, static_cast<std::uint32_t>(öneriler.size()));
         öneriler.push_back(Öneri(değişim, katalog.Malzemeler[yer], geri));
+        yeniFiyatlar.push_back(değişim.Yeni);
     }
-    for (auto& [malzeme, satır] : tekler) {
-        const std::uint32_t yer = yerler.Bul(Baytları(malzeme.toUtf8()));
+    for (KullanılanSatır& satır : tekler) {
+        const std::uint32_t yer = yerler.Bul(satır.Malzeme.toStdString());
         if (yer == AdDizini::YOK) continue;
         FiyatÖnerisi& öneri = öneriler[yer];
         const Para önceki = satır.Fiyat;
-        if (geri) satır.Fiyat = öneri.Fiyatlar.front();
+        if (geri) satır.Fiyat = yeniFiyatlar[yer];
         öneri.Tekler.push_back({satır, geri ? önceki : öneri.Yeni});
     }
     return sonuç;

@@ -1,5 +1,7 @@
 #include "IlerlemeKutusu.h"
 
+#include <QCoreApplication>
+
 #include "MetinTablosu.h"
 
 namespace {
@@ -22,7 +24,11 @@ constexpr int PARÇA = 1000;  // steps of the bar
 
 bool İlerlemeKutusu::Bildir(std::int64_t yapılan) {
     if (m_sonÇizim.hasExpired(ÇİZİM_ARALIĞI)) {
-        m_kutu.setValue(m_azami > 0 ? static_cast<int>(PARÇA * qMin(yapılan, m_azami) / m_azami) : 0);
+        if (m_azami > 0)
+            m_kutu.setValue(static_cast<int>(PARÇA * qMin(yapılan, m_azami) / m_azami));
+        else  // without an end the dialog never looks at the clock itself
+            QCoreApplication::processEvents(m_kutu.isVisible() ? QEventLoop::AllEvents
+                                                               : QEventLoop::ExcludeUserInputEvents);
         m_sonÇizim.restart();
     }
     return !m_kutu.wasCanceled();

@@ -68,7 +68,7 @@ MalzemeHareketleriFormu::MalzemeHareketleriFormu(QWidget* sahip)
         PencereKapandı();
     });
     HareketTarihi = Bugün();
-    HareketTarihiSQL = TarihDeğişmezi(HareketTarihi);
+    HareketTarihiSQL = Deyimler::Tarih(HareketTarihi);
 }
 
 void MalzemeHareketleriFormu::showEvent(QShowEvent* olay) {

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "DegiskenModulu.h"
+#include "Deyimler.h"
 #include "FormParcalari.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
@@ -55,7 +56,7 @@ void TarihDeğiştirFormu::accept() {
         HareketTarihiSQL.clear();
     } else {
         HareketTarihi = *seçilen;
-        HareketTarihiSQL = TarihDeğişmezi(*seçilen);
+        HareketTarihiSQL = Deyimler::Tarih(*seçilen);
     }
     QDialog::accept();
 }

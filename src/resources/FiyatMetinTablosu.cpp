@@ -114,6 +114,8 @@ constexpr MetinSatırı Tablo[] = {
     {MetinNo::TürSütunu, "Tür"},
     {MetinNo::ÖnceSütunu, "Önce"},
     {MetinNo::SonraSütunu, "Sonra"},
+    {MetinNo::İşlemDeğişmiş,
+     "Bu işlem bu arada başka bir yerde geri alınmış ya da yinelenmiş. Hiçbir fiyat değiştirilmedi."},
 };
 
 static_assert(Sıralı(Tablo));

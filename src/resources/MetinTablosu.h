@@ -343,6 +343,7 @@ enum class MetinNo : int {
     TürSütunu = 2536,
     ÖnceSütunu = 2537,
     SonraSütunu = 2538,
+    İşlemDeğişmiş = 2539,
 };
 
 // The text. Each number has one; an enumerator without would be a fault of the program: it then reads "?number?", and a

@@ -123,8 +123,9 @@ class Fiyatİşlemi : public VarnekTesti {
         return plan;
     }
 
-    UygulamaSonu Uygula(const FiyatPlanı& plan, İşlemTürü tür = İşlemTürü::Toplu, std::int64_t karşılığı = 0) {
-        return FiyatlarıUygula(Bağ(), plan, {tür, "Zam", karşılığı}, ZAMAN).Son;
+    UygulamaSonu Uygula(const FiyatPlanı& plan, İşlemTürü tür = İşlemTürü::Toplu, std::int64_t karşılığı = 0,
+                        std::int64_t geriAlan = 0) {
+        return FiyatlarıUygula(Bağ(), plan, {tür, "Zam", karşılığı, geriAlan}, ZAMAN).Son;
     }
 
     // Catalogue and used rows, sorted: rows deleted and put in again come last in the file.
@@ -215,7 +216,9 @@ TEST_F(Fiyatİşlemi, GeriAlmakVeYinelemekHerSatırıBulur) {
     ASSERT_TRUE(İşlemleriOku(Bağ(), işlemler).Tamam());
     EXPECT_FALSE(GeriAlınacakİşlem(işlemler));
     ASSERT_TRUE(YinelenecekİşlemiBul(işlemler));
-    ASSERT_EQ(Uygula(DönüşPlanı(1, İşlemTürü::Yineleme), İşlemTürü::Yineleme, 1), UygulamaSonu::Tamam);
+    // Somewhere else it was taken back before this plan was carried out.
+    EXPECT_EQ(Uygula(DönüşPlanı(1, İşlemTürü::GeriAlma), İşlemTürü::GeriAlma, 1), UygulamaSonu::İşlemDeğişmiş);
+    ASSERT_EQ(Uygula(DönüşPlanı(1, İşlemTürü::Yineleme), İşlemTürü::Yineleme, 1, 2), UygulamaSonu::Tamam);
     EXPECT_EQ(Fark(Fiyatlar(), sonra), QStringList());
     ASSERT_TRUE(İşlemleriOku(Bağ(), işlemler).Tamam());
     EXPECT_TRUE(GeriAlınacakİşlem(işlemler));

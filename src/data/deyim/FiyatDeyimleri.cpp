@@ -1,5 +1,7 @@
 #include "FiyatDeyimleri.h"
 
+#include "Deyimler.h"
+
 namespace Deyimler {
 
 namespace {
@@ -14,7 +16,7 @@ QString Numara(std::int64_t sayı) {
 
 constexpr qsizetype AZAMİ_UZUNLUK = 255;
 
-QString AnahtarKoşulu(const KullanılanAnahtarı& satır) {
+QString AnahtarKoşulu(const KullanılanSatır& satır) {
     return QStringLiteral(" WHERE UrunGrubu= ") + Tırnakla(satır.Grup) + QStringLiteral(" AND UrunAdi= ") +
            Tırnakla(satır.Ürün) + QStringLiteral(" AND KullanilanMalzemeAdi= ") + Tırnakla(satır.Malzeme) +
            QStringLiteral(" AND KullanilanMalzemeMiktari= ") + Tırnakla(satır.Miktar) +
@@ -46,10 +48,6 @@ QString SaklanacakSayı(Para tutar) {
     const auto büyüklük = sayım < 0 ? -static_cast<std::uint64_t>(sayım) : static_cast<std::uint64_t>(sayım);
     return (sayım < 0 ? QStringLiteral("-") : QString()) + QString::number(büyüklük / Para::Ölçek) + QLatin1Char(',') +
            QString::number(büyüklük % Para::Ölçek).rightJustified(4, QLatin1Char('0'));
-}
-
-QString TümMalzemeler() {
-    return QStringLiteral("SELECT MalzemeAdi, MalzemeFiyati FROM MalzemeTablosu ORDER BY MalzemeAdi ASC");
 }
 
 QString TümÜrünler() {
@@ -91,11 +89,6 @@ QString KullanılanSayısı(const QString& malzeme, Para fiyat) {
            Tırnakla(SaklanacakSayı(fiyat));
 }
 
-QString Malzemenin(const QString& malzeme) {
-    return QStringLiteral("SELECT MalzemeAdi, MalzemeFiyati FROM MalzemeTablosu WHERE MalzemeAdi= ") +
-           Tırnakla(malzeme);
-}
-
 QString MalzemeninKullanımları(const QString& malzeme) {
     return QStringLiteral(
                "SELECT UrunGrubu, UrunAdi, KullanilanMalzemeMiktari, KullanilanMalzemeFiyati, KullanimTarihi FROM "
@@ -103,28 +96,24 @@ QString MalzemeninKullanımları(const QString& malzeme) {
            Tırnakla(malzeme);
 }
 
-QString AynıKullanılanlar(const KullanılanAnahtarı& satır) {
+QString AynıKullanılanlar(const KullanılanSatır& satır) {
     return QStringLiteral(
                "SELECT UrunGrubu, UrunAdi, KullanilanMalzemeAdi, KullanilanMalzemeMiktari FROM UrunMalzemeTablosu") +
            AnahtarKoşulu(satır);
 }
 
-QString KullanılanınFiyatı(const KullanılanAnahtarı& satır, Para yeni) {
+QString KullanılanınFiyatı(const KullanılanSatır& satır, Para yeni) {
     return QStringLiteral("UPDATE UrunMalzemeTablosu SET KullanilanMalzemeFiyati= ") + Tırnakla(SaklanacakSayı(yeni)) +
            AnahtarKoşulu(satır);
 }
 
-QString KullanılanıSil(const KullanılanAnahtarı& satır) {
+QString KullanılanıSil(const KullanılanSatır& satır) {
     return QStringLiteral("DELETE FROM UrunMalzemeTablosu") + AnahtarKoşulu(satır);
 }
 
-QString KullanılanıEkle(const KullanılanAnahtarı& satır, Para fiyat) {
-    return QStringLiteral(
-               "INSERT INTO UrunMalzemeTablosu (KullanimTarihi, UrunGrubu, UrunAdi, KullanilanMalzemeAdi, "
-               "KullanilanMalzemeMiktari, KullanilanMalzemeFiyati) VALUES (") +
-           satır.Tarih + QStringLiteral(", ") + Tırnakla(satır.Grup) + QStringLiteral(", ") + Tırnakla(satır.Ürün) +
-           QStringLiteral(", ") + Tırnakla(satır.Malzeme) + QStringLiteral(", ") + Tırnakla(satır.Miktar) +
-           QStringLiteral(", ") + Tırnakla(SaklanacakSayı(fiyat)) + QLatin1Char(')');
+QString KullanılanıEkle(const KullanılanSatır& satır, Para fiyat) {
+    return KullanılanMalzemeEkle(
+        {satır.Grup, satır.Ürün, satır.Malzeme, satır.Miktar, SaklanacakSayı(fiyat), satır.Tarih});
 }
 
 namespace Fiyat {
@@ -166,9 +155,9 @@ QString İşlemler() {
         "EskiKurGunu FROM FiyatIslemTablosu ORDER BY IslemNo DESC");
 }
 
-QString GeriAlanıYaz(std::int64_t işlem, std::int64_t geriAlan) {
-    return QStringLiteral("UPDATE FiyatIslemTablosu SET GeriAlan= ") + Numara(geriAlan) +
-           QStringLiteral(" WHERE IslemNo= ") + Numara(işlem);
+QString GeriAlanıYaz(std::int64_t işlem, std::int64_t eski, std::int64_t yeni) {
+    return QStringLiteral("UPDATE FiyatIslemTablosu SET GeriAlan= ") + Numara(yeni) +
+           QStringLiteral(" WHERE IslemNo= ") + Numara(işlem) + QStringLiteral(" AND GeriAlan= ") + Numara(eski);
 }
 
 QString DeğişimEkle(const Değişim& değişim) {
@@ -199,11 +188,11 @@ QString MalzemeninDeğişimleri(const QString& malzeme) {
            Tırnakla(malzeme) + QStringLiteral(" ORDER BY IslemNo DESC");
 }
 
-QString AyrıSatırEkle(const AyrıSatır& satır) {
+QString AyrıSatırEkle(std::int64_t işlem, const KullanılanSatır& satır) {
     return QStringLiteral(
                "INSERT INTO FiyatSatirTablosu (IslemNo, UrunGrubu, UrunAdi, KullanilanMalzemeAdi, KullanimTarihi, "
                "KullanilanMalzemeMiktari, EskiFiyat) VALUES (") +
-           Numara(satır.İşlem) + QStringLiteral(", ") + Tırnakla(SaklanacakMetin(satır.Grup)) + QStringLiteral(", ") +
+           Numara(işlem) + QStringLiteral(", ") + Tırnakla(SaklanacakMetin(satır.Grup)) + QStringLiteral(", ") +
            Tırnakla(SaklanacakMetin(satır.Ürün)) + QStringLiteral(", ") + Tırnakla(satır.Malzeme) +
            QStringLiteral(", ") + satır.Tarih + QStringLiteral(", ") + Tırnakla(SaklanacakMetin(satır.Miktar)) +
            QStringLiteral(", ") + Tırnakla(SaklanacakSayı(satır.Fiyat)) + QLatin1Char(')');

@@ -20,8 +20,7 @@ QString SaklanacakMetin(const QString& metin);
 // An amount as a statement names it, with all its decimals.
 QString SaklanacakSayı(Para tutar);
 
-// Everything, in the file's own order.
-QString TümMalzemeler();     // name, price; by name
+// Everything, in the file's own order; the catalogue is MalzemeKataloğuRaporu.
 QString TümÜrünler();        // group, name, the four percentages
 QString TümKullanılanlar();  // group, product, material, quantity, price, date
 QString KullanılanAdlar();   // the names of used materials, each once
@@ -31,11 +30,10 @@ QString KataloğunFiyatı(const QString& malzeme, Para eski, Para yeni);
 QString KullanılanlarınFiyatı(const QString& malzeme, Para eski, Para yeni);
 QString KullanılanSayısı(const QString& malzeme);
 QString KullanılanSayısı(const QString& malzeme, Para fiyat);
-QString Malzemenin(const QString& malzeme);              // name, price
 QString MalzemeninKullanımları(const QString& malzeme);  // group, product, quantity, price, date
 
-// One used row, or several that nothing tells apart.
-struct KullanılanAnahtarı {
+// A used row as it stands, or several that nothing tells apart.
+struct KullanılanSatır {
     QString Grup;
     QString Ürün;
     QString Malzeme;
@@ -43,10 +41,10 @@ struct KullanılanAnahtarı {
     QString Tarih;  // date literal
     Para Fiyat;
 };
-QString AynıKullanılanlar(const KullanılanAnahtarı& satır);  // group, product, material, quantity
-QString KullanılanınFiyatı(const KullanılanAnahtarı& satır, Para yeni);
-QString KullanılanıSil(const KullanılanAnahtarı& satır);
-QString KullanılanıEkle(const KullanılanAnahtarı& satır, Para fiyat);
+QString AynıKullanılanlar(const KullanılanSatır& satır);  // group, product, material, quantity
+QString KullanılanınFiyatı(const KullanılanSatır& satır, Para yeni);
+QString KullanılanıSil(const KullanılanSatır& satır);
+QString KullanılanıEkle(const KullanılanSatır& satır, Para fiyat);
 
 // What was done to prices. The tables are made by the first writing; a data file without them is whole.
 namespace Fiyat {
@@ -69,7 +67,7 @@ struct İşlem {
 };
 QString İşlemEkle(const İşlem& işlem);
 QString İşlemler();  // all columns in that order; the latest first
-QString GeriAlanıYaz(std::int64_t işlem, std::int64_t geriAlan);
+QString GeriAlanıYaz(std::int64_t işlem, std::int64_t eski, std::int64_t yeni);  // where `eski` still stands
 
 // What became of the material itself.
 enum class Varlık { Silindi = -1, Aynı = 0, Eklendi = 1 };
@@ -85,17 +83,8 @@ QString Değişimler();                            // all columns in that order;
 QString İşleminDeğişimleri(std::int64_t işlem);  // the same of one operation
 QString MalzemeninDeğişimleri(const QString& malzeme);
 
-// A used row whose price was another than the catalogue's when an operation changed it.
-struct AyrıSatır {
-    std::int64_t İşlem = 0;
-    QString Grup;
-    QString Ürün;
-    QString Malzeme;
-    QString Tarih;  // date literal
-    QString Miktar;
-    Para Fiyat;
-};
-QString AyrıSatırEkle(const AyrıSatır& satır);
+// A used row whose price was another than the catalogue's when the operation changed it; with the price it had.
+QString AyrıSatırEkle(std::int64_t işlem, const KullanılanSatır& satır);
 QString İşleminAyrıSatırları(std::int64_t işlem);  // Grup, Ürün, Malzeme, Tarih, Miktar, Fiyat
 
 }  // namespace Fiyat

@@ -92,10 +92,6 @@ QString AyMetni(QDate tarih) {
            QString::number(tarih.year());
 }
 
-QString TarihDeğişmezi(QDate tarih) {
-    return QLatin1Char('#') + AyMetni(tarih) + QLatin1Char('#');
-}
-
 QString AyarDosyası() {
     return Depo().fileName();
 }

@@ -25,9 +25,8 @@ QString ProgramDosyalarıKlasörü();
 // that does not exist: nullopt.
 std::optional<QDate> AyMetniniTariheÇevir(const QString& metin);
 
-// The date as month/day/year without leading zeros, and the same as the statements' date literal (#3/7/2004#).
+// The date as month/day/year without leading zeros.
 QString AyMetni(QDate tarih);
-QString TarihDeğişmezi(QDate tarih);
 
 // The per-user settings store: texts under section and key of the application AyarUygulamaAdı ("Tovrek\Varnek").
 // Garbage in the store is met by the defaults; nothing here shows a message.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateEdit>
+#include <functional>
 #include <optional>
 
 // A date picker whose text is written like any other text: day, month, year, with points, other separators or none
@@ -14,6 +15,9 @@ class TarihKutusu : public QDateEdit {
     // What stands in the box; null: no complete date of the calendar from 14.09.1752 to 31.12.9999.
     // date() is the last date that could be read.
     std::optional<QDate> YazılanTarih() const;
+
+    // `iş` runs whenever another text stands in the box, readable or not.
+    void Yazılınca(std::function<void()> iş);
 
     void stepBy(int adım) override;
 

@@ -37,6 +37,10 @@ TarihKutusu::TarihKutusu(QWidget* sahip) : QDateEdit(sahip) {
     m_takvim->installEventFilter(this);
 }
 
+void TarihKutusu::Yazılınca(std::function<void()> iş) {
+    connect(lineEdit(), &QLineEdit::textChanged, this, std::move(iş));
+}
+
 std::optional<QDate> TarihKutusu::YazılanTarih() const {
     return Oku(lineEdit()->text());
 }
