@@ -28,10 +28,10 @@ FiyatPlanı Plan() {
     MalzemeKataloğu katalog;
     FiyatPlanı plan;
     if (!katalog.Oku(ODBCBağlantısı()).Tamam()) return plan;
-    std::vector<FiyatÖnerisi> öneriler;
+    FiyatTeklifi teklif;
     for (const KatalogMalzemesi& m : katalog.Malzemeler)
-        öneriler.push_back({m.Ad, m.Fiyat, Para::OnBindeBirden(m.Fiyat.OnBindeBir() + (yukarı ? 1000 : -1000))});
-    static_cast<void>(plan.Kur(ODBCBağlantısı(), std::move(öneriler), 2));
+        teklif.Öneriler.push_back({m.Ad, m.Fiyat, Para::OnBindeBirden(m.Fiyat.OnBindeBir() + (yukarı ? 1000 : -1000))});
+    static_cast<void>(plan.Kur(ODBCBağlantısı(), std::move(teklif), 2));
     return plan;
 }
 

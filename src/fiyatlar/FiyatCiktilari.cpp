@@ -44,10 +44,12 @@ Satır MalzemeSatırı(const GörünenPlan& plan, std::size_t yer) {
     const PlanMalzemesi& m = plan.Malzemeler.Malzeme(yer);
     Satır satır;
     satır.Metin(Metin(MetinNo::MalzemeSütunu)).Metin({}).Metin(m.Malzeme);
-    if (Uygulanır(m.Neden))
-        satır.Değişim(m.Eski, m.Yeni);
+    const auto eski = m.Malzemenin == Varlık::Eklendi ? std::nullopt : std::optional(m.Eski);
+    const auto yeni = !Uygulanır(m.Neden) || m.Malzemenin == Varlık::Silindi ? std::nullopt : std::optional(m.Yeni);
+    if (eski && yeni)
+        satır.Değişim(*eski, *yeni);
     else
-        satır.Tutar(m.Eski).Tutar({}).Tutar({}).Tutar({});
+        satır.Tutar(eski).Tutar(yeni).Tutar({}).Tutar({});
     satır.Metin(m.İşaretli ? plan.Malzemeler.Açıklama(yer) : NedenYaDaİşaretsiz(plan, yer));
     return satır;
 }

@@ -23,10 +23,12 @@ void Bildir(MetinNo metin) {
 bool GeriAlYaDaYinele(const İşlem& işlem, İşlemTürü tür, QWidget* sahip) {
     const MetinNo açıklama = tür == İşlemTürü::GeriAlma ? MetinNo::GeriAlmaAçıklaması : MetinNo::YinelemeAçıklaması;
     const Fiyatİşi iş{{tür, Metin(açıklama).arg(işlem.No).arg(işlem.Açıklama), işlem.No, işlem.GeriAlan},
-                      [no = işlem.No, tür](std::vector<FiyatÖnerisi>& öneriler, QStringList& notlar) {
-                          QStringList eksikler;
-                          İşSonucu sonuç = GeriAlmaÖnerileri(ODBCBağlantısı(), no, tür, öneriler, eksikler);
-                          notlar += EksiklerNotu(eksikler);
+                      [işlem, tür](FiyatTeklifi& teklif, QStringList& notlar) {
+                          GeriAlmaEksikleri eksikler;
+                          const İşSonucu sonuç = GeriAlmaÖnerileri(ODBCBağlantısı(), işlem, tür, teklif, eksikler);
+                          notlar += EksiklerNotu(eksikler.Malzemeler);
+                          if (!eksikler.Döviz.isEmpty())
+                              notlar.append(Metin(MetinNo::KurGeriAlınmıyor).arg(eksikler.Döviz));
                           return sonuç;
                       }};
     return FiyatİşiniYürüt(iş, sahip);

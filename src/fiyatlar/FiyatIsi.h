@@ -14,7 +14,7 @@ class QWidget;
 // are asked for again when the data have changed meanwhile.
 struct Fiyatİşi {
     İşlemBilgisi Bilgi;
-    std::function<İşSonucu(std::vector<FiyatÖnerisi>& öneriler, QStringList& notlar)> Öner;
+    std::function<İşSonucu(FiyatTeklifi& teklif, QStringList& notlar)> Öner;
 };
 
 // Makes the plan, shows it, carries it out if the user wants it. True: carried out.

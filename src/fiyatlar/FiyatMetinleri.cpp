@@ -1,5 +1,6 @@
 #include "FiyatMetinleri.h"
 
+#include <QDate>
 #include <algorithm>
 
 #include "DegiskenModulu.h"
@@ -64,6 +65,12 @@ QString NedenMetni(PlanNedeni neden) {
             return Metin(MetinNo::NedenElleDeğişmiş);
         case PlanNedeni::Çakışıyor:
             return Metin(MetinNo::NedenÇakışıyor);
+        case PlanNedeni::Kullanılıyor:
+            return Metin(MetinNo::NedenKullanılıyor);
+        case PlanNedeni::FiyatıDeğişmiş:
+            return Metin(MetinNo::NedenSonradanDeğişmiş);
+        case PlanNedeni::KatalogdaVar:
+            return Metin(MetinNo::NedenKatalogdaVar);
         case PlanNedeni::Değişmiyor:
             return Metin(MetinNo::NedenDeğişmiyor);
         case PlanNedeni::TersineDöndü:
@@ -76,6 +83,10 @@ QString NedenMetni(PlanNedeni neden) {
             return Metin(MetinNo::NedenAdıYazılamaz);
     }
     return {};
+}
+
+QString GünMetni(const QString& gün) {
+    return QDate::fromString(gün, Qt::ISODate).toString(QStringLiteral("dd.MM.yyyy"));
 }
 
 QStringList EksiklerNotu(const QStringList& eksikler) {

@@ -24,6 +24,9 @@ QString YüzdeFarkı(Para önce, Para sonra);
 // Why a material is left out or unticked; "" where nothing speaks against it.
 QString NedenMetni(PlanNedeni neden);
 
+// A stored day (yyyy-MM-dd) as the user reads it; "" of none.
+QString GünMetni(const QString& gün);
+
 // A note for the preview on materials that are not in the catalogue any more; none where there are none.
 QStringList EksiklerNotu(const QStringList& eksikler);
 

@@ -84,12 +84,12 @@ void FiyatÖnizlemeFormu::Yerleştir() {
 }
 
 bool FiyatÖnizlemeFormu::PlanıKur() {
-    std::vector<FiyatÖnerisi> öneriler;
+    FiyatTeklifi teklif;
     m_notlar.clear();
     İlerlemeKutusu kutu(MetinNo::PlanKuruluyor, 0, parentWidget());
-    İşSonucu sonuç = m_iş.Öner(öneriler, m_notlar);
+    İşSonucu sonuç = m_iş.Öner(teklif, m_notlar);
     if (sonuç.Tamam())
-        sonuç = m_plan.Kur(ODBCBağlantısı(), std::move(öneriler), OndalıkBasamak,
+        sonuç = m_plan.Kur(ODBCBağlantısı(), std::move(teklif), OndalıkBasamak,
                            [&kutu](std::int64_t okunan) { return kutu.Bildir(okunan); });
     if (sonuç.Tamam()) sonuç = BugünDeğişenleriSay();
     if (!sonuç.Tamam()) {
@@ -117,6 +117,11 @@ void FiyatÖnizlemeFormu::ÖzetiYaz() {
     const PlanÖzeti özet = m_plan.Özet();
     QStringList satırlar{m_iş.Bilgi.Açıklama,
                          Metin(MetinNo::PlanÖzeti).arg(özet.Malzeme).arg(özet.Satır).arg(özet.Ürün)};
+    if (özet.Eklenen > 0) satırlar.append(Metin(MetinNo::EklenecekSayısı).arg(özet.Eklenen));
+    if (özet.Silinen > 0) satırlar.append(Metin(MetinNo::SilinecekSayısı).arg(özet.Silinen));
+    if (const auto& kur = m_plan.DövizKuru())
+        satırlar.append(Metin(MetinNo::KurÖzeti)
+                            .arg(kur->Kod, FiyatMetni(kur->Eski), FiyatMetni(kur->Yeni), GünMetni(kur->YeniGün)));
     std::int64_t bugün = 0;
     for (std::size_t i = 0; i < m_bugünDeğişti.size(); ++i)
         bugün += m_bugünDeğişti[i] && m_plan.Malzemeler()[i].İşaretli;
@@ -124,7 +129,7 @@ void FiyatÖnizlemeFormu::ÖzetiYaz() {
     if (özet.AyrıSatır > 0) satırlar.append(Metin(MetinNo::AyrıSatırSayısı).arg(özet.AyrıSatır));
     if (özet.ÜrünsüzSatır > 0) satırlar.append(Metin(MetinNo::ÜrünsüzSatırSayısı).arg(özet.ÜrünsüzSatır));
     m_özet->setText((satırlar + m_notlar).join(QLatin1Char('\n')));
-    m_uygula->setEnabled(özet.Malzeme > 0);
+    m_uygula->setEnabled(özet.Malzeme > 0 || m_plan.DövizKuru());
 }
 
 void FiyatÖnizlemeFormu::İşaretDeğişti() {

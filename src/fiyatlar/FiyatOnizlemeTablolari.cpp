@@ -42,17 +42,18 @@ QList<TabloSütunu> PlanınÜrünSütunları() {
 QString PlanınMalzemeleri::Hücre(std::size_t satır, int sütun) const {
     const PlanMalzemesi& m = m_plan.Malzemeler()[satır];
     const bool yazılır = Uygulanır(m.Neden);
+    const bool karşılaştırılır = yazılır && m.Malzemenin == Varlık::Aynı;
     switch (sütun) {
         case MAd:
             return m.Malzeme;
         case MEski:
-            return FiyatMetni(m.Eski);
+            return m.Malzemenin == Varlık::Eklendi ? QString() : FiyatMetni(m.Eski);
         case MYeni:
-            return yazılır ? FiyatMetni(m.Yeni) : QString();
+            return yazılır && m.Malzemenin != Varlık::Silindi ? FiyatMetni(m.Yeni) : QString();
         case MFark:
-            return yazılır ? FiyatFarkı(m.Eski, m.Yeni) : QString();
+            return karşılaştırılır ? FiyatFarkı(m.Eski, m.Yeni) : QString();
         case MYüzde:
-            return yazılır ? YüzdeFarkı(m.Eski, m.Yeni) : QString();
+            return karşılaştırılır ? YüzdeFarkı(m.Eski, m.Yeni) : QString();
         case MSatır:
             return QString::number(m.DeğişenSatır);
         case MAyrı:
@@ -95,6 +96,8 @@ void PlanınMalzemeleri::İşaretle(std::size_t satır, bool işaretli) {
 QString PlanınMalzemeleri::Açıklama(std::size_t satır) const {
     const PlanMalzemesi& m = m_plan.Malzemeler()[satır];
     QStringList metin;
+    if (m.Malzemenin == Varlık::Eklendi) metin.append(Metin(MetinNo::YeniMalzeme));
+    if (m.Malzemenin == Varlık::Silindi) metin.append(Metin(MetinNo::SilinecekMalzeme));
     if (m.Neden != PlanNedeni::Yok) metin.append(NedenMetni(m.Neden));
     const auto eksik = std::count_if(m.Tekler.begin(), m.Tekler.end(), [](const TekSatır& t) { return !t.Bulundu; });
     if (eksik > 0) metin.append(Metin(MetinNo::BulunamayanSatırlar).arg(eksik));

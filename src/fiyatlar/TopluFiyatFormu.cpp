@@ -50,7 +50,7 @@ class TopluFiyatFormu::MalzemeKaynağı : public TabloKaynağı {
             case FiyatSütunu:
                 return FiyatMetni(s.Malzeme.Fiyat);
             default:
-                return QDate::fromString(s.SonDeğişim, Qt::ISODate).toString(QStringLiteral("dd.MM.yyyy"));
+                return GünMetni(s.SonDeğişim);
         }
     }
     int Karşılaştır(std::size_t a, std::size_t b, int sütun) const override {
@@ -295,7 +295,7 @@ QString TopluFiyatFormu::Açıklama(Para değer) const {
     return açıklama;
 }
 
-İşSonucu TopluFiyatFormu::Öner(Para değer, const Yuvarlama& yuvarlama, std::vector<FiyatÖnerisi>& öneriler,
+İşSonucu TopluFiyatFormu::Öner(Para değer, const Yuvarlama& yuvarlama, FiyatTeklifi& teklif,
                                QStringList& notlar) const {
     MalzemeKataloğu katalog;
     const İşSonucu sonuç = katalog.Oku(ODBCBağlantısı());
@@ -316,7 +316,7 @@ QString TopluFiyatFormu::Açıklama(Para değer) const {
         const YeniFiyat yeni = FiyatıBelirle(malzeme.Fiyat, kesin, yuvarlama);
         FiyatÖnerisi öneri{malzeme.Ad, malzeme.Fiyat, yeni.Fiyat, NedenBul(yeni.Durum)};
         öneri.İşaretli = öneri.Neden == PlanNedeni::Yok;
-        öneriler.push_back(std::move(öneri));
+        teklif.Öneriler.push_back(std::move(öneri));
     }
     notlar += EksiklerNotu(eksikler);
     return sonuç;
@@ -327,8 +327,8 @@ void TopluFiyatFormu::Önizle() {
     if (!değer) return;
     const Yuvarlama yuvarlama = m_yuvarlama.Seçilen();
     const Fiyatİşi iş{{İşlemTürü::Toplu, Açıklama(*değer), 0},
-                      [this, değer = *değer, yuvarlama](std::vector<FiyatÖnerisi>& öneriler, QStringList& notlar) {
-                          return Öner(değer, yuvarlama, öneriler, notlar);
+                      [this, değer = *değer, yuvarlama](FiyatTeklifi& teklif, QStringList& notlar) {
+                          return Öner(değer, yuvarlama, teklif, notlar);
                       }};
     if (!FiyatİşiniYürüt(iş, this)) return;
     m_uygulandı = true;

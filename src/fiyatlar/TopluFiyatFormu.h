@@ -46,8 +46,7 @@ class TopluFiyatFormu : public QDialog {
     std::optional<Para> Değer();
     void Önizle();
     QString Açıklama(Para değer) const;
-    İşSonucu Öner(Para değer, const Yuvarlama& yuvarlama, std::vector<FiyatÖnerisi>& öneriler,
-                  QStringList& notlar) const;
+    İşSonucu Öner(Para değer, const Yuvarlama& yuvarlama, FiyatTeklifi& teklif, QStringList& notlar) const;
 
     bool m_uygulandı = false;
     std::unique_ptr<MalzemeKaynağı> m_kaynak;

@@ -4,6 +4,7 @@
 #include <QPair>
 #include <algorithm>
 
+#include "Deyimler.h"
 #include "OdbcHareketi.h"
 #include "OdbcTanitici.h"
 
@@ -20,9 +21,9 @@ class Yazıcı {
 
     UygulamaSonucu MalzemeyiYaz(const PlanMalzemesi& malzeme) {
         m_sonuç = {};
-        static_cast<void>(Değiştir(Deyimler::KataloğunFiyatı(malzeme.Malzeme, malzeme.Eski, malzeme.Yeni), 1) &&
-                          KullanılanlarıYaz(malzeme) && SayıyaBak(malzeme) && TekleriYaz(malzeme) &&
-                          Ekle(Deyimler::Fiyat::DeğişimEkle({m_işlem, malzeme.Malzeme, malzeme.Eski, malzeme.Yeni})) &&
+        static_cast<void>(KatalogdaYaz(malzeme) &&
+                          Ekle(Deyimler::Fiyat::DeğişimEkle(
+                              {m_işlem, malzeme.Malzeme, malzeme.Eski, malzeme.Yeni, malzeme.Malzemenin})) &&
                           AyrılarıKaydet(malzeme));
         if (m_sonuç.Son == UygulamaSonu::Değişmiş) m_sonuç.Malzeme = malzeme.Malzeme;
         return m_sonuç;
@@ -40,6 +41,22 @@ class Yazıcı {
 
     bool Ekle(const QString& deyim) { return Değiştir(deyim, 1); }
 
+    bool KatalogdaYaz(const PlanMalzemesi& malzeme) {
+        switch (malzeme.Malzemenin) {
+            case Varlık::Eklendi:
+                return Say(Deyimler::AdınSayısı(malzeme.Malzeme), 0) &&
+                       Ekle(Deyimler::MalzemeEkle(malzeme.Malzeme, Deyimler::SaklanacakSayı(malzeme.Yeni)));
+            case Varlık::Silindi:
+                return Değiştir(Deyimler::FiyatıylaSil(malzeme.Malzeme, malzeme.Eski), 1) &&
+                       Say(Deyimler::KullanılanSayısı(malzeme.Malzeme), 0);
+            case Varlık::Aynı:
+                break;
+        }
+        return Değiştir(Deyimler::KataloğunFiyatı(malzeme.Malzeme, malzeme.Eski, malzeme.Yeni), 1) &&
+               KullanılanlarıYaz(malzeme) && Say(Deyimler::KullanılanSayısı(malzeme.Malzeme), malzeme.Satır) &&
+               TekleriYaz(malzeme);
+    }
+
     // Rows that have the new price already come first: after the others were changed, they could not be told apart.
     bool KullanılanlarıYaz(const PlanMalzemesi& malzeme) {
         for (const bool yenisi : {true, false})
@@ -51,15 +68,15 @@ class Yazıcı {
         return true;
     }
 
-    bool SayıyaBak(const PlanMalzemesi& malzeme) {
+    bool Say(const QString& deyim, std::int64_t beklenen) {
         std::int64_t sayı = -1;
-        m_sonuç.Odbc = m_bağlantı.Oku(Deyimler::KullanılanSayısı(malzeme.Malzeme), [&sayı](OdbcSatırı& satır) {
+        m_sonuç.Odbc = m_bağlantı.Oku(deyim, [&sayı](OdbcSatırı& satır) {
             sayı = SaklananSayı(satır.Baytlar(1).value_or(""));
             return false;
         });
         if (!m_sonuç.Odbc.Başarılı())
             m_sonuç.Son = UygulamaSonu::Olmadı;
-        else if (sayı != malzeme.Satır)
+        else if (sayı != beklenen)
             m_sonuç.Son = UygulamaSonu::Değişmiş;
         return m_sonuç.Son == UygulamaSonu::Tamam;
     }
@@ -127,11 +144,41 @@ UygulamaSonucu MalzemeleriYaz(Yazıcı& yazıcı, const FiyatPlanı& plan, const
     return {};
 }
 
+// The rate itself, and in its ties the prices that it wrote.
+UygulamaSonucu KuruYaz(OdbcBağlantısı& bağlantı, const FiyatPlanı& plan, std::int64_t işlem) {
+    const KurDeğişimi& kur = *plan.DövizKuru();
+    const auto yaz = [&](const QString& deyim, const QString& ad) -> UygulamaSonucu {
+        const OdbcSonucu s = bağlantı.Çalıştır(deyim);
+        if (!s.Başarılı()) return Olmadı(s);
+        if (s.Etkilenen != 1) return {UygulamaSonu::Değişmiş, s, ad};
+        return {};
+    };
+    UygulamaSonucu sonuç = yaz(Deyimler::Döviz::KuruYaz(kur.Kod, kur.Eski, kur.Yeni, kur.YeniGün), kur.Kod);
+    AdDizini yazılanlar;
+    for (const PlanMalzemesi& malzeme : plan.Malzemeler())
+        if (malzeme.İşaretli || malzeme.Neden == PlanNedeni::Değişmiyor)
+            yazılanlar.BulYaDaEkle(malzeme.Malzeme.toStdString(), 0);
+    for (Deyimler::Döviz::Bağ bağ : kur.Bağlar) {
+        if (sonuç.Son != UygulamaSonu::Tamam) break;
+        if (yazılanlar.Bul(bağ.Malzeme.toStdString()) == AdDizini::YOK) continue;
+        if (bağ.İşlem == 0) bağ.İşlem = işlem;
+        sonuç = yaz(Deyimler::Döviz::BağınYazılanı(bağ), bağ.Malzeme);
+    }
+    return sonuç;
+}
+
 }  // namespace
 
 UygulamaSonucu FiyatlarıUygula(OdbcBağlantısı& bağlantı, const FiyatPlanı& plan, const İşlemBilgisi& bilgi,
                                const QString& zaman, const İlerleme& ilerleme) {
     Deyimler::Fiyat::İşlem işlem{0, zaman, TürSözcüğü(bilgi.Tür), bilgi.Açıklama, bilgi.Karşılığı, 0};
+    if (const std::optional<KurDeğişimi>& kur = plan.DövizKuru()) {
+        işlem.DövizKodu = kur->Kod;
+        işlem.EskiKur = kur->Eski;
+        işlem.YeniKur = kur->Yeni;
+        işlem.EskiKurGünü = kur->EskiGün;
+        işlem.YeniKurGünü = kur->YeniGün;
+    }
     bool tablolarVar = false;
     if (const İşSonucu s = FiyatTablolarıVar(bağlantı, tablolarVar); !s.Tamam()) return Olmadı(s.Odbc);
     if (const İşSonucu s = SıradakiİşlemNo(bağlantı, tablolarVar, işlem.No); !s.Tamam()) return Olmadı(s.Odbc);
@@ -146,6 +193,8 @@ UygulamaSonucu FiyatlarıUygula(OdbcBağlantısı& bağlantı, const FiyatPlanı
         if (!s.Başarılı()) return Olmadı(s);
         if (s.Etkilenen != 1) return {UygulamaSonu::İşlemDeğişmiş, s, {}};
     }
+    if (plan.DövizKuru())
+        if (UygulamaSonucu s = KuruYaz(bağlantı, plan, işlem.No); s.Son != UygulamaSonu::Tamam) return s;
     Yazıcı yazıcı(bağlantı, işlem.No);
     if (UygulamaSonucu s = MalzemeleriYaz(yazıcı, plan, ilerleme); s.Son != UygulamaSonu::Tamam) return s;
     if (const OdbcSonucu s = hareket.Onayla(); !s.Başarılı()) return Olmadı(s);

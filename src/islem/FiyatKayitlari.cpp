@@ -9,14 +9,6 @@ namespace {
 // The stored words are part of the file format.
 constexpr const char* SÖZCÜKLER[] = {"elle", "toplu", "liste", "kur", "geri", "yine"};
 
-std::int64_t SayıSütunu(OdbcSatırı& satır, int sütun) {
-    return SaklananSayı(satır.Baytlar(sütun).value_or(""));
-}
-
-Para ParaSütunu(OdbcSatırı& satır, int sütun) {
-    return SaklananPara(satır.Baytlar(sütun).value_or("")).value_or(Para());
-}
-
 }  // namespace
 
 QString TürSözcüğü(İşlemTürü tür) {
@@ -42,7 +34,7 @@ std::optional<İşlemTürü> SözcüğünTürü(const QString& sözcük) {
         const auto sayı = [&satır](int sütun) { return SayıSütunu(satır, sütun); };
         const auto para = [&satır](int sütun) { return ParaSütunu(satır, sütun); };
         işlemler.push_back({sayı(1), satır.Metin(2), satır.Metin(3), satır.Metin(4), sayı(5), sayı(6), satır.Metin(7),
-                            para(8), para(9), satır.Metin(10)});
+                            para(8), para(9), satır.Metin(10), satır.Metin(11)});
         return true;
     }));
 }

@@ -65,8 +65,9 @@ class FiyatPlanı::Okuyucu {
         for (std::uint32_t i = 0; i < plan.m_malzemeler.size(); ++i) {
             const QByteArray ad = plan.m_malzemeler[i].Malzeme.toUtf8();
             const std::uint32_t yer = malzemeler.Dizin.Bul(Baytları(ad));
+            PlanMalzemesi& m = plan.m_malzemeler[i];
             if (yer != AdDizini::YOK) m_planda[yer] = i;
-            const PlanMalzemesi& m = plan.m_malzemeler[i];
+            if (yer != AdDizini::YOK && m.Malzemenin == Varlık::Eklendi) Bırak(m, PlanNedeni::KatalogdaVar);
             m_sıklar.push_back({m.Eski, m.Yeni, m.HerSatır && m.Tekler.empty(), 0});
             for (std::size_t t = 0; t < m.Tekler.size(); ++t)
                 m_tekler.emplace(SatırÖzeti(m.Tekler[t].Satır), Tek{i, t});
@@ -81,6 +82,7 @@ class FiyatPlanı::Okuyucu {
             if (satır > 0) malzeme.Dağılım.push_back({malzeme.Eski, satır, true});
             malzeme.DeğişenSatır += satır;
             for (const FiyatlıSatırlar& satırlar : malzeme.Dağılım) malzeme.Satır += satırlar.Sayı;
+            if (malzeme.Malzemenin == Varlık::Silindi && malzeme.Satır > 0) Bırak(malzeme, PlanNedeni::Kullanılıyor);
         }
     }
 
@@ -98,6 +100,12 @@ class FiyatPlanı::Okuyucu {
     std::vector<Satır> Satırlar;
 
   private:
+    static void Bırak(PlanMalzemesi& malzeme, PlanNedeni neden) {
+        if (!Uygulanır(malzeme.Neden)) return;
+        malzeme.Neden = neden;
+        malzeme.İşaretli = false;
+    }
+
     static std::string_view Baytlar(OdbcSatırı& satır, int sütun) {
         return satır.Baytlar(sütun).value_or(std::string_view());
     }
@@ -212,12 +220,12 @@ class FiyatPlanı::Okuyucu {
     bool m_sonVar = false;
 };
 
-İşSonucu FiyatPlanı::Kur(OdbcBağlantısı& bağlantı, std::vector<FiyatÖnerisi> öneriler, int basamak,
-                         const İlerleme& ilerleme) {
+İşSonucu FiyatPlanı::Kur(OdbcBağlantısı& bağlantı, FiyatTeklifi teklif, int basamak, const İlerleme& ilerleme) {
     *this = {};
     m_basamak = basamak;
-    m_malzemeler.reserve(öneriler.size());
-    for (FiyatÖnerisi& öneri : öneriler) {
+    m_kur = std::move(teklif.Kur);
+    m_malzemeler.reserve(teklif.Öneriler.size());
+    for (FiyatÖnerisi& öneri : teklif.Öneriler) {
         if (Uygulanır(öneri.Neden) && !Deyimler::Yazılabilir(öneri.Malzeme)) öneri.Neden = PlanNedeni::AdıYazılamaz;
         if (!Uygulanır(öneri.Neden)) öneri.İşaretli = false;
         m_malzemeler.push_back({std::move(öneri)});
@@ -312,6 +320,8 @@ PlanÖzeti FiyatPlanı::Özet() const {
         const PlanMalzemesi& malzeme = m_malzemeler[i];
         if (!malzeme.İşaretli) continue;
         ++özet.Malzeme;
+        özet.Eklenen += malzeme.Malzemenin == Varlık::Eklendi;
+        özet.Silinen += malzeme.Malzemenin == Varlık::Silindi;
         özet.Satır += malzeme.DeğişenSatır;
         özet.AyrıSatır += static_cast<std::int64_t>(malzeme.Ayrılar.size());
         for (std::size_t satır = m_ilkSatır[i]; satır < m_ilkSatır[i + 1]; ++satır)

@@ -5,12 +5,14 @@
 #include <functional>
 #include <vector>
 
+#include "DovizDeyimleri.h"
 #include "FiyatDeyimleri.h"
 #include "FiyatKurali.h"
 #include "KatalogOkuma.h"
 #include "UrunToplamlari.h"
 
 using Deyimler::KullanılanSatır;
+using Deyimler::Fiyat::Varlık;
 
 // Why a material is left out of a plan or not ticked in it.
 enum class PlanNedeni {
@@ -20,6 +22,9 @@ enum class PlanNedeni {
     ElleDeğişmiş,      // its price is not the one that its currency's last rate gave it
     Çakışıyor,         // the list gives it several prices
     // From here on it cannot be carried out at all.
+    Kullanılıyor,    // added by the operation to be taken back; a product uses it now
+    FiyatıDeğişmiş,  // added by that operation; its price has been changed since
+    KatalogdaVar,    // to be added, but the catalogue has it
     Değişmiyor,
     TersineDöndü,
     SıfırYaDaAltı,
@@ -27,7 +32,7 @@ enum class PlanNedeni {
     AdıYazılamaz  // no statement can name it
 };
 constexpr bool Uygulanır(PlanNedeni neden) {
-    return neden < PlanNedeni::Değişmiyor;
+    return neden < PlanNedeni::Kullanılıyor;
 }
 PlanNedeni NedenBul(FiyatDurumu durum);
 
@@ -41,16 +46,33 @@ struct TekSatır {
     bool Bulundu = false;  // by the plan, in the data file
 };
 
-// A new price for a material of the catalogue.
+// A new price for a material of the catalogue, or a material that is added to it or deleted from it.
 struct FiyatÖnerisi {
     QString Malzeme;  // as the catalogue spells it
-    Para Eski;        // the catalogue's price
-    Para Yeni;
+    Para Eski;        // the catalogue's price; 0 of an added one
+    Para Yeni;        // 0 of a deleted one
     PlanNedeni Neden = PlanNedeni::Yok;
     bool İşaretli = true;
     bool HerSatır = true;          // the new price goes to every used row; otherwise only to those with one of
     std::vector<Para> Fiyatlar{};  // these prices
     std::vector<TekSatır> Tekler{};
+    Varlık Malzemenin = Varlık::Aynı;
+};
+
+// A rate that goes with the prices. Of its ties those are written whose material gets the price, or has it already.
+struct KurDeğişimi {
+    QString Kod;
+    Para Eski;
+    Para Yeni;
+    QString EskiGün;  // yyyy-MM-dd
+    QString YeniGün;
+    std::vector<Deyimler::Döviz::Bağ> Bağlar;  // as they are to be; operation 0: the one that is carried out
+};
+
+// Where new prices come from: all that a plan is made of.
+struct FiyatTeklifi {
+    std::vector<FiyatÖnerisi> Öneriler;
+    std::optional<KurDeğişimi> Kur;
 };
 
 struct FiyatlıSatırlar {
@@ -77,7 +99,9 @@ struct PlanÜrünü {
 };
 
 struct PlanÖzeti {
-    std::int64_t Malzeme = 0;  // ticked
+    std::int64_t Malzeme = 0;  // ticked, added and deleted ones too
+    std::int64_t Eklenen = 0;
+    std::int64_t Silinen = 0;
     std::int64_t Satır = 0;
     std::int64_t Ürün = 0;
     std::int64_t ÜrünsüzSatır = 0;  // of those rows, whose product is not in the product table
@@ -89,12 +113,12 @@ struct PlanÖzeti {
 class FiyatPlanı {
   public:
     // `basamak`: the decimals that the main form shows.
-    İşSonucu Kur(OdbcBağlantısı& bağlantı, std::vector<FiyatÖnerisi> öneriler, int basamak,
-                 const İlerleme& ilerleme = {});
+    İşSonucu Kur(OdbcBağlantısı& bağlantı, FiyatTeklifi teklif, int basamak, const İlerleme& ilerleme = {});
 
     const std::vector<PlanMalzemesi>& Malzemeler() const { return m_malzemeler; }
     const std::vector<PlanÜrünü>& Ürünler() const { return m_ürünler; }
     PlanÖzeti Özet() const;
+    const std::optional<KurDeğişimi>& DövizKuru() const { return m_kur; }
 
     // What cannot be carried out stays unticked.
     void İşaretle(std::uint32_t malzeme, bool işaretli);
@@ -118,6 +142,7 @@ class FiyatPlanı {
     void SonrayıHesapla(std::uint32_t ürün);
 
     int m_basamak = 2;
+    std::optional<KurDeğişimi> m_kur;
     std::vector<PlanMalzemesi> m_malzemeler;
     std::vector<PlanÜrünü> m_ürünler;
     std::vector<ÜrünHesabı> m_hesaplar;        // beside m_ürünler

@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <limits>
 
+#include "DovizKayitlari.h"
 #include "OdbcTanitici.h"
 
+using Deyimler::Döviz::Bağ;
+using Deyimler::Döviz::Döviz;
 using Deyimler::Fiyat::Değişim;
 using Deyimler::Fiyat::İşlem;
 
@@ -36,6 +39,53 @@ FiyatÖnerisi Öneri(const Değişim& değişim, const KatalogMalzemesi& malzeme
     return öneri;
 }
 
+FiyatÖnerisi Ekleme(const Değişim& değişim) {
+    FiyatÖnerisi öneri{değişim.Malzeme, {}, değişim.Yeni};
+    öneri.Malzemenin = Varlık::Eklendi;
+    return öneri;
+}
+
+FiyatÖnerisi Silme(const Değişim& değişim, const KatalogMalzemesi& malzeme) {
+    FiyatÖnerisi öneri{malzeme.Ad, malzeme.Fiyat, {}};
+    öneri.Malzemenin = Varlık::Silindi;
+    öneri.HerSatır = false;
+    if (malzeme.Fiyat != değişim.Yeni) {
+        öneri.Neden = PlanNedeni::FiyatıDeğişmiş;
+        öneri.İşaretli = false;
+    }
+    return öneri;
+}
+
+// The rate of before the operation, or the operation's again; the ties that it wrote get back what they held before.
+İşSonucu KuruÇevir(OdbcBağlantısı& bağlantı, const İşlem& işlem, bool geri, std::optional<KurDeğişimi>& kur,
+                   QString& değişmişDöviz) {
+    if (işlem.DövizKodu.isEmpty()) return {};
+    std::vector<Döviz> dövizler;
+    std::vector<Bağ> bağlar;
+    İşSonucu sonuç = DövizleriOku(bağlantı, dövizler);
+    if (sonuç.Tamam()) sonuç = DövizBağlarınıOku(bağlantı, bağlar);
+    if (!sonuç.Tamam()) return sonuç;
+    kur = KurDeğişimi{işlem.DövizKodu, işlem.EskiKur, işlem.YeniKur, işlem.EskiKurGünü, işlem.YeniKurGünü, {}};
+    if (geri) {
+        std::swap(kur->Eski, kur->Yeni);
+        std::swap(kur->EskiGün, kur->YeniGün);
+    }
+    const bool aynı = std::any_of(dövizler.begin(), dövizler.end(), [&kur](const Döviz& döviz) {
+        return döviz.Kod == kur->Kod && döviz.Kur == kur->Eski && döviz.Gün == kur->EskiGün;
+    });
+    if (!aynı) {
+        değişmişDöviz = kur->Kod;
+        kur.reset();
+        return sonuç;
+    }
+    for (Bağ& bağ : bağlar) {
+        if (bağ.Kod != kur->Kod || bağ.İşlem != işlem.No) continue;
+        std::swap(bağ.Yazılan, bağ.Önceki);
+        kur->Bağlar.push_back(bağ);
+    }
+    return sonuç;
+}
+
 }  // namespace
 
 bool Kendiİşlemi(const İşlem& işlem) {
@@ -56,19 +106,21 @@ std::optional<İşlem> YinelenecekİşlemiBul(const std::vector<İşlem>& işlem
     return yer == işlemler.end() || sıra(*yer) == 0 ? std::nullopt : std::optional(*yer);
 }
 
-İşSonucu GeriAlmaÖnerileri(OdbcBağlantısı& bağlantı, std::int64_t işlem, İşlemTürü tür,
-                           std::vector<FiyatÖnerisi>& öneriler, QStringList& eksikler) {
-    öneriler.clear();
-    eksikler.clear();
+İşSonucu GeriAlmaÖnerileri(OdbcBağlantısı& bağlantı, const İşlem& işlem, İşlemTürü tür, FiyatTeklifi& teklif,
+                           GeriAlmaEksikleri& eksikler) {
+    teklif = {};
+    eksikler = {};
     const bool geri = tür == İşlemTürü::GeriAlma;
     std::vector<Değişim> değişimler;
     bool fazlaVar = false;
     constexpr std::size_t hepsi = std::numeric_limits<std::size_t>::max();
-    İşSonucu sonuç = DeğişimleriOku(bağlantı, Deyimler::Fiyat::İşleminDeğişimleri(işlem), değişimler, hepsi, fazlaVar);
+    İşSonucu sonuç =
+        DeğişimleriOku(bağlantı, Deyimler::Fiyat::İşleminDeğişimleri(işlem.No), değişimler, hepsi, fazlaVar);
     std::vector<KullanılanSatır> tekler;
-    if (sonuç.Tamam()) sonuç = TekleriOku(bağlantı, işlem, tekler);
+    if (sonuç.Tamam()) sonuç = TekleriOku(bağlantı, işlem.No, tekler);
     MalzemeKataloğu katalog;
     if (sonuç.Tamam()) sonuç = katalog.Oku(bağlantı);
+    if (sonuç.Tamam()) sonuç = KuruÇevir(bağlantı, işlem, geri, teklif.Kur, eksikler.Döviz);
     if (!sonuç.Tamam()) return sonuç;
 
     AdDizini yerler;
@@ -76,18 +128,24 @@ std::optional<İşlem> YinelenecekİşlemiBul(const std::vector<İşlem>& işlem
     for (const Değişim& değişim : değişimler) {
         const std::string ad = değişim.Malzeme.toStdString();
         const std::uint32_t yer = katalog.Dizin.Bul(ad);
-        if (yer == AdDizini::YOK) {
-            eksikler.append(değişim.Malzeme);
+        const bool eklenecek = !geri && değişim.Malzemenin == Varlık::Eklendi;
+        if (yer == AdDizini::YOK && !eklenecek) {
+            eksikler.Malzemeler.append(değişim.Malzeme);
             continue;
         }
-        yerler.BulYaDaEkle(ad, static_cast<std::uint32_t>(öneriler.size()));
-        öneriler.push_back(Öneri(değişim, katalog.Malzemeler[yer], geri));
+        yerler.BulYaDaEkle(ad, static_cast<std::uint32_t>(teklif.Öneriler.size()));
+        if (eklenecek)
+            teklif.Öneriler.push_back(Ekleme(değişim));
+        else if (değişim.Malzemenin == Varlık::Eklendi)
+            teklif.Öneriler.push_back(Silme(değişim, katalog.Malzemeler[yer]));
+        else
+            teklif.Öneriler.push_back(Öneri(değişim, katalog.Malzemeler[yer], geri));
         yeniFiyatlar.push_back(değişim.Yeni);
     }
     for (KullanılanSatır& satır : tekler) {
         const std::uint32_t yer = yerler.Bul(satır.Malzeme.toStdString());
         if (yer == AdDizini::YOK) continue;
-        FiyatÖnerisi& öneri = öneriler[yer];
+        FiyatÖnerisi& öneri = teklif.Öneriler[yer];
         const Para önceki = satır.Fiyat;
         if (geri) satır.Fiyat = yeniFiyatlar[yer];
         öneri.Tekler.push_back({satır, geri ? önceki : öneri.Yeni});

@@ -15,7 +15,14 @@ bool Kendiİşlemi(const Deyimler::Fiyat::İşlem& işlem);
 std::optional<Deyimler::Fiyat::İşlem> GeriAlınacakİşlem(const std::vector<Deyimler::Fiyat::İşlem>& işlemler);
 std::optional<Deyimler::Fiyat::İşlem> YinelenecekİşlemiBul(const std::vector<Deyimler::Fiyat::İşlem>& işlemler);
 
+// What the data have that the operation wanted to reach, and that stays as it is.
+struct GeriAlmaEksikleri {
+    QStringList Malzemeler;  // not in the catalogue any more
+    QString Döviz;           // its rate has been changed since, or it is gone
+};
+
 // What taking the operation back (GeriAlma) or putting it forward (Yineleme) makes of the prices. A material whose
-// price is no longer the one that it would leave is offered, but not ticked; one that is gone is named in `eksikler`.
-İşSonucu GeriAlmaÖnerileri(OdbcBağlantısı& bağlantı, std::int64_t işlem, İşlemTürü tür,
-                           std::vector<FiyatÖnerisi>& öneriler, QStringList& eksikler);
+// price is no longer the one that it would leave is offered, but not ticked. What it added is deleted again, unless it
+// is used or its price has changed.
+İşSonucu GeriAlmaÖnerileri(OdbcBağlantısı& bağlantı, const Deyimler::Fiyat::İşlem& işlem, İşlemTürü tür,
+                           FiyatTeklifi& teklif, GeriAlmaEksikleri& eksikler);

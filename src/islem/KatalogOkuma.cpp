@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "Deyimler.h"
+#include "OdbcHareketi.h"
 #include "OdbcTanitici.h"
 #include "SayiCozumu.h"
 
@@ -20,6 +21,25 @@ std::int64_t SaklananSayı(std::string_view baytlar) {
     std::int64_t sayı = 0;
     std::from_chars(baytlar.data(), baytlar.data() + baytlar.size(), sayı);
     return sayı;
+}
+
+Para ParaSütunu(OdbcSatırı& satır, int sütun) {
+    return SaklananPara(satır.Baytlar(sütun).value_or("")).value_or(Para());
+}
+
+std::int64_t SayıSütunu(OdbcSatırı& satır, int sütun) {
+    return SaklananSayı(satır.Baytlar(sütun).value_or(""));
+}
+
+İşSonucu TablolaraYaz(OdbcBağlantısı& bağlantı, const QString& tablo, const QStringList& oluştur,
+                      const QStringList& deyimler) {
+    bool var = false;
+    if (const OdbcSonucu s = bağlantı.TabloVar(tablo, var); !s.Başarılı()) return İşSonucuYap(s);
+    OdbcHareketi hareket(bağlantı);
+    if (const OdbcSonucu s = hareket.Başla(); !s.Başarılı()) return İşSonucuYap(s);
+    for (const QString& deyim : var ? deyimler : oluştur + deyimler)
+        if (const OdbcSonucu s = bağlantı.Çalıştır(deyim); !s.Başarılı()) return İşSonucuYap(s);
+    return İşSonucuYap(hareket.Onayla());
 }
 
 İşSonucu MalzemeKataloğu::Oku(OdbcBağlantısı& bağlantı, const İlerleme& ilerleme) {

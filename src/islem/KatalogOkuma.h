@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -12,6 +13,7 @@
 #include "Para.h"
 
 class OdbcBağlantısı;
+class OdbcSatırı;
 
 // Told how many rows have been read; false: the user gave up.
 using İlerleme = std::function<bool(std::int64_t okunan)>;
@@ -44,3 +46,11 @@ std::optional<Para> SaklananPara(std::string_view baytlar);
 
 // Reads a stored count or number without decimals.
 std::int64_t SaklananSayı(std::string_view baytlar);
+
+// The same of the row at hand; 0 for what is none such.
+Para ParaSütunu(OdbcSatırı& satır, int sütun);
+std::int64_t SayıSütunu(OdbcSatırı& satır, int sütun);
+
+// Runs the statements as one transaction; `oluştur` comes first where there is no such table.
+İşSonucu TablolaraYaz(OdbcBağlantısı& bağlantı, const QString& tablo, const QStringList& oluştur,
+                      const QStringList& deyimler);

@@ -116,6 +116,14 @@ constexpr MetinSatırı Tablo[] = {
     {MetinNo::SonraSütunu, "Sonra"},
     {MetinNo::İşlemDeğişmiş,
      "Bu işlem bu arada başka bir yerde geri alınmış ya da yinelenmiş. Hiçbir fiyat değiştirilmedi."},
+    {MetinNo::KurGeriAlınmıyor, "%1 kuru sonradan değişmiş; kur olduğu gibi kalır."},
+    {MetinNo::EklenecekSayısı, "%1 yeni malzeme eklenecek"},
+    {MetinNo::SilinecekSayısı, "%1 malzeme silinecek"},
+    {MetinNo::KurÖzeti, "%1 kuru: %2 → %3 (%4)"},
+    {MetinNo::YeniMalzeme, "yeni malzeme"},
+    {MetinNo::SilinecekMalzeme, "silinecek"},
+    {MetinNo::NedenKullanılıyor, "ürünlerde kullanılıyor, kalır"},
+    {MetinNo::NedenKatalogdaVar, "katalogda var"},
 };
 
 static_assert(Sıralı(Tablo));

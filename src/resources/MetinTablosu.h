@@ -344,6 +344,14 @@ enum class MetinNo : int {
     ÖnceSütunu = 2537,
     SonraSütunu = 2538,
     İşlemDeğişmiş = 2539,
+    KurGeriAlınmıyor = 2540,
+    EklenecekSayısı = 2541,
+    SilinecekSayısı = 2542,
+    KurÖzeti = 2543,
+    YeniMalzeme = 2544,
+    SilinecekMalzeme = 2545,
+    NedenKullanılıyor = 2546,
+    NedenKatalogdaVar = 2547,
 };
 
 // The text. Each number has one; an enumerator without would be a fault of the program: it then reads "?number?", and a

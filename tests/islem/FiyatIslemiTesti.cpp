@@ -6,6 +6,7 @@
 #include <random>
 
 #include "FiyatIslemi.h"
+#include "DovizKayitlari.h"
 #include "GeriAlma.h"
 #include "MaliyetHesabi.h"
 #include "MalzemeToplami.h"
@@ -110,16 +111,29 @@ class Fiyatİşlemi : public VarnekTesti {
             öneriler.push_back({m.Ad, m.Fiyat, yeni.Fiyat, NedenBul(yeni.Durum)});
         }
         FiyatPlanı plan;
-        EXPECT_TRUE(plan.Kur(Bağ(), öneriler, BASAMAK).Tamam());
+        EXPECT_TRUE(plan.Kur(Bağ(), {öneriler, {}}, BASAMAK).Tamam());
         return plan;
     }
 
-    FiyatPlanı DönüşPlanı(std::int64_t işlem, İşlemTürü tür) {
-        std::vector<FiyatÖnerisi> öneriler;
-        QStringList eksikler;
-        EXPECT_TRUE(GeriAlmaÖnerileri(Bağ(), işlem, tür, öneriler, eksikler).Tamam());
+    FiyatPlanı DönüşPlanı(std::int64_t no, İşlemTürü tür) {
+        FiyatTeklifi teklif;
+        GeriAlmaEksikleri eksikler;
+        std::vector<Deyimler::Fiyat::İşlem> işlemler;
+        EXPECT_TRUE(İşlemleriOku(Bağ(), işlemler).Tamam());
+        const auto işlem = std::find_if(işlemler.begin(), işlemler.end(), [no](const auto& i) { return i.No == no; });
+        EXPECT_TRUE(GeriAlmaÖnerileri(Bağ(), *işlem, tür, teklif, eksikler).Tamam());
         FiyatPlanı plan;
-        EXPECT_TRUE(plan.Kur(Bağ(), öneriler, BASAMAK).Tamam());
+        EXPECT_TRUE(plan.Kur(Bağ(), std::move(teklif), BASAMAK).Tamam());
+        return plan;
+    }
+
+    FiyatPlanı KurPlanı(const QString& kur) {
+        FiyatTeklifi teklif;
+        QStringList eksikler;
+        EXPECT_TRUE(
+            KurÖnerileri(Bağ(), {"USD", {}, *ParaOku(kur), "", "2026-11-23", {}}, {}, teklif, eksikler).Tamam());
+        FiyatPlanı plan;
+        EXPECT_TRUE(plan.Kur(Bağ(), std::move(teklif), BASAMAK).Tamam());
         return plan;
     }
 
@@ -232,6 +246,69 @@ TEST_F(Fiyatİşlemi, GeriAlmakVeYinelemekHerSatırıBulur) {
             << m.Malzeme.toStdString();
     ASSERT_EQ(Uygula(plan, İşlemTürü::GeriAlma, 1), UygulamaSonu::Tamam);
     EXPECT_EQ(m_veri->Tek("SELECT MalzemeFiyati FROM MalzemeTablosu WHERE MalzemeAdi= 'Çıta 4'"), "77");
+}
+
+// A rate goes and comes back with its prices; a price changed by hand is not overwritten unasked.
+TEST_F(Fiyatİşlemi, KurFiyatlarlaBirlikteGiderGelir) {
+    Doldur();
+    const auto tek = [this](const QString& deyim) { return QString::fromStdString(m_veri->Tek(deyim)); };
+    const auto fiyat = [&tek](const QString& malzeme) {
+        return tek("SELECT MalzemeFiyati FROM MalzemeTablosu WHERE MalzemeAdi= '" + malzeme + "'");
+    };
+    const auto kur = [&tek] { return tek("SELECT Kur FROM DovizTablosu WHERE DovizKodu= 'USD'"); };
+    ASSERT_TRUE(DövizEkle(Bağ(), {"USD", *ParaOku(u"30"), "2026-01-01"}).Tamam());
+    for (const QString malzeme : {"Çıta 4", "Çıta 5"}) {
+        m_veri->Çalıştır("UPDATE MalzemeTablosu SET MalzemeFiyati= '8' WHERE MalzemeAdi= '" + malzeme + "'");
+        ASSERT_TRUE(BağıYaz(Bağ(), {malzeme, "USD", *ParaOku(u"0,25"), *ParaOku(u"8"), {}, 0}).Tamam());
+    }
+    ASSERT_EQ(Uygula(KurPlanı("34,5678"), İşlemTürü::Kur), UygulamaSonu::Tamam);
+    EXPECT_EQ(fiyat("Çıta 4"), "8.642");  // 0,25 × 34,5678 = 8,64195, the half to even
+    EXPECT_EQ(kur(), "34.5678");
+    m_veri->Çalıştır("UPDATE MalzemeTablosu SET MalzemeFiyati= '9' WHERE MalzemeAdi= 'Çıta 5'");
+    FiyatPlanı plan = KurPlanı("40");
+    ASSERT_EQ(plan.Malzemeler().size(), 2U);
+    for (const PlanMalzemesi& m : plan.Malzemeler())
+        EXPECT_EQ(m.Malzeme == "Çıta 5", m.Neden == PlanNedeni::ElleDeğişmiş && !m.İşaretli);
+    ASSERT_EQ(Uygula(plan, İşlemTürü::Kur), UygulamaSonu::Tamam);
+    EXPECT_EQ(QStringList({fiyat("Çıta 4"), fiyat("Çıta 5"), kur()}), QStringList({"10", "9", "40"}));
+
+    // The first rate can no longer be taken back with its operation: another one stands.
+    EXPECT_FALSE(DönüşPlanı(1, İşlemTürü::GeriAlma).DövizKuru());
+    ASSERT_EQ(Uygula(DönüşPlanı(2, İşlemTürü::GeriAlma), İşlemTürü::GeriAlma, 2), UygulamaSonu::Tamam);
+    EXPECT_EQ(QStringList({fiyat("Çıta 4"), fiyat("Çıta 5"), kur()}), QStringList({"8.642", "9", "34.5678"}));
+    // What the taking back wrote is no change by hand.
+    EXPECT_EQ(KurPlanı("41").Özet().Malzeme, 1);
+    ASSERT_EQ(Uygula(DönüşPlanı(2, İşlemTürü::Yineleme), İşlemTürü::Yineleme, 2, 3), UygulamaSonu::Tamam);
+    EXPECT_EQ(QStringList({fiyat("Çıta 4"), kur()}), QStringList({"10", "40"}));
+}
+
+// Materials that an operation added go with it, unless somebody needs them by then.
+TEST_F(Fiyatİşlemi, EklenenMalzemeKullanılmıyorsaGeriAlınır) {
+    Doldur();
+    FiyatTeklifi teklif;
+    for (const char* ad : {"Yeni Bir", "Yeni İki", "Yeni Üç"}) {
+        teklif.Öneriler.push_back({QString::fromUtf8(ad), {}, *ParaOku(u"5,5")});
+        teklif.Öneriler.back().Malzemenin = Varlık::Eklendi;
+    }
+    FiyatPlanı plan;
+    ASSERT_TRUE(plan.Kur(Bağ(), teklif, BASAMAK).Tamam());
+    m_veri->Çalıştır("INSERT INTO MalzemeTablosu (MalzemeAdi, MalzemeFiyati) VALUES ('YENİ ÜÇ', '7')");
+    EXPECT_EQ(Uygula(plan, İşlemTürü::Liste), UygulamaSonu::Değişmiş);  // somebody else added it
+    ASSERT_TRUE(plan.Kur(Bağ(), teklif, BASAMAK).Tamam());
+    ASSERT_EQ(plan.Özet().Malzeme, 2);
+    ASSERT_EQ(Uygula(plan, İşlemTürü::Liste), UygulamaSonu::Tamam);
+    m_veri->Çalıştır(
+        "INSERT INTO UrunMalzemeTablosu (KullanimTarihi, UrunGrubu, UrunAdi, KullanilanMalzemeAdi, "
+        "KullanilanMalzemeMiktari, KullanilanMalzemeFiyati) VALUES (#1/1/2026#, 'MASA', 'Masa', 'yeni iki', '1 Adet', "
+        "'5,5')");
+    const auto kalan = [this] {
+        return m_veri->Tek("SELECT Count(*) FROM MalzemeTablosu WHERE MalzemeAdi= 'Yeni Bir'");
+    };
+    ASSERT_EQ(Uygula(DönüşPlanı(1, İşlemTürü::GeriAlma), İşlemTürü::GeriAlma, 1), UygulamaSonu::Tamam);
+    EXPECT_EQ(kalan(), "0");
+    EXPECT_EQ(m_veri->Tek("SELECT MalzemeFiyati FROM MalzemeTablosu WHERE MalzemeAdi= 'Yeni İki'"), "5.5");
+    ASSERT_EQ(Uygula(DönüşPlanı(1, İşlemTürü::Yineleme), İşlemTürü::Yineleme, 1, 2), UygulamaSonu::Tamam);
+    EXPECT_EQ(kalan(), "1");
 }
 
 // Whatever another client did since the plan was made, nothing is written.

@@ -1,18 +1,11 @@
 #include "FiyatDeyimleri.h"
 
+#include "DeyimParcalari.h"
 #include "Deyimler.h"
 
 namespace Deyimler {
 
 namespace {
-
-QString Tırnakla(const QString& metin) {
-    return QLatin1Char('\'') + metin + QLatin1Char('\'');
-}
-
-QString Numara(std::int64_t sayı) {
-    return Tırnakla(QString::number(sayı));
-}
 
 constexpr qsizetype AZAMİ_UZUNLUK = 255;
 
@@ -89,6 +82,15 @@ QString KullanılanSayısı(const QString& malzeme, Para fiyat) {
            Tırnakla(SaklanacakSayı(fiyat));
 }
 
+QString AdınSayısı(const QString& malzeme) {
+    return QStringLiteral("SELECT Count(MalzemeAdi) FROM MalzemeTablosu WHERE MalzemeAdi= ") + Tırnakla(malzeme);
+}
+
+QString FiyatıylaSil(const QString& malzeme, Para fiyat) {
+    return QStringLiteral("DELETE FROM MalzemeTablosu WHERE MalzemeAdi= ") + Tırnakla(malzeme) +
+           QStringLiteral(" AND MalzemeFiyati= ") + Tırnakla(SaklanacakSayı(fiyat));
+}
+
 QString MalzemeninKullanımları(const QString& malzeme) {
     return QStringLiteral(
                "SELECT UrunGrubu, UrunAdi, KullanilanMalzemeMiktari, KullanilanMalzemeFiyati, KullanimTarihi FROM "
@@ -123,7 +125,7 @@ QStringList TablolarıOluştur() {
         QStringLiteral("CREATE TABLE FiyatIslemTablosu (IslemNo DOUBLE NOT NULL, IslemZamani TEXT(19) NOT NULL, "
                        "IslemTuru TEXT(20) NOT NULL, Aciklama TEXT(255) NOT NULL, Karsiligi DOUBLE NOT NULL, "
                        "GeriAlan DOUBLE NOT NULL, DovizKodu TEXT(10) NOT NULL, EskiKur CURRENCY NOT NULL, "
-                       "YeniKur CURRENCY NOT NULL, EskiKurGunu TEXT(10) NOT NULL)"),
+                       "YeniKur CURRENCY NOT NULL, EskiKurGunu TEXT(10) NOT NULL, YeniKurGunu TEXT(10) NOT NULL)"),
         QStringLiteral("CREATE UNIQUE INDEX FiyatIslemSirasi ON FiyatIslemTablosu (IslemNo)"),
         QStringLiteral("CREATE TABLE FiyatGecmisiTablosu (IslemNo DOUBLE NOT NULL, MalzemeAdi TEXT(255) NOT NULL, "
                        "EskiFiyat CURRENCY NOT NULL, YeniFiyat CURRENCY NOT NULL, Eklendi DOUBLE NOT NULL)"),
@@ -140,19 +142,18 @@ QStringList TablolarıOluştur() {
 QString İşlemEkle(const İşlem& işlem) {
     return QStringLiteral(
                "INSERT INTO FiyatIslemTablosu (IslemNo, IslemZamani, IslemTuru, Aciklama, Karsiligi, GeriAlan, "
-               "DovizKodu, EskiKur, YeniKur, EskiKurGunu) VALUES (") +
-           Numara(işlem.No) + QStringLiteral(", ") + Tırnakla(işlem.Zaman) + QStringLiteral(", ") +
-           Tırnakla(işlem.Tür) + QStringLiteral(", ") + Tırnakla(SaklanacakMetin(işlem.Açıklama)) +
-           QStringLiteral(", ") + Numara(işlem.Karşılığı) + QStringLiteral(", ") + Numara(işlem.GeriAlan) +
-           QStringLiteral(", ") + Tırnakla(işlem.DövizKodu) + QStringLiteral(", ") +
-           Tırnakla(SaklanacakSayı(işlem.EskiKur)) + QStringLiteral(", ") + Tırnakla(SaklanacakSayı(işlem.YeniKur)) +
-           QStringLiteral(", ") + Tırnakla(işlem.EskiKurGünü) + QLatin1Char(')');
+               "DovizKodu, EskiKur, YeniKur, EskiKurGunu, YeniKurGunu)") +
+           Değerler({Numara(işlem.No), Tırnakla(işlem.Zaman), Tırnakla(işlem.Tür),
+                     Tırnakla(SaklanacakMetin(işlem.Açıklama)), Numara(işlem.Karşılığı), Numara(işlem.GeriAlan),
+                     Tırnakla(işlem.DövizKodu), Tırnakla(SaklanacakSayı(işlem.EskiKur)),
+                     Tırnakla(SaklanacakSayı(işlem.YeniKur)), Tırnakla(işlem.EskiKurGünü),
+                     Tırnakla(işlem.YeniKurGünü)});
 }
 
 QString İşlemler() {
     return QStringLiteral(
         "SELECT IslemNo, IslemZamani, IslemTuru, Aciklama, Karsiligi, GeriAlan, DovizKodu, EskiKur, YeniKur, "
-        "EskiKurGunu FROM FiyatIslemTablosu ORDER BY IslemNo DESC");
+        "EskiKurGunu, YeniKurGunu FROM FiyatIslemTablosu ORDER BY IslemNo DESC");
 }
 
 QString GeriAlanıYaz(std::int64_t işlem, std::int64_t eski, std::int64_t yeni) {
@@ -161,11 +162,9 @@ QString GeriAlanıYaz(std::int64_t işlem, std::int64_t eski, std::int64_t yeni)
 }
 
 QString DeğişimEkle(const Değişim& değişim) {
-    return QStringLiteral(
-               "INSERT INTO FiyatGecmisiTablosu (IslemNo, MalzemeAdi, EskiFiyat, YeniFiyat, Eklendi) VALUES (") +
-           Numara(değişim.İşlem) + QStringLiteral(", ") + Tırnakla(değişim.Malzeme) + QStringLiteral(", ") +
-           Tırnakla(SaklanacakSayı(değişim.Eski)) + QStringLiteral(", ") + Tırnakla(SaklanacakSayı(değişim.Yeni)) +
-           QStringLiteral(", ") + Numara(static_cast<int>(değişim.Malzemenin)) + QLatin1Char(')');
+    return QStringLiteral("INSERT INTO FiyatGecmisiTablosu (IslemNo, MalzemeAdi, EskiFiyat, YeniFiyat, Eklendi)") +
+           Değerler({Numara(değişim.İşlem), Tırnakla(değişim.Malzeme), Tırnakla(SaklanacakSayı(değişim.Eski)),
+                     Tırnakla(SaklanacakSayı(değişim.Yeni)), Numara(static_cast<int>(değişim.Malzemenin))});
 }
 
 QString Değişimler() {
@@ -191,11 +190,10 @@ QString MalzemeninDeğişimleri(const QString& malzeme) {
 QString AyrıSatırEkle(std::int64_t işlem, const KullanılanSatır& satır) {
     return QStringLiteral(
                "INSERT INTO FiyatSatirTablosu (IslemNo, UrunGrubu, UrunAdi, KullanilanMalzemeAdi, KullanimTarihi, "
-               "KullanilanMalzemeMiktari, EskiFiyat) VALUES (") +
-           Numara(işlem) + QStringLiteral(", ") + Tırnakla(SaklanacakMetin(satır.Grup)) + QStringLiteral(", ") +
-           Tırnakla(SaklanacakMetin(satır.Ürün)) + QStringLiteral(", ") + Tırnakla(satır.Malzeme) +
-           QStringLiteral(", ") + satır.Tarih + QStringLiteral(", ") + Tırnakla(SaklanacakMetin(satır.Miktar)) +
-           QStringLiteral(", ") + Tırnakla(SaklanacakSayı(satır.Fiyat)) + QLatin1Char(')');
+               "KullanilanMalzemeMiktari, EskiFiyat)") +
+           Değerler({Numara(işlem), Tırnakla(SaklanacakMetin(satır.Grup)), Tırnakla(SaklanacakMetin(satır.Ürün)),
+                     Tırnakla(satır.Malzeme), satır.Tarih, Tırnakla(SaklanacakMetin(satır.Miktar)),
+                     Tırnakla(SaklanacakSayı(satır.Fiyat))});
 }
 
 QString İşleminAyrıSatırları(std::int64_t işlem) {

@@ -30,6 +30,8 @@ QString KataloğunFiyatı(const QString& malzeme, Para eski, Para yeni);
 QString KullanılanlarınFiyatı(const QString& malzeme, Para eski, Para yeni);
 QString KullanılanSayısı(const QString& malzeme);
 QString KullanılanSayısı(const QString& malzeme, Para fiyat);
+QString AdınSayısı(const QString& malzeme);  // how often the catalogue has the name
+QString FiyatıylaSil(const QString& malzeme, Para fiyat);
 QString MalzemeninKullanımları(const QString& malzeme);  // group, product, quantity, price, date
 
 // A used row as it stands, or several that nothing tells apart.
@@ -64,6 +66,7 @@ struct İşlem {
     Para EskiKur{};
     Para YeniKur{};
     QString EskiKurGünü{};  // yyyy-MM-dd
+    QString YeniKurGünü{};
 };
 QString İşlemEkle(const İşlem& işlem);
 QString İşlemler();  // all columns in that order; the latest first
