@@ -7,6 +7,7 @@
 #include "AnaForm.h"
 #include "FiyatGecmisiFormu.h"
 #include "FiyatIsi.h"
+#include "FiyatListesiAlFormu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "TopluFiyatFormu.h"
@@ -24,6 +25,11 @@ void AnaForm::FiyatMenüsünüKur() {
         };
     };
     girişEkle(QStringLiteral("TopluFiyatMenüsü"), MetinNo::TopluFiyatMenüsü, [this] { ToplucaFiyatDeğiştir(); });
+    girişEkle(QStringLiteral("FiyatListesiAlMenüsü"), MetinNo::FiyatListesiAlMenüsü, [this] {
+        FiyatListesiAlFormu form(this);
+        if (form.Yükle()) form.exec();
+        if (form.Uygulandı()) FiyatlarDeğişti();
+    });
     girişEkle(QStringLiteral("FiyatGeçmişiMenüsü"), MetinNo::FiyatGeçmişiMenüsü, [this] {
         FiyatGeçmişiFormu form(true, this);
         if (form.Yükle()) form.exec();

@@ -35,6 +35,10 @@ QString FiyatMetni(Para fiyat) {
     return SayıBiçimle(fiyat, std::max(BasamakSayısı(fiyat), OndalıkBasamak));
 }
 
+QString BölenMetni(Para sayı) {
+    return SayıBiçimle(sayı, BasamakSayısı(sayı));
+}
+
 QString ToplamMetni(Para toplam) {
     return SayıBiçimle(toplam, OndalıkBasamak);
 }

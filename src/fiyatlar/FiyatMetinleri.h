@@ -11,6 +11,9 @@
 // A stored price: as many decimals as it has, at least OndalıkBasamak.
 QString FiyatMetni(Para fiyat);
 
+// A number as it is, without needless decimals: "1.000", "0,5".
+QString BölenMetni(Para sayı);
+
 // A product's total, with OndalıkBasamak decimals.
 QString ToplamMetni(Para toplam);
 

@@ -2,6 +2,9 @@
 
 #include <QComboBox>
 
+#include <algorithm>
+#include <iterator>
+
 #include "MetinTablosu.h"
 #include "SayiMetni.h"
 
@@ -21,4 +24,17 @@ YuvarlamaSeçimi::YuvarlamaSeçimi() : Adımlar(new QComboBox), Yönler(new QCom
 
 Yuvarlama YuvarlamaSeçimi::Seçilen() const {
     return {YUVARLAMA_ADIMLARI[Adımlar->currentIndex()], static_cast<YuvarlamaYönü>(Yönler->currentIndex())};
+}
+
+void YuvarlamaSeçimi::Seç(const Yuvarlama& yuvarlama) {
+    const auto* yer = std::find(std::begin(YUVARLAMA_ADIMLARI), std::end(YUVARLAMA_ADIMLARI), yuvarlama.Adım);
+    const bool var = yer != std::end(YUVARLAMA_ADIMLARI);
+    Adımlar->setCurrentIndex(var ? static_cast<int>(yer - std::begin(YUVARLAMA_ADIMLARI)) : 0);
+    Yönler->setCurrentIndex(static_cast<int>(yuvarlama.Yön));
+    Yönler->setEnabled(Adımlar->currentIndex() > 0);
+}
+
+QString YuvarlamaSeçimi::Açıklama() const {
+    if (Seçilen().Adım == 0) return {};
+    return Metin(MetinNo::YuvarlamaAçıklaması).arg(Adımlar->currentText(), Yönler->currentText());
 }

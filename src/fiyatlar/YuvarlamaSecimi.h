@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include "FiyatKurali.h"
 
 class QComboBox;
@@ -11,4 +13,8 @@ struct YuvarlamaSeçimi {
 
     YuvarlamaSeçimi();
     Yuvarlama Seçilen() const;
+    // A step that is not offered counts as none.
+    void Seç(const Yuvarlama& yuvarlama);
+    // For the operation's record: "; yuvarlama 0,05 (En yakına)"; "" where nothing is rounded.
+    QString Açıklama() const;
 };

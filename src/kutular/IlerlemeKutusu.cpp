@@ -24,11 +24,10 @@ constexpr int PARÇA = 1000;  // steps of the bar
 
 bool İlerlemeKutusu::Bildir(std::int64_t yapılan) {
     if (m_sonÇizim.hasExpired(ÇİZİM_ARALIĞI)) {
-        if (m_azami > 0)
-            m_kutu.setValue(static_cast<int>(PARÇA * qMin(yapılan, m_azami) / m_azami));
-        else  // without an end the dialog never looks at the clock itself
-            QCoreApplication::processEvents(m_kutu.isVisible() ? QEventLoop::AllEvents
-                                                               : QEventLoop::ExcludeUserInputEvents);
+        if (m_azami > 0) m_kutu.setValue(static_cast<int>(PARÇA * qMin(yapılan, m_azami) / m_azami));
+        // While its value stands still the dialog looks neither at the clock nor at the mouse.
+        QCoreApplication::processEvents(m_kutu.isVisible() ? QEventLoop::AllEvents
+                                                           : QEventLoop::ExcludeUserInputEvents);
         m_sonÇizim.restart();
     }
     return !m_kutu.wasCanceled();
