@@ -36,5 +36,9 @@ struct ÖrnekÜrün {
 const QList<ÖrnekMalzeme>& ÖrnekMalzemeler();
 const QList<ÖrnekÜrün>& ÖrnekÜrünler();
 
+// The months before: prices that rose in several ways; and a supplier whose list has names of its own.
+void ÖrnekGeçmişiYaz(VeriYazıcısı& yazıcı, QDate bugün);
+void ÖrnekTedarikçiYaz(VeriYazıcısı& yazıcı);
+
 // Writes the sample into a data file that has the tables. Throws VeriHatası.
 void ÖrnekVeriYaz(VeriYazıcısı& yazıcı, QDate bugün);

@@ -1,7 +1,9 @@
 // Prices of many materials: changed, looked at over time, taken back. These scenes change the data.
 #include <QComboBox>
+#include <QFile>
 #include <QLineEdit>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 #include <utility>
 
@@ -66,6 +68,62 @@ void Toplu(Tur& tur, QWidget& anaForm) {
     SaatiAyarla(nullptr);
 }
 
+void KüçükÇek(Tur& tur, const QString& ad, QWidget& form) {
+    form.resize(KÜÇÜK);
+    Tur::Durul();
+    tur.Çek(ad, form);
+}
+
+// What a supplier might send: headings between the rows, names of his own, and prices that need a second look.
+constexpr auto LİSTE =
+    u8R"(YILDIZ HIRDAVAT SANAYİ;;;
+Kasım fiyat listesi (KDV hariç);;;
+Kod;Ürün Adı;Birim;Birim Fiyat (TL)
+;MENTEŞELER;;
+M-35;Tas Menteşe 35 mm;Adet;21,40
+M-36;FRENLİ MENTEŞE;Adet;48,75 TL
+M-40;Cam Menteşesi;Adet;67,20
+;KULPLAR VE RAYLAR;;
+K-11;Çekmece  Kulpu;Adet;₺ 31,25
+K-12;Gömme Kulp;Adet;1.250
+K-14;Düğme Kulp;Adet;sorunuz
+R-45;Teleskopik Ray 45lik;Takım;129,90
+R-46;Teleskopik Ray 45lik;Takım;134,50
+;BAĞLANTI;;
+V-40;Ağaç Vidası 4x40 (1000'lik Kutu);Kutu;745,00
+V-50;Bağlantı Vidası;Adet;1,45
+M-99;Minifiks Takımı;Adet;7,35
+)";
+
+void Liste(Tur& tur, QWidget& anaForm) {
+    const QTemporaryDir klasör;
+    QFile dosya(klasör.filePath(u"Fiyat Listesi.csv"_s));
+    if (!dosya.open(QIODevice::WriteOnly)) throw TurHatası(u"no list: "_s + dosya.errorString());
+    dosya.write(reinterpret_cast<const char*>(LİSTE));
+    dosya.close();
+    MenüdenAç(anaForm, u"FiyatListesiAlMenüsü"_s, [&](QWidget& form) {
+        auto& tedarikçi = Tur::Bul<QComboBox>(form, u"TedarikçiListesi"_s);
+        tedarikçi.setFocus();
+        tedarikçi.setEditText(u"Yıldız Hırdavat"_s);
+        auto& yol = Tur::Bul<QLineEdit>(form, u"DosyaKutusu"_s);
+        Tur::Tıkla(yol);
+        yol.setText(dosya.fileName());
+        QTest::keyClick(&yol, Qt::Key_Return);
+        Tur::Durul();
+        yol.setText(u"/home/usta/Belgeler/Fiyat Listesi.csv"_s);  // for the picture
+        auto& tablo = Tur::Bul<QTableView>(form, u"EşleşmeTablosu"_s);
+        Tur::Tıkla(tablo, Satır(form, u"EşleşmeTablosu"_s, 0, u"Ağaç Vidası"_s));
+        tur.Çek(u"fiyat-listesi-al"_s, form);
+        Tur::Kipli([&] { Bas(form, u"EşleştirButonu"_s); },
+                   [&](QWidget& seç) {
+                       tur.Çek(u"malzeme-sec"_s, seç);
+                       Esc(seç);
+                   });
+        KüçükÇek(tur, u"fiyat-listesi-al-kucuk"_s, form);
+        Esc(form);
+    });
+}
+
 void Geçmiş(Tur& tur, QWidget& anaForm) {
     MenüdenAç(anaForm, u"FiyatGeçmişiMenüsü"_s, [&](QWidget& form) {
         İşaretle(form, u"Gürgen Kereste"_s);
@@ -104,12 +162,6 @@ void BüyükTutarEkle(QWidget& anaForm) {
                });
 }
 
-void KüçükÇek(Tur& tur, const QString& ad, QWidget& form) {
-    form.resize(KÜÇÜK);
-    Tur::Durul();
-    tur.Çek(ad, form);
-}
-
 void Sığmayan(Tur& tur, QWidget& anaForm) {
     BüyükTutarEkle(anaForm);
     const int basamak = std::exchange(OndalıkBasamak, 6);
@@ -132,5 +184,8 @@ void Sığmayan(Tur& tur, QWidget& anaForm) {
 }  // namespace
 
 std::vector<Sahne> FiyatSahneleri() {
-    return {{u"toplu-fiyat"_s, Toplu}, {u"fiyat-gecmisi"_s, Geçmiş}, {u"fiyat-sigmayan"_s, Sığmayan}};
+    return {{u"toplu-fiyat"_s, Toplu},
+            {u"fiyat-listesi-al"_s, Liste},
+            {u"fiyat-gecmisi"_s, Geçmiş},
+            {u"fiyat-sigmayan"_s, Sığmayan}};
 }
