@@ -2,15 +2,12 @@
 
 #include <sqlite3.h>
 
-#include <atomic>
-#include <cstdlib>
 #include <map>
-#include <new>
 
 namespace {
 
 struct {
-    std::atomic<bool> Açık = false;
+    bool Açık = false;
     Arıza::Tür Tür{};
     int Kalan = 0;
     bool Sürekli = false;
@@ -24,7 +21,6 @@ bool Vurur(Arıza::Tür tür) {
 }
 
 sqlite3_vfs* Disk = nullptr;
-sqlite3_mem_methods Bellek;
 
 // SQLite's own methods of a file with the failing ones in their place.
 struct Yöntemler {
@@ -62,30 +58,7 @@ int Sil(sqlite3_vfs*, const char* ad, int klasörle) {
 
 }  // namespace
 
-void* operator new(std::size_t boy) {
-    void* yer = Vurur(Arıza::Tür::Bellek) ? nullptr : std::malloc(boy);
-    return yer ? yer : throw std::bad_alloc();
-}
-void* operator new(std::size_t boy, const std::nothrow_t&) noexcept {
-    return Vurur(Arıza::Tür::Bellek) ? nullptr : std::malloc(boy);
-}
-void operator delete(void* yer) noexcept {
-    std::free(yer);
-}
-void operator delete(void* yer, std::size_t) noexcept {
-    std::free(yer);
-}
-
-void operator delete(void* yer, const std::nothrow_t&) noexcept {
-    std::free(yer);
-}
-
 void Arıza::Kur() {
-    sqlite3_config(SQLITE_CONFIG_GETMALLOC, &Bellek);
-    static sqlite3_mem_methods bellek = Bellek;
-    bellek.xMalloc = [](int boy) { return Vurur(Tür::Bellek) ? nullptr : Bellek.xMalloc(boy); };
-    bellek.xRealloc = [](void* yer, int boy) { return Vurur(Tür::Bellek) ? nullptr : Bellek.xRealloc(yer, boy); };
-    sqlite3_config(SQLITE_CONFIG_MALLOC, &bellek);
     Disk = sqlite3_vfs_find(nullptr);
     static sqlite3_vfs disk = *Disk;
     disk.zName = "arıza";

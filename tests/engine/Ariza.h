@@ -1,9 +1,9 @@
 #pragma once
 
-// Faults in the driver's surroundings: SQLite's disk and all of the driver's memory.
+// Faults of the disk under SQLite.
 namespace Arıza {
 
-enum class Tür { Yazma, KlasörEşitleme, Bellek };
+enum class Tür { Yazma, KlasörEşitleme };
 
 // Before SQLite is used for the first time.
 void Kur();

@@ -37,9 +37,6 @@ std::optional<std::string> Oluştur(const std::string& yol);
 std::optional<std::string> Sıkıştır(const std::string& kaynak, const std::string& hedef,
                                     const std::string& parola = Parola);
 
-// Runs `iş` in a child process and kills it (SIGKILL) once `bekle` has come back here.
-void ÖldürülenSüreçte(const std::function<void()>& iş, const std::function<void()>& bekle);
-
 // Runs `iş` in a child process that file modes bind, the superuser's too; true when `iş` gave true.
 bool AyrıcalıksızSüreçte(const std::function<bool()>& iş);
 
