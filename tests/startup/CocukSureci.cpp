@@ -16,18 +16,14 @@ constexpr int SÜRE = 30000;  // milliseconds
 }
 
 ÇocukSüreci::~ÇocukSüreci() {
-    Öldür();
+    m_süreç.kill();
+    m_süreç.waitForFinished(SÜRE);
 }
 
 bool ÇocukSüreci::BaşladıMı() {
     while (!m_süreç.canReadLine() && m_süreç.waitForReadyRead(SÜRE)) {
     }
     return m_süreç.readLine() == "basladi\n";
-}
-
-void ÇocukSüreci::Öldür() {
-    m_süreç.kill();
-    m_süreç.waitForFinished(SÜRE);
 }
 
 int ÇocukSüreci::Sonuç() {

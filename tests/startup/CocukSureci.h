@@ -11,7 +11,6 @@ class ÇocukSüreci {
     ~ÇocukSüreci();
 
     bool BaşladıMı();  // waits until it says that it runs, or ends
-    void Öldür();
     // Waits for the end: the exit code, or ÖLDÜ when a signal ended it.
     static constexpr int ÖLDÜ = -1;
     static constexpr int BAŞKA_KOPYA = 3;
