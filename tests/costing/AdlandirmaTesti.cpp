@@ -52,17 +52,6 @@ TEST_F(Adlandırma, ÜrünVeMalzemeleriYeniAdıAlır) {
     EXPECT_EQ(Ürünler(), "MASA|küçük sehpa; MASA|Tabure; SANDALYE|Tabure");
 }
 
-TEST_F(Adlandırma, GrubunBaşkaÜrünündekiAdıReddeder) {
-    Beklenen(Simge::Bilgi, MetinNo::ÜrünListedeVar, Yanıt::Tamam, {},
-             [this] { EXPECT_EQ(Düzenleyici(), nullptr) << "editor still open"; });
-    Adlandır("MASA", "Sehpa", "yemek masası");
-    ASSERT_NE(Düzenleyici(), nullptr);  // the name can be typed again
-    EXPECT_EQ(Düzenleyici()->text(), "Sehpa");
-    QTest::keyClick(Düzenleyici(), Qt::Key_Escape);  // closes the editor, not the form
-    EXPECT_EQ(m_kapanmaSorusu, 0);
-    EXPECT_EQ(Ürünler(), ÖncekiÜrünler);
-}
-
 TEST_F(Adlandırma, BoşVeTırnaklıAdEskiAdıBırakır) {
     Adlandır("MASA", "Sehpa", "   ");
     for (const char* yeni : {"a' OR '1'='1", "O'Nun Sehpası"}) {
@@ -92,17 +81,6 @@ TEST_F(Adlandırma, BirleşenGruplarTekDüğümOlurSeçimKalır) {
     Adlandır("Masa", {}, "TEZGAH");
     Adlandır("TEZGAH", {}, "Tezgah");
     EXPECT_EQ(Satırlar(Ağaç), "Tezgah; -Büro Masası; -Sehpa; -Tabure; -Yemek Masası");
-}
-
-TEST_F(Adlandırma, İkiÜrünüBirEdecekBirleşmeyiSorar) {
-    ÜrünEkle("SANDALYE", "SEHPA");
-    Aç();
-    Beklenen(Simge::Soru, MetinNo::GrupBirleştirmeSorusu, Yanıt::Hayır, "\nSehpa");
-    Adlandır("SANDALYE", {}, "Masa");
-    EXPECT_EQ(Ürünler(), "MASA|Sehpa; MASA|Yemek Masası; SANDALYE|SEHPA; SANDALYE|Tabure");
-    Kutular().Yanıtla(Yanıt::Evet);
-    Adlandır("SANDALYE", {}, "Masa");
-    EXPECT_EQ(Satırlar(Ağaç).count("-"), 4);
 }
 
 }  // namespace
