@@ -1,6 +1,3 @@
-#include <signal.h>
-#include <sys/resource.h>
-
 #include <QBuffer>
 #include <QDir>
 #include <QPdfWriter>
@@ -9,6 +6,7 @@
 
 #include "AygitYuzeyi.h"
 #include "BaskiTesti.h"
+#include "DoluDisk.h"
 #include "MalzemeListesiFormu.h"
 #include "RaporCiktilari.h"
 
@@ -33,25 +31,6 @@ class Yazdırma : public BaskıTesti {
             QTest::keyClick(&kutu, Qt::Key_Return);
         });
     }
-};
-
-// Files cannot grow beyond some bytes while it lives: the disk is full.
-class DoluDisk {
-  public:
-    DoluDisk() : m_önceki(signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &m_sınır);
-        rlimit dar = m_sınır;
-        dar.rlim_cur = 500;
-        setrlimit(RLIMIT_FSIZE, &dar);
-    }
-    ~DoluDisk() {
-        setrlimit(RLIMIT_FSIZE, &m_sınır);
-        signal(SIGXFSZ, m_önceki);
-    }
-
-  private:
-    rlimit m_sınır{};
-    sighandler_t m_önceki;
 };
 
 }  // namespace
