@@ -20,6 +20,14 @@ QString İkiSatır(int metin, const QString& yol) {
     return Metin(static_cast<MetinNo>(metin)) + QLatin1Char('\n') + yol;
 }
 
+// The start, on that day, and its end.
+bool Başlat(QDate gün = QDate::currentDate()) {
+    SaatiAyarla([gün] { return gün; });
+    const bool tamam = VeritabanınıHazırla();
+    ODBCBağlantısınıKapat();
+    return tamam;
+}
+
 TEST_F(HazırlıkTesti, İlkBaşlatmaTarihSormadanYedekAlır) {
     // Blanks, a percent sign, Turkish letters and what parts or holds values reach the driver whole.
     UygulamaYolu = ProgramKlasörü() + QStringLiteral("{Ağaç; %20 işleri}/");
@@ -38,43 +46,34 @@ TEST_F(HazırlıkTesti, GündeBirKezSıkıştırır) {
     DosyaYap(Yedek(), QStringLiteral("Eski"), ÖncekiGün.addDays(-5));
     DosyaYap(VeriDosyası(), QStringLiteral("Yeni"), ÖncekiGün);
     const Satırlar önce = Oku(VeriDosyası());
-    const auto başlat = [](QDate gün) {
-        SaatiAyarla([gün] { return gün; });
-        const bool tamam = VeritabanınıHazırla();
-        ODBCBağlantısınıKapat();
-        return tamam;
-    };
     // On the file's own day nothing is made, nor when the clock has been put back.
     for (const QDate gün : {ÖncekiGün.date(), ÖncekiGün.date().addDays(-1)}) {
         const QByteArray yedek = Baytlar(Yedek());
-        EXPECT_TRUE(başlat(gün));
+        EXPECT_TRUE(Başlat(gün));
         EXPECT_EQ(Baytlar(Yedek()), yedek);
         EXPECT_EQ(DeğişmeZamanı(VeriDosyası()), ÖncekiGün);
     }
-    EXPECT_TRUE(başlat(Gün));
+    EXPECT_TRUE(Başlat(Gün));
     EXPECT_EQ(Oku(Yedek()), önce);
     EXPECT_EQ(Oku(VeriDosyası()), önce);
     // The second start of the day leaves both alone, the day's own changes included.
     TestVerisi(VeriDosyası()).Çalıştır(QStringLiteral("DELETE FROM MalzemeTablosu WHERE MalzemeAdi= 'Yeni'"));
-    EXPECT_TRUE(başlat(Gün));
+    EXPECT_TRUE(Başlat(Gün));
     EXPECT_EQ(Oku(Yedek()), önce);
     EXPECT_EQ(Oku(VeriDosyası()).size(), önce.size() - 1);
-    EXPECT_TRUE(başlat(Gün.addDays(1)));
+    EXPECT_TRUE(Başlat(Gün.addDays(1)));
     EXPECT_EQ(Oku(Yedek()).size(), önce.size() - 1);
 }
 
 TEST_F(HazırlıkTesti, EksikDosyaYedektenGelir) {
     DosyaYap(Yedek(), QStringLiteral("Yedekteki"), ÖncekiGün);
     const Satırlar yedek = Oku(Yedek());
-    SaatiAyarla([this] { return ÖncekiGün.date(); });
-    ASSERT_TRUE(VeritabanınıHazırla());
+    ASSERT_TRUE(Başlat(ÖncekiGün.date()));
     EXPECT_EQ(Oku(VeriDosyası()), yedek);
     EXPECT_EQ(DeğişmeZamanı(VeriDosyası()), ÖncekiGün);
     // The restored file's day is the backup's: the next day's start compacts at once.
-    ODBCBağlantısınıKapat();
     QFile::remove(VeriDosyası());
-    SaatiAyarla(nullptr);
-    ASSERT_TRUE(VeritabanınıHazırla());
+    ASSERT_TRUE(Başlat());
     EXPECT_EQ(Oku(VeriDosyası()), yedek);
     EXPECT_GT(DeğişmeZamanı(VeriDosyası()), ÖncekiGün);
 }
@@ -129,10 +128,8 @@ TEST_F(HazırlıkTesti, BoşDosyaDoluYedeğinYeriniAlmaz) {
     VeriDosyasıOluştur(VeriDosyası());
     // No, twice: the empty file stays, and the backup stays under both names.
     for (const int gün : {0, 1}) {
-        SaatiAyarla([this, gün] { return Gün.addDays(gün); });
         Kutular().Yanıtla(Yanıt::Hayır);
-        EXPECT_TRUE(VeritabanınıHazırla());
-        ODBCBağlantısınıKapat();
+        EXPECT_TRUE(Başlat(Gün.addDays(gün)));
         const auto kutular = Kutular().Al();
         ASSERT_EQ(kutular.size(), 1u);
         EXPECT_EQ(kutular[0].varsayılan, Yanıt::Evet);
@@ -144,8 +141,7 @@ TEST_F(HazırlıkTesti, BoşDosyaDoluYedeğinYeriniAlmaz) {
     }
     // With its first row the data file is the user's work: the backup follows it, and its old content is still there.
     DosyaYap(VeriDosyası(), QStringLiteral("Yeni"), ÖncekiGün);
-    EXPECT_TRUE(VeritabanınıHazırla());
-    ODBCBağlantısınıKapat();
+    EXPECT_TRUE(Başlat(Gün.addDays(1)));
     EXPECT_EQ(Oku(Yedek()), Oku(VeriDosyası()));
     EXPECT_EQ(Oku(yedekAdı), dolu);
     // Yes: the backup's rows come back, the empty file is kept.
@@ -176,10 +172,8 @@ TEST_F(HazırlıkTesti, BozukYedekBoşDosyanınÜzerineGelmez) {
     // One whose rows cannot even be counted is told, without the advice to go back to it.
     DosyaYaz(Yedek(), "cop");
     ZamanVer(VeriDosyası(), ÖncekiGün);
-    Kutular().Yanıtla(Yanıt::Tamam);
-    EXPECT_TRUE(VeritabanınıHazırla());
-    Kutular().TekKutu(Simge::Ünlem,
-                      Metin(MetinNo::YedekAlınamadı).arg(Metin(MetinNo::BoştaYedekBozuk), VeriDosyası(), Yedek()));
+    Söyler(true, Simge::Ünlem,
+           Metin(MetinNo::YedekAlınamadı).arg(Metin(MetinNo::BoştaYedekBozuk), VeriDosyası(), Yedek()));
     EXPECT_EQ(Baytlar(Yedek()), "cop");
 }
 
@@ -190,9 +184,7 @@ TEST_F(HazırlıkTesti, BozukYedekGeriYüklenmez) {
     for (const QByteArray& bozuk : {QByteArray("bu bir veri dosyasi degil"), sağlam.left(sağlam.size() / 2),
                                     QByteArray(100, '\0') + sağlam.mid(100), SayfasıBozuk(sağlam)}) {
         DosyaYaz(Yedek(), bozuk);
-        Kutular().Yanıtla(Yanıt::Tamam);
-        EXPECT_FALSE(VeritabanınıHazırla());
-        Kutular().TekKutu(Simge::Kritik, İkiSatır(2122, Yedek()));
+        Söyler(false, Simge::Kritik, İkiSatır(2122, Yedek()));
         EXPECT_EQ(Baytlar(Yedek()), bozuk);
         EXPECT_TRUE(QDir(ProgramKlasörü()).isEmpty());
     }
@@ -215,10 +207,9 @@ TEST_F(HazırlıkTesti, BozukDosyaSağlamYedeğinYeriniAlmaz) {
     // Told once a day.
     Kutular().Yanıtla(Yanıt::Tamam);
     for (int başlatma = 0; başlatma < 2; ++başlatma) {
-        EXPECT_TRUE(VeritabanınıHazırla());
+        EXPECT_TRUE(Başlat());
         EXPECT_EQ(Baytlar(Yedek()), yedek);
         EXPECT_EQ(Baytlar(VeriDosyası()), dosya);
-        ODBCBağlantısınıKapat();
     }
     auto uyarı = Kutular().Al();
     ASSERT_EQ(uyarı.size(), 1u);
@@ -240,9 +231,7 @@ TEST_F(HazırlıkTesti, KopyalanamayanYedekSöylenir) {
     QDir().mkpath(VeriDosyası() + QStringLiteral(".yeni/dolu"));
     const QString yabancı = Klasör() + QStringLiteral("yabanci");
     DosyaYaz(yabancı, "baskasinin");
-    Kutular().Yanıtla(Yanıt::Tamam);
-    EXPECT_FALSE(VeritabanınıHazırla());
-    Kutular().TekKutu(Simge::Kritik, İkiSatır(2121, VeriDosyası()));
+    Söyler(false, Simge::Kritik, İkiSatır(2121, VeriDosyası()));
     EXPECT_FALSE(QFile::exists(VeriDosyası()));
     EXPECT_EQ(Baytlar(Yedek()), yedek);
     // Another name of somebody's file in the copy's place is taken away, and the file stays as it is.
@@ -255,9 +244,7 @@ TEST_F(HazırlıkTesti, KopyalanamayanYedekSöylenir) {
 TEST_F(HazırlıkTesti, YedekKlasörüYapılamazsaYedeksizBaşlar) {
     DosyaYap(VeriDosyası(), QStringLiteral("Yeni"), ÖncekiGün);
     DosyaYaz(KullanıcıKlasörü() + QStringLiteral("Tovrek"), "klasor degil");
-    Kutular().Yanıtla(Yanıt::Tamam);
-    EXPECT_TRUE(VeritabanınıHazırla());
-    Kutular().TekKutu(Simge::Ünlem, İkiSatır(2123, YedekKlasörü()));
+    Söyler(true, Simge::Ünlem, İkiSatır(2123, YedekKlasörü()));
     EXPECT_EQ(DeğişmeZamanı(VeriDosyası()), ÖncekiGün);
 }
 
@@ -287,9 +274,7 @@ TEST_F(HazırlıkTesti, ÇokUzunYolSöylenir) {
     ODBCBağlantısınıKapat();
     const QString dosya = UygulamaYolu + ad;
     ASSERT_TRUE(boydaKlasör(enUzun + 1 - static_cast<int>(ad.size())) && QFile::rename(dosya, UygulamaYolu + ad));
-    Kutular().Yanıtla(Yanıt::Tamam);
-    EXPECT_FALSE(VeritabanınıHazırla());
-    Kutular().TekKutu(Simge::Kritik, İkiSatır(2160, UygulamaYolu));
+    Söyler(false, Simge::Kritik, İkiSatır(2160, UygulamaYolu));
 }
 
 TEST_F(HazırlıkTesti, YazılamayanProgramKlasörüSöylenir) {

@@ -8,6 +8,7 @@
 
 #include "Deyimler.h"
 #include "VarnekTesti.h"
+#include "VeritabaniHazirlik.h"
 
 // Tests of the data file's way to the start: what lies where, and since when.
 class HazırlıkTesti : public VarnekTesti {
@@ -33,6 +34,12 @@ class HazırlıkTesti : public VarnekTesti {
         ASSERT_TRUE(dosya.setFileTime(değişme, QFileDevice::FileModificationTime));
     }
     static Satırlar Oku(const QString& yol) { return TestVerisi(yol).HerSatır(); }
+    // The start comes through or not, and shows this one box.
+    void Söyler(bool başlar, MesajKutusu::Simge simge, const QString& metin) {
+        Kutular().Yanıtla(MesajKutusu::Yanıt::Tamam);
+        EXPECT_EQ(VeritabanınıHazırla(), başlar);
+        Kutular().TekKutu(simge, metin);
+    }
     // A page in the middle is damaged: the file opens.
     static QByteArray SayfasıBozuk(QByteArray baytlar) {
         constexpr int sayfa = 4096;
