@@ -116,10 +116,6 @@ TEST_F(Hareketler, BaşkaGünOklaPanoylaTakvimleSeçilir) {
     EXPECT_EQ(alınan([](QDateEdit& kutu) {
                   auto* takvim = kutu.calendarWidget();
                   const QPoint ok(kutu.width() - 5, kutu.height() / 2);
-                  QTest::keyClicks(&kutu, "31.2");
-                  QTest::mouseClick(&kutu, Qt::LeftButton, {}, ok);
-                  QTest::keyClick(takvim, Qt::Key_Escape);
-                  EXPECT_EQ(kutu.text(), "31.2");
                   Yaz(kutu, "1.9.2026");
                   QTest::mouseClick(&kutu, Qt::LeftButton, {}, ok);
                   EXPECT_TRUE(takvim->isVisible() && takvim->selectedDate() == QDate(2026, 9, 1));

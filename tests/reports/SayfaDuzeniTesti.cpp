@@ -8,22 +8,6 @@
 #include "SayfaDuzeni.h"
 #include "MetinTablosu.h"
 
-// A row is the last of its page exactly when its last line would start within 15 mm of the page's end.
-TEST(SayfaDüzeni, SayfaSonuTamSınırdadır) {
-    for (const auto& [metin, satır] : {std::pair("m", 1), {"mmmm mmmm mmmm", 3}}) {
-        for (const bool sığar : {false, true}) {
-            KayıtYüzeyi yüzey(60, 100 + (satır - 1) * 4.4);
-            SayfaDüzeni düzen(
-                yüzey, "B", {{MetinNo::AdıSütunu, 10, HücreTürü::Metin}, {MetinNo::FiyatıSütunu, 3, HücreTürü::Metin}});
-            ASSERT_TRUE(düzen.Başla());
-            yüzey.YAyarla(düzen.SayfaYüksekliği() - 15 - (satır - 1) * 4.4 - (sığar ? 0.1 : 0));
-            düzen.SatırYaz({metin, "x"});
-            EXPECT_EQ(yüzey.SayfaNo(), sığar ? 1 : 2) << metin;
-            EXPECT_EQ(yüzey.Bul(QString(metin).left(4)).size(), satır);
-        }
-    }
-}
-
 namespace {
 
 // Everything stands on the paper, nothing in anything else, and nothing is cut but the title over a further page.
