@@ -63,9 +63,12 @@ TEST_F(MotorTesti, BağlanmakDosyaYaratmazVeParolaİster) {
     }
     EXPECT_EQ(Klasördekiler(), (std::vector<std::string>{"Varnek.vtb", "bos.vtb", "metin.vtb", "sqlite.vtb"}));
     EXPECT_EQ(İzinler(m_dosya), 0600u);
-    const std::string içerik = DosyaOku(m_dosya);
+    std::string içerik = DosyaOku(m_dosya);
     EXPECT_TRUE(Oluştur(m_dosya)) << "what is there stays";
     EXPECT_EQ(DosyaOku(m_dosya), içerik);
+    içerik[63] = 99;
+    DosyaYaz(m_dosya, içerik);
+    EXPECT_TRUE(İçinde(BağlanmayıDene(m_dosya).Mesaj, "başka bir sürümü"));
 }
 
 // With the right header and the right password a file may still hold what would run along with the program's
@@ -175,7 +178,8 @@ TEST_F(MotorTesti, Sıkıştırma) {
         EXPECT_EQ(kopya.Oku(HerMalzeme), bağ.Oku(HerMalzeme));
         EXPECT_EQ(kopya.Dene(MalzemeEkle("ışık", "1")).Durum, "23000");
     }
-    // Emptied rows give their room back, and an older copy is replaced.
+    // Emptied rows give their room back, an older copy is replaced, and what a crash left beside it does no harm.
+    DosyaYaz(yedek + "-journal", Tekrar("kalıntı", 1000));
     bağ.Çalıştır("DELETE FROM UrunMalzemeTablosu WHERE UrunGrubu= 'Masa'");
     const auto eskiBoy = std::filesystem::file_size(yedek);
     ASSERT_EQ(Sıkıştır(m_dosya, yedekSözü), std::nullopt);
@@ -273,6 +277,8 @@ TEST_F(MotorTesti, KomşuAdlardaBaşkaŞeyler) {
     }
     TestVerisi bağ(m_dosya);
     EXPECT_EQ(Klasördekiler(), (std::vector<std::string>{"Varnek.vtb", "a.ydk", "değerli", "yedek"}));
+    ASSERT_EQ(mkfifo((m_dosya + "-journal").c_str(), 0600), 0);
+    EXPECT_TRUE(İçinde(BağlanmayıDene(m_dosya).Mesaj, "Varnek.vtb-journal"));
 }
 
 TEST_F(MotorTesti, SaltOkunurDosya) {

@@ -11,6 +11,7 @@ SQLCHAR* Metin(const char* harfler) {
 int Say(SQLHSTMT deyim) {
     int satır = 0;
     while (SQLFetch(deyim) == SQL_SUCCESS) ++satır;
+    EXPECT_EQ(SQLMoreResults(deyim), SQL_NO_DATA);
     SQLFreeStmt(deyim, SQL_CLOSE);
     return satır;
 }
