@@ -93,7 +93,7 @@ TEST_F(Hareketler, YazılanTarihAlınır) {
     }
 }
 
-TEST_F(Hareketler, BaşkaGünOklaPanoylaTakvimleSeçilir) {
+TEST_F(Hareketler, BaşkaGünOklaBölümlePanoylaTakvimleSeçilir) {
     KullanımEkle("Grup", "Sandık", "Çivi", "999999999999 Adet", "999999999", "#9/2/2026#");
     Aç<MalzemeHareketleriFormu>();
     const auto alınan = [this](const std::function<void(QDateEdit&)>& iş) {
@@ -111,6 +111,13 @@ TEST_F(Hareketler, BaşkaGünOklaPanoylaTakvimleSeçilir) {
     EXPECT_EQ(HareketTarihiSQL, "#3/6/2026#");
     EXPECT_EQ(Satırlar(Liste), "Tutkal|1,00 Adet|3,00|3,00|Şifonyer");
     EXPECT_EQ(Yazı("Çerçeve"), "(06.03.2026) Tarihli Malzeme Hareketleri");
+    EXPECT_EQ(alınan([](QDateEdit& kutu) {
+                  auto* metin = kutu.findChild<QLineEdit*>();
+                  const QPoint yıl(metin->fontMetrics().horizontalAdvance("06.03.20"), metin->height() / 2);
+                  QTest::mouseDClick(metin, Qt::LeftButton, {}, yıl);
+                  QTest::keyClicks(&kutu, "2027");
+              }),
+              QDate(2027, 3, 6));
     QGuiApplication::clipboard()->setText("7.8.2026\n");
     EXPECT_EQ(alınan([](QDateEdit& kutu) { QTest::keySequence(&kutu, QKeySequence::Paste); }), QDate(2026, 8, 7));
     EXPECT_EQ(alınan([](QDateEdit& kutu) {

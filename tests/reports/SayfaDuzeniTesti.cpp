@@ -69,6 +69,13 @@ TEST(SayfaDüzeni, HerKâğıttaHerŞeyYazılır) {
             EXPECT_EQ(std::count_if(yüzey->Metinler.begin(), yüzey->Metinler.end(), sayılı), 2) << genişlik;
         }
     }
+    // The longest title over a further page: in two lines above the rule.
+    KayıtYüzeyi a4(190, 297);
+    SayfaDüzeni düzen(a4, QString("Masa ").repeated(50), {{MetinNo::AdıSütunu, 10, HücreTürü::Metin}});
+    ASSERT_TRUE(düzen.Başla());
+    düzen.SayfaBaşlığıYaz();
+    EXPECT_LT(a4.Metinler.at(a4.Metinler.size() - 2).Y, 8);
+    YazılarDüzgün(a4);
 }
 
 TEST(MetniSığdır, ÖnceDaraltırSonraKeser) {

@@ -71,6 +71,9 @@ TEST_F(Yazdırma, DüğmeVeİmleçGeriGelir) {
     Yazdırılırken = [] { throw std::runtime_error("yazıcı"); };
     Beklenen(Simge::Kritik, MetinNo::BeklenmeyenHata, Yanıt::Tamam, "\nyazıcı");
     bas();
+    // The default printer is gone since the start.
+    YazıcıyıAyarla(nullptr);
+    bas();
     YazıcıVar = false;
     Beklenen(Simge::Kritik, MetinNo::YazıcıYok, Yanıt::Tamam);
     bas();
