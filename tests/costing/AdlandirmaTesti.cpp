@@ -16,21 +16,9 @@ class Adlandırma : public AnaFormOrtamı {
         Aç();
     }
 
-    QLineEdit* Düzenleyici() { return Bul(Ağaç).findChild<QLineEdit*>("AdDüzenleyici"); }
-
     void Adlandır(const QString& grup, const QString& ürün, const QString& yeni) {
         Seç(grup, ürün);
-        QTest::keyClick(&Bul(Ağaç), Qt::Key_F2);
-        // A click on the current node has begun the editing by itself, after a moment.
-        ASSERT_TRUE(Bekle([this] { return Düzenleyici() != nullptr; }));
-        Düzenleyici()->selectAll();
-        Düzenleyici()->insert(yeni);
-        QTest::keyClick(Düzenleyici(), Qt::Key_Return);
-        // The editor hands the name over and closes, and then the renaming runs, each in its turn of the event loop.
-        for (int i = 0; i < 5; ++i) {
-            QCoreApplication::processEvents();
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        }
+        YeniAdVer(yeni);
     }
     QString Ürünler() { return Oku("SELECT UrunGrubu, UrunAdi FROM UrunTablosu ORDER BY UrunGrubu ASC, UrunAdi"); }
     QString Kullanılanlar() {
