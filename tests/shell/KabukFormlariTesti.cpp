@@ -64,13 +64,6 @@ TEST_F(KabukFormTesti, LinksTakeTheirActiveLookUnderTheMouseAndLoseItOverTheForm
     görünüm(true, true);
     Fare(QPoint(3, 3));
     görünüm(false, false);
-    // Straight out of the form: the look stays.
-    Fare(Etiket(ilk));
-    for (QWidget* parça : QList<QWidget*>{&Etiket(ilk), &ilk, &Form()}) {
-        QEvent çıkış(QEvent::Leave);
-        QApplication::sendEvent(parça, &çıkış);
-    }
-    görünüm(true, false);
 }
 
 }  // namespace
