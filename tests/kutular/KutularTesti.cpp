@@ -162,22 +162,12 @@ TEST_F(GirişKutuları, GeriAlmaVeYinelemeKutuyuAçmaz) {
     Yapıştır(Form.T, "1.5");
     tuşlaVeGör(Qt::Key_Z, QString());
     tuşlaVeGör(Qt::Key_Y, "1.2500");
-    Yapıştır(Form.T, "x");
-    EXPECT_EQ(Form.T.text(), "1.2500");
-    tuşlaVeGör(Qt::Key_Z, QString());
-    tuşlaVeGör(Qt::Key_Y, "1.2500");
-    // Dots that an edit has moved out of their places do no harm.
-    Koy(Form.T, "1.250^,00");
-    Tuşla(Form.T, {Qt::Key_Backspace});
-    EXPECT_EQ(Form.T.text(), "1.25,00");
-    Form.Komut.setFocus();
-    EXPECT_EQ(Form.T.text(), "125,00");
 }
 
 TEST_F(GirişKutuları, ÇıkıştaBiçimlenir) {
     for (const QStringList& satır :
          Tablo("Y >  > 2 > 0,00 | Y > 12,5 > 2 > 12,50 | E > -0,001 > 2 > 0,00 | E > -2,5 > 0 > -3 | T >  > 2 >  | "
-               "T > 1234567, > 4 > 1.234.567,0000 | T > abc > 2 > abc")) {
+               "T > 1234567, > 4 > 1.234.567,0000 | T > 1.25,00 > 2 > 125,00 | T > abc > 2 > abc")) {
         OndalıkBasamak = satır[2].toInt();
         SayıKutusu& kutu = Form.Kutu(satır[0]);
         Koy(kutu, satır[1]);
@@ -282,10 +272,6 @@ TEST_F(GirişKutuları, MiktarTürüRakamAlmazYazılanıKorur) {
     Yaz(Form.Tür, "5");
     QTest::keyClick(&Form.Tür, Qt::Key_Return);
     EXPECT_EQ(Form.Tür.currentText(), "kilo");
-    Form.Tür.setFocus();
-    Form.Tür.lineEdit()->setCursorPosition(1);
-    Yapıştır(Form.Tür, "1²2x");
-    EXPECT_EQ(Durum(*Form.Tür.lineEdit()), "k²x^ilo");
 }
 
 TEST_F(GirişKutuları, MenüMesajKutusuVeBaşkaPencereÇıkışSayılmaz) {
