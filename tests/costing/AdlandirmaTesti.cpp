@@ -7,10 +7,8 @@ namespace {
 class Adlandırma : public AnaFormOrtamı {
   protected:
     Adlandırma() {
-        ÜrünEkle("MASA", "Sehpa", {"5", "0", "0", "0"});
-        KullanımEkle("MASA", "Sehpa", "Çam", "1 Adet", "10");
+        ÜrünEkle("MASA", "Sehpa");
         ÜrünEkle("MASA", "Yemek Masası");
-        KullanımEkle("MASA", "Yemek Masası", "Meşe", "1 Adet", "20");
         ÜrünEkle("SANDALYE", "Tabure");
         KullanımEkle("SANDALYE", "Tabure", "Ihlamur", "1 Adet", "30");
         Aç();
@@ -21,26 +19,10 @@ class Adlandırma : public AnaFormOrtamı {
         YeniAdVer(yeni);
     }
     QString Ürünler() { return Oku("SELECT UrunGrubu, UrunAdi FROM UrunTablosu ORDER BY UrunGrubu ASC, UrunAdi"); }
-    QString Kullanılanlar() {
-        return Oku(
-            "SELECT KullanilanMalzemeAdi, UrunGrubu, UrunAdi FROM UrunMalzemeTablosu "
-            "ORDER BY KullanilanMalzemeAdi ASC");
-    }
-    const char* ÖncekiÜrünler = "MASA|Sehpa; MASA|Yemek Masası; SANDALYE|Tabure";
 };
 
-TEST_F(Adlandırma, ÜrünVeMalzemeleriYeniAdıAlır) {
-    Adlandır("MASA", "Sehpa", "Küçük\r\nSehpa");
-    EXPECT_EQ(Satırlar(Ağaç), "MASA; -Küçük Sehpa; -Yemek Masası; SANDALYE; -Tabure");
-    EXPECT_EQ(Ürünler(), "MASA|Küçük Sehpa; MASA|Yemek Masası; SANDALYE|Tabure");
-    EXPECT_EQ(Kullanılanlar(), "Çam|MASA|Küçük Sehpa; Ihlamur|SANDALYE|Tabure; Meşe|MASA|Yemek Masası");
-    // Case alone can be corrected, and the same name is free in another group.
-    Adlandır("MASA", "Küçük Sehpa", "küçük sehpa");
-    Adlandır("MASA", "Yemek Masası", "Tabure");
-    EXPECT_EQ(Ürünler(), "MASA|küçük sehpa; MASA|Tabure; SANDALYE|Tabure");
-}
-
 TEST_F(Adlandırma, BoşVeTırnaklıAdEskiAdıBırakır) {
+    const QString önce = Ürünler();
     Adlandır("MASA", "Sehpa", "   ");
     for (const char* yeni : {"a' OR '1'='1", "O'Nun Sehpası"}) {
         Kutular().Yanıtla(Yanıt::Tamam);
@@ -50,7 +32,12 @@ TEST_F(Adlandırma, BoşVeTırnaklıAdEskiAdıBırakır) {
     }
     for (const auto& kutu : Kutular().Al()) EXPECT_EQ(kutu.başlık, Metin(MetinNo::OdbcHatası));
     EXPECT_EQ(Satırlar(Ağaç), "MASA; -Sehpa; -Yemek Masası; SANDALYE; -Tabure");
-    EXPECT_EQ(Ürünler(), ÖncekiÜrünler);
+    EXPECT_EQ(Ürünler(), önce);
+    // Lines become one, case alone can be corrected, and the same name is free in another group.
+    Adlandır("MASA", "Sehpa", "Küçük\r\nSehpa");
+    Adlandır("MASA", "Küçük Sehpa", "küçük sehpa");
+    Adlandır("MASA", "Yemek Masası", "Tabure");
+    EXPECT_EQ(Ürünler(), "MASA|küçük sehpa; MASA|Tabure; SANDALYE|Tabure");
 }
 
 TEST_F(Adlandırma, BirleşenGruplarTekDüğümOlurSeçimKalır) {

@@ -50,26 +50,19 @@ TEST_F(AyarlarTesti, BozukDosyaYokGibidir) {
     EXPECT_EQ(KayıtlıOndalık(), 5);
 }
 
-TEST_F(AyarlarTesti, HayırDenirseHiçbirŞeyDeğişmez) {
-    VeriyeBağlan();
-    Kutular().Yanıtla(MesajKutusu::Yanıt::Hayır);
-    EXPECT_FALSE(ÇıkışıYürüt(false, {10, 20}));
-    Kutular().TekKutu(MesajKutusu::Simge::Soru, Metin(MetinNo::ÇıkışSorusu));
-    EXPECT_EQ(Kayıtlı("Ondalik"), QStringLiteral("yok"));
-    SQLMetni = QStringLiteral("SELECT Count(UrunAdi) AS KayitSayisi FROM UrunTablosu");
-    EXPECT_TRUE(SorguÇalıştır());
-}
-
-TEST_F(AyarlarTesti, EvetDenirseBağlantıKapanırAyarlarKaydedilir) {
+TEST_F(AyarlarTesti, AncakEvetDenirseBağlantıKapanırAyarlarKaydedilir) {
     const auto veriKaynağıVar = [this] { return Baytlar(OdbcDosyası()).contains("[Varnek]"); };
     for (const bool simgeDurumunda : {false, true}) {
         QFile::remove(VeriDosyası());
         VeriyeBağlan();
+        const int önceki = KayıtlıOndalık();
         OndalıkBasamak = simgeDurumunda ? 4 : 3;
-        Kutular().Yanıtla(MesajKutusu::Yanıt::Evet, [&](const MesajKutusu::İstek& kutu) {
-            EXPECT_EQ(kutu.ortala, !simgeDurumunda);
-            EXPECT_TRUE(veriKaynağıVar());
-        });
+        Kutular().Yanıtla(MesajKutusu::Yanıt::Hayır);
+        EXPECT_FALSE(ÇıkışıYürüt(simgeDurumunda, {70, 80}));
+        EXPECT_EQ(Kutular().Al().back().metin, Metin(MetinNo::ÇıkışSorusu));
+        EXPECT_TRUE(veriKaynağıVar() && KayıtlıOndalık() == önceki);
+        Kutular().Yanıtla(MesajKutusu::Yanıt::Evet,
+                          [&](const MesajKutusu::İstek& kutu) { EXPECT_EQ(kutu.ortala, !simgeDurumunda); });
         EXPECT_TRUE(ÇıkışıYürüt(simgeDurumunda, simgeDurumunda ? QPoint(50, 60) : QPoint(10, 20)));
         EXPECT_FALSE(veriKaynağıVar());
         EXPECT_EQ(KayıtlıOndalık(), OndalıkBasamak);

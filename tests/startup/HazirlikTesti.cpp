@@ -252,21 +252,19 @@ TEST_F(HazırlıkTesti, ÇokUzunYolSöylenir) {
     DosyaYap(Yedek(), QStringLiteral("Yedekteki"), ÖncekiGün);
     const QString kök = ProgramKlasörü();
     const QString ad = QStringLiteral("Varnek.vtb");
-    const auto boydaKlasör = [&](int boy) {
-        UygulamaYolu = kök;
-        while (boy - UygulamaYolu.toUtf8().size() > 200)
-            UygulamaYolu += QString(100, QLatin1Char('u')) + QLatin1Char('/');
-        UygulamaYolu += QString(boy - UygulamaYolu.toUtf8().size() - 1, QLatin1Char('u')) + QLatin1Char('/');
+    const auto boydaKlasör = [&](qsizetype boy) {
+        UygulamaYolu = kök + QString(boy - kök.toUtf8().size() - 1, QLatin1Char('u')) + QLatin1Char('/');
+        for (qsizetype i = kök.size() + 100; i < UygulamaYolu.size() - 1; i += 101) UygulamaYolu[i] = QLatin1Char('/');
         return QDir().mkpath(UygulamaYolu);
     };
     // Where a data file may lie, its backup can be restored as well.
     constexpr int enUzun = 492;
-    ASSERT_TRUE(boydaKlasör(enUzun - static_cast<int>(ad.size())));
+    ASSERT_TRUE(boydaKlasör(enUzun - ad.size()));
     EXPECT_TRUE(VeritabanınıHazırla());
     EXPECT_EQ(Oku(UygulamaYolu + ad), Oku(Yedek()));
     ODBCBağlantısınıKapat();
     const QString dosya = UygulamaYolu + ad;
-    ASSERT_TRUE(boydaKlasör(enUzun + 1 - static_cast<int>(ad.size())) && QFile::rename(dosya, UygulamaYolu + ad));
+    ASSERT_TRUE(boydaKlasör(enUzun + 1 - ad.size()) && QFile::rename(dosya, UygulamaYolu + ad));
     Söyler(false, Simge::Kritik, İkiSatır(2160, UygulamaYolu));
 }
 
