@@ -8,9 +8,8 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
-#include <QUrl>
 
-#include "Adresler.h"
+#include "AcilanAdresler.h"
 #include "MetinTablosu.h"
 #include "VarnekTesti.h"
 
@@ -20,13 +19,8 @@ using namespace Qt::StringLiterals;
 
 class YardımTesti : public VarnekTesti {
   protected:
-    YardımTesti() {
-        AdresAçıcıyıAyarla([this](const QUrl& adres) { m_açılanlar += adres; });
-    }
-    ~YardımTesti() override { AdresAçıcıyıAyarla(nullptr); }
-
     static QString Kılavuz() { return KılavuzKlasörü(QCoreApplication::applicationDirPath()); }
-    QList<QUrl> m_açılanlar;
+    AçılanAdresler m_açılanlar;
 };
 
 TEST_F(YardımTesti, EveryLinkInTheGuideLeadsSomewhere) {
