@@ -159,7 +159,12 @@ TEST_F(MotorTesti, Sıkıştırma) {
     const std::string önce = DosyaOku(yedek);
     EXPECT_TRUE(Sıkıştır(m_dosya, yedekSözü, "yanlış"));
     EXPECT_TRUE(Sıkıştır(Yol("yok.vtb"), yedekSözü));
+    EXPECT_TRUE(Sıkıştır(m_dosya, Yol("yok/a.ydk")));
     EXPECT_TRUE(Sıkıştır(m_dosya, yedekSözü + " fazla"));
+    // Damage that only a look through the whole finds: a row that its index does not know.
+    std::string bozuk = DosyaOku(m_dosya);
+    DosyaYaz(Yol("bozuk.vtb"), bozuk.replace(bozuk.find("Işık"), 1, "J"));
+    EXPECT_TRUE(İçinde(Sıkıştır(Yol("bozuk.vtb"), yedekSözü).value_or(""), "bozulmuş"));
     EXPECT_EQ(DosyaOku(yedek), önce);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Yol("Vtb Yedekleri")), {}), 1);
 }

@@ -28,7 +28,6 @@ std::string Tanım(const std::string& yol, const std::string& parola = Parola);
 struct Deyim : OdbcDeyimi {
     explicit Deyim(TestVerisi& veri) { Aç(veri.Bağlantı()); }
     SQLRETURN Çalıştır(const TestMetni& sql) { return OdbcDeyimi::Çalıştır(sql); }
-    TestSonucu İlkTanı() const { return OdbcSonucu{SQL_ERROR, HatalarınıAl()}; }
 };
 
 // SQLConfigDataSource with this attribute list (pairs); the installer's messages when it fails.
