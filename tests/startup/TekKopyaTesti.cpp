@@ -1,6 +1,5 @@
 #include "TekKopya.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -49,7 +48,7 @@ TEST_F(TekKopyaTesti, ÖldürülenKopyaYoluKapatmaz) {
     // A copy that hangs still counts as running, and the second start does not wait for it.
     ÇocukSüreci asılı(Başla());
     ASSERT_TRUE(asılı.BaşladıMı());
-    ::kill(static_cast<pid_t>(asılı.Süreç().processId()), SIGSTOP);
+    ::kill(static_cast<pid_t>(asılı.Süreç.processId()), SIGSTOP);
     EXPECT_EQ(ÇocukSüreci(Başla()).Sonuç(), ÇocukSüreci::BAŞKA_KOPYA);
 }
 
@@ -86,7 +85,7 @@ TEST_F(TekKopyaTesti, BaşkaOturumdakiKopyaAynıVeriyiAçamaz) {
         ASSERT_TRUE(QDir().mkpath(bağ) && QFile::link(VeriDosyası(), bağ + QStringLiteral("Varnek.vtb")));
         for (const QString& klasör : {ProgramKlasörü(), bağ}) {
             ÇocukSüreci ikinci({QStringLiteral("basla"), klasör});
-            EXPECT_TRUE(Bekle([&] { return ikinci.Süreç().state() == QProcess::NotRunning; }));
+            EXPECT_TRUE(Bekle([&] { return ikinci.Süreç.state() == QProcess::NotRunning; }));
             EXPECT_EQ(ikinci.Sonuç(), 1);
             EXPECT_TRUE(ikinci.Kutular().contains(Metin(MetinNo::VeriBaşkaKopyada)));
         }
@@ -104,7 +103,7 @@ TEST_F(TekKopyaTesti, SinyalAyarlarıKaydedipBitirir) {
     for (const int sinyal : {SIGTERM, SIGHUP, SIGINT}) {
         ÇocukSüreci kopya(Başla());
         ASSERT_TRUE(kopya.BaşladıMı());
-        ::kill(static_cast<pid_t>(kopya.Süreç().processId()), sinyal);
+        ::kill(static_cast<pid_t>(kopya.Süreç.processId()), sinyal);
         EXPECT_EQ(kopya.Sonuç(), 0) << sinyal;
         EXPECT_FALSE(Baytlar(OdbcDosyası()).contains("[Varnek]"));
         EXPECT_FALSE(QFile::exists(VeriDosyası() + QStringLiteral(".kilit")));
