@@ -5,6 +5,7 @@
 #include "FormTesti.h"
 #include "HakkindaFormu.h"
 #include "HataBildirmeFormu.h"
+#include "WebEtiketi.h"
 
 namespace {
 
@@ -30,6 +31,16 @@ TEST_F(KabukFormTesti, LinksLeadToTheSiteTheMessagePageAndMail) {
     EXPECT_EQ(m_açılanlar[1].path(), "/asp/mesaj/mesaj.asp");
     EXPECT_EQ(QUrlQuery(m_açılanlar[1]).queryItemValue("ProgramAdi"), "Varnek");
     EXPECT_EQ(m_açılanlar[2].scheme(), "mailto");
+}
+
+TEST_F(KabukFormTesti, LinksTakeTheirActiveLookUnderTheMouseAndLoseItOverTheForm) {
+    Aç<HataBildirmeFormu>();
+    auto& bağlantı = dynamic_cast<WebEtiketi&>(Bul("WebEtiketi(0)"));
+    const QPoint üstünde = bağlantı.mapTo(&Form(), bağlantı.rect().center());
+    for (const QPoint yer : {QPoint(3, 3), üstünde, QPoint(3, 3)}) {
+        QTest::mouseMove(Form().windowHandle(), yer);
+        EXPECT_EQ(bağlantı.FontUnderline(), yer == üstünde);
+    }
 }
 
 }  // namespace
