@@ -1,5 +1,3 @@
-#include <QListWidget>
-
 #include "KatalogTesti.h"
 #include "MalzemeEkleSilFormu.h"
 
@@ -52,14 +50,6 @@ TEST_F(MalzemeFormu, KomutlarAncakSeçiliGörüneneUygulanır) {
     EXPECT_EQ(Görünen(), "İp İp|3,00");
     Yaz("MalzemeBulKutusu", "");
     EXPECT_EQ(Görünen(), "Abanoz Abanoz|1.250,50") << "an empty find text selects the first";
-
-    Bul<QListWidget>(Liste).addItem("O'Neil");  // reading it fails with a box
-    for (const char* ne : {"a click that changes the row", "a click on the row that is marked"}) {
-        Kutular().Al();
-        Kutular().Yanıtla(Yanıt::Tamam);
-        Tıkla(Liste, Yer(Liste, "O'Neil"));
-        EXPECT_EQ(Kutular().Al().size(), 1u) << ne << " reads once";
-    }
 }
 
 TEST_F(MalzemeFormu, EklemeDenetlerKaydederVeSırayaKoyar) {
@@ -78,14 +68,10 @@ TEST_F(MalzemeFormu, EklemeDenetlerKaydederVeSırayaKoyar) {
     Tıkla("MalzemeEkleKaydetButonu");
     EXPECT_EQ(Kip() + Odak(), Gözatma + QStringLiteral("MalzemeEkleKaydetButonu"));
     EXPECT_EQ(Görünen(), "Boya 1. Sınıf Boya 1. Sınıf|1.250,13");
-
     Tıkla("MalzemeEkleKaydetButonu");
     Yaz("MalzemeAdıKutusu", "Vazgeç");
     Esc();
     EXPECT_EQ(Kip(), Gözatma);
-    EXPECT_EQ(Görünen(), "Boya 1. Sınıf |");
-    Tıkla(Liste, Yer(Liste, "Boya 1. Sınıf"));
-    EXPECT_EQ(Görünen(), "Boya 1. Sınıf Boya 1. Sınıf|1.250,13");
     EXPECT_EQ(Katalog(), "Abanoz|1250.5; Boya 1. Sınıf|1250.13; Çivi|12.5; İp|3");
 }
 
@@ -96,14 +82,6 @@ TEST_F(MalzemeFormu, FiyatDeğişimiHerGününSatırınaUlaşır) {
     Denetle({"MalzemeFiyatıKutusu"}, "MalzemeFiyatıDeğiştirButonu",
             {{{""}, MetinNo::MalzemeFiyatıBoş, "MalzemeFiyatıKutusu"}});
     EXPECT_EQ(Kip(), "Çerçeve MalzemeFiyatıDeğiştirButonu /Malzeme &Ekle Kaydet İptal");
-    Yaz("MalzemeFiyatıKutusu", "9999");
-    Esc();
-    EXPECT_EQ(Kip(), Gözatma);
-    EXPECT_EQ(Görünen(), "Çivi Çivi|9.999,00") << "until the next selection";
-    Tıkla(Liste, Yer(Liste, "Çivi"));
-    EXPECT_EQ(Görünen(), "Çivi Çivi|12,50");
-
-    Tıkla("MalzemeFiyatıDeğiştirButonu");
     Yaz("MalzemeFiyatıKutusu", "77");
     std::optional<Yazan> başkası(VeriDosyası());
     Kutular().Yanıtla(Yanıt::Tamam, [&](const auto&) { başkası.reset(); });
@@ -167,10 +145,8 @@ TEST_F(MalzemeFormu, SilmeÜrünlereAncakİzinleDokunur) {
     EXPECT_EQ(Kullanılan(), "");
     EXPECT_EQ(AnaForm.Çağrılar, "seç 3");
     EXPECT_EQ(Görünen(), "İp İp|3,00") << "the first was removed: the new first is selected";
-
     sil(Yanıt::Hayır);
     EXPECT_EQ(Kip(), "MalzemeEkleKaydetButonu /Malzeme &Ekle Fiyat &Değiştir Kapat (Esc)");
-    EXPECT_EQ(Görünen() + Yazı("MalzemeBulKutusu"), "- |");
 }
 
 }  // namespace

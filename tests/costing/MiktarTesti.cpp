@@ -37,7 +37,7 @@ TEST_F(Miktarlar, İşaretliykenGösterirVeYüzdeyiİzler) {
     SeçeneğeBas();
     EXPECT_EQ(Kutucuklar(), "    ");
     EXPECT_FALSE(Etkin("FireOranıKutusu"));
-    // Another product, and a click beside the nodes, untick; one of different units needs no message for that.
+    // Another product unticks; one of different units needs no message for that.
     SeçeneğeBas();
     Seç("MASA", "Ayrı");
     EXPECT_FALSE(Seçenek().isChecked());
@@ -47,12 +47,6 @@ TEST_F(Miktarlar, İşaretliykenGösterirVeYüzdeyiİzler) {
     Yaz("FireOranıKutusu", "5");
     Seç("MASA", "Tek");
     EXPECT_EQ(Kutucuklar(), "    ") << "a waste rate belongs to its product";
-    Seç("MASA", "Boş");
-    SeçeneğeBas();
-    EXPECT_TRUE(Seçenek().isChecked());
-    QWidget& yüzey = *Bul<QAbstractItemView>(Ağaç).viewport();
-    QTest::mouseClick(&yüzey, Qt::LeftButton, {}, yüzey.rect().bottomLeft() + QPoint(5, -5));
-    EXPECT_FALSE(Seçenek().isChecked());
 }
 
 TEST_F(Miktarlar, FireKalanMiktarıVeBirimMaliyetiBulur) {

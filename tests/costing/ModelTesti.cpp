@@ -4,13 +4,14 @@
 
 #include <QRandomGenerator>
 #include <QTreeView>
-#include <algorithm>
 #include <array>
 
 #include "AnaFormOrtami.h"
 #include "VeriModeli.h"
 
 namespace {
+
+using VM = VeriModeli;
 
 const QStringList Gruplar = {"MASA", "DOLAP", "ÇEKMECE", "IŞIK", "İSKELE"};
 const QStringList ÜrünAdları = {"Sehpa", "Işıklı Vitrin", "İnce Raf", "Çatı", "Üç Ayaklı Tabure"};
@@ -49,9 +50,9 @@ class Model : public AnaFormOrtamı {
     bool ÜrünSeçilsin() {
         if (m_model.Ürünler.isEmpty()) return false;
         const auto ürün = Biri(m_model.Ürünler);
-        BirKezTıkla(ürün.Grup, ürün.Ad);
-        m_grup = ürün.Grup;
-        m_ürün = ürün.Ad;
+        m_grup = ürün[VM::Grup];
+        m_ürün = ürün[VM::Ürün];
+        BirKezTıkla(m_grup, m_ürün);
         return true;
     }
 
@@ -59,7 +60,7 @@ class Model : public AnaFormOrtamı {
         const QString grup = Biri(Gruplar);
         const QString ad = Biri(ÜrünAdları);
         const bool vazgeç = Rastgele(5) == 0;
-        const bool var = m_model.ÜrünVar(grup, ad);
+        const bool var = VM::Var(m_model.Ürünler, {{VM::Grup, grup}, {VM::Ürün, ad}});
         ÜrünFormunda([&] {
             Tıkla("ÜrünEkleKaydetButonu");
             Yaz("ÜrünGrubuListesi", grup);
@@ -69,7 +70,7 @@ class Model : public AnaFormOrtamı {
                 Tıkla("ÜrünEkleKaydetButonu");
             }
         });
-        if (!vazgeç && !var) m_model.Ürünler.append({grup, ad, {"0", "0", "0", "0"}});
+        if (!vazgeç && !var) m_model.Ürünler += {grup, ad, "0", "0", "0", "0"};
     }
 
     void ÜrünSil() {
@@ -78,13 +79,15 @@ class Model : public AnaFormOrtamı {
         const bool grupMu = Rastgele(4) == 0;
         const bool evet = Belki();
         ÜrünFormunda([&] {
-            Bul<QTreeView>(Ağaç).setCurrentIndex(Yer(Ağaç, ürün.Grup, grupMu ? QString() : ürün.Ad));
+            Bul<QTreeView>(Ağaç).setCurrentIndex(Yer(Ağaç, ürün[VM::Grup], grupMu ? QString() : ürün[VM::Ürün]));
             if (grupMu) Kutular().Yanıtla(Yanıt::Evet);
             Kutular().Yanıtla(evet ? Yanıt::Evet : Yanıt::Hayır);
             Tıkla("ÜrünSilButonu");
         });
-        if (evet && grupMu) m_model.GrubuSil(ürün.Grup);
-        if (evet && !grupMu) m_model.ÜrünüSil(ürün.Grup, ürün.Ad);
+        if (!evet) return;
+        VM::Değerler koşul{{VM::Grup, ürün[VM::Grup]}};
+        if (!grupMu) koşul[VM::Ürün] = ürün[VM::Ürün];
+        for (VM::Satırlar* tablo : {&m_model.Ürünler, &m_model.Kullanımlar}) VM::Sil(*tablo, koşul);
     }
 
     void Adlandır() {
@@ -94,43 +97,28 @@ class Model : public AnaFormOrtamı {
         QString yeni = Biri(grupMu ? Gruplar : ÜrünAdları);
         if (Belki()) yeni = yeni.toUpper();
         const QString eski = grupMu ? m_grup : m_ürün;
-        VeriModeli sonra = m_model;
         // Groups that have a product in common become one only if the user wants it.
         const bool sorulacak = grupMu && m_model.OrtakÜrünVar(eski, yeni);
         const bool vazgeç = sorulacak && Belki();
+        // Another product of the group bears the name.
         bool tamam = true;
-        if (yeni != eski && grupMu) sonra.GrubuAdlandır(m_grup, yeni);
-        if (yeni != eski && !grupMu) tamam = sonra.ÜrünüAdlandır(m_grup, m_ürün, yeni);
-        bool soruldu = false;
-        const Yanıt yanıt = !tamam ? Yanıt::Tamam : vazgeç ? Yanıt::Hayır : Yanıt::Evet;
-        if (sorulacak || !tamam) Kutular().Yanıtla(yanıt, [&](const auto&) { soruldu = true; });
-        // An editor that has closed lives on unseen for a while.
-        const auto düzenleyici = [this]() -> QLineEdit* {
-            for (auto* kutu : Bul(Ağaç).findChildren<QLineEdit*>("AdDüzenleyici"))
-                if (kutu->isVisible()) return kutu;
-            return nullptr;
-        };
-        const QString önce = Satırlar(Ağaç);
-        QTest::keyClick(&Bul(Ağaç), Qt::Key_F2);
-        ASSERT_TRUE(düzenleyici());
-        Yaz(*düzenleyici(), yeni);
-        QTest::keyClick(düzenleyici(), Qt::Key_Return);
-        if (vazgeç) {
-            EXPECT_TRUE(Bekle([&] { return soruldu; }));
-        } else if (tamam) {
-            EXPECT_TRUE(Bekle([&] { return yeni == eski || Satırlar(Ağaç) != önce; }));
-        } else {
-            EXPECT_TRUE(Bekle([&] { return soruldu && düzenleyici(); }));
-            QTest::keyClick(düzenleyici(), Qt::Key_Escape);
-        }
-        EXPECT_TRUE(Bekle([&] { return !düzenleyici(); }));
-        if (tamam && !vazgeç) m_model = sonra;
+        for (const QStringList& aynı : VM::Bul(m_model.Ürünler, {{VM::Grup, m_grup}, {VM::Ürün, yeni}}))
+            tamam = tamam && (grupMu || yeni == eski || aynı[VM::Ürün] == eski);
+        if (sorulacak || !tamam) Kutular().Yanıtla(!tamam ? Yanıt::Tamam : vazgeç ? Yanıt::Hayır : Yanıt::Evet);
+        YeniAdVer(yeni);
+        EXPECT_EQ(Düzenleyici() != nullptr, !tamam) << "a refused name can be typed again";
+        if (!tamam) QTest::keyClick(Düzenleyici(), Qt::Key_Escape);
+        EXPECT_TRUE(Bekle([this] { return !Düzenleyici(); }));
+        if (!tamam || vazgeç || yeni == eski) return;
+        for (VM::Satırlar* tablo : {&m_model.Ürünler, &m_model.Kullanımlar})
+            grupMu ? VM::Değiştir(*tablo, {{VM::Grup, eski}}, {{VM::Grup, yeni}})
+                   : VM::Değiştir(*tablo, {{VM::Grup, m_grup}, {VM::Ürün, eski}}, {{VM::Ürün, yeni}});
     }
 
     void MalzemeEkle() {
         const QString ad = Biri(Malzemeler);
         const QString fiyat = RastgeleFiyat();
-        const bool var = m_model.MalzemeVar(ad);
+        const bool var = VM::Var(m_model.Malzemeler, {{VM::Ad, ad}});
         MalzemeFormunda([&] {
             Tıkla("MalzemeEkleKaydetButonu");
             Yaz("MalzemeAdıKutusu", ad);
@@ -138,12 +126,12 @@ class Model : public AnaFormOrtamı {
             if (var) Kutular().Yanıtla(Yanıt::Tamam);
             Tıkla("MalzemeEkleKaydetButonu");
         });
-        if (!var) m_model.Malzemeler.append({ad, fiyat});
+        if (!var) m_model.Malzemeler += {ad, fiyat};
     }
 
     void MalzemeSil() {
         if (m_model.Malzemeler.isEmpty()) return;
-        const QString ad = Biri(m_model.Malzemeler).Ad;
+        const QString ad = Biri(m_model.Malzemeler)[VM::Ad];
         const bool ürünlerdenDe = Belki();
         MalzemeFormunda([&] {
             Yaz("MalzemeBulKutusu", ad);
@@ -151,12 +139,13 @@ class Model : public AnaFormOrtamı {
             Kutular().Yanıtla(ürünlerdenDe ? Yanıt::Evet : Yanıt::Hayır);
             Tıkla("MalzemeSilButonu");
         });
-        m_model.MalzemeSil(ad, ürünlerdenDe);
+        VM::Sil(m_model.Malzemeler, {{VM::Ad, ad}});
+        if (ürünlerdenDe) VM::Sil(m_model.Kullanımlar, {{VM::Malzeme, ad}});
     }
 
     void FiyatDeğiştir() {
         if (m_model.Malzemeler.isEmpty()) return;
-        const QString ad = Biri(m_model.Malzemeler).Ad;
+        const QString ad = Biri(m_model.Malzemeler)[VM::Ad];
         const QString fiyat = RastgeleFiyat();
         const bool vazgeç = Rastgele(4) == 0;
         MalzemeFormunda([&] {
@@ -165,28 +154,33 @@ class Model : public AnaFormOrtamı {
             Yaz("MalzemeFiyatıKutusu", fiyat);
             if (!vazgeç) Tıkla("MalzemeFiyatıDeğiştirButonu");
         });
-        if (!vazgeç) m_model.FiyatDeğiştir(ad, fiyat);
+        if (vazgeç) return;
+        VM::Değiştir(m_model.Malzemeler, {{VM::Ad, ad}}, {{VM::Fiyatı, fiyat}});
+        VM::Değiştir(m_model.Kullanımlar, {{VM::Malzeme, ad}}, {{VM::Fiyat, fiyat}});
     }
 
     void Aktar() {
         if (m_model.Malzemeler.isEmpty() || !ÜrünSeçilsin()) return;
         m_bugün = m_bugün.addDays(Rastgele(3));
         const bool vazgeç = Rastgele(4) == 0;
-        QList<VeriModeli::Kullanım> satırlar;
+        VM::Satırlar satırlar;
         const auto iş = [&] {
             const int sayı = 1 + Rastgele(3);
             for (int i = 0; i < sayı; ++i) {
                 const auto malzeme = Biri(m_model.Malzemeler);
                 const QString miktar = QString("%1,5").arg(Rastgele(2000));
                 const QString tür = Biri(Türler);
-                Yaz("MalzemeBulKutusu", malzeme.Ad);
+                Yaz("MalzemeBulKutusu", malzeme[VM::Ad]);
                 Yaz("MalzemeMiktarıKutusu", miktar);
                 Yaz("MiktarTürüListesi", tür);
-                const auto aynısı = [&](const auto& satır) { return VeriModeli::Eş(satır.Malzeme, malzeme.Ad); };
-                if (std::any_of(satırlar.begin(), satırlar.end(), aynısı)) Kutular().Yanıtla(Yanıt::Evet);
+                if (VM::Var(satırlar, {{VM::Malzeme, malzeme[VM::Ad]}})) Kutular().Yanıtla(Yanıt::Evet);
                 Tıkla("ListeyeEkleButonu");
-                satırlar.append({m_bugün.toString(Qt::ISODate), m_grup, m_ürün, malzeme.Ad,
-                                 *SayıMetniBiçimle(miktar, 2) + ' ' + tür, malzeme.Fiyat});
+                satırlar += {m_grup,
+                             m_ürün,
+                             malzeme[VM::Ad],
+                             *SayıMetniBiçimle(miktar, 2) + ' ' + tür,
+                             malzeme[VM::Fiyatı],
+                             m_bugün.toString(Qt::ISODate)};
             }
             if (vazgeç) return;
             Kutular().Yanıtla(Yanıt::Evet);
@@ -194,8 +188,14 @@ class Model : public AnaFormOrtamı {
         };
         Modal("ListeyeMalzemeEkleButonu", "MalzemeListesiOluşturFormu", iş);
         if (vazgeç) return;
-        const QStringList varolan = m_model.KullanılanAdlar(m_grup, m_ürün);
-        for (const auto& satır : satırlar) m_model.Aktar(varolan, satır);
+        // What the product used before the transfer is replaced, in each of its rows.
+        const VM::Satırlar önce = m_model.Kullanımlar;
+        for (const QStringList& satır : satırlar) {
+            const VM::Değerler aynısı{{VM::Grup, m_grup}, {VM::Ürün, m_ürün}, {VM::Malzeme, satır[VM::Malzeme]}};
+            if (!VM::Var(önce, aynısı)) m_model.Kullanımlar += satır;
+            for (QStringList& k : m_model.Kullanımlar)
+                if (VM::Var(önce, aynısı) && VM::Uyar(k, aynısı)) k = satır;
+        }
     }
 
     void Çıkar() {
@@ -206,18 +206,17 @@ class Model : public AnaFormOrtamı {
         const bool evet = Belki();
         Kutular().Yanıtla(evet ? Yanıt::Evet : Yanıt::Hayır);
         Tıkla("ListedenMalzemeSilButonu");
-        if (evet) m_model.Çıkar(m_grup, m_ürün, malzeme);
+        if (evet) VM::Sil(m_model.Kullanımlar, {{VM::Grup, m_grup}, {VM::Ürün, m_ürün}, {VM::Malzeme, malzeme}});
     }
 
     void YüzdeKaydet() {
         if (!ÜrünSeçilsin() || Satırlar(Liste).isEmpty()) return;
-        std::array<QString, 4> yüzdeler = m_model.İlkÜrün(m_grup, m_ürün)->Yüzdeler;
-        yüzdeler[2] = QString("-%1,25").arg(Rastgele(50));
-        Yaz("DiğerMaliyetYüzdesiKutusu", yüzdeler[2]);
+        const QString yüzde = QString("-%1,25").arg(Rastgele(50));
+        Yaz("DiğerMaliyetYüzdesiKutusu", yüzde);
         if (Belki()) return;
         Tıkla("DeğişiklikleriKaydetButonu");
         EXPECT_FALSE(Etkin("DeğişiklikleriKaydetButonu"));
-        m_model.YüzdeleriKaydet(m_grup, m_ürün, yüzdeler);
+        VM::Değiştir(m_model.Ürünler, {{VM::Grup, m_grup}, {VM::Ürün, m_ürün}}, {{VM::DiğerYüzdesi, yüzde}});
     }
 
     void BirAdım(int tür) {
@@ -236,17 +235,19 @@ class Model : public AnaFormOrtamı {
             for (const QStringList& satır : satırlar) metin += satır.join('|').toStdString() + '\n';
             return metin;
         };
-        ASSERT_EQ(düz(HerSatır()), düz(m_model.HerSatır()));
-        QMap<QString, QStringList> ağaç;
-        const auto& model = *Bul<QTreeView>(Ağaç).model();
-        for (int i = 0; i < model.rowCount(); ++i) {
-            const QModelIndex grup = model.index(i, 0);
-            ASSERT_FALSE(ağaç.contains(grup.data().toString())) << "a group has two nodes";
-            QStringList& ürünler = ağaç[grup.data().toString()];
-            for (int j = 0; j < model.rowCount(grup); ++j) ürünler.append(model.index(j, 0, grup).data().toString());
-            ürünler.sort();
+        ASSERT_EQ(düz(Veri().HerSatır()), düz(m_model.HerSatır()));
+        QStringList ağaç, gruplar, düğümler;
+        for (const QString& düğüm : Satırlar(Ağaç).split("; ", Qt::SkipEmptyParts)) {
+            if (!düğüm.startsWith('-')) gruplar += düğüm;
+            ağaç += düğüm.startsWith('-') ? gruplar.last() + düğüm : düğüm;
         }
-        ASSERT_EQ(ağaç, m_model.Ağaç());
+        for (const QStringList& ü : m_model.Ürünler) {
+            if (!düğümler.contains(ü[VM::Grup])) düğümler += ü[VM::Grup];
+            düğümler += ü[VM::Grup] + '-' + ü[VM::Ürün];
+        }
+        düğümler.sort();
+        ağaç.sort();
+        ASSERT_EQ(ağaç, düğümler);
         const QModelIndex seçili = Bul<QTreeView>(Ağaç).currentIndex();
         const QModelIndex grubu = seçili.parent();
         QStringList beklenen;

@@ -3,143 +3,80 @@
 #include <QMap>
 #include <QStringList>
 #include <algorithm>
-#include <array>
 
 #include "SayiMetni.h"
 #include "TurkceSira.h"
 
-// What the data should be, kept in memory beside the data file: plain lists and the rules in their plainest form.
-// Names compare as the data file compares them.
-class VeriModeli {
-  public:
-    struct Ürün {
-        QString Grup, Ad;
-        std::array<QString, 4> Yüzdeler;  // as typed; labour, profit, other, maturity
-    };
-    struct Malzeme {
-        QString Ad, Fiyat;  // the price as typed
-    };
-    struct Kullanım {
-        QString Tarih, Grup, Ürün, Malzeme, Miktar, Fiyat;  // the day as yyyy-mm-dd
-    };
+// What the data should be, kept in memory beside the data file: the tables as plain lists of rows, numbers as they were
+// typed. Names compare as the data file compares them.
+struct VeriModeli {
+    using Satırlar = QList<QStringList>;
+    using Değerler = QMap<int, QString>;  // by column
 
-    QList<Ürün> Ürünler;
-    QList<Malzeme> Malzemeler;
-    QList<Kullanım> Kullanımlar;
+    // Products have four percentages after their name; the day of a use is yyyy-mm-dd.
+    enum ÜrünSütunu { Grup, Ürün, Yüzdeler, DiğerYüzdesi = 4 };
+    enum MalzemeSütunu { Ad, Fiyatı };
+    enum KullanımSütunu { Malzeme = Ürün + 1, Miktar, Fiyat, Tarih };
 
-    // A number as the data file gives it: no grouping, "." for the decimals.
-    static QString Ham(const QString& sayı) { return QString::number(ParaOku(sayı)->Double(), 'g', 15); }
+    Satırlar Ürünler, Malzemeler, Kullanımlar;
+
     static bool Eş(const QString& a, const QString& b) {
         return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) == 0;
     }
+    static bool Uyar(const QStringList& satır, const Değerler& koşul) {
+        return std::all_of(koşul.keyBegin(), koşul.keyEnd(), [&](int i) { return Eş(satır[i], koşul[i]); });
+    }
+    static Satırlar Bul(const Satırlar& tablo, const Değerler& koşul) {
+        Satırlar bulunan;
+        for (const QStringList& satır : tablo)
+            if (Uyar(satır, koşul)) bulunan += satır;
+        return bulunan;
+    }
+    static bool Var(const Satırlar& tablo, const Değerler& koşul) { return !Bul(tablo, koşul).isEmpty(); }
+    static void Sil(Satırlar& tablo, const Değerler& koşul) {
+        tablo.removeIf([&](const QStringList& satır) { return Uyar(satır, koşul); });
+    }
+    static void Değiştir(Satırlar& tablo, const Değerler& koşul, const Değerler& yeni) {
+        for (QStringList& satır : tablo)
+            if (Uyar(satır, koşul))
+                for (auto değer = yeni.begin(); değer != yeni.end(); ++değer) satır[değer.key()] = değer.value();
+    }
 
-    bool ÜrünVar(const QString& grup, const QString& ad) const { return İlkÜrün(grup, ad); }
-    bool MalzemeVar(const QString& ad) const {
-        return std::any_of(Malzemeler.begin(), Malzemeler.end(), [&](const Malzeme& m) { return Eş(m.Ad, ad); });
-    }
-    void GrubuSil(const QString& grup) {
-        Ürünler.removeIf([&](const Ürün& ü) { return Eş(ü.Grup, grup); });
-        Kullanımlar.removeIf([&](const Kullanım& k) { return Eş(k.Grup, grup); });
-    }
-    void ÜrünüSil(const QString& grup, const QString& ad) {
-        Ürünler.removeIf([&](const Ürün& ü) { return Eş(ü.Grup, grup) && Eş(ü.Ad, ad); });
-        Kullanımlar.removeIf([&](const Kullanım& k) { return Eş(k.Grup, grup) && Eş(k.Ürün, ad); });
-    }
     // Whether two groups that are not one already have a product of the same name.
     bool OrtakÜrünVar(const QString& grup, const QString& öteki) const {
-        return !Eş(grup, öteki) && std::any_of(Ürünler.begin(), Ürünler.end(),
-                                               [&](const Ürün& ü) { return Eş(ü.Grup, grup) && ÜrünVar(öteki, ü.Ad); });
-    }
-    void GrubuAdlandır(const QString& eski, const QString& yeni) {
-        for (Ürün& ü : Ürünler)
-            if (Eş(ü.Grup, eski)) ü.Grup = yeni;
-        for (Kullanım& k : Kullanımlar)
-            if (Eş(k.Grup, eski)) k.Grup = yeni;
-    }
-    // False: another product of the group bears the name.
-    bool ÜrünüAdlandır(const QString& grup, const QString& eski, const QString& yeni) {
-        for (const Ürün& ü : Ürünler)
-            if (Eş(ü.Grup, grup) && Eş(ü.Ad, yeni) && ü.Ad != eski) return false;
-        for (Ürün& ü : Ürünler)
-            if (Eş(ü.Grup, grup) && Eş(ü.Ad, eski)) ü.Ad = yeni;
-        for (Kullanım& k : Kullanımlar)
-            if (Eş(k.Grup, grup) && Eş(k.Ürün, eski)) k.Ürün = yeni;
-        return true;
-    }
-    void FiyatDeğiştir(const QString& ad, const QString& fiyat) {
-        for (Malzeme& m : Malzemeler)
-            if (Eş(m.Ad, ad)) m.Fiyat = fiyat;
-        for (Kullanım& k : Kullanımlar)
-            if (Eş(k.Malzeme, ad)) k.Fiyat = fiyat;
-    }
-    void MalzemeSil(const QString& ad, bool ürünlerdenDe) {
-        Malzemeler.removeIf([&](const Malzeme& m) { return Eş(m.Ad, ad); });
-        if (ürünlerdenDe) Kullanımlar.removeIf([&](const Kullanım& k) { return Eş(k.Malzeme, ad); });
-    }
-    void Çıkar(const QString& grup, const QString& ürün, const QString& malzeme) {
-        Kullanımlar.removeIf(
-            [&](const Kullanım& k) { return Eş(k.Grup, grup) && Eş(k.Ürün, ürün) && Eş(k.Malzeme, malzeme); });
-    }
-    // varolan: names that the product used before the transfer began.
-    void Aktar(const QStringList& varolan, const Kullanım& satır) {
-        if (std::none_of(varolan.begin(), varolan.end(), [&](const QString& ad) { return Eş(ad, satır.Malzeme); })) {
-            Kullanımlar.append(satır);
-            return;
-        }
-        for (Kullanım& k : Kullanımlar)
-            if (Eş(k.Grup, satır.Grup) && Eş(k.Ürün, satır.Ürün) && Eş(k.Malzeme, satır.Malzeme)) k = satır;
-    }
-    void YüzdeleriKaydet(const QString& grup, const QString& ürün, const std::array<QString, 4>& yüzdeler) {
-        for (Ürün& ü : Ürünler)
-            if (Eş(ü.Grup, grup) && Eş(ü.Ad, ürün)) ü.Yüzdeler = yüzdeler;
-    }
-    const Ürün* İlkÜrün(const QString& grup, const QString& ad) const {
-        for (const Ürün& ürün : Ürünler)
-            if (Eş(ürün.Grup, grup) && Eş(ürün.Ad, ad)) return &ürün;
-        return nullptr;
+        const Satırlar ürünleri = Bul(Ürünler, {{Grup, grup}});
+        return !Eş(grup, öteki) && std::any_of(ürünleri.begin(), ürünleri.end(), [&](const QStringList& ü) {
+            return Var(Ürünler, {{Grup, öteki}, {Ürün, ü[Ürün]}});
+        });
     }
 
+    // A number as the data file gives it: no grouping, "." for the decimals.
+    static QString Ham(const QString& sayı) { return QString::number(ParaOku(sayı)->Double(), 'g', 15); }
     // Every row as the data file gives it, each headed by its table's name, sorted.
-    QList<QStringList> HerSatır() const {
-        QList<QStringList> hepsi;
-        for (const Ürün& ü : Ürünler) {
-            QStringList satır{"UrunTablosu", ü.Grup, ü.Ad};
-            for (const QString& yüzde : ü.Yüzdeler) satır.append(Ham(yüzde));
-            hepsi.append(satır);
+    Satırlar HerSatır() const {
+        Satırlar hepsi;
+        for (QStringList ü : Ürünler) {
+            for (int i = Yüzdeler; i < ü.size(); ++i) ü[i] = Ham(ü[i]);
+            hepsi += QStringList("UrunTablosu") + ü;
         }
-        for (const Malzeme& m : Malzemeler) hepsi.append({"MalzemeTablosu", m.Ad, Ham(m.Fiyat)});
-        for (const Kullanım& k : Kullanımlar) {
-            hepsi.append(
-                {"UrunMalzemeTablosu", k.Tarih + " 00:00:00", k.Grup, k.Ürün, k.Malzeme, k.Miktar, Ham(k.Fiyat)});
-        }
+        for (const QStringList& m : Malzemeler) hepsi += {"MalzemeTablosu", m[Ad], Ham(m[Fiyatı])};
+        for (const QStringList& k : Kullanımlar)
+            hepsi +=
+                {"UrunMalzemeTablosu", k[Tarih] + " 00:00:00", k[Grup], k[Ürün], k[Malzeme], k[Miktar], Ham(k[Fiyat])};
         std::sort(hepsi.begin(), hepsi.end());
         return hepsi;
-    }
-    // Groups by their exact names, each with its products in order.
-    QMap<QString, QStringList> Ağaç() const {
-        QMap<QString, QStringList> ağaç;
-        for (const Ürün& ü : Ürünler) ağaç[ü.Grup].append(ü.Ad);
-        for (QStringList& adlar : ağaç) adlar.sort();
-        return ağaç;
     }
     // The product's used materials as the main form lists them, sorted; columns parted by "|".
     QStringList Liste(const QString& grup, const QString& ürün) const {
         QStringList satırlar;
-        for (const Kullanım& k : Kullanımlar) {
-            if (!Eş(k.Grup, grup) || !Eş(k.Ürün, ürün)) continue;
-            const qsizetype boşluk = k.Miktar.indexOf(' ');
-            const double tutar = *DoubleOku(k.Fiyat) * *DoubleOku(k.Miktar.left(boşluk));
-            satırlar.append(QStringList({*SayıMetniBiçimle(k.Miktar.left(boşluk), 2) + k.Miktar.mid(boşluk), k.Malzeme,
-                                         *SayıMetniBiçimle(k.Fiyat, 2), *SayıBiçimle(tutar, 2)})
-                                .join('|'));
+        for (const QStringList& k : Bul(Kullanımlar, {{Grup, grup}, {Ürün, ürün}})) {
+            const QString miktar = k[Miktar].section(' ', 0, 0);
+            satırlar +=
+                QStringList{*SayıMetniBiçimle(miktar, 2) + k[Miktar].mid(miktar.size()), k[Malzeme],
+                            *SayıMetniBiçimle(k[Fiyat], 2), *SayıBiçimle(*DoubleOku(k[Fiyat]) * *DoubleOku(miktar), 2)}
+                    .join('|');
         }
         satırlar.sort();
         return satırlar;
-    }
-    QStringList KullanılanAdlar(const QString& grup, const QString& ürün) const {
-        QStringList adlar;
-        for (const Kullanım& k : Kullanımlar)
-            if (Eş(k.Grup, grup) && Eş(k.Ürün, ürün)) adlar.append(k.Malzeme);
-        return adlar;
     }
 };

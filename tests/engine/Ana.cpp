@@ -1,5 +1,3 @@
-#include "Ariza.h"
-
 #include <gtest/gtest.h>
 
 #include <clocale>
@@ -17,7 +15,6 @@ int main(int argc, char** argv) {
     if (!mkdtemp(klasör.data())) return 2;
     setenv("ODBCSYSINI", VARNEK_BIN, 1);
     setenv("ODBCINI", (klasör + "/odbc.ini").c_str(), 1);
-    Arıza::Kur();
     testing::InitGoogleTest(&argc, argv);
     const int sonuç = RUN_ALL_TESTS();
     std::filesystem::remove_all(klasör);

@@ -6,7 +6,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <csignal>
 #include <fstream>
 #include <sstream>
 
@@ -27,17 +26,6 @@ std::optional<std::string> Oluştur(const std::string& yol) {
 
 std::optional<std::string> Sıkıştır(const std::string& kaynak, const std::string& hedef, const std::string& parola) {
     return KaynakAyarla(Kurulumİsteği::Ekle, {"UID=Admin", "PWD=" + parola, "COMPACT_DB=" + kaynak + " " + hedef});
-}
-
-void ÖldürülenSüreçte(const std::function<void()>& iş, const std::function<void()>& bekle) {
-    const pid_t çocuk = fork();
-    if (çocuk == 0) {
-        iş();
-        _exit(0);
-    }
-    bekle();
-    kill(çocuk, SIGKILL);
-    waitpid(çocuk, nullptr, 0);
 }
 
 bool AyrıcalıksızSüreçte(const std::function<bool()>& iş) {

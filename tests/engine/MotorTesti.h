@@ -28,7 +28,6 @@ std::string Tanım(const std::string& yol, const std::string& parola = Parola);
 struct Deyim : OdbcDeyimi {
     explicit Deyim(TestVerisi& veri) { Aç(veri.Bağlantı()); }
     SQLRETURN Çalıştır(const TestMetni& sql) { return OdbcDeyimi::Çalıştır(sql); }
-    TestSonucu İlkTanı() const { return OdbcSonucu{SQL_ERROR, HatalarınıAl()}; }
 };
 
 // SQLConfigDataSource with this attribute list (pairs); the installer's messages when it fails.
@@ -36,9 +35,6 @@ std::optional<std::string> KaynakAyarla(Kurulumİsteği istek, std::initializer_
 std::optional<std::string> Oluştur(const std::string& yol);
 std::optional<std::string> Sıkıştır(const std::string& kaynak, const std::string& hedef,
                                     const std::string& parola = Parola);
-
-// Runs `iş` in a child process and kills it (SIGKILL) once `bekle` has come back here.
-void ÖldürülenSüreçte(const std::function<void()>& iş, const std::function<void()>& bekle);
 
 // Runs `iş` in a child process that file modes bind, the superuser's too; true when `iş` gave true.
 bool AyrıcalıksızSüreçte(const std::function<bool()>& iş);

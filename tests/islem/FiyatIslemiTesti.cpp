@@ -1,10 +1,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QFile>
 #include <csignal>
 #include <random>
 
+#include "Deyimler.h"
 #include "FiyatIslemi.h"
 #include "DovizKayitlari.h"
 #include "GeriAlma.h"
@@ -23,34 +23,13 @@ const QString ZAMAN = QStringLiteral("2026-11-23 10:00:00");
 
 class Fiyatİşlemi : public VarnekTesti {
   protected:
-    void SetUp() override {
-        VeriDosyasıOluştur(VeriDosyası());
-        m_veri = std::make_unique<TestVerisi>(VeriDosyası());
-    }
-    OdbcBağlantısı& Bağ() { return m_veri->Bağlantı(); }
-
-    void MalzemeEkle(const QString& ad, const QString& fiyat) {
-        m_veri->Çalıştır(
-            QString("INSERT INTO MalzemeTablosu (MalzemeAdi, MalzemeFiyati) VALUES ('%1', '%2')").arg(ad, fiyat));
-    }
-    void ÜrünEkle(const QString& grup, const QString& ad, const QString& işçilik) {
-        m_veri->Çalıştır(QString("INSERT INTO UrunTablosu (UrunGrubu, UrunAdi, IscilikYuzdesi, KarYuzdesi, "
-                                 "DigerVarnekYuzdesi, VadeFarkiYuzdesi) VALUES ('%1', '%2', '%3', '7,125', '-2', '0')")
-                             .arg(grup, ad, işçilik));
-    }
-    void Kullan(const QString& grup, const QString& ürün, const QString& malzeme, const QString& miktar,
-                const QString& fiyat, int gün = 1) {
-        m_veri->Çalıştır(QString("INSERT INTO UrunMalzemeTablosu (KullanimTarihi, UrunGrubu, UrunAdi, "
-                                 "KullanilanMalzemeAdi, KullanilanMalzemeMiktari, KullanilanMalzemeFiyati) VALUES "
-                                 "(#11/%1/2026#, '%2', '%3', '%4', '%5', '%6')")
-                             .arg(gün)
-                             .arg(grup, ürün, malzeme, miktar, fiyat));
-    }
+    void SetUp() override { VeriDosyasıOluştur(VeriDosyası()); }
+    OdbcBağlantısı& Bağ() { return Veri().Bağlantı(); }
 
     // A catalogue with what real files hold: other prices than the catalogue's, rows that nothing tells apart, names
     // that differ in letter case, rows without product or material, quantities that cannot be read.
     void Doldur() {
-        m_veri->ElleOnayla();
+        Veri().ElleOnayla();
         std::mt19937 rastgele(20261123);
         const auto sayı = [&](int en, int boy) { return std::uniform_int_distribution(en, boy)(rastgele); };
         const auto fiyat = [&] { return QString("%1,%2").arg(sayı(0, 900)).arg(sayı(1, 9999), 4, 10, QChar('0')); };
@@ -59,34 +38,28 @@ class Fiyatİşlemi : public VarnekTesti {
             fiyatlar.append(fiyat());
             MalzemeEkle(QString("Çıta %1").arg(i), fiyatlar.last());
         }
-        for (int i = 0; i < 12; ++i) ÜrünEkle("IŞIK", QString("Ürün %1").arg(i), fiyat());
-        ÜrünEkle("ışık", "ürün 3", "1");  // the same as IŞIK, Ürün 3, and later in the file
+        for (int i = 0; i < 12; ++i) ÜrünEkle("IŞIK", QString("Ürün %1").arg(i), {fiyat(), "7,125", "-2", "0"});
+        ÜrünEkle("ışık", "ürün 3", {"1", "7,125", "-2", "0"});  // the same as IŞIK, Ürün 3, and later in the file
         const QString miktarlar[] = {"1 Adet", "2,5 Küçük Kutu", "0,3333 Metre", "1.250 m", "çok", "12.5 Adet"};
         for (int i = 0; i < 400; ++i) {
             const int malzeme = sayı(0, 31);
-            Kullan("Işık", QString("ÜRÜN %1").arg(sayı(0, 12)), QString("ÇITA %1").arg(malzeme), miktarlar[sayı(0, 5)],
-                   sayı(0, 3) == 0 ? QString::number(sayı(1, 3)) : fiyatlar.value(malzeme, "5"), sayı(1, 2));
+            KullanımEkle("Işık", QString("ÜRÜN %1").arg(sayı(0, 12)), QString("ÇITA %1").arg(malzeme),
+                         miktarlar[sayı(0, 5)],
+                         sayı(0, 3) == 0 ? QString::number(sayı(1, 3)) : fiyatlar.value(malzeme, "5"),
+                         QString("#11/%1/2026#").arg(sayı(1, 2)));
         }
-        m_veri->Onayla();
+        Veri().Onayla();
     }
 
     // What the main form shows for each product: group, name, total.
     QStringList Toplamlar() {
         QStringList sonuç;
-        for (const QStringList& ü : m_veri->Oku("SELECT UrunGrubu, UrunAdi FROM UrunTablosu ORDER BY UrunAdi")) {
+        for (const QStringList& ü : Veri().Oku("SELECT UrunGrubu, UrunAdi FROM UrunTablosu ORDER BY UrunAdi")) {
             if (ü[0] == "ışık") continue;
-            const QString koşul = QString("WHERE UrunGrubu= '%1' AND UrunAdi= '%2'").arg(ü[0], ü[1]);
             MalzemeToplamı toplam;
-            for (const QStringList& k : m_veri->Oku("SELECT KullanilanMalzemeMiktari, KullanilanMalzemeFiyati FROM "
-                                                    "UrunMalzemeTablosu " +
-                                                    koşul))
-                toplam.Ekle(k[0], NoktayıVirgüleÇevir(k[1]), BASAMAK);
-            const QStringList y = m_veri
-                                      ->Oku(
-                                          "SELECT IscilikYuzdesi, KarYuzdesi, DigerVarnekYuzdesi, VadeFarkiYuzdesi "
-                                          "FROM UrunTablosu " +
-                                          koşul)
-                                      .first();
+            for (const QStringList& k : Veri().Oku(Deyimler::KullanılanMalzemeler(ü[0], ü[1])))
+                toplam.Ekle(k[0], NoktayıVirgüleÇevir(k[2]), BASAMAK);
+            const QStringList y = Veri().Oku(Deyimler::Yüzdeler(ü[0], ü[1])).first();
             const auto kutu = [&y](int i) { return YüzdeMetni(y[i], BASAMAK); };
             const MaliyetGirdisi girdi{SayıBiçimle(toplam.Tutar(), BASAMAK), kutu(0), kutu(1), kutu(2), kutu(3)};
             sonuç += ü[1] + "=" + SayıBiçimle(MaliyetHesapla(girdi).Toplam, BASAMAK);
@@ -142,17 +115,12 @@ class Fiyatİşlemi : public VarnekTesti {
         return FiyatlarıUygula(Bağ(), plan, {tür, "Zam", karşılığı, geriAlan}, ZAMAN).Son;
     }
 
-    // Catalogue and used rows, sorted: rows deleted and put in again come last in the file.
+    // Every row, sorted: rows deleted and put in again come last in the file.
     QStringList Fiyatlar() {
         QStringList satırlar;
-        for (const QStringList& s : m_veri->Oku("SELECT MalzemeAdi, MalzemeFiyati FROM MalzemeTablosu"))
-            satırlar += s.join('|');
-        for (const QStringList& s : m_veri->Oku("SELECT * FROM UrunMalzemeTablosu")) satırlar += s.join('|');
-        satırlar.sort();
+        for (const QStringList& s : Veri().HerSatır()) satırlar += s.join('|');
         return satırlar;
     }
-
-    std::unique_ptr<TestVerisi> m_veri;
 };
 
 // What stands in one of the lists only.
@@ -239,13 +207,13 @@ TEST_F(Fiyatİşlemi, GeriAlmakVeYinelemekHerSatırıBulur) {
     EXPECT_FALSE(YinelenecekİşlemiBul(işlemler));
 
     // What was changed since stays, unless it is ticked.
-    m_veri->Çalıştır("UPDATE MalzemeTablosu SET MalzemeFiyati= '77' WHERE MalzemeAdi= 'çıta 4'");
+    Çalıştır(Deyimler::FiyatDeğiştir("çıta 4", "77"));
     const FiyatPlanı plan = DönüşPlanı(1, İşlemTürü::GeriAlma);
     for (const PlanMalzemesi& m : plan.Malzemeler())
         EXPECT_EQ(m.Malzeme == "Çıta 4", m.Neden == PlanNedeni::SonradanDeğişmiş && !m.İşaretli)
             << m.Malzeme.toStdString();
     ASSERT_EQ(Uygula(plan, İşlemTürü::GeriAlma, 1), UygulamaSonu::Tamam);
-    EXPECT_EQ(m_veri->Tek("SELECT MalzemeFiyati FROM MalzemeTablosu WHERE MalzemeAdi= 'Çıta 4'"), "77");
+    EXPECT_EQ(Veri().Tek("SELECT MalzemeFiyati FROM MalzemeTablosu WHERE MalzemeAdi= 'Çıta 4'"), "77");
 }
 
 // A rate goes and comes back with its prices; a price changed by hand is not overwritten unasked.
@@ -315,10 +283,10 @@ TEST_F(Fiyatİşlemi, EklenenMalzemeKullanılmıyorsaGeriAlınır) {
 TEST_F(Fiyatİşlemi, DeğişenVeriyeYazılmaz) {
     Doldur();
     const QString değişimler[] = {
-        "UPDATE MalzemeTablosu SET MalzemeFiyati= '3' WHERE MalzemeAdi= 'Çıta 29'",
-        "UPDATE UrunMalzemeTablosu SET KullanilanMalzemeFiyati= '123' WHERE KullanilanMalzemeAdi= 'Çıta 29'",
-        "DELETE FROM UrunMalzemeTablosu WHERE KullanilanMalzemeAdi= 'Çıta 29'",
-        "DELETE FROM MalzemeTablosu WHERE MalzemeAdi= 'Çıta 29'",
+        Deyimler::FiyatDeğiştir("Çıta 29", "3"),
+        Deyimler::ÜrünlerdeFiyatDeğiştir("Çıta 29", "123"),
+        Deyimler::MalzemeyiÜrünlerdenSil("Çıta 29"),
+        Deyimler::MalzemeSil("Çıta 29"),
     };
     for (const QString& değişim : değişimler) {
         SCOPED_TRACE(değişim.toStdString());
@@ -328,11 +296,9 @@ TEST_F(Fiyatİşlemi, DeğişenVeriyeYazılmaz) {
         EXPECT_EQ(Uygula(plan), UygulamaSonu::Değişmiş);
         EXPECT_EQ(Fark(Fiyatlar(), önce), QStringList());
         // The connection writes each statement at once again.
-        m_veri->Çalıştır("UPDATE UrunTablosu SET KarYuzdesi= '1' WHERE UrunAdi= 'Ürün 1' AND UrunGrubu= 'IŞIK'");
-        EXPECT_EQ(TestVerisi(VeriDosyası())
-                      .Tek("SELECT KarYuzdesi FROM UrunTablosu WHERE UrunAdi= 'Ürün 1' AND "
-                           "UrunGrubu= 'IŞIK'"),
-                  "1");
+        MalzemeEkle("Yeni", "1");
+        TestVerisi(VeriDosyası()).Çalıştır(Deyimler::MalzemeSil("Yeni"));
+        EXPECT_EQ(Fiyatlar(), önce);
     }
     const QStringList önce = Fiyatlar();
     const UygulamaSonucu bırakılan =
@@ -346,31 +312,26 @@ TEST_F(Fiyatİşlemi, ÖldürülenYarımBırakmaz) {
     const FiyatPlanı plan = ZamPlanı(*ParaOku(u"10"));
     const QStringList önce = Fiyatlar();
     m_veri.reset();
-    int öncekiler = 0;
-    for (int tur = 1; tur < 40; tur += 3) {  // the last ones are killed after the commit
+    bool yazıldı = false;
+    int tur = 1;
+    for (; tur < 40 && !yazıldı; tur += 3) {  // the last ones are killed after the commit
         const pid_t çocuk = fork();
         if (çocuk == 0) {
             TestVerisi veri(VeriDosyası());
             static_cast<void>(FiyatlarıUygula(veri.Bağlantı(), plan, {}, ZAMAN, [tur](std::int64_t biten) {
-                if (biten == tur) kill(getpid(), SIGKILL);
-                return true;
+                return biten != tur || kill(getpid(), SIGKILL) == 0;
             }));
             kill(getpid(), SIGKILL);
         }
         int durum = 0;
         waitpid(çocuk, &durum, 0);
-        m_veri = std::make_unique<TestVerisi>(VeriDosyası());
-        const bool yazıldı = Fiyatlar() != önce;
+        yazıldı = Fiyatlar() != önce;
         bool var = false;
         ASSERT_TRUE(FiyatTablolarıVar(Bağ(), var).Tamam());
         ASSERT_EQ(var, yazıldı) << "a record without prices, or prices without a record";
-        if (yazıldı) {
-            ASSERT_EQ(Uygula(DönüşPlanı(1, İşlemTürü::GeriAlma), İşlemTürü::GeriAlma, 1), UygulamaSonu::Tamam);
-            ASSERT_EQ(Fark(Fiyatlar(), önce), QStringList());
-            break;
-        }
-        ++öncekiler;
         m_veri.reset();
     }
-    EXPECT_GT(öncekiler, 0);
+    EXPECT_TRUE(yazıldı && tur > 4);
+    ASSERT_EQ(Uygula(DönüşPlanı(1, İşlemTürü::GeriAlma), İşlemTürü::GeriAlma, 1), UygulamaSonu::Tamam);
+    EXPECT_EQ(Fark(Fiyatlar(), önce), QStringList());
 }

@@ -26,8 +26,7 @@ struct ÖrnekForm : QDialog {
         auto* dizim = new QVBoxLayout(this);
         for (QWidget* parça : QList<QWidget*>{&Y, &E, &T, &Ad, &Grup, &Tür, &Ağaç, &Komut, &Seçenek, &Etiket})
             dizim->addWidget(parça);
-        auto* düğüm = new QTreeWidgetItem(&Ağaç);
-        düğüm->setFlags(düğüm->flags() | Qt::ItemIsEditable);
+        new QTreeWidgetItem(&Ağaç);
         EtiketEşle(&Etiket, &Y);
         connect(&Komut, &QPushButton::clicked, &Komut, [this] { KomutAnındakiler << Y.text(); });
         ÖneGetir(*this);
@@ -145,14 +144,8 @@ TEST_F(GirişKutuları, AdTamAlınırYaDaHiçAlınmaz) {
         };
         kutu->setFocus();
         sığmaz(tam + u'A');
-        sığmaz(QString(40000, QChar(u'\n')));
         Yapıştır(*kutu, tam.chopped(1) + "\r\n");
         EXPECT_EQ(kutu->text(), tam.chopped(1) + u' ');
-        QToolTip::showText({}, "-", kutu);
-        Yaz(*kutu, "B");
-        EXPECT_TRUE(kutu->text().size() == enUzun && QToolTip::text() == "-");
-        kutu->selectAll();
-        sığmaz(tam + u'A');
     }
 }
 
@@ -168,25 +161,12 @@ TEST_F(GirişKutuları, GeriAlmaVeYinelemeKutuyuAçmaz) {
     Yapıştır(Form.T, "1.5");
     tuşlaVeGör(Qt::Key_Z, QString());
     tuşlaVeGör(Qt::Key_Y, "1.2500");
-    Yapıştır(Form.T, "x");
-    EXPECT_EQ(Form.T.text(), "1.2500");
-    tuşlaVeGör(Qt::Key_Z, QString());
-    tuşlaVeGör(Qt::Key_Y, "1.2500");
-    // Dots that an edit has moved out of their places do no harm.
-    Koy(Form.T, "1.250^,00");
-    Tuşla(Form.T, {Qt::Key_Backspace});
-    EXPECT_EQ(Form.T.text(), "1.25,00");
-    Form.Komut.setFocus();
-    EXPECT_EQ(Form.T.text(), "125,00");
-    // Another record's text is nothing to go back to.
-    Form.T.clear();
-    tuşlaVeGör(Qt::Key_Z, QString());
 }
 
 TEST_F(GirişKutuları, ÇıkıştaBiçimlenir) {
     for (const QStringList& satır :
          Tablo("Y >  > 2 > 0,00 | Y > 12,5 > 2 > 12,50 | E > -0,001 > 2 > 0,00 | E > -2,5 > 0 > -3 | T >  > 2 >  | "
-               "T > 1234567, > 4 > 1.234.567,0000 | T > abc > 2 > abc")) {
+               "T > 1234567, > 4 > 1.234.567,0000 | T > 1.25,00 > 2 > 125,00 | T > abc > 2 > abc")) {
         OndalıkBasamak = satır[2].toInt();
         SayıKutusu& kutu = Form.Kutu(satır[0]);
         Koy(kutu, satır[1]);
@@ -250,44 +230,19 @@ TEST_F(GirişKutuları, EnterSekmeGibidirDüğmeyeBasar) {
     EXPECT_TRUE(Form.Y.hasFocus());
 }
 
-TEST_F(GirişKutuları, GirişteMetinSeçilirSürüklemeyeDokunulmaz) {
-    const auto tıkla = [](QLineEdit& satır) { QTest::mouseClick(&satır, Qt::LeftButton, {}, QPoint(20, 8)); };
-    for (QLineEdit* satır : {static_cast<QLineEdit*>(&Form.Ad), Form.Grup.lineEdit()}) {
-        satır->setText("MASA MASA MASA");
-        tıkla(*satır);
-        EXPECT_EQ(Durum(*satır), '*' + satır->text());
-        tıkla(*satır);
-        EXPECT_FALSE(satır->hasSelectedText());
-        Form.Komut.setFocus();
-        (satır == &Form.Ad ? static_cast<QWidget*>(&Form.Ad) : &Form.Grup)->setFocus();
-        EXPECT_EQ(Durum(*satır), '*' + satır->text());
-        Form.Komut.setFocus();
-        QTest::mousePress(satır, Qt::LeftButton, {}, QPoint(5, 8));
-        QMouseEvent sürükleme(QEvent::MouseMove, QPointF(40, 8), satır->mapToGlobal(QPointF(40, 8)), Qt::NoButton,
-                              Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(satır, &sürükleme);
-        QTest::mouseRelease(satır, Qt::LeftButton, {}, QPoint(40, 8));
-        EXPECT_TRUE(satır->hasSelectedText() && !Durum(*satır).startsWith('*'));
-    }
-}
-
 TEST_F(GirişKutuları, GrupYazılırkenBüyür) {
     Form.Grup.Doldur({"MASA", "Dolap"});
-    EXPECT_EQ(Form.Grup.currentText(), QString());
     Yaz(Form.Grup, "izmır");
     Form.Grup.lineEdit()->setCursorPosition(2);
     Tuşla(Form.Grup, {Qt::Key_Backspace});
     Yaz(Form.Grup, "şö");
     EXPECT_EQ(Durum(*Form.Grup.lineEdit()), "İŞÖ^MIR");
     Tuşla(Form.Grup, {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
-    EXPECT_EQ(Form.Grup.currentText(), "Dolap");
-    EXPECT_EQ(Form.Grup.count(), 2);
-    for (const auto& [yapıştırılan, kalan] : {std::pair(" a\nb\t", "A B"), {" \n", ""}}) {
-        Form.Grup.setFocus();
-        Yapıştır(Form.Grup, yapıştırılan);
-        Tuşla(Form.Grup, {Qt::Key_Return});
-        EXPECT_EQ(Form.Grup.currentText(), kalan);
-    }
+    EXPECT_EQ(Form.Grup.currentText(), "Dolap") << "as it is stored";
+    Form.Grup.setFocus();
+    Yapıştır(Form.Grup, " a\nb\t");
+    Tuşla(Form.Grup, {Qt::Key_Return});
+    EXPECT_EQ(Form.Grup.currentText(), "A B");
 }
 
 TEST_F(GirişKutuları, MiktarTürüRakamAlmazYazılanıKorur) {
@@ -297,28 +252,10 @@ TEST_F(GirişKutuları, MiktarTürüRakamAlmazYazılanıKorur) {
     EXPECT_EQ(Form.Tür.ÖnEkleBul("kılo"), -1);
     Form.Tür.ÖğeEkle(0, "Kilo");
     for (int öğe = 2; öğe >= 0; --öğe) Form.Tür.ÖğeÇıkar(öğe);
-    Form.Tür.ÖğeEkle(0, "Kilo");
     Form.Tür.lineEdit()->selectAll();
     Yaz(Form.Tür, "5");
     QTest::keyClick(&Form.Tür, Qt::Key_Return);
     EXPECT_EQ(Form.Tür.currentText(), "kilo");
-    Form.Tür.setFocus();
-    Form.Tür.lineEdit()->setCursorPosition(1);
-    Yapıştır(Form.Tür, "1²2x");
-    EXPECT_EQ(Durum(*Form.Tür.lineEdit()), "k²x^ilo");
-}
-
-TEST_F(GirişKutuları, EtiketKutudaykenVurgulanır) {
-    EXPECT_FALSE(Form.Vurgulu());
-    EXPECT_EQ(Form.Etiket.buddy(), &Form.Y);
-    EXPECT_EQ(Form.Y.accessibleName(), "İşçilik & Kâr (%)");
-    EtiketEşle(&Form.Etiket, &Form.Ağaç);
-    Form.Ağaç.setFocus();
-    Form.Ağaç.editItem(Form.Ağaç.topLevelItem(0));
-    ASSERT_TRUE(Form.Ağaç.isAncestorOf(QApplication::focusWidget()));
-    EXPECT_TRUE(Form.Vurgulu());
-    Form.T.setFocus();
-    EXPECT_FALSE(Form.Vurgulu());
 }
 
 TEST_F(GirişKutuları, MenüMesajKutusuVeBaşkaPencereÇıkışSayılmaz) {
@@ -344,7 +281,6 @@ TEST_F(GirişKutuları, MenüMesajKutusuVeBaşkaPencereÇıkışSayılmaz) {
     Form.T.setFocus();
     ÖrnekForm::ÖneGetir(Form);
     EXPECT_EQ(Form.Y.text() + Durum(Form.T), "5,00*7");
-    EXPECT_FALSE(Form.Vurgulu());
 }
 
 // What would come back as another number, or not at all, is not stored; the box keeps it and has the focus.

@@ -63,18 +63,16 @@ TEST_F(OdbcHareketiTesti, OnaylanamayanGeriAlınır) {
 
 TEST_F(OdbcHareketiTesti, SatırlarSırayla) {
     const QString uzun(255, QChar(u'ş'));
-    for (const QString& ad : {QStringLiteral("a"), QStringLiteral("b"), uzun}) ASSERT_TRUE(Ekle(ad).Başarılı());
+    ASSERT_TRUE(Ekle("a").Başarılı() && Ekle(uzun).Başarılı());
     const QString sorgu = QStringLiteral("SELECT MalzemeAdi FROM MalzemeTablosu ORDER BY MalzemeAdi ASC");
-    for (const int okunacak : {1, 3}) {
+    for (const int okunacak : {1, 2}) {
         QStringList adlar;
-        EXPECT_TRUE(m_bağlantı
-                        .Oku(sorgu,
-                             [&](OdbcSatırı& satır) {
-                                 adlar += satır.Metin(1);
-                                 return adlar.size() < okunacak;
-                             })
-                        .Başarılı());
-        EXPECT_EQ(adlar, QStringList({"a", "b", uzun}).mid(0, okunacak));
+        const auto al = [&](OdbcSatırı& satır) {
+            adlar += satır.Metin(1);
+            return adlar.size() < okunacak;
+        };
+        EXPECT_TRUE(m_bağlantı.Oku(sorgu, al).Başarılı());
+        EXPECT_EQ(adlar, QStringList({"a", uzun}).mid(0, okunacak));
     }
     const auto yokSütun = [](OdbcSatırı& satır) { return satır.Metin(2).isEmpty(); };
     EXPECT_EQ(m_bağlantı.Oku(sorgu, yokSütun).Hatalar.value(0).Durum, "S1002") << "what cannot be read ends the rows";

@@ -4,11 +4,8 @@
 #include <QComboBox>
 #include <QTreeView>
 
-#include "Deyimler.h"
-
 FormTesti::FormTesti() {
     VeriyeBağlan();
-    m_veri = std::make_unique<TestVerisi>(VeriDosyası());
 }
 
 void FormTesti::Göster(std::unique_ptr<QWidget> form) {
@@ -121,43 +118,12 @@ QString FormTesti::Satırlar(const char* liste) const {
     return satırlar.join("; ");
 }
 
-QString FormTesti::Başlıklar(const char* liste) const {
-    const QAbstractItemModel& model = Satırlık(liste);
-    QStringList başlıklar;
-    for (int i = 0; i < model.columnCount(); ++i) {
-        const bool sağda = model.headerData(i, Qt::Horizontal, Qt::TextAlignmentRole).toInt() & Qt::AlignRight;
-        başlıklar += (sağda ? ">" : "") + model.headerData(i, Qt::Horizontal).toString();
-    }
-    return başlıklar.join('|');
-}
-
 QString FormTesti::Seçili(const char* liste) const {
     const QItemSelectionModel& seçim = *Bul<QAbstractItemView>(liste).selectionModel();
     QStringList satır;
     for (const QModelIndex& yer : seçim.selectedIndexes()) satır += yer.data().toString();
     EXPECT_TRUE(satır.isEmpty() ? !seçim.currentIndex().isValid() : seçim.isSelected(seçim.currentIndex()));
     return satır.isEmpty() ? QStringLiteral("-") : satır.join('|');
-}
-
-void FormTesti::ÜrünEkle(const QString& grup, const QString& ad, const QStringList& yüzdeler) {
-    Çalıştır(Deyimler::ÜrünEkle(grup, ad));
-    if (yüzdeler.size() == 4)
-        Çalıştır(Deyimler::YüzdeleriKaydet(yüzdeler[0], yüzdeler[1], yüzdeler[2], yüzdeler[3], grup, ad));
-}
-
-void FormTesti::MalzemeEkle(const QString& ad, const QString& fiyat) {
-    Çalıştır(Deyimler::MalzemeEkle(ad, fiyat));
-}
-
-void FormTesti::KullanımEkle(const QString& grup, const QString& ürün, const QString& malzeme, const QString& miktar,
-                             const QString& fiyat, const QString& tarih) {
-    Çalıştır(Deyimler::KullanılanMalzemeEkle({grup, ürün, malzeme, miktar, fiyat, tarih}));
-}
-
-QString FormTesti::Oku(const QString& sql) {
-    QStringList satırlar;
-    for (const QStringList& satır : m_veri->Oku(sql)) satırlar += satır.join('|');
-    return satırlar.join("; ");
 }
 
 void FormTesti::Beklenen(Simge simge, MetinNo metin, Yanıt yanıt, const QString& ek, std::function<void()> iş) {

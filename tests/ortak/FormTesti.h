@@ -15,7 +15,6 @@
 #include "ModalBekleyici.h"
 #include "OrtakFonksiyonlarModulu.h"
 #include "Saat.h"
-#include "TestVerisi.h"
 #include "VarnekTesti.h"
 
 using MesajKutusu::Simge;
@@ -78,20 +77,8 @@ class FormTesti : public VarnekTesti {
     QModelIndex Yer(const char* liste, const QString& ad, const QString& alt = {}) const;
     // All rows of a list, tree or drop-down box, columns parted by "|", rows by "; ", "-" before a lower node.
     QString Satırlar(const char* liste) const;
-    // The headers, those of right-aligned columns with ">".
-    QString Başlıklar(const char* liste) const;
     // The marked row, which has to be the current one; "-" stands for none.
     QString Seçili(const char* liste) const;
-
-    // The data file, beside the program's own connection.
-    void ÜrünEkle(const QString& grup, const QString& ad, const QStringList& yüzdeler = {});
-    void MalzemeEkle(const QString& ad, const QString& fiyat);
-    void KullanımEkle(const QString& grup, const QString& ürün, const QString& malzeme, const QString& miktar,
-                      const QString& fiyat, const QString& tarih = QStringLiteral("#11/22/2026#"));
-    void Çalıştır(const QString& sql) { m_veri->Çalıştır(sql); }
-    // Every row of a query, as Satırlar gives them.
-    QString Oku(const QString& sql);
-    QList<QStringList> HerSatır() { return m_veri->HerSatır(); }
 
     // The next box begins with this text, or is this text with ek after it. It is answered, after the work.
     void Beklenen(Simge simge, MetinNo metin, Yanıt yanıt, const QString& ek = {}, std::function<void()> iş = {});
@@ -100,6 +87,5 @@ class FormTesti : public VarnekTesti {
     void Göster(std::unique_ptr<QWidget> form);
     const QAbstractItemModel& Satırlık(const char* liste) const;
 
-    std::unique_ptr<TestVerisi> m_veri;
     std::unique_ptr<QWidget> m_form;
 };

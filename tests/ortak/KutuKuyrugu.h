@@ -23,8 +23,8 @@ class KutuKuyruğu {
     // The boxes shown since the last call, in their order.
     std::vector<MesajKutusu::İstek> Al();
 
-    // Fails unless exactly one box was shown since the last look, with this icon and text (and title, default: none).
-    void TekKutu(MesajKutusu::Simge simge, const QString& metin, const QString& başlık = {});
+    // Fails unless exactly one box was shown since the last look, with this icon and text and without a title.
+    void TekKutu(MesajKutusu::Simge simge, const QString& metin);
 
     // Fails when a queued answer was not used; called at the end of every test.
     void Bitir();

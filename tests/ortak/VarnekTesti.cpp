@@ -5,6 +5,7 @@
 #include <QSettings>
 
 #include "DegiskenModulu.h"
+#include "Deyimler.h"
 #include "OdbcModulu.h"
 #include "Saat.h"
 #include "SurumKaydi.h"
@@ -43,6 +44,7 @@ VarnekTesti::VarnekTesti() : m_klasör(QStringLiteral(VARNEK_BIN "/test-XXXXXX")
 }
 
 VarnekTesti::~VarnekTesti() {
+    m_veri.reset();
     ODBCBağlantısınıKapat();
 }
 
@@ -55,4 +57,42 @@ void VarnekTesti::TearDown() {
 void VarnekTesti::VeriyeBağlan(const QString& tür) {
     VeriDosyasıOluştur(VeriDosyası(), tür);
     ASSERT_TRUE(ODBCBağlan());
+}
+
+TestVerisi& VarnekTesti::Veri() {
+    if (!m_veri) m_veri = std::make_unique<TestVerisi>(VeriDosyası());
+    return *m_veri;
+}
+
+QString VarnekTesti::Oku(const QString& sql) {
+    QStringList satırlar;
+    for (const QStringList& satır : Veri().Oku(sql)) satırlar += satır.join('|');
+    return satırlar.join("; ");
+}
+
+void VarnekTesti::ÜrünEkle(const QString& grup, const QString& ad, const QStringList& yüzdeler) {
+    Çalıştır(Deyimler::ÜrünEkle(grup, ad));
+    if (yüzdeler.size() == 4)
+        Çalıştır(Deyimler::YüzdeleriKaydet(yüzdeler[0], yüzdeler[1], yüzdeler[2], yüzdeler[3], grup, ad));
+}
+
+void VarnekTesti::MalzemeEkle(const QString& ad, const QString& fiyat) {
+    Çalıştır(Deyimler::MalzemeEkle(ad, fiyat));
+}
+
+void VarnekTesti::KullanımEkle(const QString& grup, const QString& ürün, const QString& malzeme, const QString& miktar,
+                               const QString& fiyat, const QString& tarih) {
+    Çalıştır(Deyimler::KullanılanMalzemeEkle({grup, ürün, malzeme, miktar, fiyat, tarih}));
+}
+
+QByteArray VarnekTesti::Baytlar(const QString& yol) {
+    QFile dosya(yol);
+    return dosya.open(QIODevice::ReadOnly) ? dosya.readAll() : QByteArray("yok");
+}
+
+void VarnekTesti::DosyaYaz(const QString& yol, const QByteArray& baytlar) {
+    QDir().mkpath(QFileInfo(yol).path());
+    QFile dosya(yol);
+    ASSERT_TRUE(dosya.open(QIODevice::WriteOnly)) << yol.toStdString();
+    dosya.write(baytlar);
 }

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <memory>
 
 #include "KutuKuyrugu.h"
 #include "TestVerisi.h"
@@ -29,7 +30,22 @@ class VarnekTesti : public ::testing::Test {
     // Makes the data file ("yeni": empty, "ornek": the sample) and connects the program to it.
     void VeriyeBağlan(const QString& tür = QStringLiteral("yeni"));
 
+    // The data file, beside the program's own connection.
+    TestVerisi& Veri();
+    void Çalıştır(const QString& sql) { Veri().Çalıştır(sql); }
+    QString Oku(const QString& sql);  // columns parted by "|", rows by "; "
+    void ÜrünEkle(const QString& grup, const QString& ad, const QStringList& yüzdeler = {});
+    void MalzemeEkle(const QString& ad, const QString& fiyat);
+    void KullanımEkle(const QString& grup, const QString& ürün, const QString& malzeme, const QString& miktar,
+                      const QString& fiyat, const QString& tarih = QStringLiteral("#11/22/2026#"));
+
+    // Whole files; one that is not there reads "yok", a folder that is not there is made.
+    static QByteArray Baytlar(const QString& yol);
+    static void DosyaYaz(const QString& yol, const QByteArray& baytlar);
+
     KutuKuyruğu& Kutular() { return m_kutular; }
+
+    std::unique_ptr<TestVerisi> m_veri;  // Veri's, from its first use on
 
   private:
     QTemporaryDir m_klasör;

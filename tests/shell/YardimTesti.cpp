@@ -8,9 +8,8 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
-#include <QUrl>
 
-#include "Adresler.h"
+#include "AcilanAdresler.h"
 #include "MetinTablosu.h"
 #include "VarnekTesti.h"
 
@@ -20,19 +19,8 @@ using namespace Qt::StringLiterals;
 
 class YardımTesti : public VarnekTesti {
   protected:
-    YardımTesti() {
-        AdresAçıcıyıAyarla([this](const QUrl& adres) { m_açılanlar += adres; });
-    }
-    ~YardımTesti() override { AdresAçıcıyıAyarla(nullptr); }
-
     static QString Kılavuz() { return KılavuzKlasörü(QCoreApplication::applicationDirPath()); }
-    static QString Oku(const QString& yol) {
-        QFile dosya(yol);
-        EXPECT_TRUE(dosya.open(QIODevice::ReadOnly)) << yol.toStdString();
-        return QString::fromUtf8(dosya.readAll());
-    }
-
-    QList<QUrl> m_açılanlar;
+    AçılanAdresler m_açılanlar;
 };
 
 TEST_F(YardımTesti, EveryLinkInTheGuideLeadsSomewhere) {
@@ -42,14 +30,15 @@ TEST_F(YardımTesti, EveryLinkInTheGuideLeadsSomewhere) {
     static const QRegularExpression bağlantı(u"(?:href|src)=\"([^\"#]*)(?:#([^\"]*))?\""_s);
     static const QRegularExpression doldurulmamış(u"@[A-Z]+@"_s);
     for (const QString& sayfa : sayfalar) {
-        const QString metin = Oku(klasör.filePath(sayfa));
+        const QString metin = QString::fromUtf8(Baytlar(klasör.filePath(sayfa)));
         EXPECT_FALSE(metin.contains(doldurulmamış)) << sayfa.toStdString();
         for (const auto& bulunan : bağlantı.globalMatch(metin)) {
             const QString hedef = bulunan.captured(1).isEmpty() ? sayfa : bulunan.captured(1);
             const std::string kim = (sayfa + u": "_s + bulunan.captured(0)).toStdString();
             ASSERT_TRUE(klasör.exists(hedef)) << kim;
             if (!bulunan.captured(2).isEmpty()) {
-                EXPECT_TRUE(Oku(klasör.filePath(hedef)).contains(u"id=\"%1\""_s.arg(bulunan.captured(2)))) << kim;
+                EXPECT_TRUE(Baytlar(klasör.filePath(hedef)).contains(u"id=\"%1\""_s.arg(bulunan.captured(2)).toUtf8()))
+                    << kim;
             }
         }
     }

@@ -43,52 +43,30 @@ TEST_F(AyarlarTesti, BozukDosyaYokGibidir) {
     const QString yol = QSettings(QStringLiteral("Tovrek"), QStringLiteral("Varnek")).fileName();
     ASSERT_TRUE(yol.startsWith(Klasör()));
     AyarYaz(QStringLiteral("Ayarlar"), QStringLiteral("Ondalik"), QStringLiteral("4"));
-    QFile dosya(yol);
-    ASSERT_TRUE(dosya.open(QIODevice::WriteOnly));
-    dosya.write("\x00\xff[[[Ayarlar\nOndalik==\"4\nSol\\x", 30);
-    dosya.close();
+    DosyaYaz(yol, QByteArray("\x00\xff[[[Ayarlar\nOndalik==\"4\nSol\\x", 30));
     EXPECT_EQ(KayıtlıOndalık(), 2);
     EXPECT_EQ(KayıtlıSol(), std::nullopt);
     OndalığıKaydet(5);
     EXPECT_EQ(KayıtlıOndalık(), 5);
 }
 
-TEST_F(AyarlarTesti, KonumTwipOlarakSaklanıyor) {
-    KonumuKaydet({-7, 140});
-    EXPECT_EQ(Kayıtlı("Sol"), QStringLiteral("-105"));
-    EXPECT_EQ(Kayıtlı("Ust"), QStringLiteral("2100"));
-    EXPECT_EQ(KayıtlıSol(), -7);
-    EXPECT_EQ(KayıtlıÜst(), 140);
-}
-
-TEST_F(AyarlarTesti, HayırDenirseHiçbirŞeyDeğişmez) {
-    VeriyeBağlan();
-    Kutular().Yanıtla(MesajKutusu::Yanıt::Hayır);
-    EXPECT_FALSE(ÇıkışıYürüt(false, {10, 20}));
-    Kutular().TekKutu(MesajKutusu::Simge::Soru, Metin(MetinNo::ÇıkışSorusu));
-    EXPECT_EQ(Kayıtlı("Ondalik"), QStringLiteral("yok"));
-    SQLMetni = QStringLiteral("SELECT Count(UrunAdi) AS KayitSayisi FROM UrunTablosu");
-    EXPECT_TRUE(SorguÇalıştır());
-}
-
-TEST_F(AyarlarTesti, EvetDenirseBağlantıKapanırAyarlarKaydedilir) {
-    const auto veriKaynağıVar = [this] {
-        QFile dosya(OdbcDosyası());
-        return dosya.open(QIODevice::ReadOnly) && dosya.readAll().contains("[Varnek]");
-    };
+TEST_F(AyarlarTesti, AncakEvetDenirseBağlantıKapanırAyarlarKaydedilir) {
+    const auto veriKaynağıVar = [this] { return Baytlar(OdbcDosyası()).contains("[Varnek]"); };
     for (const bool simgeDurumunda : {false, true}) {
         QFile::remove(VeriDosyası());
         VeriyeBağlan();
-        EXPECT_TRUE(veriKaynağıVar());
+        const int önceki = KayıtlıOndalık();
         OndalıkBasamak = simgeDurumunda ? 4 : 3;
-        Kutular().Yanıtla(MesajKutusu::Yanıt::Evet, [&](const MesajKutusu::İstek& kutu) {
-            EXPECT_EQ(kutu.ortala, !simgeDurumunda);
-            EXPECT_EQ(kutu.düğmeler, MesajKutusu::Düğmeler::EvetHayır);
-            EXPECT_TRUE(veriKaynağıVar());
-        });
+        Kutular().Yanıtla(MesajKutusu::Yanıt::Hayır);
+        EXPECT_FALSE(ÇıkışıYürüt(simgeDurumunda, {70, 80}));
+        EXPECT_EQ(Kutular().Al().back().metin, Metin(MetinNo::ÇıkışSorusu));
+        EXPECT_TRUE(veriKaynağıVar() && KayıtlıOndalık() == önceki);
+        Kutular().Yanıtla(MesajKutusu::Yanıt::Evet,
+                          [&](const MesajKutusu::İstek& kutu) { EXPECT_EQ(kutu.ortala, !simgeDurumunda); });
         EXPECT_TRUE(ÇıkışıYürüt(simgeDurumunda, simgeDurumunda ? QPoint(50, 60) : QPoint(10, 20)));
         EXPECT_FALSE(veriKaynağıVar());
         EXPECT_EQ(KayıtlıOndalık(), OndalıkBasamak);
+        EXPECT_EQ(Kayıtlı("Sol"), QStringLiteral("150"));
         // Minimised, the place from before stays.
         EXPECT_EQ(KayıtlıSol(), 10);
         EXPECT_EQ(KayıtlıÜst(), 20);

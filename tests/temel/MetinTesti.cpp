@@ -12,8 +12,8 @@ TEST(TürkçeMetin, BaşHarflerBüyür) {
              "çam\tKERESTE > Çam\tKereste | yemek (masası) a-b 2.el > Yemek (masası) A-b 2.el |  \t  > "
              " | îKİNCİ Â > Îkinci Â | 3mm VİDA > 3mm Vida | 😀ABC d > 😀abc D"))
         EXPECT_EQ(TürkçeBaşHarfBüyüt(satır[0]).toStdString(), satır[1].toStdString());
-    EXPECT_EQ(TürkçeBüyükHarf(QStringLiteral("izmir ısparta çğöşüâ ß 1-a")).toStdString(),
-              "İZMİR ISPARTA ÇĞÖŞÜÂ ß 1-A");
+    EXPECT_EQ(TürkçeBüyükHarf(QStringLiteral("izmir ısparta çğöşüâîûéž ß 1-a")).toStdString(),
+              "İZMİR ISPARTA ÇĞÖŞÜÂÎÛÉŽ ß 1-A");
 }
 
 TEST(Saat, AyarlananGünTürkçeYazılır) {

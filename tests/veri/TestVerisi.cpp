@@ -82,23 +82,10 @@ std::string TestVerisi::Tek(const TestMetni& sql) {
 }
 
 QList<QStringList> TestVerisi::HerSatır() {
-    static const struct {
-        const char* Ad;
-        const char* Sütunlar;
-    } tablolar[] = {
-        {"UrunTablosu", "UrunGrubu, UrunAdi, IscilikYuzdesi, KarYuzdesi, DigerVarnekYuzdesi, VadeFarkiYuzdesi"},
-        {"MalzemeTablosu", "MalzemeAdi, MalzemeFiyati"},
-        {"UrunMalzemeTablosu",
-         "KullanimTarihi, UrunGrubu, UrunAdi, KullanilanMalzemeAdi, KullanilanMalzemeMiktari, "
-         "KullanilanMalzemeFiyati"},
-    };
     QList<QStringList> hepsi;
-    for (const auto& tablo : tablolar) {
-        const QString ad = QLatin1String(tablo.Ad);
-        for (const QStringList& satır :
-             Oku(QStringLiteral("SELECT ") + QLatin1String(tablo.Sütunlar) + QStringLiteral(" FROM ") + ad))
-            hepsi += QStringList(ad) + satır;
-    }
+    for (const char* ad : {"UrunTablosu", "MalzemeTablosu", "UrunMalzemeTablosu"})
+        for (const QStringList& satır : Oku(QStringLiteral("SELECT * FROM ") + QLatin1String(ad)))
+            hepsi += QStringList(QLatin1String(ad)) + satır;
     std::sort(hepsi.begin(), hepsi.end());
     return hepsi;
 }

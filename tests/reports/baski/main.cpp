@@ -7,11 +7,15 @@
 #include <QBuffer>
 #include <QFile>
 #include <QPdfWriter>
+#include <QProcess>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTreeWidget>
+#include <QXmlStreamReader>
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <memory>
+#include <stdexcept>
 
 #include "AnaForm.h"
 #include "ApilerModulu.h"
@@ -21,7 +25,6 @@
 #include "MalzemeListesiFormu.h"
 #include "MesajKutusu.h"
 #include "OdbcModulu.h"
-#include "PdfMetni.h"
 #include "UrunListesiFormu.h"
 #include "Yazdirma.h"
 
@@ -41,11 +44,45 @@ void Hata(const QString& metin) {
     ++Hatalar;
 }
 
-// A text of a printout: where its top left corner should stand, in millimetres from the page's corner.
-struct BeklenenMetin {
+// A word or text on a page: its place in millimetres from the page's top left corner.
+struct BasılıYazı {
     int Sayfa;
-    double X, Y, Genişlik;
+    double X, Y, Sağ;
     QString Metin;
+};
+
+// What a PDF reader finds in a file. Throws when poppler's tools fail.
+struct Pdf {
+    int SayfaSayısı = 0;
+    QSizeF Kâğıt;  // its first page's size, points
+    QList<BasılıYazı> Kelimeler;
+    QString Akış;  // all letters in the order in which they were drawn, without blanks
+
+    explicit Pdf(const QString& yol) {
+        QXmlStreamReader xml(Oku({u"-bbox"_s, yol, u"-"_s}));
+        while (!xml.atEnd()) {
+            if (xml.readNext() != QXmlStreamReader::StartElement) continue;
+            const auto sayı = [nitelikler = xml.attributes()](const char* ad) {
+                return nitelikler.value(QLatin1String(ad)).toDouble();
+            };
+            constexpr double mm = 25.4 / 72;
+            if (xml.name() == u"page" && ++SayfaSayısı == 1) Kâğıt = {sayı("width"), sayı("height")};
+            if (xml.name() == u"word")
+                Kelimeler +=
+                    {SayfaSayısı, sayı("xMin") * mm, sayı("yMin") * mm, sayı("xMax") * mm, xml.readElementText()};
+        }
+        if (xml.hasError()) throw std::runtime_error("pdftotext: " + xml.errorString().toStdString());
+        Akış = Oku({u"-raw"_s, yol, u"-"_s}).remove(QRegularExpression(u"\\s"_s));
+    }
+
+  private:
+    static QString Oku(const QStringList& sözler) {
+        QProcess süreç;
+        süreç.start(u"pdftotext"_s, sözler);
+        if (!süreç.waitForFinished() || süreç.exitCode() != 0)
+            throw std::runtime_error("pdftotext: " + süreç.readAllStandardError().toStdString());
+        return QString::fromUtf8(süreç.readAllStandardOutput());
+    }
 };
 
 struct ÖlçenAygıt {
@@ -62,12 +99,13 @@ class ÖlçenYüzey : private ÖlçenAygıt, public AygıtYüzeyi {
   public:
     explicit ÖlçenYüzey(const QPageLayout& alan)
         : ÖlçenAygıt(alan), AygıtYüzeyi(Yazar), m_köşe(alan.paintRect(QPageLayout::Millimeter).topLeft()) {}
-    QList<BeklenenMetin> Metinler;
+    QList<BasılıYazı> Metinler;
 
   protected:
     double MetniKoy(const QString& metin, Yer yer) override {
         const double genişlik = AygıtYüzeyi::MetniKoy(metin, yer);
-        if (!metin.isEmpty()) Metinler.append({SayfaNo(), m_köşe.x() + X(), m_köşe.y() + Y(), genişlik, metin});
+        const double x = m_köşe.x() + X();
+        if (!metin.isEmpty()) Metinler.append({SayfaNo(), x, m_köşe.y() + Y(), x + genişlik, metin});
         return genişlik;
     }
 
@@ -79,51 +117,38 @@ bool Yakın(double a, double b) {
     return std::abs(a - b) <= Tolerans;
 }
 
-// Takes the word out of the page; null: it does not stand there (x: -1 for anywhere on the line).
-std::unique_ptr<PdfKelimesi> Al(QList<PdfKelimesi>& sayfa, const QString& kelime, double x, double y) {
-    for (qsizetype i = 0; i < sayfa.size(); ++i) {
-        const PdfKelimesi& aday = sayfa.at(i);
-        const bool yerinde = Yakın(aday.Yer.top(), y) && (x < 0 || Yakın(aday.Yer.left(), x));
-        const bool kesik = aday.Metin.endsWith(u'…') && kelime.startsWith(aday.Metin.chopped(1));
-        if (yerinde && (aday.Metin == kelime || kesik)) return std::make_unique<PdfKelimesi>(sayfa.takeAt(i));
-    }
-    return nullptr;
-}
-
-// The text's words stand at its place, on its line and end where it ends. Gives its letters as they were found.
-QString MetniBul(QList<PdfKelimesi>& sayfa, const BeklenenMetin& metin) {
+// Takes the text's words out of those found: they stand at its place, on its line, and end where it ends. Gives its
+// letters as they were found.
+QString MetniAl(QList<BasılıYazı>& bulunanlar, const BasılıYazı& metin) {
     QString harfler;
     double sağ = 0;
-    const QStringList kelimeler = metin.Metin.split(u' ', Qt::SkipEmptyParts);
-    for (const QString& kelime : kelimeler) {
-        const auto bulunan = Al(sayfa, kelime, harfler.isEmpty() ? metin.X : -1, metin.Y);
-        if (!bulunan) {
+    for (const QString& kelime : metin.Metin.split(u' ', Qt::SkipEmptyParts)) {
+        const auto uyar = [&](const BasılıYazı& aday) {
+            const bool kesik = aday.Metin.endsWith(u'…') && kelime.startsWith(aday.Metin.chopped(1));
+            return aday.Sayfa == metin.Sayfa && Yakın(aday.Y, metin.Y) &&
+                   (!harfler.isEmpty() || Yakın(aday.X, metin.X)) && (aday.Metin == kelime || kesik);
+        };
+        const auto yer = std::find_if(bulunanlar.begin(), bulunanlar.end(), uyar);
+        if (yer == bulunanlar.end()) {
             Hata(u"page %1, (%2, %3): not there: %4"_s.arg(metin.Sayfa).arg(metin.X).arg(metin.Y).arg(kelime));
             return harfler;
         }
-        harfler += bulunan->Metin;
-        sağ = bulunan->Yer.right();
-        if (bulunan->Metin.endsWith(u'…')) break;
+        harfler += yer->Metin;
+        sağ = yer->Sağ;
+        bulunanlar.erase(yer);
+        if (harfler.endsWith(u'…')) break;
     }
-    if (!Yakın(sağ, metin.X + metin.Genişlik)) {
-        Hata(u"page %1: %2 ends at %3 instead of %4"_s.arg(metin.Sayfa)
-                 .arg(metin.Metin)
-                 .arg(sağ)
-                 .arg(metin.X + metin.Genişlik));
-    }
+    if (!Yakın(sağ, metin.Sağ)) Hata(u"%1 ends at %2 instead of %3"_s.arg(metin.Metin).arg(sağ).arg(metin.Sağ));
     return harfler;
 }
 
-void Karşılaştır(PdfMetni pdf, const QList<BeklenenMetin>& beklenen) {
-    const int sayfaSayısı = beklenen.constLast().Sayfa;
-    if (pdf.SayfaSayısı != sayfaSayısı || pdf.Sayfalar.size() != sayfaSayısı)
-        return Hata(u"%1 pages instead of %2"_s.arg(pdf.SayfaSayısı).arg(sayfaSayısı));
+void Karşılaştır(Pdf pdf, const QList<BasılıYazı>& beklenen) {
+    if (pdf.SayfaSayısı != beklenen.constLast().Sayfa) Hata(u"%1 pages"_s.arg(pdf.SayfaSayısı));
     if (!Yakın(pdf.Kâğıt.width(), Kâğıt.width()) || !Yakın(pdf.Kâğıt.height(), Kâğıt.height()))
         Hata(u"paper of %1 x %2 points"_s.arg(pdf.Kâğıt.width()).arg(pdf.Kâğıt.height()));
     QString akış;
-    for (const BeklenenMetin& metin : beklenen) akış += MetniBul(pdf.Sayfalar[metin.Sayfa - 1], metin);
-    for (const auto& sayfa : pdf.Sayfalar)
-        for (const PdfKelimesi& fazla : sayfa) Hata(u"nobody expects: "_s + fazla.Metin);
+    for (const BasılıYazı& metin : beklenen) akış += MetniAl(pdf.Kelimeler, metin);
+    for (const BasılıYazı& fazla : pdf.Kelimeler) Hata(u"nobody expects: "_s + fazla.Metin);
     if (pdf.Akış != akış) Hata(u"another order of texts"_s);
 }
 
@@ -146,7 +171,7 @@ void YazdırVeKarşılaştır(const QString& ad, QWidget& form, const QString& p
         },
         Süre);
     if (!geldi || ölçen.Metinler.isEmpty()) return Hata(ad + u": no job arrived"_s);
-    Karşılaştır(PdfOku(pdfYolu), ölçen.Metinler);
+    Karşılaştır(Pdf(pdfYolu), ölçen.Metinler);
     std::printf("%s: %lld texts on %d page(s): %s\n", ad.toUtf8().constData(),
                 static_cast<long long>(ölçen.Metinler.size()), ölçen.Metinler.constLast().Sayfa,
                 Hatalar == önceki ? "as they should be" : "WRONG");
