@@ -171,7 +171,7 @@ void FiyatÖnizlemeFormu::Uygula() {
 }
 
 Yazdırılacak FiyatÖnizlemeFormu::Rapor() const {
-    return {windowTitle(), [this](SayfaYüzeyi& yüzey) { PlanıYaz(yüzey, windowTitle(), Görünen()); }};
+    return {windowTitle(), [this](SayfaYüzeyi& yüzey) { PlanıYaz(yüzey, windowTitle(), Görünen()); }, true};
 }
 
 GörünenPlan FiyatÖnizlemeFormu::Görünen() const {

@@ -1,12 +1,15 @@
 #include "Yazdirma.h"
 
 #include <QAbstractButton>
+#include <QBuffer>
+#include <QGuiApplication>
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QSaveFile>
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -22,8 +25,17 @@ using MesajKutusu::Simge;
 namespace {
 
 constexpr int PdfÇözünürlüğü = 1200;  // dots per inch
+constexpr int SorulmayanSayfa = 50;
 
 std::function<void(const Yazdırılacak&)> YazıcıYerine;
+
+class Bekletenİmleç {
+  public:
+    Bekletenİmleç() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    Bekletenİmleç(const Bekletenİmleç&) = delete;
+    Bekletenİmleç& operator=(const Bekletenİmleç&) = delete;
+    ~Bekletenİmleç() { QGuiApplication::restoreOverrideCursor(); }
+};
 
 // What a running printout changes on its form, put back at the end.
 class YazdırmaDurumu {
@@ -72,6 +84,39 @@ std::unique_ptr<QPrinter> VarsayılanYazıcı() {
     return yazıcı;
 }
 
+// Lays the pages out without drawing them.
+class SayımYüzeyi : public AygıtYüzeyi {
+  public:
+    using AygıtYüzeyi::AygıtYüzeyi;
+    void Çiz(double, double, double, double, QColor) override {}
+
+  protected:
+    double MetniKoy(const QString& metin, Yer yer) override { return std::min(MetinGenişliği(metin), yer.Genişlik); }
+    void SayfaAç() override {}
+};
+
+// Whether so many pages are wanted.
+bool SayfalarİsteniyorMu(const Yazdırılacak& iş) {
+    if (!iş.UzunsaSor) return true;
+    int sayfa = 0;
+    {
+        const Bekletenİmleç bekler;
+        const std::unique_ptr<QPrinter> yazıcı = VarsayılanYazıcı();
+        QBuffer boş;
+        boş.open(QIODevice::WriteOnly);
+        QPdfWriter yazar(&boş);
+        yazar.setResolution(PdfÇözünürlüğü);
+        yazar.setPageLayout(yazıcı ? yazıcı->pageLayout() : BütünA4());
+        SayımYüzeyi yüzey(yazar);
+        iş.Yaz(yüzey);
+        sayfa = yüzey.SayfaNo();
+    }
+    if (sayfa <= SorulmayanSayfa) return true;
+    MesajKutusuOrtala();
+    return MesajKutusu::Göster(Simge::Soru, Düğmeler::EvetHayır, Metin(MetinNo::ÇokSayfaSorusu).arg(sayfa), {},
+                               MesajKutusu::Yanıt::Hayır) == MesajKutusu::Yanıt::Evet;
+}
+
 void YazıcıdaYaz(const Yazdırılacak& iş) {
     const std::unique_ptr<QPrinter> yazıcı = VarsayılanYazıcı();
     if (!yazıcı) return;
@@ -88,12 +133,14 @@ bool Yazdır(QWidget& form, QAbstractButton& düğme, const Yazdırılacak& iş)
         MesajKutusu::Göster(Simge::Kritik, Düğmeler::Tamam, Metin(MetinNo::YazıcıYok));
         return false;
     }
+    if (!SayfalarİsteniyorMu(iş)) return true;
     const YazdırmaDurumu durum(form, düğme);
     YazıcıYerine ? YazıcıYerine(iş) : YazıcıdaYaz(iş);
     return true;
 }
 
 void PdfKaydet(QWidget& form, QAbstractButton& düğme, const Yazdırılacak& iş) {
+    if (!SayfalarİsteniyorMu(iş)) return;
     const QString yol = KaydedilecekYer(
         form, iş.Ad,
         {QStringLiteral("PdfDosyasıFormu"), QStringLiteral("pdf"), MetinNo::PdfFormuBaşlığı, MetinNo::PdfSüzgeci});
@@ -109,6 +156,7 @@ void PdfKaydet(QWidget& form, QAbstractButton& düğme, const Yazdırılacak& i�
 }
 
 void Önizle(QWidget& form, const Yazdırılacak& iş) {
+    if (!SayfalarİsteniyorMu(iş)) return;
     std::unique_ptr<QPrinter> yazıcı = VarsayılanYazıcı();
     if (!yazıcı) {
         yazıcı = std::make_unique<QPrinter>(QPrinter::HighResolution);

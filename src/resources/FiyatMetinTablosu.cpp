@@ -199,6 +199,7 @@ constexpr MetinSatırı Tablo[] = {
     {MetinNo::ArtışAçıklaması, ", artış %%1"},
     {MetinNo::ArtıkEşleşmeyenler, "Bu arada eşleşmesi değişen satırlar alınmadı: %1"},
     {MetinNo::SayfaGizli, "gizli"},
+    {MetinNo::ÇokSayfaSorusu, "Yazılacak sayfa sayısı: %1. Devam edilsin mi?"},
 };
 
 static_assert(Sıralı(Tablo));

@@ -427,6 +427,7 @@ enum class MetinNo : int {
     ArtışAçıklaması = 2620,
     ArtıkEşleşmeyenler = 2621,
     SayfaGizli = 2622,
+    ÇokSayfaSorusu = 2623,
 };
 
 // The text. Each number has one; an enumerator without would be a fault of the program: it then reads "?number?", and a
