@@ -24,4 +24,5 @@ void ÖrnekVeriYaz(VeriYazıcısı& yazıcı, QDate bugün) {
                 Deyimler::KullanılanMalzemeEkle({grup, ad, satır.malzeme.toString(), satır.miktar.toString(),
                                                  fiyatlar.value(satır.malzeme).toString(), tarih}));
     }
+    ÖrnekDövizleriYaz(yazıcı, bugün);
 }

@@ -5,6 +5,7 @@
 #include <QMenuBar>
 
 #include "AnaForm.h"
+#include "DovizKurlariFormu.h"
 #include "FiyatGecmisiFormu.h"
 #include "FiyatIsi.h"
 #include "MesajKutusu.h"
@@ -24,6 +25,11 @@ void AnaForm::FiyatMenüsünüKur() {
         };
     };
     girişEkle(QStringLiteral("TopluFiyatMenüsü"), MetinNo::TopluFiyatMenüsü, [this] { ToplucaFiyatDeğiştir(); });
+    girişEkle(QStringLiteral("DövizKurlarıMenüsü"), MetinNo::DövizKurlarıMenüsü, [this] {
+        DövizKurlarıFormu form(this);
+        if (form.Yükle()) form.exec();
+        if (form.Uygulandı()) FiyatlarDeğişti();
+    });
     girişEkle(QStringLiteral("FiyatGeçmişiMenüsü"), MetinNo::FiyatGeçmişiMenüsü, [this] {
         FiyatGeçmişiFormu form(true, this);
         if (form.Yükle()) form.exec();

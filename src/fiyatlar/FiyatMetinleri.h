@@ -3,13 +3,11 @@
 #include <QString>
 
 #include "FiyatKayitlari.h"
+#include "FiyatYazimi.h"
 #include "FiyatPlani.h"
 #include "Para.h"
 
 // How the price forms write their figures.
-
-// A stored price: as many decimals as it has, at least OndalıkBasamak.
-QString FiyatMetni(Para fiyat);
 
 // A product's total, with OndalıkBasamak decimals.
 QString ToplamMetni(Para toplam);
@@ -23,9 +21,6 @@ QString YüzdeFarkı(Para önce, Para sonra);
 
 // Why a material is left out or unticked; "" where nothing speaks against it.
 QString NedenMetni(PlanNedeni neden);
-
-// A stored day (yyyy-MM-dd) as the user reads it; "" of none.
-QString GünMetni(const QString& gün);
 
 // A note for the preview on materials that are not in the catalogue any more; none where there are none.
 QStringList EksiklerNotu(const QStringList& eksikler);

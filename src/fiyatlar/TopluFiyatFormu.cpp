@@ -288,11 +288,7 @@ QString TopluFiyatFormu::Açıklama(Para değer) const {
     const MetinNo metin = m_yüzde->isChecked()   ? MetinNo::YüzdeAçıklaması
                           : m_tutar->isChecked() ? MetinNo::TutarAçıklaması
                                                  : MetinNo::FiyatAçıklaması;
-    QString açıklama = Metin(metin).arg(FiyatMetni(değer));
-    if (m_yuvarlama.Seçilen().Adım > 0)
-        açıklama += Metin(MetinNo::YuvarlamaAçıklaması)
-                        .arg(m_yuvarlama.Adımlar->currentText(), m_yuvarlama.Yönler->currentText());
-    return açıklama;
+    return Metin(metin).arg(FiyatMetni(değer)) + m_yuvarlama.Açıklama();
 }
 
 İşSonucu TopluFiyatFormu::Öner(Para değer, const Yuvarlama& yuvarlama, FiyatTeklifi& teklif,

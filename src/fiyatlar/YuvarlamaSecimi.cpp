@@ -22,3 +22,8 @@ YuvarlamaSeçimi::YuvarlamaSeçimi() : Adımlar(new QComboBox), Yönler(new QCom
 Yuvarlama YuvarlamaSeçimi::Seçilen() const {
     return {YUVARLAMA_ADIMLARI[Adımlar->currentIndex()], static_cast<YuvarlamaYönü>(Yönler->currentIndex())};
 }
+
+QString YuvarlamaSeçimi::Açıklama() const {
+    if (Seçilen().Adım == 0) return {};
+    return Metin(MetinNo::YuvarlamaAçıklaması).arg(Adımlar->currentText(), Yönler->currentText());
+}

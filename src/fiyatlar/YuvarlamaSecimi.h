@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include "FiyatKurali.h"
 
 class QComboBox;
@@ -11,4 +13,6 @@ struct YuvarlamaSeçimi {
 
     YuvarlamaSeçimi();
     Yuvarlama Seçilen() const;
+    // What it adds to an operation's description; "" where nothing is rounded.
+    QString Açıklama() const;
 };

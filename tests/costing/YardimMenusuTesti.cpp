@@ -41,6 +41,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {"MalzemeListesiGösterButonu", "MalzemeListesiFormu"},
                                      {"ÜrünListesiGösterButonu", "ÜrünListesiFormu"},
                                      {toplu, "TopluFiyatFormu"},
+                                     {"DövizKurlarıMenüsü", "DövizKurlarıFormu"},
                                      {"FiyatGeçmişiMenüsü", "FiyatGeçmişiFormu"},
                                      {"HakkındaMenüsü", "HakkındaFormu"},
                                      {"HataBildirmeMenüsü", "HataBildirmeFormu"}}) {
@@ -57,7 +58,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     EXPECT_EQ(m_açılanlar.join(' ').remove(".html"),
               "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu MalzemeListesiOlusturFormu MiktarGosterFormu "
               "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu TopluFiyatFormu "
-              "FiyatOnizlemeFormu FiyatGecmisiFormu HakkindaFormu HataBildirmeFormu");
+              "FiyatOnizlemeFormu DovizKurlariFormu FiyatGecmisiFormu HakkindaFormu HataBildirmeFormu");
 }
 
 }  // namespace
