@@ -24,7 +24,8 @@ void DövizEtiketi::Göster(const QString& malzeme, Para fiyat) {
     std::vector<Döviz> dövizler;
     if (!MalzemeninBağınıOku(ODBCBağlantısı(), malzeme, bağ).Tamam() || !bağ) return;
     if (!DövizleriOku(ODBCBağlantısı(), dövizler).Tamam()) return;
-    const auto döviz = std::find_if(dövizler.begin(), dövizler.end(), [&](const Döviz& d) { return d.Kod == bağ->Kod; });
+    const auto döviz =
+        std::find_if(dövizler.begin(), dövizler.end(), [&](const Döviz& d) { return d.Kod == bağ->Kod; });
     QString metin = bağ->Kod + QLatin1Char(' ') + FiyatMetni(bağ->Fiyat);
     if (döviz != dövizler.end())
         metin = Metin(MetinNo::DövizBağıMetni).arg(metin, FiyatMetni(döviz->Kur), GünMetni(döviz->Gün));

@@ -109,7 +109,8 @@ void DövizBağları::SeçimiSakla() {
 void DövizBağları::Yenile(const QString& kod) {
     m_adayModeli.Yenile();
     DöviziSeç(kod);
-    SatırıSeç(*m_bağlar, m_bağModeli, [this](std::size_t satır) { return m_bağKaynağı.Bağ(satır).Malzeme == m_sonBağ; });
+    SatırıSeç(*m_bağlar, m_bağModeli,
+              [this](std::size_t satır) { return m_bağKaynağı.Bağ(satır).Malzeme == m_sonBağ; });
     SatırıSeç(*m_adaylar, m_adayModeli, [this](std::size_t satır) { return m_adayKaynağı.Ad(satır) == m_sonAday; });
     NotuYaz(*m_adayNotu, *m_adaylar, Metin(MetinNo::BağlanacakYok));
     DüğmeleriAyarla();
@@ -171,8 +172,7 @@ std::optional<Para> DövizBağları::Fiyat() {
 }
 
 bool DövizBağları::BağlanırMı(const KatalogMalzemesi& malzeme, const std::optional<Bağ>& eski) {
-    return !eski || eski->Kod == m_kod ||
-           Sor(Metin(MetinNo::BaşkaDövizeBağlı).arg(malzeme.Ad, eski->Kod, m_kod));
+    return !eski || eski->Kod == m_kod || Sor(Metin(MetinNo::BaşkaDövizeBağlı).arg(malzeme.Ad, eski->Kod, m_kod));
 }
 
 // What the file holds at this moment counts, not what is shown.

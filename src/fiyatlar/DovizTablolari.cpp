@@ -31,8 +31,7 @@ int Sırala(const T& a, const T& b) {
     for (Bağ& bağ : bağlar) {
         const std::uint32_t yer = yeni.Katalog.Dizin.Bul(bağ.Malzeme.toStdString());
         if (yer != AdDizini::YOK) yeni.MalzemeBağları[yer] = static_cast<std::uint32_t>(yeni.Bağlar.size());
-        for (std::size_t i = 0; i < yeni.Dövizler.size(); ++i)
-            yeni.BağSayıları[i] += yeni.Dövizler[i].Kod == bağ.Kod;
+        for (std::size_t i = 0; i < yeni.Dövizler.size(); ++i) yeni.BağSayıları[i] += yeni.Dövizler[i].Kod == bağ.Kod;
         yeni.Bağlar.push_back({std::move(bağ), yer});
     }
     *this = std::move(yeni);
@@ -142,8 +141,7 @@ QString AdayKaynağı::Hücre(std::size_t satır, int sütun) const {
 
 int AdayKaynağı::Karşılaştır(std::size_t a, std::size_t b, int sütun) const {
     if (sütun == AFiyat) return Sırala(m_veri.Katalog.Malzemeler[a].Fiyat, m_veri.Katalog.Malzemeler[b].Fiyat);
-    if (sütun == ABağ && Bağ(a) && Bağ(b) && Bağ(a)->Kod == Bağ(b)->Kod)
-        return Sırala(Bağ(a)->Fiyat, Bağ(b)->Fiyat);
+    if (sütun == ABağ && Bağ(a) && Bağ(b) && Bağ(a)->Kod == Bağ(b)->Kod) return Sırala(Bağ(a)->Fiyat, Bağ(b)->Fiyat);
     return TabloKaynağı::Karşılaştır(a, b, sütun);
 }
 

@@ -17,7 +17,7 @@ struct DövizVerisi {
     std::vector<Deyimler::Döviz::Döviz> Dövizler;
     std::vector<BağlıMalzeme> Bağlar;
     MalzemeKataloğu Katalog;
-    std::vector<std::int64_t> BağSayıları;       // beside Dövizler
+    std::vector<std::int64_t> BağSayıları;      // beside Dövizler
     std::vector<std::uint32_t> MalzemeBağları;  // places in Bağlar, beside the catalogue's materials
 
     // Whole or as it was.

@@ -34,8 +34,9 @@ class DövizKurları : public FormTesti {
         Kutular().TekKutu(Simge::Bilgi, metin);
     }
     QString Bağlar() {
-        return Oku("SELECT MalzemeAdi, DovizKodu, DovizFiyati, YazilanFiyat, IslemNo FROM DovizBagiTablosu "
-                   "ORDER BY MalzemeAdi ASC");
+        return Oku(
+            "SELECT MalzemeAdi, DovizKodu, DovizFiyati, YazilanFiyat, IslemNo FROM DovizBagiTablosu "
+            "ORDER BY MalzemeAdi ASC");
     }
 
     DövizKurlarıFormu* m_form;
