@@ -146,7 +146,7 @@ constexpr MetinSatırı Tablo[] = {
     {MetinNo::BağSütunu, "Bağı"},
     {MetinNo::KatalogdaYok, "katalogda yok"},
     {MetinNo::DövizYok, "Henüz döviz yok. Kurunu ve kodunu yazıp \"Döviz Ekle\"ye basınız."},
-    {MetinNo::DövizSeçilmemiş, "Bağlı malzemelerini görmek istediğiniz dövizi seçiniz."},
+    {MetinNo::DövizSeçilmemiş, "Seçtiğiniz dövize bağlı malzemeler burada görünür."},
     {MetinNo::BağlıMalzemeYok,
      "%1 dövizine bağlı malzeme yok. Yandaki listeden bir malzeme seçip döviz fiyatını yazınız ve \"Bağla\"ya "
      "basınız."},
