@@ -125,7 +125,8 @@ TEST_F(MalzemeFormu, FiyatDeğişimiHerGününSatırınaUlaşır) {
     Çalıştır("UPDATE FiyatIslemTablosu SET IslemNo= '2' WHERE IslemNo= '1'");
     Çalıştır(
         "INSERT INTO FiyatIslemTablosu (IslemNo, IslemZamani, IslemTuru, Aciklama, Karsiligi, GeriAlan, DovizKodu, "
-        "EskiKur, YeniKur, EskiKurGunu, YeniKurGunu) VALUES ('10000000000000000000000', '', '', '', '0', '0', '', '0', '0', "
+        "EskiKur, YeniKur, EskiKurGunu, YeniKurGunu) VALUES ('10000000000000000000000', '', '', '', '0', '0', '', '0', "
+        "'0', "
         "'', '')");
     Tıkla("MalzemeFiyatıDeğiştirButonu");
     Yaz("MalzemeFiyatıKutusu", "5");
