@@ -26,4 +26,5 @@ void ÖrnekVeriYaz(VeriYazıcısı& yazıcı, QDate bugün) {
     }
     ÖrnekGeçmişiYaz(yazıcı, bugün);
     ÖrnekTedarikçiYaz(yazıcı);
+    ÖrnekDövizleriYaz(yazıcı, bugün);
 }

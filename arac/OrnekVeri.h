@@ -42,3 +42,5 @@ void ÖrnekTedarikçiYaz(VeriYazıcısı& yazıcı);
 
 // Writes the sample into a data file that has the tables. Throws VeriHatası.
 void ÖrnekVeriYaz(VeriYazıcısı& yazıcı, QDate bugün);
+// Its part: two currencies, and the materials whose prices follow them.
+void ÖrnekDövizleriYaz(VeriYazıcısı& yazıcı, QDate bugün);

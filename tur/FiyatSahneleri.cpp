@@ -124,6 +124,30 @@ void Liste(Tur& tur, QWidget& anaForm) {
     });
 }
 
+// Looked at only: the prices stay, so that the other scenes find the sample's.
+void Dövizler(Tur& tur, QWidget& anaForm) {
+    MenüdenAç(anaForm, u"DövizKurlarıMenüsü"_s, [&](QWidget& form) {
+        Tur::Tıkla(Tur::Bul<QTableView>(form, u"DövizTablosu"_s), Satır(form, u"DövizTablosu"_s, 0, u"EUR"_s));
+        auto& kur = Tur::Bul<QLineEdit>(form, u"KurKutusu"_s);
+        Tur::Tıkla(kur);
+        Tur::Yaz(kur, u"49,1225"_s);
+        auto& adımlar = Tur::Bul<QComboBox>(form, u"YuvarlamaListesi"_s);
+        adımlar.setCurrentIndex(adımlar.findText(u"0,25"_s));
+        tur.Çek(u"doviz-kurlari"_s, form);
+        KüçükÇek(tur, u"doviz-kurlari-kucuk"_s, form);
+        Önizle(form, [&](QWidget& önizleme) {
+            tur.Çek(u"doviz-onizleme"_s, önizleme);
+            Esc(önizleme);
+        });
+        Esc(form);
+    });
+    MenüdenAç(anaForm, u"MalzemeEkleSilMenüsü"_s, [&](QWidget& form) {
+        Tur::Yaz(Tur::Bul<QLineEdit>(form, u"MalzemeBulKutusu"_s), u"poli"_s);
+        tur.Çek(u"malzeme-doviz"_s, form);
+        Esc(form);
+    });
+}
+
 void Geçmiş(Tur& tur, QWidget& anaForm) {
     MenüdenAç(anaForm, u"FiyatGeçmişiMenüsü"_s, [&](QWidget& form) {
         İşaretle(form, u"Gürgen Kereste"_s);
@@ -184,7 +208,8 @@ void Sığmayan(Tur& tur, QWidget& anaForm) {
 }  // namespace
 
 std::vector<Sahne> FiyatSahneleri() {
-    return {{u"toplu-fiyat"_s, Toplu},
+    return {{u"doviz-kurlari"_s, Dövizler},
+            {u"toplu-fiyat"_s, Toplu},
             {u"fiyat-listesi-al"_s, Liste},
             {u"fiyat-gecmisi"_s, Geçmiş},
             {u"fiyat-sigmayan"_s, Sığmayan}};

@@ -8,6 +8,7 @@
 #include "AnaFormErisimi.h"
 #include "DegiskenModulu.h"
 #include "Deyimler.h"
+#include "DovizEtiketi.h"
 #include "ElleDegisim.h"
 #include "GirisKutusu.h"
 #include "MesajKutusu.h"
@@ -44,6 +45,7 @@ void MalzemeEkleSilFormu::KontrolleriKur() {
     m_fiyat = new SayıKutusu(SayıKutusu::Tür::Tutar);
     m_fiyat->setObjectName(QStringLiteral("MalzemeFiyatıKutusu"));
     TutaraYerAç(m_fiyat);
+    m_döviz = new DövizEtiketi;
 
     m_ekleKaydet =
         RolDeğiştirenDüğme(QStringLiteral("MalzemeEkleKaydetButonu"), {MetinNo::MalzemeEkle, MetinNo::Kaydet},
@@ -70,6 +72,7 @@ void MalzemeEkleSilFormu::Yerleştir() {
     kutular->addWidget(m_ad);
     kutular->addWidget(VurgulananEtiket(3, MetinNo::MalzemeFiyatı, m_fiyat));
     kutular->addWidget(m_fiyat);
+    kutular->addWidget(m_döviz);
 
     auto* sağ = new QVBoxLayout;
     sağ->addWidget(m_çerçeve);
@@ -113,6 +116,7 @@ void MalzemeEkleSilFormu::SatırıSeç(int satır) {
 Kayıt MalzemeEkleSilFormu::SeçileniGöster() {
     m_ad->clear();
     m_fiyat->clear();
+    m_döviz->clear();
     const QListWidgetItem* seçili = m_liste->SeçiliÖğe();
     if (!seçili) return Kayıt::Yok;
     QString ad;
@@ -125,6 +129,7 @@ Kayıt MalzemeEkleSilFormu::SeçileniGöster() {
         m_ad->setText(ad);
         m_ad->home(false);  // of a long name the beginning is seen
         m_fiyat->setText(SayıMetniBiçimle(fiyat, OndalıkBasamak).value_or(fiyat));
+        m_döviz->Göster(ad, ParaOku(fiyat).value_or(Para()));
     }
     return kayıt;
 }
@@ -136,6 +141,7 @@ void MalzemeEkleSilFormu::MalzemeBulKutusu_Change() {
 void MalzemeEkleSilFormu::EklemeKipineGeç() {
     m_ad->clear();
     m_fiyat->clear();
+    m_döviz->clear();
     m_çerçeve->setEnabled(true);
     ListeyiEtkinleştir(false);
     m_ekleKaydet->setText(Metin(MetinNo::Kaydet));
@@ -148,6 +154,7 @@ void MalzemeEkleSilFormu::EklemedenDön() {
     m_kapatİptal->setText(Metin(MetinNo::Kapat));
     m_ad->clear();
     m_fiyat->clear();
+    m_döviz->clear();
     m_çerçeve->setEnabled(false);
 }
 

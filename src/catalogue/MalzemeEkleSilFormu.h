@@ -6,6 +6,7 @@
 
 class AdKutusu;
 class AnaFormErişimi;
+class DövizEtiketi;
 class GirişKutusu;
 class KatalogListesi;
 class KomutDüğmesi;
@@ -58,6 +59,7 @@ class MalzemeEkleSilFormu : public QDialog {
     QFrame* m_çerçeve;
     AdKutusu* m_ad;
     SayıKutusu* m_fiyat;
+    DövizEtiketi* m_döviz;
     KomutDüğmesi* m_ekleKaydet;
     KomutDüğmesi* m_sil;
     KomutDüğmesi* m_fiyatDeğiştir;

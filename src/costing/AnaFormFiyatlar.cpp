@@ -5,6 +5,7 @@
 #include <QMenuBar>
 
 #include "AnaForm.h"
+#include "DovizKurlariFormu.h"
 #include "FiyatGecmisiFormu.h"
 #include "FiyatIsi.h"
 #include "FiyatListesiAlFormu.h"
@@ -27,6 +28,11 @@ void AnaForm::FiyatMenüsünüKur() {
     girişEkle(QStringLiteral("TopluFiyatMenüsü"), MetinNo::TopluFiyatMenüsü, [this] { ToplucaFiyatDeğiştir(); });
     girişEkle(QStringLiteral("FiyatListesiAlMenüsü"), MetinNo::FiyatListesiAlMenüsü, [this] {
         FiyatListesiAlFormu form(this);
+        if (form.Yükle()) form.exec();
+        if (form.Uygulandı()) FiyatlarDeğişti();
+    });
+    girişEkle(QStringLiteral("DövizKurlarıMenüsü"), MetinNo::DövizKurlarıMenüsü, [this] {
+        DövizKurlarıFormu form(this);
         if (form.Yükle()) form.exec();
         if (form.Uygulandı()) FiyatlarDeğişti();
     });

@@ -1,24 +1,10 @@
 #include "FiyatMetinleri.h"
 
-#include <QDate>
-#include <algorithm>
-
 #include "DegiskenModulu.h"
 #include "MetinTablosu.h"
 #include "SayiMetni.h"
 
 namespace {
-
-// The decimals that a price has.
-int BasamakSayısı(Para fiyat) {
-    std::int64_t sayım = fiyat.OnBindeBir();
-    int basamak = 4;
-    while (basamak > 0 && sayım % 10 == 0) {
-        sayım /= 10;
-        --basamak;
-    }
-    return basamak;
-}
 
 QString İşaretli(const QString& metin, bool artı) {
     return artı ? QLatin1Char('+') + metin : metin;
@@ -30,14 +16,6 @@ QString Fark(Para önce, Para sonra, QString (*biçim)(Para)) {
 }
 
 }  // namespace
-
-QString FiyatMetni(Para fiyat) {
-    return SayıBiçimle(fiyat, std::max(BasamakSayısı(fiyat), OndalıkBasamak));
-}
-
-QString BölenMetni(Para sayı) {
-    return SayıBiçimle(sayı, BasamakSayısı(sayı));
-}
 
 QString ToplamMetni(Para toplam) {
     return SayıBiçimle(toplam, OndalıkBasamak);
@@ -87,10 +65,6 @@ QString NedenMetni(PlanNedeni neden) {
             return Metin(MetinNo::NedenAdıYazılamaz);
     }
     return {};
-}
-
-QString GünMetni(const QString& gün) {
-    return QDate::fromString(gün, Qt::ISODate).toString(QStringLiteral("dd.MM.yyyy"));
 }
 
 QStringList EksiklerNotu(const QStringList& eksikler) {

@@ -3,16 +3,11 @@
 #include <QString>
 
 #include "FiyatKayitlari.h"
+#include "FiyatYazimi.h"
 #include "FiyatPlani.h"
 #include "Para.h"
 
 // How the price forms write their figures.
-
-// A stored price: as many decimals as it has, at least OndalıkBasamak.
-QString FiyatMetni(Para fiyat);
-
-// A number as it is, without needless decimals: "1.000", "0,5".
-QString BölenMetni(Para sayı);
 
 // A product's total, with OndalıkBasamak decimals.
 QString ToplamMetni(Para toplam);
@@ -26,9 +21,6 @@ QString YüzdeFarkı(Para önce, Para sonra);
 
 // Why a material is left out or unticked; "" where nothing speaks against it.
 QString NedenMetni(PlanNedeni neden);
-
-// A stored day (yyyy-MM-dd) as the user reads it; "" of none.
-QString GünMetni(const QString& gün);
 
 // A note for the preview on materials that are not in the catalogue any more; none where there are none.
 QStringList EksiklerNotu(const QStringList& eksikler);

@@ -39,6 +39,13 @@ namespace {
     }));
 }
 
+İşSonucu DövizVar(OdbcBağlantısı& bağlantı, const QString& kod, bool& var) {
+    std::vector<Döviz> dövizler;
+    const İşSonucu sonuç = DövizleriOku(bağlantı, dövizler);
+    var = std::any_of(dövizler.begin(), dövizler.end(), [&kod](const Döviz& d) { return d.Kod == kod; });
+    return sonuç;
+}
+
 İşSonucu DövizBağlarınıOku(OdbcBağlantısı& bağlantı, std::vector<Bağ>& bağlar) {
     return BağlarıOku(bağlantı, Deyimler::Döviz::Bağlar(), bağlar);
 }

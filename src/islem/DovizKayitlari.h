@@ -11,6 +11,9 @@
 // All of them, by code; none without the tables.
 İşSonucu DövizleriOku(OdbcBağlantısı& bağlantı, std::vector<Deyimler::Döviz::Döviz>& dövizler);
 
+// Whether there is a currency of this code.
+İşSonucu DövizVar(OdbcBağlantısı& bağlantı, const QString& kod, bool& var);
+
 // All ties, by material; none without the tables.
 İşSonucu DövizBağlarınıOku(OdbcBağlantısı& bağlantı, std::vector<Deyimler::Döviz::Bağ>& bağlar);
 

@@ -58,3 +58,11 @@ std::int64_t SayıSütunu(OdbcSatırı& satır, int sütun) {
     });
     return İşSonucuYap(sonuç, vazgeçildi);
 }
+
+İşSonucu MalzemeyiOku(OdbcBağlantısı& bağlantı, const QString& ad, std::optional<KatalogMalzemesi>& malzeme) {
+    malzeme.reset();
+    return İşSonucuYap(bağlantı.Oku(Deyimler::MalzemeVeFiyatı(ad), [&malzeme](OdbcSatırı& satır) {
+        malzeme = KatalogMalzemesi{satır.Metin(1), ParaSütunu(satır, 2)};
+        return false;
+    }));
+}

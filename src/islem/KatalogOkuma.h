@@ -41,6 +41,9 @@ struct MalzemeKataloğu {
     İşSonucu Oku(OdbcBağlantısı& bağlantı, const İlerleme& ilerleme = {});
 };
 
+// One material, as the catalogue has it at this moment; nothing where it has none of that name.
+İşSonucu MalzemeyiOku(OdbcBağlantısı& bağlantı, const QString& ad, std::optional<KatalogMalzemesi>& malzeme);
+
 // A stored amount ("1250.5") with at most four decimals. Nothing: none such.
 std::optional<Para> SaklananPara(std::string_view baytlar);
 

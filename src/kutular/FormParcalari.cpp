@@ -215,9 +215,13 @@ void YarımKaldı(MetinNo metin, const QString& ek) {
     MesajKutusu::Göster(Simge::Ünlem, Düğmeler::Tamam, Metin(metin) + ek);
 }
 
-bool Uyar(MetinNo metin, QWidget& kutu) {
+bool Uyar(const QString& metin, QWidget& kutu) {
     MesajKutusuOrtala();
-    MesajKutusu::Göster(Simge::Bilgi, Düğmeler::Tamam, Metin(metin));
+    MesajKutusu::Göster(Simge::Bilgi, Düğmeler::Tamam, metin);
     kutu.setFocus();
     return false;
+}
+
+bool Uyar(MetinNo metin, QWidget& kutu) {
+    return Uyar(Metin(metin), kutu);
 }

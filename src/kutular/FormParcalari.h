@@ -79,4 +79,5 @@ class YüklenemediBildirimi : public QFrame {
 void YarımKaldı(MetinNo metin, const QString& ek = {});
 
 // Shows an information box and puts the focus on the control that it is about; always false.
+bool Uyar(const QString& metin, QWidget& kutu);
 bool Uyar(MetinNo metin, QWidget& kutu);

@@ -30,6 +30,11 @@ int DörtHaneliYıl(const QString& yıl) {
 TarihKutusu::TarihKutusu(QWidget* sahip) : QDateEdit(sahip) {
     setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
     setCalendarPopup(true);
+    // Days and months read Turkish whatever the system's language.
+    const QLocale türkçe(QLocale::Turkish, QLocale::Turkey);
+    setLocale(türkçe);
+    calendarWidget()->setLocale(türkçe);
+    calendarWidget()->setFirstDayOfWeek(Qt::Monday);
     // The base class moves the cursor from part to part and puts an unfinished part back when it is left.
     disconnect(lineEdit(), &QLineEdit::cursorPositionChanged, this, nullptr);
     lineEdit()->installEventFilter(this);

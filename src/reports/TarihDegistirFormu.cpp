@@ -1,6 +1,5 @@
 #include "TarihDegistirFormu.h"
 
-#include <QCalendarWidget>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
@@ -26,13 +25,8 @@ TarihDeğiştirFormu::TarihDeğiştirFormu(QWidget* sahip) : QDialog(sahip) {
 }
 
 QWidget* TarihDeğiştirFormu::TarihÇerçevesi() {
-    // Days and months read Turkish whatever the system's language.
-    const QLocale türkçe(QLocale::Turkish, QLocale::Turkey);
     m_tarih = new TarihKutusu;
     m_tarih->setObjectName(QStringLiteral("TarihKutusu"));
-    m_tarih->setLocale(türkçe);
-    m_tarih->calendarWidget()->setLocale(türkçe);
-    m_tarih->calendarWidget()->setFirstDayOfWeek(Qt::Monday);
     m_tarih->setDate(HareketTarihi);
     QLabel* etiket = EtiketOluştur(0, MetinNo::TarihSeç, m_tarih);
     etiket->setObjectName(QStringLiteral("Etiket"));  // the only one

@@ -38,6 +38,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {"ÜrünListesiGösterButonu", "ÜrünListesiFormu"},
                                      {toplu, "TopluFiyatFormu"},
                                      {"FiyatListesiAlMenüsü", "FiyatListesiAlFormu"},
+                                     {"DövizKurlarıMenüsü", "DövizKurlarıFormu"},
                                      {"FiyatGeçmişiMenüsü", "FiyatGeçmişiFormu"},
                                      {"HakkındaMenüsü", "HakkındaFormu"},
                                      {"HataBildirmeMenüsü", "HataBildirmeFormu"}}) {
@@ -56,7 +57,8 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     EXPECT_EQ(sayfalar.join(' '),
               "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu MalzemeListesiOlusturFormu MiktarGosterFormu "
               "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu TopluFiyatFormu "
-              "FiyatOnizlemeFormu FiyatListesiAlFormu FiyatGecmisiFormu HakkindaFormu HataBildirmeFormu");
+              "FiyatOnizlemeFormu FiyatListesiAlFormu DovizKurlariFormu FiyatGecmisiFormu HakkindaFormu "
+              "HataBildirmeFormu");
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ QString EşleşmeKaynağı::Hücre(std::size_t satır, int sütun) const {
         case EYeni:
             return s.Yeni > Para() ? FiyatMetni(s.Yeni) : QString();
         case EBölen:
-            return s.Bölen == Para::OnBindeBirden(Para::Ölçek) ? QString() : BölenMetni(s.Bölen);
+            return s.Bölen == Para::OnBindeBirden(Para::Ölçek) ? QString() : SayıYazımı(s.Bölen);
         case ESatır:
             return QString::number(s.No);
         default:

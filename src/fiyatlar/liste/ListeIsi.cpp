@@ -191,7 +191,7 @@ void FiyatListesiAlFormu::TedarikçiDeğişti() {
     if (const Tedarikçi* tercih = KayıtlıTedarikçi()) {
         const QSignalBlocker adımSessiz(m_yuvarlama.Adımlar);
         const QSignalBlocker yönSessiz(m_yuvarlama.Yönler);
-        m_iskonto->setText(tercih->İskonto == Para() ? QString() : BölenMetni(tercih->İskonto));
+        m_iskonto->setText(tercih->İskonto == Para() ? QString() : SayıYazımı(tercih->İskonto));
         m_yuvarlama.Seç({tercih->YuvarlamaAdımı.OnBindeBir(), static_cast<YuvarlamaYönü>(tercih->YuvarlamaYönü)});
         m_ondalık->setCurrentIndex(tercih->Ondalık == u"," ? 1 : tercih->Ondalık == u"." ? 2 : 0);
         if (!m_yol.isEmpty()) {
@@ -339,9 +339,9 @@ QString FiyatListesiAlFormu::Açıklama() const {
     const Para iskonto = ParaOku(m_iskonto->text()).value_or(Para());
     QString açıklama =
         Metin(MetinNo::ListeAçıklaması).arg(m_tedarikçiAdı.isEmpty() ? QFileInfo(m_yol).fileName() : m_tedarikçiAdı);
-    if (iskonto > Para()) açıklama += Metin(MetinNo::İskontoAçıklaması).arg(BölenMetni(iskonto));
+    if (iskonto > Para()) açıklama += Metin(MetinNo::İskontoAçıklaması).arg(SayıYazımı(iskonto));
     if (iskonto < Para())
-        açıklama += Metin(MetinNo::ArtışAçıklaması).arg(BölenMetni(Para::OnBindeBirden(-iskonto.OnBindeBir())));
+        açıklama += Metin(MetinNo::ArtışAçıklaması).arg(SayıYazımı(Para::OnBindeBirden(-iskonto.OnBindeBir())));
     return açıklama + m_yuvarlama.Açıklama();
 }
 

@@ -42,7 +42,7 @@ MalzemeSeçFormu::MalzemeSeçFormu(const QString& listeAdı, const std::vector<K
     m_süz->setObjectName(QStringLiteral("MalzemeSüzKutusu"));
     connect(m_süz, &QLineEdit::textChanged, this, [this](const QString& metin) { Süz(metin); });
     m_bölenKutusu->setObjectName(QStringLiteral("BölenKutusu"));
-    m_bölenKutusu->setText(BölenMetni(bölen));
+    m_bölenKutusu->setText(SayıYazımı(bölen));
     m_tamam = DüğmeOluştur(QStringLiteral("TamamButonu"), MetinNo::MalzemeSeçTamam, [this] { Tamamla(); });
     auto* iptal = DüğmeOluştur(QStringLiteral("İptalButonu"), MetinNo::Vazgeç, [this] { reject(); });
     auto* ad = new QLabel(Metin(MetinNo::ListedekiAdEtiketi).arg(listeAdı));
