@@ -8,6 +8,7 @@
 std::vector<Sahne> Sahneler();
 std::vector<Sahne> KatalogSahneleri();
 std::vector<Sahne> RaporSahneleri();
+std::vector<Sahne> ÜrünSahneleri();
 std::vector<Sahne> FiyatSahneleri();
 
 // Opens the group and clicks the node of this name on the main form's tree, as a user does.

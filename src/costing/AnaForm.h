@@ -82,6 +82,11 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void DeğişiklikleriKaydet();
     void MiktarlarıGöster();
 
+    void ÜrünMenüsünüKur();
+    bool KaydedilmemişiSor();
+    void MaliyetTablosu();
+    void ÜrüneGit(const QString& grup, const QString& ürün);
+
     void FiyatMenüsünüKur();
     void ToplucaFiyatDeğiştir();
     void FiyatlarDeğişti();

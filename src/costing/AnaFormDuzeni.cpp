@@ -143,6 +143,7 @@ void AnaForm::MenüleriKur() {
     // The entry has a caption of its own and shows no key.
     QAction* çıkış = program->addAction(Metin(MetinNo::ÇıkışMenüsü), m_komutlar.Çıkış, &QAction::trigger);
     çıkış->setObjectName(QStringLiteral("ÇıkışMenüsü"));
+    ÜrünMenüsünüKur();
     FiyatMenüsünüKur();
     QMenu* yardım = menüEkle(QStringLiteral("YardımMenüsü"), MetinNo::YardımMenüsü);
     girişEkle(yardım, QStringLiteral("İçindekilerMenüsü"), MetinNo::İçindekilerMenüsü, [this] { YardımıAç(this); });

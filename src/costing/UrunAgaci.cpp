@@ -110,6 +110,20 @@ bool ÜrünAğacı::SırayıSeç(std::int32_t sıra) {
     return false;
 }
 
+bool ÜrünAğacı::ÜrünüSeç(const QString& grup, const QString& ürün) {
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        if (!Aynı(topLevelItem(i)->text(0), grup)) continue;
+        for (int j = 0; j < topLevelItem(i)->childCount(); ++j) {
+            QTreeWidgetItem* düğüm = topLevelItem(i)->child(j);
+            if (!Aynı(düğüm->text(0), ürün)) continue;
+            SessizceSeç(düğüm);
+            scrollToItem(düğüm);
+            return true;
+        }
+    }
+    return false;
+}
+
 void ÜrünAğacı::Sustur() {
     m_sustu = true;
     blockSignals(true);

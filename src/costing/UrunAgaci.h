@@ -35,6 +35,9 @@ class ÜrünAğacı : public TekSeçimli<QTreeWidget> {
     // Makes the node at a position current and brings it into view, without an event. False: there is no such node.
     bool SırayıSeç(std::int32_t sıra);
 
+    // Makes this product current and brings it into view, without an event. False: it is not in the tree.
+    bool ÜrünüSeç(const QString& grup, const QString& ürün);
+
     // No more events, no more renaming: the data connection is gone.
     void Sustur();
 

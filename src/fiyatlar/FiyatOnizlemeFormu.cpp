@@ -5,11 +5,11 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include "CizelgeKaydi.h"
 #include "DegiskenModulu.h"
 #include "FiyatMetinleri.h"
 #include "FormParcalari.h"
 #include "IlerlemeKutusu.h"
-#include "KayitYeri.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "OdbcModulu.h"
@@ -179,18 +179,6 @@ GörünenPlan FiyatÖnizlemeFormu::Görünen() const {
 }
 
 void FiyatÖnizlemeFormu::ExceleKaydet() {
-    const QString yol = KaydedilecekYer(*this, windowTitle(),
-                                        {QStringLiteral("ExcelDosyasıFormu"), QStringLiteral("xlsx"),
-                                         MetinNo::ExcelFormuBaşlığı, MetinNo::ExcelSüzgeci});
-    if (yol.isEmpty()) return;
-    setCursor(Qt::WaitCursor);
-    const YazmaSonucu sonuç = PlanıÇizelgeyeYaz(yol, windowTitle(), Görünen());
-    unsetCursor();
-    if (sonuç.Tamam()) return;
-    const QString neden = sonuç.Hata == YazmaHatası::ÇokSatır    ? Metin(MetinNo::ExcelÇokSatır)
-                          : sonuç.Hata == YazmaHatası::UzunMetin ? Metin(MetinNo::ExcelUzunMetin)
-                                                                 : sonuç.Ayrıntı;
-    MesajKutusuOrtala();
-    MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam,
-                        Metin(MetinNo::ExcelYazılamadı).arg(neden) + QLatin1Char('\n') + yol);
+    ÇizelgeyeKaydet(*this, windowTitle(),
+                    [this](const QString& yol) { return PlanıÇizelgeyeYaz(yol, windowTitle(), Görünen()); });
 }

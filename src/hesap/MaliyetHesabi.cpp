@@ -69,8 +69,11 @@ Para GösterilenToplam(Para malzeme, const MaliyetOranları& oranlar, int basama
 
 std::optional<double> BirimMaliyet(const QString& toplamMaliyet, double toplamMiktar) {
     const std::optional<Para> toplam = ParaOku(toplamMaliyet);
-    if (!toplam || !(toplamMiktar > 0)) return std::nullopt;
-    return Sonlu(toplam->Double() / toplamMiktar);
+    return toplam ? BirimMaliyet(*toplam, toplamMiktar) : std::nullopt;
+}
+
+std::optional<double> BirimMaliyet(Para toplam, double toplamMiktar) {
+    return toplamMiktar > 0 ? Sonlu(toplam.Double() / toplamMiktar) : std::nullopt;
 }
 
 std::optional<double> FireliMiktar(const QString& toplamMiktar, const QString& fireOranı) {
@@ -90,7 +93,9 @@ std::optional<double> FireliBirimMaliyet(const QString& malzemeMaliyeti, const Q
 std::optional<double> YüzdeTutarı(const QString& malzemeMaliyeti, const QString& yüzde) {
     const std::optional<Para> malzeme = ParaOku(malzemeMaliyeti);
     const std::optional<double> oran = DoubleOku(yüzde);
-    if (!malzeme || !oran) return std::nullopt;
-    const double tutar = malzeme->Double() * *oran / 100.0;
-    return Sonlu(tutar);
+    return malzeme && oran ? YüzdeTutarı(*malzeme, *oran) : std::nullopt;
+}
+
+std::optional<double> YüzdeTutarı(Para malzemeMaliyeti, double yüzde) {
+    return Sonlu(malzemeMaliyeti.Double() * yüzde / 100.0);
 }

@@ -54,6 +54,7 @@ Para GösterilenToplam(Para malzeme, const MaliyetOranları& oranlar, int basama
 
 // The total cost for one unit of quantity. nullopt: the text is no number, the quantity is not above 0.
 std::optional<double> BirimMaliyet(const QString& toplamMaliyet, double toplamMiktar);
+std::optional<double> BirimMaliyet(Para toplam, double toplamMiktar);  // `toplam` as it is shown
 
 // The usable quantity that a waste rate (%) leaves. nullopt: a text is no number.
 std::optional<double> FireliMiktar(const QString& toplamMiktar, const QString& fireOranı);
@@ -64,3 +65,4 @@ std::optional<double> FireliBirimMaliyet(const QString& malzemeMaliyeti, const Q
 // A percentage's amount on the material cost as the amounts form and the cost sheet show it: computed in floating
 // point, not rounded to money. nullopt: a text is no number, or the result is not finite.
 std::optional<double> YüzdeTutarı(const QString& malzemeMaliyeti, const QString& yüzde);
+std::optional<double> YüzdeTutarı(Para malzemeMaliyeti, double yüzde);  // both as they are shown

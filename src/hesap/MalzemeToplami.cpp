@@ -41,35 +41,33 @@ std::optional<Para> MalzemeTutarı(double miktar, Para fiyat) {
     return Para::Doubledan(fiyat.Double() * miktar);
 }
 
+std::string_view MiktarBirimi(std::string_view miktar) {
+    const std::size_t boşluk = miktar.rfind(' ');
+    return boşluk == miktar.npos ? std::string_view() : miktar.substr(boşluk + 1);
+}
+
+bool MalzemeSayımı::Ekle(std::optional<double> miktar, std::optional<Para> fiyat, std::string_view birim) {
+    if (m_ilk) m_birim = birim;
+    m_ilk = false;
+    if (birim != m_birim) m_birimlerFarklı = true;
+    const std::optional<Para> tutar = miktar && fiyat ? MalzemeTutarı(*miktar, *fiyat) : std::nullopt;
+    const std::optional<Para> toplam = tutar ? Topla(m_tutar, *tutar) : std::nullopt;
+    m_tutar = toplam.value_or(m_tutar);
+    if (miktar && !m_birimlerFarklı) m_miktar += *miktar;
+    return toplam.has_value();
+}
+
 MalzemeSatırı MalzemeToplamı::Ekle(const QString& miktar, const QString& fiyat, int basamak) {
     MalzemeSatırı satır{miktar, fiyat, {}};
     const MiktarParçaları parçalar = MiktarıAyır(miktar);
-    BirimeBak(parçalar.Birim);
-
     const std::optional<Ondalık> adet = OndalıkOku(parçalar.Sayı, NoktaKuralı::Yerinde);
     const std::optional<double> sayı = adet ? EnYakınDouble(*adet) : std::nullopt;
     if (sayı) satır.Miktar = SayıBiçimle(*adet, basamak).append(parçalar.Kalan);
     const std::optional<Para> birimFiyat = ParaOku(fiyat, NoktaKuralı::Yerinde);
     if (birimFiyat) satır.Fiyat = SayıBiçimle(*birimFiyat, basamak);
-
-    std::optional<Para> toplam;
-    if (sayı && birimFiyat) {
-        if (const std::optional<Ondalık> tutar = OnBeşHaneyle(birimFiyat->Double() * *sayı)) {
-            satır.Tutar = SayıBiçimle(*tutar, basamak);
-            if (const std::optional<Para> para = Para::Ondalıktan(*tutar)) toplam = Topla(m_tutar, *para);
-        }
-    }
-    if (satır.Tutar.isEmpty()) satır.Tutar = SayıBiçimle(Para(), basamak);
-    satır.Sayıldı = toplam.has_value();
-    m_tutar = toplam.value_or(m_tutar);
-    if (sayı && !m_birimlerFarklı) m_miktar += *sayı;
+    const std::optional<Ondalık> tutar = sayı && birimFiyat ? OnBeşHaneyle(birimFiyat->Double() * *sayı) : std::nullopt;
+    satır.Tutar = tutar ? SayıBiçimle(*tutar, basamak) : SayıBiçimle(Para(), basamak);
+    const QByteArray birim = parçalar.Birim.toUtf8();
+    satır.Sayıldı = m_sayım.Ekle(sayı, birimFiyat, {birim.constData(), static_cast<std::size_t>(birim.size())});
     return satır;
-}
-
-void MalzemeToplamı::BirimeBak(QStringView birim) {
-    if (!m_birim) {
-        m_birim = birim.toString();
-    } else if (birim != *m_birim) {
-        m_birimlerFarklı = true;
-    }
 }

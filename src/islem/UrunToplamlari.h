@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QString>
+#include <array>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "KatalogOkuma.h"
@@ -13,7 +15,9 @@ struct KatalogÜrünü {
     QString Grup;
     QString Ad;
     MaliyetOranları Oranlar;
-    std::int64_t Malzeme = 0;  // ten-thousandths, of the rows that count
+    std::array<std::optional<double>, 4> Yüzdeler;  // the same as they are shown, in that order
+    bool İkiKez = false;                            // another row has the same group and name
+    std::int64_t Malzeme = 0;                       // ten-thousandths, of the rows that count
     bool Eksik = false;        // a row does not count: its quantity is unreadable or its amount beyond money
     bool KatalogDışı = false;  // uses a material that the catalogue does not have
 };

@@ -24,5 +24,6 @@ inline const char* MetniBul(std::span<const MetinSatırı> tablo, MetinNo numara
     return satır == tablo.end() || satır->Numara != numara ? nullptr : satır->Metin;
 }
 
-// The table of prices as a whole.
+// The tables of prices and of products as a whole.
 const char* FiyatMetniBul(MetinNo numara);
+const char* ÜrünMetniBul(MetinNo numara);

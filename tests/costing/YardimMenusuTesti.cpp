@@ -36,6 +36,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {tarih, "MalzemeHareketleriFormu"},
                                      {"MalzemeListesiGösterButonu", "MalzemeListesiFormu"},
                                      {"ÜrünListesiGösterButonu", "ÜrünListesiFormu"},
+                                     {"MaliyetTablosuMenüsü", "MaliyetTablosuFormu"},
                                      {toplu, "TopluFiyatFormu"},
                                      {"FiyatListesiAlMenüsü", "FiyatListesiAlFormu"},
                                      {"DövizKurlarıMenüsü", "DövizKurlarıFormu"},
@@ -56,7 +57,8 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     for (const QUrl& adres : m_açılanlar) sayfalar += adres.fileName().remove(".html");
     EXPECT_EQ(sayfalar.join(' '),
               "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu MalzemeListesiOlusturFormu MiktarGosterFormu "
-              "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu TopluFiyatFormu "
+              "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu MaliyetTablosuFormu "
+              "TopluFiyatFormu "
               "FiyatOnizlemeFormu FiyatListesiAlFormu DovizKurlariFormu FiyatGecmisiFormu HakkindaFormu "
               "HataBildirmeFormu");
 }

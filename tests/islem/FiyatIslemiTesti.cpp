@@ -9,6 +9,7 @@
 #include "DovizKayitlari.h"
 #include "GeriAlma.h"
 #include "MaliyetHesabi.h"
+#include "MaliyetTablosu.h"
 #include "MalzemeToplami.h"
 #include "SayiMetni.h"
 #include "VarnekTesti.h"
@@ -277,6 +278,40 @@ TEST_F(Fiyatİşlemi, EklenenMalzemeKullanılmıyorsaGeriAlınır) {
     EXPECT_EQ(m_veri->Tek("SELECT MalzemeFiyati FROM MalzemeTablosu WHERE MalzemeAdi= 'Yeni İki'"), "5.5");
     ASSERT_EQ(Uygula(DönüşPlanı(1, İşlemTürü::Yineleme), İşlemTürü::Yineleme, 1, 2), UygulamaSonu::Tamam);
     EXPECT_EQ(kalan(), "1");
+}
+
+// Row by row what the main form shows: material cost, the amounts form's figures, total, unit cost.
+TEST_F(Fiyatİşlemi, MaliyetTablosuAnaFormunRakamlarınıVerir) {
+    Doldur();
+    m_veri->Çalıştır("INSERT INTO UrunTablosu (UrunGrubu, UrunAdi) VALUES ('BOŞ', 'Malzemesiz')");
+    for (const int basamak : {1, 2, 5}) {
+        std::vector<MaliyetTablosuSatırı> satırlar;
+        ASSERT_TRUE(MaliyetTablosunuOku(Bağ(), basamak, satırlar).Tamam());
+        QStringList tablo;
+        QStringList form;
+        for (const MaliyetTablosuSatırı& s : satırlar) {
+            const auto sayı = [basamak](const std::optional<double>& d) {
+                return d ? *SayıBiçimle(*d, basamak) : QString();
+            };
+            QStringList metin{s.Grup, s.Ad, SayıBiçimle(s.MalzemeMaliyeti, basamak), SayıBiçimle(s.Toplam, basamak)};
+            for (const auto& tutar : s.Tutarlar) metin += sayı(tutar);
+            tablo += (metin << sayı(s.BirimMaliyet)).join('|');
+            MalzemeToplamı toplam;
+            for (const QStringList& k : Veri().Oku(Deyimler::KullanılanMalzemeler(s.Grup, s.Ad)))
+                toplam.Ekle(k[0], NoktayıVirgüleÇevir(k[2]), basamak);
+            const QStringList y = Veri().Oku(Deyimler::Yüzdeler(s.Grup, s.Ad)).first();
+            const auto kutu = [&](int i) { return YüzdeMetni(y[i], basamak); };
+            const MaliyetGirdisi girdi{SayıBiçimle(toplam.Tutar(), basamak), kutu(0), kutu(1), kutu(2), kutu(3)};
+            const QString maliyet = SayıBiçimle(MaliyetHesapla(girdi).Toplam, basamak);
+            metin = {s.Grup, s.Ad, girdi.MalzemeMaliyeti, maliyet};
+            for (int i = 0; i < 4; ++i) metin += sayı(YüzdeTutarı(girdi.MalzemeMaliyeti, kutu(i)));
+            const bool birimli = !toplam.BirimlerFarklı();
+            form += (metin << sayı(birimli ? BirimMaliyet(maliyet, toplam.ToplamMiktar()) : std::nullopt)).join('|');
+        }
+        EXPECT_EQ(Fark(tablo, form), QStringList());
+        EXPECT_EQ(satırlar.front().Dikkat, unsigned{MalzemesiYok});  // BOŞ stands first
+        EXPECT_EQ(satırlar.size(), 13U);                             // one of the 14 is listed twice
+    }
 }
 
 // Whatever another client did since the plan was made, nothing is written.

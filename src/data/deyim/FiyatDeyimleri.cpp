@@ -54,6 +54,12 @@ QString TümKullanılanlar() {
         "KullanimTarihi FROM UrunMalzemeTablosu");
 }
 
+QString SıralıKullanılanlar() {
+    return QStringLiteral(
+        "SELECT UrunGrubu, UrunAdi, KullanilanMalzemeAdi, KullanilanMalzemeMiktari, KullanilanMalzemeFiyati FROM "
+        "UrunMalzemeTablosu ORDER BY UrunGrubu ASC, UrunAdi ASC, KullanilanMalzemeAdi ASC");
+}
+
 QString KullanılanAdlar() {
     return QStringLiteral("SELECT DISTINCT KullanilanMalzemeAdi FROM UrunMalzemeTablosu");
 }

@@ -21,9 +21,10 @@ QString SaklanacakMetin(const QString& metin);
 QString SaklanacakSayı(Para tutar);
 
 // Everything, in the file's own order; the catalogue is MalzemeKataloğuRaporu.
-QString TümÜrünler();        // group, name, the four percentages
-QString TümKullanılanlar();  // group, product, material, quantity, price, date
-QString KullanılanAdlar();   // the names of used materials, each once
+QString TümÜrünler();           // group, name, the four percentages
+QString TümKullanılanlar();     // group, product, material, quantity, price, date
+QString SıralıKullanılanlar();  // the same columns but the date; by group, product, material
+QString KullanılanAdlar();      // the names of used materials, each once
 
 // Changes that name the price they replace.
 QString KataloğunFiyatı(const QString& malzeme, Para eski, Para yeni);

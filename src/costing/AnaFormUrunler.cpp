@@ -1,0 +1,51 @@
+// The main form's menu of products as a whole. All of it works on what is stored.
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "AnaForm.h"
+#include "MaliyetTablosuFormu.h"
+#include "MesajKutusu.h"
+#include "MetinTablosu.h"
+#include "MiktarAlani.h"
+#include "UrunAgaci.h"
+
+void AnaForm::ÜrünMenüsünüKur() {
+    QMenu* menü = menuBar()->addMenu(Metin(MetinNo::ÜrünlerMenüsü));
+    menü->setObjectName(QStringLiteral("ÜrünlerMenüsü"));
+    const auto girişEkle = [this, menü](const QString& ad, MetinNo metin, std::function<void()> iş) {
+        menü->addAction(KomutOluştur(ad, metin, [this, iş = std::move(iş)] {
+            if (KaydedilmemişiSor()) iş();
+        }));
+    };
+    girişEkle(QStringLiteral("MaliyetTablosuMenüsü"), MetinNo::MaliyetTablosuMenüsü, [this] { MaliyetTablosu(); });
+}
+
+// What is not saved does not count there. False: it was to be saved, and could not be.
+bool AnaForm::KaydedilmemişiSor() {
+    if (!m_komutlar.DeğişiklikleriKaydet->isEnabled()) return true;
+    if (!Sor(Metin(MetinNo::YüzdeleriKaydetSorusu))) return true;
+    DeğişiklikleriKaydet();
+    return !m_komutlar.DeğişiklikleriKaydet->isEnabled();
+}
+
+void AnaForm::MaliyetTablosu() {
+    MaliyetTablosuFormu form(this);
+    if (!form.Yükle()) return;
+    if (form.Boş()) {
+        MesajKutusuOrtala();
+        MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(MetinNo::ÜrünYok));
+        return;
+    }
+    if (form.exec() != QDialog::Accepted || !form.Gidilecek()) return;
+    ÜrüneGit(form.Gidilecek()->Grup, form.Gidilecek()->Ad);
+}
+
+// A product that is gone meanwhile leaves the selection as it is.
+void AnaForm::ÜrüneGit(const QString& grup, const QString& ürün) {
+    if (!m_ağaç->ÜrünüSeç(grup, ürün)) return;
+    m_miktar->SeçimiKaldır();
+    ÜrünListesiTıkla();
+    m_ağaç->setFocus();
+}

@@ -1,0 +1,60 @@
+#include "MaliyetCiktilari.h"
+
+#include "DegiskenModulu.h"
+#include "MetinTablosu.h"
+#include "Ondalik.h"
+#include "SayfaDuzeni.h"
+
+namespace {
+
+// The value as it is shown.
+void Ekle(QList<ÇizelgeDeğeri>& değerler, const std::optional<double>& sayı) {
+    const auto ondalık = sayı ? OnBeşHaneyle(*sayı) : std::nullopt;
+    ondalık ? değerler.emplaceBack(Yuvarla(*ondalık, OndalıkBasamak, Yarım::SıfırdanUzağa)) : değerler.emplaceBack();
+}
+
+}  // namespace
+
+void MaliyetTablosunuYaz(SayfaYüzeyi& yüzey, const QString& başlık, const MaliyetSatırları& satırlar,
+                         const TabloModeli& model) {
+    SayfaDüzeni düzen(yüzey, başlık,
+                      {{MetinNo::ÜrünSütunu, 13.5, HücreTürü::Metin},
+                       {MetinNo::MalzemeMaliyetiSütunu, 2.2, HücreTürü::Sayı},
+                       {MetinNo::ToplamSütunu, 1.55, HücreTürü::Sayı},
+                       {MetinNo::BirimMaliyetSütunu, 1.2, HücreTürü::Sayı}});
+    if (!düzen.Başla()) return;
+    for (int sıra = 0; sıra < model.rowCount(); ++sıra) {
+        const std::size_t yer = model.KaynakSatırı(sıra);
+        QString ad = satırlar.Hücre(yer, CGrup) + QStringLiteral(" / ") + satırlar.Hücre(yer, CAd);
+        const QString dikkat = satırlar.Hücre(yer, CDikkat);
+        if (!dikkat.isEmpty()) ad += QStringLiteral(" (%1)").arg(dikkat);
+        düzen.SatırYaz({ad, satırlar.Hücre(yer, CMalzeme), satırlar.Hücre(yer, CToplam), satırlar.Hücre(yer, CBirim)});
+    }
+    düzen.Bitir();
+}
+
+YazmaSonucu MaliyetTablosunuÇizelgeyeYaz(const QString& yol, const QString& başlık, const MaliyetSatırları& satırlar,
+                                         const TabloModeli& model) {
+    QList<ÇizelgeSütunu> sütunlar;
+    for (const TabloSütunu& sütun : model.Sütunlar()) {
+        const bool tutar = sütun.Sayı && sütunlar.size() != CSayı;
+        const ÇizelgeSütunTürü tür = tutar        ? ÇizelgeSütunTürü::Para
+                                     : sütun.Sayı ? ÇizelgeSütunTürü::Sayı
+                                                  : ÇizelgeSütunTürü::Metin;
+        sütunlar.append({Metin(sütun.Başlık), sütun.Harf * 1.2, tür, OndalıkBasamak});
+    }
+    ÇizelgeYazıcı yazıcı(yol, başlık, sütunlar);
+    YazmaSonucu sonuç = yazıcı.Aç();
+    for (int sıra = 0; sıra < model.rowCount() && sonuç.Tamam(); ++sıra) {
+        const std::size_t yer = model.KaynakSatırı(sıra);
+        const MaliyetTablosuSatırı& satır = satırlar.Satırlar[yer];
+        QList<ÇizelgeDeğeri> değerler{satır.Grup, satır.Ad, Para::OnBindeBirden(satır.MalzemeSayısı * Para::Ölçek),
+                                      satır.MalzemeMaliyeti};
+        for (const std::optional<double>& tutar : satır.Tutarlar) Ekle(değerler, tutar);
+        değerler.append(satır.Toplam);
+        Ekle(değerler, satır.BirimMaliyet);
+        değerler.append(DikkatMetni(satır.Dikkat));
+        sonuç = yazıcı.SatırEkle(değerler);
+    }
+    return sonuç.Tamam() ? yazıcı.Bitir() : sonuç;
+}

@@ -1,0 +1,29 @@
+// Products as a whole.
+#include <QLineEdit>
+#include <QTableView>
+
+#include "Sahneler.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize KÜÇÜK(800, 560);
+
+void Tablo(Tur& tur, QWidget& anaForm) {
+    MenüdenAç(anaForm, u"MaliyetTablosuMenüsü"_s, [&](QWidget& form) {
+        tur.Çek(u"maliyet-tablosu"_s, form);
+        Tur::Yaz(Tur::Bul<QLineEdit>(form, u"SüzKutusu"_s), u"masa"_s);
+        form.resize(KÜÇÜK);
+        Tur::Durul();
+        tur.Çek(u"maliyet-tablosu-kucuk"_s, form);
+        Tur::Yaz(Tur::Bul<QLineEdit>(form, u"SüzKutusu"_s), {});
+        Esc(form);
+    });
+}
+
+}  // namespace
+
+std::vector<Sahne> ÜrünSahneleri() {
+    return {{u"maliyet-tablosu"_s, Tablo}};
+}
