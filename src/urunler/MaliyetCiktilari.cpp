@@ -48,12 +48,11 @@ YazmaSonucu MaliyetTablosunuÇizelgeyeYaz(const QString& yol, const QString& ba�
     for (int sıra = 0; sıra < model.rowCount() && sonuç.Tamam(); ++sıra) {
         const std::size_t yer = model.KaynakSatırı(sıra);
         const MaliyetTablosuSatırı& satır = satırlar.Satırlar[yer];
-        QList<ÇizelgeDeğeri> değerler{satır.Grup, satır.Ad, Para::OnBindeBirden(satır.MalzemeSayısı * Para::Ölçek),
-                                      satır.MalzemeMaliyeti};
+        QList<ÇizelgeDeğeri> değerler{satır.Grup, satır.Ad, DikkatMetni(satır.Dikkat),
+                                      Para::OnBindeBirden(satır.MalzemeSayısı * Para::Ölçek), satır.MalzemeMaliyeti};
         for (const std::optional<double>& tutar : satır.Tutarlar) Ekle(değerler, tutar);
         değerler.append(satır.Toplam);
         Ekle(değerler, satır.BirimMaliyet);
-        değerler.append(DikkatMetni(satır.Dikkat));
         sonuç = yazıcı.SatırEkle(değerler);
     }
     return sonuç.Tamam() ? yazıcı.Bitir() : sonuç;

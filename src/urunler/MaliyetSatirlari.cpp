@@ -37,6 +37,7 @@ std::optional<Para> Gösterilen(const std::optional<double>& sayı) {
 QList<TabloSütunu> MaliyetSütunlarınıVer() {
     return {{MetinNo::GrubuSütunu, 12},
             {MetinNo::ÜrünSütunu, 20},
+            {MetinNo::DikkatSütunu, 14},
             {MetinNo::MalzemeSayısıSütunu, 5, true},
             {MetinNo::MalzemeMaliyetiSütunu, 11, true},
             {MetinNo::İşçilikSütunu, 8, true},
@@ -44,8 +45,7 @@ QList<TabloSütunu> MaliyetSütunlarınıVer() {
             {MetinNo::DiğerSütunu, 8, true},
             {MetinNo::VadeSütunu, 8, true},
             {MetinNo::ToplamSütunu, 11, true},
-            {MetinNo::BirimMaliyetSütunu, 9, true},
-            {MetinNo::DikkatSütunu, 18}};
+            {MetinNo::BirimMaliyetSütunu, 9, true}};
 }
 
 QList<TabloSütunu> GrupToplamıSütunlarınıVer() {

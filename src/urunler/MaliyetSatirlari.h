@@ -5,7 +5,7 @@
 
 // The cost table's two lists: products, and the sums of those that the filter leaves, by group.
 
-enum MaliyetSütunları { CGrup, CAd, CSayı, CMalzeme, Cİşçilik, CKâr, CDiğer, CVade, CToplam, CBirim, CDikkat };
+enum MaliyetSütunları { CGrup, CAd, CDikkat, CSayı, CMalzeme, Cİşçilik, CKâr, CDiğer, CVade, CToplam, CBirim };
 
 QList<TabloSütunu> MaliyetSütunlarınıVer();
 QList<TabloSütunu> GrupToplamıSütunlarınıVer();
