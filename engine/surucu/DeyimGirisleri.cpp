@@ -51,6 +51,12 @@ SQLRETURN SQL_API SQLFetch(SQLHSTMT deyim) {
     return Koru<DeyimNesnesi>(deyim, [](DeyimNesnesi& nesne) { return nesne.Getir(); });
 }
 
+SQLRETURN SQL_API SQLBindCol(SQLHSTMT deyim, SQLUSMALLINT sütun, SQLSMALLINT tür, SQLPOINTER tampon, SQLLEN boy,
+                             SQLLEN* uzunluk) {
+    return Koru<DeyimNesnesi>(deyim,
+                              [&](DeyimNesnesi& nesne) { return nesne.Bağla(sütun, tür, tampon, boy, uzunluk); });
+}
+
 SQLRETURN SQL_API SQLGetData(SQLHSTMT deyim, SQLUSMALLINT sütun, SQLSMALLINT tür, SQLPOINTER tampon, SQLLEN boy,
                              SQLLEN* uzunluk) {
     return Koru<DeyimNesnesi>(deyim,

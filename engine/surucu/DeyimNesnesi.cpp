@@ -3,9 +3,27 @@
 #include "SqlTurleri.h"
 #include "Utf8.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace Motor {
+
+namespace {
+
+Hata TürOkunmaz() {
+    return {Durum::Desteklenmiyor, "Değerler yalnızca metin (SQL_C_CHAR) olarak okunabilir."};
+}
+
+Hata BoyGeçersiz() {
+    return {Durum::TamponUzunluğu, "Tamponun boyu geçersiz."};
+}
+
+void BoşVer(SQLLEN* uzunluk) {
+    if (!uzunluk) throw Hata(Durum::BoşGösterge, "Boş (NULL) değer için uzunluk göstergesi verilmemiş.");
+    *uzunluk = SQL_NULL_DATA;
+}
+
+}  // namespace
 
 SQLRETURN DeyimNesnesi::Hazırla(std::string_view metin) {
     const Nöbet nöbet(m_veri, m_iptal);
@@ -51,6 +69,7 @@ void DeyimNesnesi::YenidenBaşla() {
 // look for errors. A query without rows gives the file's lock back at once.
 SQLRETURN DeyimNesnesi::Başlat(SqliteKomutu komut) {
     m_komut = std::move(komut);
+    m_bağlılarUygun = false;
     if (m_komut->Tür != SqliteKomutu::Sınıf::Sorgu) {
         m_etkilenen = m_veri.Uygula(*m_komut);
         return SQL_SUCCESS;
@@ -72,6 +91,7 @@ void DeyimNesnesi::İmleciKapat() noexcept {
 SQLRETURN DeyimNesnesi::Kapat(SQLUSMALLINT seçenek) {
     const Nöbet nöbet(m_veri, m_iptal);
     if (seçenek == SQL_CLOSE) İmleciKapat();
+    if (seçenek == SQL_UNBIND) m_bağlılar.clear();
     return SQL_SUCCESS;
 }
 
@@ -109,23 +129,61 @@ SQLRETURN DeyimNesnesi::Getir() {
     else
         m_bitti = !m_sorgu->Adım();
     m_satırda = !m_bitti;
-    return m_satırda ? SQL_SUCCESS : SQL_NO_DATA;
+    return m_satırda ? BağlılarıDoldur() : SQL_NO_DATA;
+}
+
+SQLRETURN DeyimNesnesi::Bağla(SQLUSMALLINT sütun, SQLSMALLINT hedefTürü, SQLPOINTER tampon, SQLLEN boy,
+                              SQLLEN* uzunluk) {
+    // Before a statement is executed its columns' types are not known: the first row is where those are looked at.
+    if (sütun == 0 || (m_sorgu && tampon)) static_cast<void>(Sütun(sütun));
+    if (hedefTürü != SQL_C_CHAR && hedefTürü != SQL_C_DEFAULT) throw TürOkunmaz();
+    if (boy < 0) throw BoyGeçersiz();
+    const auto yer = std::find_if(m_bağlılar.begin(), m_bağlılar.end(),
+                                  [sütun](const BağlıSütun& bağlı) { return bağlı.Sıra == sütun; });
+    if (yer != m_bağlılar.end()) m_bağlılar.erase(yer);
+    m_bağlılarUygun = false;
+    if (tampon) m_bağlılar.push_back({sütun, hedefTürü, tampon, boy, uzunluk});
+    return SQL_SUCCESS;
+}
+
+SQLRETURN DeyimNesnesi::BağlılarıDoldur() {
+    if (!m_bağlılarUygun) {
+        for (const BağlıSütun& bağlı : m_bağlılar) MetinOlarakOkunur(bağlı.Sıra, bağlı.Tür);
+        m_bağlılarUygun = true;
+    }
+    SQLRETURN sonuç = SQL_SUCCESS;
+    for (const BağlıSütun& bağlı : m_bağlılar) {
+        char yer[DeğerMetniBoyu];
+        const std::optional<std::string_view> değer = m_sorgu->Metin(bağlı.Sıra - 1u, yer);
+        if (!değer) {
+            BoşVer(bağlı.Uzunluk);
+        } else if (static_cast<SQLLEN>(değer->size()) < bağlı.Boy) {
+            std::memcpy(bağlı.Tampon, değer->data(), değer->size());
+            static_cast<char*>(bağlı.Tampon)[değer->size()] = '\0';
+            if (bağlı.Uzunluk) *bağlı.Uzunluk = static_cast<SQLLEN>(değer->size());
+        } else if (ParçaVer(*değer, bağlı.Tampon, bağlı.Boy, bağlı.Uzunluk) != SQL_SUCCESS) {
+            sonuç = SQL_SUCCESS_WITH_INFO;
+        }
+    }
+    return sonuç;
+}
+
+void DeyimNesnesi::MetinOlarakOkunur(SQLUSMALLINT sütun, SQLSMALLINT hedefTürü) const {
+    const SütunTürü tür = Sütun(sütun).Tür;
+    if (hedefTürü == SQL_C_CHAR) return;
+    if (hedefTürü != SQL_C_DEFAULT || (tür != SütunTürü::Metin && tür != SütunTürü::Para)) throw TürOkunmaz();
 }
 
 SQLRETURN DeyimNesnesi::VeriAl(SQLUSMALLINT sütun, SQLSMALLINT hedefTürü, SQLPOINTER tampon, SQLLEN boy,
                                SQLLEN* uzunluk) {
     if (!m_satırda) throw Hata(Durum::İmleçDurumu, "Okunacak bir satır yok.");
-    const SütunTürü tür = Sütun(sütun).Tür;
-    const bool metinOlarak =
-        hedefTürü == SQL_C_CHAR || (hedefTürü == SQL_C_DEFAULT && (tür == SütunTürü::Metin || tür == SütunTürü::Para));
-    if (!metinOlarak) throw Hata(Durum::Desteklenmiyor, "Değerler yalnızca metin (SQL_C_CHAR) olarak okunabilir.");
-    if (boy < 0) throw Hata(Durum::TamponUzunluğu, "Tamponun boyu geçersiz.");
+    MetinOlarakOkunur(sütun, hedefTürü);
+    if (boy < 0) throw BoyGeçersiz();
 
     char yer[DeğerMetniBoyu];
     const std::optional<std::string_view> değer = m_sorgu->Metin(sütun - 1u, yer);
     if (!değer) {
-        if (!uzunluk) throw Hata(Durum::BoşGösterge, "Boş (NULL) değer için uzunluk göstergesi verilmemiş.");
-        *uzunluk = SQL_NULL_DATA;
+        BoşVer(uzunluk);
         return SQL_SUCCESS;
     }
     std::string_view metin = *değer;
@@ -142,7 +200,7 @@ SQLRETURN DeyimNesnesi::VeriAl(SQLUSMALLINT sütun, SQLSMALLINT hedefTürü, SQL
 SQLRETURN DeyimNesnesi::ParçaVer(std::string_view metin, SQLPOINTER tampon, SQLLEN boy, SQLLEN* uzunluk) {
     if (uzunluk) *uzunluk = static_cast<SQLLEN>(metin.size());
     const std::size_t yer = tampon && boy > 0 ? static_cast<std::size_t>(boy) - 1 : 0;
-    std::string_view parça = BütünKarakterlerleKes(metin, yer);
+    std::string_view parça = metin.size() <= yer ? metin : BütünKarakterlerleKes(metin, yer);
     // A buffer too small for even one character gets its bytes, so that a reading loop comes to an end.
     if (parça.empty()) parça = metin.substr(0, yer);
     if (tampon && boy > 0) {

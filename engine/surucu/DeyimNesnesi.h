@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <optional>
+#include <vector>
 
 namespace Motor {
 
@@ -27,7 +28,12 @@ class DeyimNesnesi : public BağlıNesne {
 
     void Bırak() noexcept;  // ends the object
 
+    // The next row, into the bound columns' buffers too.
     SQLRETURN Getir();
+
+    // From the next row on the column (from 1) lies in `tampon` and `uzunluk`, as VeriAl would give it; no `tampon`:
+    // it is bound no more. Bindings last until they are taken off, whatever is executed.
+    SQLRETURN Bağla(SQLUSMALLINT sütun, SQLSMALLINT hedefTürü, SQLPOINTER tampon, SQLLEN boy, SQLLEN* uzunluk);
 
     // A column of the current row (from 1) as text; repeated calls for one column hand out the rest of a text that did
     // not fit, always whole characters. `uzunluk` receives the bytes that were left before the call.
@@ -47,7 +53,17 @@ class DeyimNesnesi : public BağlıNesne {
     void YenidenBaşla();
     SQLRETURN Başlat(SqliteKomutu komut);
     void İmleciKapat() noexcept;
+    SQLRETURN BağlılarıDoldur();
+    void MetinOlarakOkunur(SQLUSMALLINT sütun, SQLSMALLINT hedefTürü) const;
     SQLRETURN ParçaVer(std::string_view metin, SQLPOINTER tampon, SQLLEN boy, SQLLEN* uzunluk);
+
+    struct BağlıSütun {
+        SQLUSMALLINT Sıra;
+        SQLSMALLINT Tür;
+        SQLPOINTER Tampon;
+        SQLLEN Boy;
+        SQLLEN* Uzunluk;
+    };
 
     BağlantıNesnesi& m_bağlantı;
     Veritabanı& m_veri;
@@ -55,6 +71,8 @@ class DeyimNesnesi : public BağlıNesne {
     std::atomic<std::thread::id> m_iplik;  // that executed it
     std::optional<SqliteKomutu> m_komut;   // prepared or running
     std::optional<Sorgu> m_sorgu;          // open cursor
+    std::vector<BağlıSütun> m_bağlılar;
+    bool m_bağlılarUygun = false;  // all of them to the running query
     std::int64_t m_etkilenen = -1;
     bool m_ilkSatırBekliyor = false;  // fetched while executing, so that errors show there
     bool m_satırda = false;

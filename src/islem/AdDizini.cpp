@@ -1,50 +1,62 @@
 #include "AdDizini.h"
 
+#include <cstring>
+
 #include "TurkceSira.h"
 
 namespace {
 
 constexpr std::size_t İLK_BOY = 64;
 
-std::uint64_t ÖzetBul(std::string_view grup, std::string_view ad) {
-    return Türkçe::Özet(ad, Türkçe::Özet(grup));
+std::uint32_t ÖzetBul(std::string_view grup, std::string_view ad) {
+    return static_cast<std::uint32_t>(Türkçe::Özet(ad, grup.empty() ? 0 : Türkçe::Özet(grup)));
 }
 
 }  // namespace
 
-bool AdDizini::Aynı(const Yer& yer, std::string_view grup, std::string_view ad) const {
-    const std::string_view adlar(m_adlar);
+AdDizini::Kayıt AdDizini::KaydıAl(std::uint32_t yer) const {
+    Kayıt kayıt;
+    std::memcpy(&kayıt, m_kayıtlar.data() + yer, sizeof kayıt);
+    return kayıt;
+}
+
+bool AdDizini::Aynı(std::uint32_t kayıt, const Aranan& aranan) const {
     const auto eşit = [](std::string_view a, std::string_view b) { return a == b || Türkçe::Karşılaştır(a, b) == 0; };
-    return eşit(adlar.substr(yer.Baş + yer.GrupBoyu, yer.AdBoyu), ad) &&
-           eşit(adlar.substr(yer.Baş, yer.GrupBoyu), grup);
+    const Kayıt bulunan = KaydıAl(kayıt);
+    const std::string_view adlar = std::string_view(m_kayıtlar).substr(kayıt + sizeof bulunan);
+    return eşit(adlar.substr(bulunan.GrupBoyu, bulunan.AdBoyu), aranan.Ad) &&
+           eşit(adlar.substr(0, bulunan.GrupBoyu), aranan.Grup);
 }
 
 // The place of the names, or the free one where they belong.
-std::size_t AdDizini::Bak(std::uint64_t özet, std::string_view grup, std::string_view ad) const {
+std::size_t AdDizini::Bak(const Aranan& aranan) const {
     const std::size_t maske = m_yerler.size() - 1;
-    std::size_t yer = özet & maske;
-    while (m_yerler[yer].Dolu && (m_yerler[yer].Özet != özet || !Aynı(m_yerler[yer], grup, ad)))
+    std::size_t yer = aranan.Özet & maske;
+    while (m_yerler[yer].Kayıt != YOK && (m_yerler[yer].Özet != aranan.Özet || !Aynı(m_yerler[yer].Kayıt, aranan)))
         yer = (yer + 1) & maske;
     return yer;
 }
 
-std::uint32_t AdDizini::Bul(std::string_view grup, std::string_view ad) const {
+AdDizini::Aranan AdDizini::Ara(std::string_view grup, std::string_view ad) const {
+    const Aranan aranan{ÖzetBul(grup, ad), grup, ad};
+    if (!m_yerler.empty()) __builtin_prefetch(&m_yerler[aranan.Özet & (m_yerler.size() - 1)]);
+    return aranan;
+}
+
+std::uint32_t AdDizini::Bul(const Aranan& aranan) const {
     if (m_yerler.empty()) return YOK;
-    return m_yerler[Bak(ÖzetBul(grup, ad), grup, ad)].Sayı;
+    const Yer& yer = m_yerler[Bak(aranan)];
+    return yer.Kayıt == YOK ? YOK : KaydıAl(yer.Kayıt).Sayı;
 }
 
 std::uint32_t AdDizini::BulYaDaEkle(std::string_view grup, std::string_view ad, std::uint32_t yeni) {
     if (2 * (m_dolu + 1) > m_yerler.size()) Büyü();
-    const std::uint64_t özet = ÖzetBul(grup, ad);
-    Yer& yer = m_yerler[Bak(özet, grup, ad)];
-    if (yer.Dolu) return yer.Sayı;
-    yer = {özet,
-           yeni,
-           static_cast<std::uint32_t>(m_adlar.size()),
-           static_cast<std::uint32_t>(grup.size()),
-           static_cast<std::uint32_t>(ad.size()),
-           true};
-    m_adlar.append(grup).append(ad);
+    const Aranan aranan = Ara(grup, ad);
+    Yer& yer = m_yerler[Bak(aranan)];
+    if (yer.Kayıt != YOK) return KaydıAl(yer.Kayıt).Sayı;
+    yer = {aranan.Özet, static_cast<std::uint32_t>(m_kayıtlar.size())};
+    const Kayıt kayıt{yeni, static_cast<std::uint32_t>(grup.size()), static_cast<std::uint32_t>(ad.size())};
+    m_kayıtlar.append(reinterpret_cast<const char*>(&kayıt), sizeof kayıt).append(grup).append(ad);
     ++m_dolu;
     return yeni;
 }
@@ -54,9 +66,9 @@ void AdDizini::Büyü() {
     eskiler.swap(m_yerler);
     const std::size_t maske = m_yerler.size() - 1;
     for (const Yer& eski : eskiler) {
-        if (!eski.Dolu) continue;
+        if (eski.Kayıt == YOK) continue;
         std::size_t yer = eski.Özet & maske;
-        while (m_yerler[yer].Dolu) yer = (yer + 1) & maske;
+        while (m_yerler[yer].Kayıt != YOK) yer = (yer + 1) & maske;
         m_yerler[yer] = eski;
     }
 }

@@ -58,17 +58,13 @@ PlanNedeni NedenBul(FiyatDurumu durum) {
 class FiyatPlanı::Okuyucu {
   public:
     Okuyucu(FiyatPlanı& plan, ÜrünKataloğu& ürünler, const MalzemeKataloğu& malzemeler)
-        : m_plan(plan),
-          m_ürünler(ürünler),
-          m_malzemeler(malzemeler),
-          m_planda(malzemeler.Malzemeler.size(), AdDizini::YOK) {
+        : m_plan(plan), m_ürünler(ürünler), m_malzemeler(malzemeler), m_sıklar(malzemeler.Malzemeler.size()) {
         for (std::uint32_t i = 0; i < plan.m_malzemeler.size(); ++i) {
             const QByteArray ad = plan.m_malzemeler[i].Malzeme.toUtf8();
             const std::uint32_t yer = malzemeler.Dizin.Bul(Baytları(ad));
             PlanMalzemesi& m = plan.m_malzemeler[i];
-            if (yer != AdDizini::YOK) m_planda[yer] = i;
             if (yer != AdDizini::YOK && m.Malzemenin == Varlık::Eklendi) Bırak(m, PlanNedeni::KatalogdaVar);
-            m_sıklar.push_back({m.Eski, m.Yeni, m.HerSatır && m.Tekler.empty(), 0});
+            if (yer != AdDizini::YOK) m_sıklar[yer] = {m.Eski, m.Yeni, 0, i, m.HerSatır && m.Tekler.empty()};
             for (std::size_t t = 0; t < m.Tekler.size(); ++t)
                 m_tekler.emplace(SatırÖzeti(m.Tekler[t].Satır), Tek{i, t});
         }
@@ -76,30 +72,43 @@ class FiyatPlanı::Okuyucu {
 
     // After the last row.
     void Bitir() {
-        for (std::size_t i = 0; i < m_sıklar.size(); ++i) {
-            PlanMalzemesi& malzeme = m_plan.m_malzemeler[i];
-            const std::int64_t satır = m_sıklar[i].Satır;
-            if (satır > 0) malzeme.Dağılım.push_back({malzeme.Eski, satır, true});
-            malzeme.DeğişenSatır += satır;
+        for (const Sık& sık : m_sıklar) {
+            if (sık.Satır == 0) continue;
+            PlanMalzemesi& malzeme = m_plan.m_malzemeler[sık.Planda];
+            malzeme.Dağılım.push_back({malzeme.Eski, sık.Satır, true});
+            malzeme.DeğişenSatır += sık.Satır;
+        }
+        for (PlanMalzemesi& malzeme : m_plan.m_malzemeler) {
             for (const FiyatlıSatırlar& satırlar : malzeme.Dağılım) malzeme.Satır += satırlar.Sayı;
             if (malzeme.Malzemenin == Varlık::Silindi && malzeme.Satır > 0) Bırak(malzeme, PlanNedeni::Kullanılıyor);
         }
     }
 
     void Al(OdbcSatırı& satır) {
+        const AdDizini::Aranan aranan = m_malzemeler.Dizin.Ara(Baytlar(satır, 3));
         const std::uint32_t ürün = ÜrünüBul(satır);
-        const std::uint32_t malzeme = m_malzemeler.Dizin.Bul(Baytlar(satır, 3));
         const std::optional<double> miktar = MiktarSayısı(Baytlar(satır, 4));
         const std::optional<Para> fiyat = SaklananPara(Baytlar(satır, 5));
         const std::optional<Para> tutar = Tutar(miktar, fiyat);
+        const std::uint32_t malzeme = m_malzemeler.Dizin.Bul(aranan);
         if (ürün != AdDizini::YOK) ÜrüneEkle(m_ürünler.Ürünler[ürün], tutar, malzeme != AdDizini::YOK);
-        const std::uint32_t plandaki = malzeme == AdDizini::YOK ? AdDizini::YOK : m_planda[malzeme];
-        if (plandaki != AdDizini::YOK && fiyat) PlanaEkle(satır, {ürün, plandaki, 0}, miktar, *fiyat, tutar);
+        if (malzeme == AdDizini::YOK || !fiyat) return;
+        Sık& sık = m_sıklar[malzeme];
+        if (sık.Planda != AdDizini::YOK) PlanaEkle(satır, sık, {ürün, sık.Planda, 0}, miktar, *fiyat, tutar);
     }
 
-    std::vector<Satır> Satırlar;
+    std::deque<Satır> Satırlar;  // grows without being moved
 
   private:
+    // What most rows need of their material, close together.
+    struct Sık {
+        Para Eski;
+        Para Yeni;
+        std::int64_t Satır = 0;
+        std::uint32_t Planda = AdDizini::YOK;
+        bool Yalın = false;  // every row with the catalogue's price gets the new one
+    };
+
     static void Bırak(PlanMalzemesi& malzeme, PlanNedeni neden) {
         if (!Uygulanır(malzeme.Neden)) return;
         malzeme.Neden = neden;
@@ -138,9 +147,8 @@ class FiyatPlanı::Okuyucu {
             ürün.Eksik = true;
     }
 
-    void PlanaEkle(OdbcSatırı& okunan, Satır satır, std::optional<double> miktar, Para fiyat,
+    void PlanaEkle(OdbcSatırı& okunan, Sık& sık, Satır satır, std::optional<double> miktar, Para fiyat,
                    std::optional<Para> tutar) {
-        Sık& sık = m_sıklar[satır.Malzeme];
         if (fiyat == sık.Eski && sık.Yalın) {
             ++sık.Satır;
             satır.Fark = Ondalığı(Tutar(miktar, sık.Yeni)) - Ondalığı(tutar);
@@ -196,13 +204,6 @@ class FiyatPlanı::Okuyucu {
         return nullptr;
     }
 
-    // What most rows need of their material, close together.
-    struct Sık {
-        Para Eski;
-        Para Yeni;
-        bool Yalın;  // every row with the catalogue's price gets the new one
-        std::int64_t Satır;
-    };
     struct Tek {
         std::uint32_t Malzeme;
         std::size_t Sıra;  // in its Tekler
@@ -211,8 +212,7 @@ class FiyatPlanı::Okuyucu {
     FiyatPlanı& m_plan;
     ÜrünKataloğu& m_ürünler;
     const MalzemeKataloğu& m_malzemeler;
-    std::vector<std::uint32_t> m_planda;                   // place in the plan of each material of the catalogue
-    std::vector<Sık> m_sıklar;                             // beside the plan's materials
+    std::vector<Sık> m_sıklar;                             // beside the catalogue's materials
     std::unordered_multimap<std::uint64_t, Tek> m_tekler;  // not found yet
     std::string m_sonGrup;
     std::string m_sonAd;
@@ -251,7 +251,7 @@ class FiyatPlanı::Okuyucu {
 }
 
 // By material, so that a tick reaches its rows alone.
-void FiyatPlanı::SatırlarıDiz(std::vector<Satır>& satırlar) {
+void FiyatPlanı::SatırlarıDiz(std::deque<Satır>& satırlar) {
     m_ilkSatır.assign(m_malzemeler.size() + 1, 0);
     for (const Satır& satır : satırlar) ++m_ilkSatır[satır.Malzeme + 1];
     for (std::size_t i = 1; i < m_ilkSatır.size(); ++i) m_ilkSatır[i] += m_ilkSatır[i - 1];

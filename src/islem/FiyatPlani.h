@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <vector>
 
@@ -137,7 +138,7 @@ class FiyatPlanı {
         bool Eksik = false;
     };
 
-    void SatırlarıDiz(std::vector<Satır>& satırlar);
+    void SatırlarıDiz(std::deque<Satır>& satırlar);
     void ÜrünleriKur(ÜrünKataloğu& katalog);
     void SonrayıHesapla(std::uint32_t ürün);
 

@@ -1,6 +1,8 @@
 #include "KatalogOkuma.h"
 
+#include <algorithm>
 #include <charconv>
+#include <iterator>
 
 #include "Deyimler.h"
 #include "OdbcHareketi.h"
@@ -13,6 +15,22 @@
 }
 
 std::optional<Para> SaklananPara(std::string_view baytlar) {
+    // As the driver writes them: digits, a dot and up to four more where there are decimals. Anything else goes the
+    // long way.
+    constexpr std::size_t azamiTam = 14;
+    constexpr std::int64_t onlar[] = {10000, 1000, 100, 10, 1};
+    const std::size_t tam = std::min(baytlar.find('.'), baytlar.size());
+    const std::size_t kesir = tam == baytlar.size() ? 0 : baytlar.size() - tam - 1;
+    if (tam > 0 && tam <= azamiTam && kesir < std::size(onlar)) {
+        std::int64_t sayı = 0;
+        std::size_t yer = 0;
+        for (; yer < baytlar.size(); ++yer) {
+            if (yer == tam) continue;
+            if (baytlar[yer] < '0' || baytlar[yer] > '9') break;
+            sayı = sayı * 10 + (baytlar[yer] - '0');
+        }
+        if (yer == baytlar.size()) return Para::OnBindeBirden(sayı * onlar[kesir]);
+    }
     const auto sayı = SayıÇöz(baytlar, NoktaKuralı::Virgül, [](char) { return false; });
     return sayı ? Para::Ondalıktan(*sayı) : std::nullopt;
 }

@@ -155,15 +155,15 @@ std::int64_t OdbcDeyimi::EtkilenenSatır() const {
     return SQL_SUCCEEDED(SQLRowCount(m_deyim, &sayı)) ? static_cast<std::int64_t>(sayı) : -1;
 }
 
-std::int16_t OdbcDeyimi::Oku(int sütun, std::optional<std::string_view>& değer) {
+std::int16_t OdbcDeyimi::Oku(int sütun, std::span<char> tampon, std::optional<std::string_view>& değer) {
     SQLLEN uzunluk = 0;
-    const SQLRETURN sonuç = SQLGetData(m_deyim, static_cast<SQLUSMALLINT>(sütun), SQL_C_CHAR, m_tampon.data(),
-                                       static_cast<SQLLEN>(m_tampon.size()), &uzunluk);
+    const SQLRETURN sonuç = SQLGetData(m_deyim, static_cast<SQLUSMALLINT>(sütun), SQL_C_CHAR, tampon.data(),
+                                       static_cast<SQLLEN>(tampon.size()), &uzunluk);
     değer.reset();
     if (!SQL_SUCCEEDED(sonuç) || uzunluk == SQL_NULL_DATA) return sonuç;
     // A value that was cut ends where the driver put the closing NUL.
-    değer = sonuç == SQL_SUCCESS ? std::string_view(m_tampon.data(), static_cast<std::size_t>(uzunluk))
-                                 : std::string_view(m_tampon.data());
+    değer = sonuç == SQL_SUCCESS ? std::string_view(tampon.data(), static_cast<std::size_t>(uzunluk))
+                                 : std::string_view(tampon.data());
     return sonuç;
 }
 
@@ -172,6 +172,12 @@ std::int16_t OdbcDeyimi::Oku(int sütun, QString& metin) {
     const std::int16_t sonuç = Oku(sütun, değer);
     metin = değer ? QString::fromUtf8(değer->data(), static_cast<qsizetype>(değer->size())) : QString();
     return sonuç;
+}
+
+std::int16_t OdbcDeyimi::Bağla(int sütun, std::span<char> tampon, std::intptr_t& uzunluk) {
+    static_assert(std::is_same_v<std::intptr_t, SQLLEN>);
+    return SQLBindCol(m_deyim, static_cast<SQLUSMALLINT>(sütun), SQL_C_CHAR, tampon.data(),
+                      static_cast<SQLLEN>(tampon.size()), &uzunluk);
 }
 
 void OdbcDeyimi::Bırak() {
@@ -183,9 +189,19 @@ QList<OdbcHatası> OdbcDeyimi::HatalarınıAl() const {
     return m_deyim ? HataKayıtlarınıAl(nullptr, m_deyim) : QList<OdbcHatası>();
 }
 
-std::optional<std::string_view> OdbcSatırı::Baytlar(int sütun) {
+std::optional<std::string_view> OdbcSatırı::İlkKez(int sütun) {
     std::optional<std::string_view> değer;
-    const std::int16_t kod = m_deyim.Oku(sütun, değer);
+    const auto yer = static_cast<std::size_t>(sütun) - 1;
+    std::int16_t kod;
+    if (yer >= m_sütunlar.size()) {
+        kod = m_deyim.Oku(sütun, değer);  // the driver says what is wrong with it
+    } else {
+        Sütun& okunan = m_sütunlar[yer];
+        kod = m_deyim.Oku(sütun, okunan.Tampon, değer);
+        if (kod == SQL_SUCCESS) kod = m_deyim.Bağla(sütun, okunan.Tampon, okunan.Uzunluk);
+        okunan.Uzunluk = değer ? static_cast<std::intptr_t>(değer->size()) : SQL_NULL_DATA;
+        okunan.Bağlı = kod == SQL_SUCCESS;
+    }
     if (m_kod == SQL_SUCCESS) m_kod = kod;
     return değer;
 }

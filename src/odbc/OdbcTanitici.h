@@ -6,7 +6,9 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string_view>
+#include <vector>
 
 #include "OdbcSonucu.h"
 
@@ -36,7 +38,8 @@ class OdbcBağlantısı {
     OdbcSonucu Çalıştır(const QString& sql);
 
     // Runs a query and hands its rows over one by one, in their order; nothing is kept. False from `satır` ends the
-    // reading, which is no failure. A failure says that rows are missing; those that came before it were handed over.
+    // reading, which is no failure. A failure says that rows are missing; those that came before it were handed over. A
+    // row with a value of more than 1023 bytes, which no column of a data file holds, is such a failure (1).
     OdbcSonucu Oku(const QString& sql, const std::function<bool(OdbcSatırı&)>& satır);
 
     // Whether the data file has a table of this name.
@@ -60,6 +63,8 @@ class OdbcBağlantısı {
 // One statement of a connection, which has to outlive it.
 class OdbcDeyimi {
   public:
+    static constexpr std::size_t TamponBoyu = 1024;
+
     OdbcDeyimi() = default;
     OdbcDeyimi(const OdbcDeyimi&) = delete;
     OdbcDeyimi& operator=(const OdbcDeyimi&) = delete;
@@ -75,8 +80,15 @@ class OdbcDeyimi {
 
     // A column (from 1) of the row at hand: UTF-8, good until the next call; NULL is nothing, as a text it is "". A
     // value of more than 1023 bytes, which no column of a data file holds, is cut and gives 1.
-    std::int16_t Oku(int sütun, std::optional<std::string_view>& değer);
+    std::int16_t Oku(int sütun, std::optional<std::string_view>& değer) { return Oku(sütun, m_tampon, değer); }
     std::int16_t Oku(int sütun, QString& metin);
+
+    // The same into the caller's memory, which bounds the value.
+    std::int16_t Oku(int sütun, std::span<char> tampon, std::optional<std::string_view>& değer);
+
+    // From the next row on the column lies in `tampon`, closed by a NUL, and its bytes' number, negative for NULL, in
+    // `uzunluk`. Getir gives 1 where one was cut.
+    std::int16_t Bağla(int sütun, std::span<char> tampon, std::intptr_t& uzunluk);
 
     void Bırak();
 
@@ -87,21 +99,41 @@ class OdbcDeyimi {
 
   private:
     void* m_deyim = nullptr;
-    std::array<char, 1024> m_tampon;
+    std::array<char, TamponBoyu> m_tampon;
 };
 
-// The row at hand of OdbcBağlantısı::Oku. A column that cannot be read whole ends the rows as a failure.
+// The row at hand of OdbcBağlantısı::Oku. A column that cannot be read whole ends the rows as a failure. A column that
+// was read once is bound: the next rows bring it along, which costs far less than a call for each value; one that
+// nobody reads costs nothing. So the row is to live until the statement's last fetch.
 class OdbcSatırı {
   public:
-    explicit OdbcSatırı(OdbcDeyimi& deyim) : m_deyim(deyim), m_sütunSayısı(deyim.SütunSayısı()) {}
+    explicit OdbcSatırı(OdbcDeyimi& deyim)
+        : m_deyim(deyim), m_sütunlar(static_cast<std::size_t>(deyim.SütunSayısı())) {}
+    OdbcSatırı(const OdbcSatırı&) = delete;
+    OdbcSatırı& operator=(const OdbcSatırı&) = delete;
 
-    int SütunSayısı() const { return m_sütunSayısı; }
-    std::optional<std::string_view> Baytlar(int sütun);  // as OdbcDeyimi::Oku gives them
+    int SütunSayısı() const { return static_cast<int>(m_sütunlar.size()); }
+
+    // As OdbcDeyimi::Oku gives them, but good until the next row.
+    std::optional<std::string_view> Baytlar(int sütun) {
+        const auto yer = static_cast<std::size_t>(sütun) - 1;
+        if (yer >= m_sütunlar.size() || !m_sütunlar[yer].Bağlı) return İlkKez(sütun);
+        const Sütun& okunan = m_sütunlar[yer];
+        if (okunan.Uzunluk < 0) return std::nullopt;
+        return std::string_view(okunan.Tampon.data(), static_cast<std::size_t>(okunan.Uzunluk));
+    }
     QString Metin(int sütun);
     std::int16_t Kod() const { return m_kod; }  // of the first failure
 
   private:
+    struct Sütun {
+        bool Bağlı = false;
+        std::intptr_t Uzunluk = 0;
+        std::array<char, OdbcDeyimi::TamponBoyu> Tampon;
+    };
+    std::optional<std::string_view> İlkKez(int sütun);
+
     OdbcDeyimi& m_deyim;
-    int m_sütunSayısı;
+    std::vector<Sütun> m_sütunlar;
     std::int16_t m_kod = 0;
 };

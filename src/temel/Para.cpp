@@ -43,10 +43,6 @@ double Para::Double() const noexcept {
     return EnYakınDouble(Ölçekten(m_onBindeBir)).value_or(0);
 }
 
-std::optional<Para> Topla(Para a, Para b) noexcept {
-    return Sığdır(GenişSayı{a.OnBindeBir()} + b.OnBindeBir());
-}
-
 std::optional<Para> Çarp(Para a, Para b) noexcept {
     const GenişSayı çarpım = GenişSayı{a.OnBindeBir()} * b.OnBindeBir();
     const GenişSayı kalan = çarpım % Para::Ölçek;

@@ -36,7 +36,11 @@ class Para {
 };
 
 // Sum; out of range: nullopt.
-std::optional<Para> Topla(Para a, Para b) noexcept;
+inline std::optional<Para> Topla(Para a, Para b) noexcept {
+    std::int64_t toplam = 0;
+    if (__builtin_add_overflow(a.OnBindeBir(), b.OnBindeBir(), &toplam)) return std::nullopt;
+    return Para::OnBindeBirden(toplam);
+}
 
 // Product, exact in 128 bits, then halves to the even ten-thousandth; out of range: nullopt.
 std::optional<Para> Çarp(Para a, Para b) noexcept;

@@ -51,6 +51,46 @@ TEST_F(MotorTesti, UzunDeğerParçaParçaOkunur) {
     EXPECT_EQ(okuma, 200);
 }
 
+TEST_F(MotorTesti, BağlıSütunlarGetirmeyleDolar) {
+    TestVerisi bağ(m_dosya);
+    bağ.Çalıştır("CREATE TABLE Deneme (Ad TEXT(20), Oran DOUBLE)");
+    bağ.Çalıştır("INSERT INTO Deneme (Ad, Oran) VALUES ('şşşşş', '2,5')");
+    bağ.Çalıştır("INSERT INTO Deneme (Ad) VALUES ('b')");
+    Deyim deyim(bağ);
+    SQLHSTMT tanıtıcı = deyim.Tanıtıcı();
+    char ad[6] = "";
+    char oran[8] = "";
+    SQLLEN boylar[2] = {};
+    ASSERT_EQ(SQLBindCol(tanıtıcı, 1, SQL_C_CHAR, ad, sizeof ad, &boylar[0]), SQL_SUCCESS);
+    ASSERT_EQ(SQLBindCol(tanıtıcı, 2, SQL_C_CHAR, oran, sizeof oran, &boylar[1]), SQL_SUCCESS);
+    EXPECT_EQ(SQLBindCol(tanıtıcı, 2, SQL_C_DOUBLE, oran, sizeof oran, nullptr), SQL_ERROR);
+    EXPECT_EQ(deyim.İlkTanı().Durum, "S1C00");
+    ASSERT_EQ(deyim.Çalıştır("SELECT Ad, Oran FROM Deneme"), SQL_SUCCESS);
+
+    EXPECT_EQ(SQLFetch(tanıtıcı), SQL_SUCCESS_WITH_INFO);
+    EXPECT_EQ(deyim.İlkTanı().Durum, "01004");
+    EXPECT_EQ(std::string(ad) + "|" + oran, "şş|2.5") << "cut at a whole letter";
+    EXPECT_EQ(std::vector<SQLLEN>({boylar[0], boylar[1]}), (std::vector<SQLLEN>{10, 3}));
+    QString bütün;
+    EXPECT_EQ(deyim.Oku(1, bütün), SQL_SUCCESS);
+    EXPECT_EQ(bütün, QString(5, QChar(u'ş'))) << "read from its beginning, bound or not";
+
+    EXPECT_EQ(SQLFetch(tanıtıcı), SQL_SUCCESS);
+    EXPECT_EQ(std::string(ad), "b");
+    EXPECT_EQ(boylar[1], SQL_NULL_DATA);
+    EXPECT_EQ(SQLFetch(tanıtıcı), SQL_NO_DATA);
+
+    // Bindings outlast the cursor, but not every statement has all their columns.
+    ASSERT_EQ(SQLFreeStmt(tanıtıcı, SQL_CLOSE), SQL_SUCCESS);
+    ASSERT_EQ(deyim.Çalıştır("SELECT Ad FROM Deneme"), SQL_SUCCESS);
+    EXPECT_EQ(SQLFetch(tanıtıcı), SQL_ERROR);
+    EXPECT_EQ(deyim.İlkTanı().Durum, "S1002");
+    ASSERT_EQ(SQLFreeStmt(tanıtıcı, SQL_UNBIND), SQL_SUCCESS);
+    ad[0] = '-';
+    EXPECT_EQ(SQLFetch(tanıtıcı), SQL_SUCCESS);
+    EXPECT_EQ(ad[0], '-');
+}
+
 TEST_F(MotorTesti, Tanılar) {
     TestVerisi bağ(m_dosya);
     Deyim deyim(bağ);
