@@ -131,7 +131,7 @@ void DövizKurlarıFormu::Yerleştir() {
     düzen->addWidget(m_bağlar, 1);
     düzen->addLayout(DüğmeSırası({nullptr, kapat}));
     m_tablo->setFocus();
-    resize(980, 640);
+    BoyVer(*this, {980, 640});
 }
 
 bool DövizKurlarıFormu::Yükle() {

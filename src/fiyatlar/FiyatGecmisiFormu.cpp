@@ -184,7 +184,7 @@ void FiyatGeçmişiFormu::Yerleştir() {
     düzen->addWidget(bölen, 1);
     düzen->addLayout(DüğmeSırası({m_geriAl, nullptr, kapat}));
     m_malzemeTablosu->setFocus();
-    resize(1040, 620);
+    BoyVer(*this, {1040, 620});
 }
 
 bool FiyatGeçmişiFormu::Yükle(const QString& malzeme) {

@@ -67,9 +67,15 @@ QString NedenMetni(PlanNedeni neden) {
     return {};
 }
 
+QString AdlarınBaşı(const QStringList& adlar) {
+    constexpr qsizetype enÇok = 10;
+    QString metin = adlar.mid(0, enÇok).join(QStringLiteral(", "));
+    return adlar.size() > enÇok ? metin + Metin(MetinNo::VeDiğerleri).arg(adlar.size() - enÇok) : metin;
+}
+
 QStringList EksiklerNotu(const QStringList& eksikler) {
     if (eksikler.isEmpty()) return {};
-    return {Metin(MetinNo::KatalogdaOlmayanlar).arg(eksikler.join(QStringLiteral(", ")))};
+    return {Metin(MetinNo::KatalogdaOlmayanlar).arg(AdlarınBaşı(eksikler))};
 }
 
 QString TürMetni(const QString& sözcük) {

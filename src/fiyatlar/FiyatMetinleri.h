@@ -22,6 +22,9 @@ QString YüzdeFarkı(Para önce, Para sonra);
 // Why a material is left out or unticked; "" where nothing speaks against it.
 QString NedenMetni(PlanNedeni neden);
 
+// The first names, and how many more there are.
+QString AdlarınBaşı(const QStringList& adlar);
+
 // A note for the preview on materials that are not in the catalogue any more; none where there are none.
 QStringList EksiklerNotu(const QStringList& eksikler);
 

@@ -80,7 +80,7 @@ void FiyatÖnizlemeFormu::Yerleştir() {
     düzen->addWidget(bölen, 1);
     düzen->addLayout(düğmeler);
     m_malzemeTablosu->setFocus();
-    resize(980, 640);
+    BoyVer(*this, {980, 640});
 }
 
 bool FiyatÖnizlemeFormu::PlanıKur() {

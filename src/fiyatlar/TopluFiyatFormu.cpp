@@ -178,7 +178,7 @@ void TopluFiyatFormu::Yerleştir() {
     düzen->addLayout(üst, 1);
     düzen->addLayout(DüğmeSırası({m_önizle, nullptr, kapat}));
     m_tablo->setFocus();
-    resize(860, 560);
+    BoyVer(*this, {860, 560});
 }
 
 bool TopluFiyatFormu::Yükle() {

@@ -68,21 +68,15 @@ class FiyatListesi::AdEşleyici {
 
 void FiyatListesi::Al(std::vector<ListeSatırı> satırlar) {
     m_satırlar = std::move(satırlar);
-    m_eşlendi = false;
 }
 
 void FiyatListesi::Eşle(MalzemeKataloğu katalog, const std::vector<Deyimler::Tedarikçi::Bağ>& bağlar, Ondalıkİmi im,
                         const ListeKuralı& kural) {
-    const MalzemeKataloğu önceki = std::exchange(m_katalog, std::move(katalog));
-    const AdEşleyici eşleyici(m_katalog, bağlar);
+    m_katalog = std::move(katalog);
     m_kural = kural;
-    std::vector<ListeDurumu> öncekiDurumlar;
-    öncekiDurumlar.reserve(m_satırlar.size());
-    for (ListeSatırı& satır : m_satırlar) {
-        öncekiDurumlar.push_back(satır.Durum);
-        const bool öncekiİşaret = satır.İşaretli;
-        const bool seçilebilirdi = m_eşlendi && İşaretlenir(satır.Durum);
-        const QString öncekiAd = satır.Malzeme == AdDizini::YOK ? QString() : önceki.Malzemeler[satır.Malzeme].Ad;
+    const AdEşleyici eşleyici(m_katalog, bağlar);
+    for (std::size_t i = 0; i < m_satırlar.size(); ++i) {
+        ListeSatırı& satır = m_satırlar[i];
         satır.Malzeme = AdDizini::YOK;
         satır.Bağlı = false;
         satır.Bölen = Para::OnBindeBirden(Para::Ölçek);
@@ -96,14 +90,12 @@ void FiyatListesi::Eşle(MalzemeKataloğu katalog, const std::vector<Deyimler::T
         if (satır.Durum == ListeDurumu::Yeni) satır.Ad = TürkçeBaşHarfBüyüt(satır.Ad);
         if (satır.Durum == ListeDurumu::Yeni && satır.Ad.size() > EN_UZUN_AD) satır.Durum = ListeDurumu::AdUzun;
         FiyatıOku(satır, im);
-        const QString ad = satır.Malzeme == AdDizini::YOK ? QString() : m_katalog.Malzemeler[satır.Malzeme].Ad;
+        if (satır.Karar && İşaretlenir(satır.Durum) && satır.KararAdı != MalzemeAdı(i)) satır.Karar.reset();
         satır.İşaretli =
-            seçilebilirdi && ad == öncekiAd ? öncekiİşaret : satır.Durum == ListeDurumu::Eşleşti && !satır.Gizli;
-        satır.İşaretli = satır.İşaretli && İşaretlenir(satır.Durum);
+            İşaretlenir(satır.Durum) && satır.Karar.value_or(satır.Durum == ListeDurumu::Eşleşti && !satır.Gizli);
     }
     ÖbekleriKur();
-    ÇakışmalarıBul(öncekiDurumlar);
-    m_eşlendi = true;
+    ÇakışmalarıBul();
 }
 
 void FiyatListesi::FiyatıOku(ListeSatırı& satır, Ondalıkİmi im) const {
@@ -149,9 +141,9 @@ void FiyatListesi::ÖbekleriKur() {
     }
 }
 
-// What the rows say is compared before it is rounded. Nothing is chosen for the user: among different prices a tick
-// stays only where he has put it.
-void FiyatListesi::ÇakışmalarıBul(const std::vector<ListeDurumu>& önceki) {
+// What the rows say is compared before it is rounded. Nothing is chosen for the user: among different prices the one
+// tick stands that he has set.
+void FiyatListesi::ÇakışmalarıBul() {
     for (const std::vector<std::uint32_t>& öbek : m_öbekSatırları) {
         if (öbek.size() < 2) continue;
         const auto fiyat = [this](std::uint32_t i) {
@@ -163,26 +155,36 @@ void FiyatListesi::ÇakışmalarıBul(const std::vector<ListeDurumu>& önceki) {
         // Of equal ones a visible row stands for all.
         const auto görünen = std::find_if(öbek.begin(), öbek.end(), [this](auto i) { return !m_satırlar[i].Gizli; });
         const std::uint32_t duran = görünen == öbek.end() ? öbek.front() : *görünen;
+        const auto seçilen =
+            std::count_if(öbek.begin(), öbek.end(), [this](auto i) { return m_satırlar[i].Karar.value_or(false); });
         for (const std::uint32_t i : öbek) {
             ListeSatırı& satır = m_satırlar[i];
             if (bir && i == duran) continue;
             satır.Durum = bir ? ListeDurumu::Yinelenen : ListeDurumu::Çakışıyor;
-            if (bir || !m_eşlendi || önceki[i] != ListeDurumu::Çakışıyor) satır.İşaretli = false;
+            satır.İşaretli = !bir && seçilen == 1 && satır.Karar.value_or(false);
         }
     }
 }
 
-void FiyatListesi::İşaretle(std::size_t satır, bool işaretli) {
+void FiyatListesi::KararVer(std::size_t satır, bool işaretli) {
     ListeSatırı& seçilen = m_satırlar[satır];
-    if (!İşaretlenir(seçilen.Durum)) return;
-    if (işaretli && m_öbekler[satır] != AdDizini::YOK)
-        for (const std::uint32_t i : m_öbekSatırları[m_öbekler[satır]]) m_satırlar[i].İşaretli = false;
     seçilen.İşaretli = işaretli;
+    seçilen.Karar = işaretli;
+    seçilen.KararAdı = MalzemeAdı(satır);
+}
+
+void FiyatListesi::İşaretle(std::size_t satır, bool işaretli) {
+    if (!İşaretlenir(m_satırlar[satır].Durum)) return;
+    if (işaretli && m_öbekler[satır] != AdDizini::YOK)
+        for (const std::uint32_t i : m_öbekSatırları[m_öbekler[satır]])
+            if (i != satır && İşaretlenir(m_satırlar[i].Durum)) KararVer(i, false);
+    KararVer(satır, işaretli);
 }
 
 QString FiyatListesi::MalzemeAdı(std::size_t satır) const {
-    const std::uint32_t yer = m_satırlar[satır].Malzeme;
-    return yer == AdDizini::YOK ? QString() : m_katalog.Malzemeler[yer].Ad;
+    const ListeSatırı& s = m_satırlar[satır];
+    if (s.Malzeme != AdDizini::YOK) return m_katalog.Malzemeler[s.Malzeme].Ad;
+    return s.YeniMi() ? s.Ad : QString();
 }
 
 FiyatListesi::Sayılar FiyatListesi::Say() const {

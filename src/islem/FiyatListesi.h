@@ -52,8 +52,13 @@ struct ListeSatırı {
     Para Bölen = Para::OnBindeBirden(Para::Ölçek);
     bool Bağlı = false;
     bool İşaretli = false;
+    std::optional<bool> Karar;  // the user's own, for as long as the row means KararAdı
+    QString KararAdı;
     Para Eski;
     Para Yeni;  // 0 where there is none
+
+    // Whether its tick adds a material.
+    bool YeniMi() const { return Malzeme == AdDizini::YOK && Durum <= ListeDurumu::Yinelenen; }
 };
 
 class FiyatListesi {
@@ -68,7 +73,8 @@ class FiyatListesi {
     // Rows with a name or a price, without headings. Their ticks are forgotten.
     void Al(std::vector<ListeSatırı> satırlar);
 
-    // Reads the prices anew; matched rows keep their ticks while they mean the same material.
+    // Reads the prices anew. What the user ticked or unticked stays so while the row means the same material, also
+    // where it cannot be ticked for a while.
     void Eşle(MalzemeKataloğu katalog, const std::vector<Deyimler::Tedarikçi::Bağ>& bağlar, Ondalıkİmi im,
               const ListeKuralı& kural);
 
@@ -76,7 +82,8 @@ class FiyatListesi {
     void İşaretle(std::size_t satır, bool işaretli);
 
     const std::vector<ListeSatırı>& Satırlar() const { return m_satırlar; }
-    QString MalzemeAdı(std::size_t satır) const;  // as the catalogue spells it; "" without a material
+    // The material as the catalogue spells it, or the name of the new one; "" where the row means neither.
+    QString MalzemeAdı(std::size_t satır) const;
     const MalzemeKataloğu& Katalog() const { return m_katalog; }
     Sayılar Say() const;
 
@@ -88,12 +95,12 @@ class FiyatListesi {
 
     void FiyatıOku(ListeSatırı& satır, Ondalıkİmi im) const;
     void ÖbekleriKur();
-    void ÇakışmalarıBul(const std::vector<ListeDurumu>& önceki);
+    void ÇakışmalarıBul();
+    void KararVer(std::size_t satır, bool işaretli);
 
     std::vector<ListeSatırı> m_satırlar;
     std::vector<std::uint32_t> m_öbekler;  // of each row that gives a price; YOK: none
     std::vector<std::vector<std::uint32_t>> m_öbekSatırları;
     MalzemeKataloğu m_katalog;
     ListeKuralı m_kural;
-    bool m_eşlendi = false;
 };

@@ -57,8 +57,8 @@ FiyatÖnerisi Silme(const Değişim& değişim, const KatalogMalzemesi& malzeme)
 }
 
 // The rate of before the operation, or the operation's again; the ties that it wrote get back what they held before.
-İşSonucu KuruÇevir(OdbcBağlantısı& bağlantı, const İşlem& işlem, bool geri, std::optional<KurDeğişimi>& kur,
-                   QString& değişmişDöviz) {
+İşSonucu KuruÇevir(OdbcBağlantısı& bağlantı, const İşlem& işlem, const std::vector<Değişim>& değişimler, bool geri,
+                   std::optional<KurDeğişimi>& kur, QString& değişmişDöviz) {
     if (işlem.DövizKodu.isEmpty()) return {};
     std::vector<Döviz> dövizler;
     std::vector<Bağ> bağlar;
@@ -78,9 +78,22 @@ FiyatÖnerisi Silme(const Değişim& değişim, const KatalogMalzemesi& malzeme)
         kur.reset();
         return sonuç;
     }
+    AdDizini yerler;
+    for (std::uint32_t i = 0; i < değişimler.size(); ++i) yerler.BulYaDaEkle(değişimler[i].Malzeme.toStdString(), i);
     for (Bağ& bağ : bağlar) {
-        if (bağ.Kod != kur->Kod || bağ.İşlem != işlem.No) continue;
-        std::swap(bağ.Yazılan, bağ.Önceki);
+        if (bağ.Kod != kur->Kod) continue;
+        if (bağ.İşlem == işlem.No) {
+            std::swap(bağ.Yazılan, bağ.Önceki);
+        } else {
+            // A later rate wrote it and was taken back: it stands as this operation left it.
+            const std::uint32_t yer = yerler.Bul(bağ.Malzeme.toStdString());
+            if (yer == AdDizini::YOK) continue;
+            const Değişim& değişim = değişimler[yer];
+            if (bağ.Yazılan != (geri ? değişim.Yeni : değişim.Eski)) continue;
+            bağ.Önceki = bağ.Yazılan;
+            bağ.Yazılan = geri ? değişim.Eski : değişim.Yeni;
+            bağ.İşlem = işlem.No;
+        }
         kur->Bağlar.push_back(bağ);
     }
     return sonuç;
@@ -120,7 +133,7 @@ std::optional<İşlem> YinelenecekİşlemiBul(const std::vector<İşlem>& işlem
     if (sonuç.Tamam()) sonuç = TekleriOku(bağlantı, işlem.No, tekler);
     MalzemeKataloğu katalog;
     if (sonuç.Tamam()) sonuç = katalog.Oku(bağlantı);
-    if (sonuç.Tamam()) sonuç = KuruÇevir(bağlantı, işlem, geri, teklif.Kur, eksikler.Döviz);
+    if (sonuç.Tamam()) sonuç = KuruÇevir(bağlantı, işlem, değişimler, geri, teklif.Kur, eksikler.Döviz);
     if (!sonuç.Tamam()) return sonuç;
 
     AdDizini yerler;

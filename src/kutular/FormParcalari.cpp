@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
+#include <QScreen>
 #include <QShortcutEvent>
 #include <algorithm>
 #include <utility>
@@ -137,6 +138,11 @@ void SekmeSırasınıKur(QWidget* ilk, const QBoxLayout& sıra) {
         QWidget::setTabOrder(ilk, düğme);
         ilk = düğme;
     }
+}
+
+void BoyVer(QWidget& form, QSize istenen) {
+    constexpr QSize çerçevePayı(16, 48);  // title bar and borders
+    form.resize(istenen.boundedTo(form.screen()->availableSize() - çerçevePayı));
 }
 
 QWidget* AltlıkOluştur(const QString& ad) {

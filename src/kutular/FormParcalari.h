@@ -2,6 +2,7 @@
 
 #include <QFrame>
 #include <QPushButton>
+#include <QSize>
 #include <functional>
 
 enum class MetinNo : int;
@@ -53,6 +54,9 @@ KomutDüğmesi* KomutaBağlıDüğme(const QString& ad, QAction* komut);
 QHBoxLayout* DüğmeSırası(const QList<KomutDüğmesi*>& düğmeler);
 // Tab goes on from `ilk` to the row's buttons as they stand from left to right.
 void SekmeSırasınıKur(QWidget* ilk, const QBoxLayout& sıra);
+
+// The form's first size: what is wanted, as far as the screen has room for it.
+void BoyVer(QWidget& form, QSize istenen);
 
 // A background panel, and the one that holds everything on a form.
 QWidget* AltlıkOluştur(const QString& ad);

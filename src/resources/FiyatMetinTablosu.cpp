@@ -243,6 +243,7 @@ constexpr MetinSatırı Tablo[] = {
     {MetinNo::BağlanacakSilinmiş, "%1 artık malzeme listesinde yok; bu arada silinmiş. Hiçbir şey değiştirilmedi."},
     {MetinNo::BaşkaDövizeBağlı, "%1 şimdi %2 dövizine bağlı. Bu bağ çözülüp %3 dövizine bağlansın mı?"},
     {MetinNo::DövizBağıMetni, "%1 × %2 (%3)"},
+    {MetinNo::VeDiğerleri, " ve %1 tane daha"},
 };
 
 static_assert(Sıralı(Tablo));

@@ -94,8 +94,10 @@ void Tablo::keyPressEvent(QKeyEvent* olay) {
     QTableView::keyPressEvent(olay);
 }
 
-// The first row is marked as it becomes current, so that Space ticks what is seen to be marked.
+// The first row is marked as it becomes current, so that Space ticks what is seen to be marked. The mouse marks the row
+// that it points to: nothing may move under it.
 void Tablo::focusInEvent(QFocusEvent* olay) {
-    if (!currentIndex().isValid() && m_model.rowCount() > 0) setCurrentIndex(m_model.index(0, 0));
+    if (olay->reason() != Qt::MouseFocusReason && !currentIndex().isValid() && m_model.rowCount() > 0)
+        setCurrentIndex(m_model.index(0, 0));
     QTableView::focusInEvent(olay);
 }

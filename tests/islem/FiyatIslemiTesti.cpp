@@ -247,8 +247,12 @@ TEST_F(Fiyatİşlemi, KurFiyatlarlaBirlikteGiderGelir) {
     EXPECT_EQ(QStringList({fiyat("Çıta 4"), fiyat("Çıta 5"), kur()}), QStringList({"8.642", "9", "34.5678"}));
     // What the taking back wrote is no change by hand.
     EXPECT_EQ(KurPlanı("41").Özet().Malzeme, 1);
+    ASSERT_EQ(Uygula(DönüşPlanı(1, İşlemTürü::GeriAlma), İşlemTürü::GeriAlma, 1), UygulamaSonu::Tamam);
+    EXPECT_EQ(KurPlanı("41").Özet().Malzeme, 1);
+    ASSERT_EQ(Uygula(DönüşPlanı(1, İşlemTürü::Yineleme), İşlemTürü::Yineleme, 1, 4), UygulamaSonu::Tamam);
     ASSERT_EQ(Uygula(DönüşPlanı(2, İşlemTürü::Yineleme), İşlemTürü::Yineleme, 2, 3), UygulamaSonu::Tamam);
     EXPECT_EQ(QStringList({fiyat("Çıta 4"), kur()}), QStringList({"10", "40"}));
+    EXPECT_EQ(KurPlanı("41").Özet().Malzeme, 1);
 }
 
 // Materials that an operation added go with it, unless somebody needs them by then.

@@ -77,9 +77,12 @@ TEST(FiyatListesi, AdlarıEşlerKararıKullanıcıyaBırakır) {
     for (const int satır : {5, 6, 9, 10, 11}) liste.İşaretle(satır, true);
     EXPECT_EQ(Önerilen(liste).mid(3),
               QStringList({"Frenli Menteşe=46,0000", "Kulp=33,0000", "Ahşap ’özel’ Kulp=55,0000+"}));
-    // Another discount leaves the user's choice alone.
+    // Another discount leaves the user's choice alone, one that makes all prices zero too.
+    liste.İşaretle(0, false);
+    liste.Eşle(Katalog(), bağlar, Ondalıkİmi::Seçilmedi, {Lira(u"100"), {}});
+    EXPECT_EQ(Önerilen(liste), QStringList());
     liste.Eşle(Katalog(), bağlar, Ondalıkİmi::Virgül, {Lira(u"-10"), {500, YuvarlamaYönü::Yukarı}});
-    EXPECT_EQ(Önerilen(liste).mid(3),
+    EXPECT_EQ(Önerilen(liste).mid(2),
               QStringList({"Frenli Menteşe=50,6000", "Kulp=36,3000", "Ahşap ’özel’ Kulp=60,5000+"}));
     EXPECT_EQ(liste.Satırlar()[10].Yeni, Lira(u"1375"));
 }

@@ -33,7 +33,7 @@ QString EşleşmeKaynağı::Hücre(std::size_t satır, int sütun) const {
         case EFiyat:
             return HücreMetni(s.FiyatHücresi);
         case EMalzeme:
-            return malzemeli ? m_liste.MalzemeAdı(satır) : s.Durum == ListeDurumu::Yeni ? s.Ad : QString();
+            return m_liste.MalzemeAdı(satır);
         case EEski:
             return malzemeli ? FiyatMetni(s.Eski) : QString();
         case EYeni:

@@ -49,9 +49,7 @@ FiyatListesiAlFormu::~FiyatListesiAlFormu() {
 }
 
 void FiyatListesiAlFormu::DosyaKontrolleriniKur() {
-    m_dosya = new YolKutusu([this] {
-        if (m_dosya->text() != m_yol) DosyayıOku(m_dosya->text());
-    });
+    m_dosya = new YolKutusu([this] { DosyaKutusuBırakıldı(); });
     m_dosya->setObjectName(QStringLiteral("DosyaKutusu"));
     m_gözat = DüğmeOluştur(QStringLiteral("GözatButonu"), MetinNo::Gözat, [this] { Gözat(); });
     m_tedarikçi = new TedarikçiKutusu([this] { TedarikçiDeğişti(); });
@@ -198,5 +196,5 @@ void FiyatListesiAlFormu::Yerleştir() {
     düzen->addWidget(bölen, 1);
     düzen->addLayout(DüğmeSırası({m_önizle, nullptr, kapat}));
     m_gözat->setFocus();
-    resize(1000, 700);
+    BoyVer(*this, {1000, 700});
 }

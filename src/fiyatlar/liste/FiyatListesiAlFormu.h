@@ -48,6 +48,7 @@ class FiyatListesiAlFormu : public QDialog {
 
     // The file and its columns.
     void Gözat();
+    void DosyaKutusuBırakıldı();
     bool Tanı(const ListeSeçimi& seçim);
     void Boşalt();
     void SeçimiGöster(const TanınanListe& liste);
@@ -56,12 +57,14 @@ class FiyatListesiAlFormu : public QDialog {
     bool SatırlarıOku();
     const Tedarikçi* KayıtlıTedarikçi() const;
     void TedarikçiDeğişti();
+    void TercihiGöster(const Tedarikçi& tercih);
     Tedarikçi SeçilenTercih() const;
 
     // The rows and their materials.
     bool Eşle();
     İşSonucu Eşle(const MalzemeKataloğu& katalog);
     void KuralDeğişti();
+    bool İskontoOkunur() const;
     void SayıyıYaz();
     void SeçimDeğişti();
     void GörünenleriSeç();
@@ -74,7 +77,8 @@ class FiyatListesiAlFormu : public QDialog {
 
     bool m_uygulandı = false;
     bool m_okunuyor = false;
-    QString m_yol;  // of the file whose rows are shown
+    QString m_yol;    // of the file whose rows are shown, or that could not be read
+    QString m_damga;  // what it was like then
     ListeSeçimi m_seçim;
     ÇizelgeTürü m_tür = ÇizelgeTürü::Csv;
     qint64 m_araBaşlık = 0;

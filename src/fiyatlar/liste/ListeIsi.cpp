@@ -3,8 +3,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QDateTime>
 #include <QFileInfo>
 #include <QLabel>
+#include <QSet>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QStandardPaths>
@@ -29,6 +31,13 @@
 
 namespace {
 
+// When the file was last written, and how long it is; "" without a file.
+QString DosyaDamgası(const QString& yol) {
+    const QFileInfo bilgi(yol);
+    if (yol.isEmpty() || !bilgi.exists()) return {};
+    return bilgi.lastModified().toString(Qt::ISODateWithMs) + QLatin1Char(' ') + QString::number(bilgi.size());
+}
+
 // What the user has ticked, so that it can be told what a new matching took away.
 QStringList İşaretliler(const FiyatListesi& liste) {
     QStringList adlar;
@@ -51,6 +60,12 @@ bool FiyatListesiAlFormu::Yükle() {
     return Eşle();
 }
 
+// Left with another path, or the file is another one by now.
+void FiyatListesiAlFormu::DosyaKutusuBırakıldı() {
+    const QString yol = m_dosya->text();
+    if (yol != m_yol || DosyaDamgası(yol) != m_damga) DosyayıOku(yol);
+}
+
 void FiyatListesiAlFormu::Gözat() {
     static QString klasör = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     QFileDialog kutu(this, Metin(MetinNo::FiyatListesiFormuBaşlığı), klasör, Metin(MetinNo::FiyatListesiSüzgeci));
@@ -65,6 +80,7 @@ void FiyatListesiAlFormu::Gözat() {
 bool FiyatListesiAlFormu::DosyayıOku(const QString& yol) {
     if (m_okunuyor) return false;
     m_yol = yol;
+    m_damga = DosyaDamgası(yol);
     m_dosya->setText(yol);
     if (yol.isEmpty()) {
         Boşalt();
@@ -167,14 +183,14 @@ bool FiyatListesiAlFormu::SatırlarıOku() {
     // A part of a list would pass for the whole.
     if (!sonuç.Tamam()) satırlar.clear();
     m_liste.Al(std::move(satırlar));
-    const bool eşlendi = Eşle();
-    if (sonuç.Tamam()) return eşlendi;
-    if (sonuç.Hata != ÇizelgeHatası::Durduruldu) {
+    if (sonuç.Tamam() && Eşle()) return true;
+    if (!sonuç.Tamam() && sonuç.Hata != ÇizelgeHatası::Durduruldu) {
         MesajKutusuOrtala();
         MesajKutusu::Göster(MesajKutusu::Simge::Ünlem, MesajKutusu::Düğmeler::Tamam,
                             OkumaHatası(sonuç) + QLatin1Char('\n') + m_yol);
     }
     Boşalt();
+    m_damga.clear();  // leaving the path's box tries again
     return false;
 }
 
@@ -187,19 +203,24 @@ const Deyimler::Tedarikçi::Tedarikçi* FiyatListesiAlFormu::KayıtlıTedarikçi
 void FiyatListesiAlFormu::TedarikçiDeğişti() {
     const QString ad = ListeAdı(m_tedarikçi->currentText());
     if (ad == m_tedarikçiAdı || m_okunuyor) return;
+    const bool kayıtlıydı = KayıtlıTedarikçi() != nullptr;
     m_tedarikçiAdı = ad;
-    if (const Tedarikçi* tercih = KayıtlıTedarikçi()) {
-        const QSignalBlocker adımSessiz(m_yuvarlama.Adımlar);
-        const QSignalBlocker yönSessiz(m_yuvarlama.Yönler);
-        m_iskonto->setText(tercih->İskonto == Para() ? QString() : SayıYazımı(tercih->İskonto));
-        m_yuvarlama.Seç({tercih->YuvarlamaAdımı.OnBindeBir(), static_cast<YuvarlamaYönü>(tercih->YuvarlamaYönü)});
-        m_ondalık->setCurrentIndex(tercih->Ondalık == u"," ? 1 : tercih->Ondalık == u"." ? 2 : 0);
-        if (!m_yol.isEmpty()) {
-            Tanı({});
-            return;
-        }
+    const Tedarikçi* tercih = KayıtlıTedarikçi();
+    // What was put in for another supplier does not pass to this one.
+    if (tercih || kayıtlıydı) TercihiGöster(tercih ? *tercih : Tedarikçi());
+    if (tercih && !m_yol.isEmpty()) {
+        Tanı({});
+        return;
     }
     Eşle();
+}
+
+void FiyatListesiAlFormu::TercihiGöster(const Tedarikçi& tercih) {
+    const QSignalBlocker adımSessiz(m_yuvarlama.Adımlar);
+    const QSignalBlocker yönSessiz(m_yuvarlama.Yönler);
+    m_iskonto->setText(tercih.İskonto == Para() ? QString() : SayıYazımı(tercih.İskonto));
+    m_yuvarlama.Seç({tercih.YuvarlamaAdımı.OnBindeBir(), static_cast<YuvarlamaYönü>(tercih.YuvarlamaYönü)});
+    m_ondalık->setCurrentIndex(tercih.Ondalık == u"," ? 1 : tercih.Ondalık == u"." ? 2 : 0);
 }
 
 Deyimler::Tedarikçi::Tedarikçi FiyatListesiAlFormu::SeçilenTercih() const {
@@ -236,17 +257,23 @@ bool FiyatListesiAlFormu::Eşle() {
     MalzemeKataloğu katalog;
     İşSonucu sonuç = katalog.Oku(ODBCBağlantısı());
     if (sonuç.Tamam()) sonuç = Eşle(katalog);
-    if (!sonuç.Tamam()) m_liste.Al({});  // rows without their materials would be taken for new ones
-    m_model.Yenile();
+    if (sonuç.Tamam()) m_model.Yenile();  // otherwise the rows stand as they were
     SayıyıYaz();
     İşSonucunuGöster(sonuç);
     return sonuç.Tamam();
 }
 
+// The rows stay in their places, as the user may be about to click one.
 void FiyatListesiAlFormu::KuralDeğişti() {
-    if (m_liste.Satırlar().empty()) return;
-    const std::optional<std::size_t> seçili = m_tablo->SeçiliSatır();
-    if (Eşle() && seçili) YenidenSeç(*seçili);
+    if (m_liste.Satırlar().empty() || !İskontoOkunur()) return;
+    const İşSonucu sonuç = Eşle(MalzemeKataloğu(m_liste.Katalog()));
+    m_model.HücrelerDeğişti();
+    SayıyıYaz();
+    İşSonucunuGöster(sonuç);
+}
+
+bool FiyatListesiAlFormu::İskontoOkunur() const {
+    return m_iskonto->text().isEmpty() || ParaOku(m_iskonto->text());
 }
 
 void FiyatListesiAlFormu::SayıyıYaz() {
@@ -355,10 +382,10 @@ Fiyatİşi FiyatListesiAlFormu::İş() {
         SayıyıYaz();
         if (!sonuç.Tamam()) return sonuç;
         const QStringList kalan = İşaretliler(m_liste);
+        const QSet<QString> kalanlar(kalan.begin(), kalan.end());
         QStringList düşenler = önceki;
-        if (kalan != önceki) düşenler.removeIf([&kalan](const QString& ad) { return kalan.contains(ad); });
-        if (kalan != önceki && !düşenler.isEmpty())
-            notlar.append(Metin(MetinNo::ArtıkEşleşmeyenler).arg(düşenler.join(QStringLiteral(", "))));
+        düşenler.removeIf([&kalanlar](const QString& ad) { return kalanlar.contains(ad); });
+        if (!düşenler.isEmpty()) notlar.append(Metin(MetinNo::ArtıkEşleşmeyenler).arg(AdlarınBaşı(düşenler)));
         teklif.Öneriler = m_liste.Öneriler();
         return sonuç;
     };
@@ -368,7 +395,8 @@ Fiyatİşi FiyatListesiAlFormu::İş() {
 void FiyatListesiAlFormu::Önizle() {
     if (!m_iskonto->text().isEmpty() && !m_iskonto->Saklanır()) return;
     if (!m_tedarikçiAdı.isEmpty()) {
-        const İşSonucu sonuç = TedarikçiyiYaz(ODBCBağlantısı(), SeçilenTercih());
+        İşSonucu sonuç = TedarikçiyiYaz(ODBCBağlantısı(), SeçilenTercih());
+        if (sonuç.Tamam()) sonuç = TedarikçileriOku(ODBCBağlantısı(), m_tedarikçiler);
         if (!sonuç.Tamam()) {
             İşSonucunuGöster(sonuç);
             return;

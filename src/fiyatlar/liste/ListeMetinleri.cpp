@@ -99,6 +99,7 @@ QString OkumaHatası(const OkumaSonucu& sonuç) {
 QString DurumMetni(const ListeSatırı& satır) {
     QStringList metin;
     if (satır.Gizli) metin.append(Metin(MetinNo::ListeGizli));
+    if (satır.Durum == ListeDurumu::Çakışıyor && satır.YeniMi()) metin.append(Metin(MetinNo::ListeYeni));
     if (satır.Durum == ListeDurumu::FiyatOkunamaz)
         metin.append(OkunamazMetni(satır));
     else if (satır.Durum != ListeDurumu::Eşleşti || satır.Bağlı)

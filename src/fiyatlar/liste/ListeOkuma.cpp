@@ -36,7 +36,13 @@ int BaşlığınSütunu(const ÇizelgeSatırı& satır, const QString& başlık)
 
 // Where the supplier's columns stand now: below the same captions, or in the same places where there are none.
 SütunTahmini TercihiBul(std::span<const ÇizelgeSatırı> satırlar, const Tedarikçi& tercih) {
-    if (tercih.BaşlıkSatırı == 0) return {0, tercih.AdSütunu, tercih.FiyatSütunu};
+    if (tercih.BaşlıkSatırı == 0) {
+        const auto yeterince = [&tercih](const ÇizelgeSatırı& satır) {
+            return static_cast<int>(satır.Hücreler.size()) > std::max(tercih.AdSütunu, tercih.FiyatSütunu);
+        };
+        const bool var = std::any_of(satırlar.begin(), satırlar.end(), yeterince);
+        return var ? SütunTahmini{0, tercih.AdSütunu, tercih.FiyatSütunu} : SütunTahmini();
+    }
     for (const ÇizelgeSatırı& satır : satırlar) {
         const auto yerinde = [&satır](int sütun, const QString& başlık) {
             return ListeAdı(satır.Sütun(sütun).Metin) == ListeAdı(başlık);

@@ -66,7 +66,7 @@ MalzemeSeçFormu::MalzemeSeçFormu(const QString& listeAdı, const std::vector<K
     }
     m_tamam->setEnabled(m_tablo->SeçiliSatır().has_value());
     m_süz->setFocus();
-    resize(460, 480);
+    BoyVer(*this, {460, 480});
 }
 
 MalzemeSeçFormu::~MalzemeSeçFormu() {
