@@ -6,6 +6,7 @@
 
 #include "Cift.h"
 #include "FiyatIslemi.h"
+#include "MaliyetTablosu.h"
 #include "OdbcModulu.h"
 #include "OlcumFormOrtami.h"
 
@@ -43,8 +44,15 @@ void Önizleme(benchmark::State& durum) {
     }
 }
 
-// Reads the same columns of the same tables and multiplies.
-void ÇıplakÖnizleme(benchmark::State& durum) {
+void Tablo(benchmark::State& durum) {
+    ÖlçümOrtamı::Bağlan(Klasör());
+    std::vector<MaliyetTablosuSatırı> satırlar;
+    for (auto _ : durum)
+        if (!MaliyetTablosunuOku(ODBCBağlantısı(), 2, satırlar).Tamam()) durum.SkipWithError("no cost table");
+}
+
+// Reads the same columns of the same tables, in the same order, and multiplies.
+void ÇıplakOkuma(benchmark::State& durum, const char* sıra) {
     const auto vt = ÖlçümOrtamı::ÇıplakAç(Klasör());
     for (auto _ : durum) {
         double toplam = 0;
@@ -63,12 +71,23 @@ void ÇıplakÖnizleme(benchmark::State& durum) {
         oku("SELECT UrunGrubu, UrunAdi, IscilikYuzdesi, KarYuzdesi, DigerVarnekYuzdesi, VadeFarkiYuzdesi FROM "
             "UrunTablosu",
             6, false);
-        oku("SELECT UrunGrubu, UrunAdi, KullanilanMalzemeAdi, KullanilanMalzemeMiktari, KullanilanMalzemeFiyati FROM "
-            "UrunMalzemeTablosu",
-            3, true);
+        const std::string kullanılanlar =
+            std::string(
+                "SELECT UrunGrubu, UrunAdi, KullanilanMalzemeAdi, KullanilanMalzemeMiktari, "
+                "KullanilanMalzemeFiyati FROM UrunMalzemeTablosu") +
+            sıra;
+        oku(kullanılanlar.c_str(), 3, true);
         benchmark::DoNotOptimize(toplam);
         benchmark::DoNotOptimize(harf);
     }
+}
+
+void ÇıplakÖnizleme(benchmark::State& durum) {
+    ÇıplakOkuma(durum, "");
+}
+
+void ÇıplakTablo(benchmark::State& durum) {
+    ÇıplakOkuma(durum, " ORDER BY UrunGrubu, UrunAdi, KullanilanMalzemeAdi");
 }
 
 void Uygulama(benchmark::State& durum) {
@@ -119,6 +138,7 @@ int main(int argc, char** argv) {
     const QCoreApplication uygulama(argc, argv);
     ÖlçümOrtamı::Kur();
     ÇiftEkle("preview of 1,000,000 rows / bare", 2.0, Önizleme, ÇıplakÖnizleme);
+    ÇiftEkle("cost table of 1,000,000 rows / bare", 2.0, Tablo, ÇıplakTablo);
     ÇiftEkle("10,000 prices over 1,000,000 rows / bare", 1.5, Uygulama, ÇıplakUygulama);
     return ÇiftleriÖlç(argc, argv);
 }

@@ -35,6 +35,7 @@ double Oranı(const Deyimler::Fiyat::Değişim& d) {
 }
 
 constexpr std::size_t EN_ÇOK_KAYIT = 10'000;
+constexpr qsizetype EN_ÇOK_ÇİZGİ = 12;  // more cannot be told apart
 
 QDateTime ZamanOku(const QString& zaman) {
     return QDateTime::fromString(zaman, QStringLiteral("yyyy-MM-dd HH:mm:ss"));
@@ -268,9 +269,12 @@ void FiyatGeçmişiFormu::GeçmişiOku() {
         diziler.clear();
     }
     m_geçmişModeli->Yenile();
-    m_not->setText(m_fazlaVar ? Metin(MetinNo::YalnızSonKayıtlar).arg(EN_ÇOK_KAYIT) : QString());
-    m_not->setVisible(m_fazlaVar);
-    m_grafik->Göster(diziler, QDateTime::currentDateTime());
+    QStringList notlar;
+    if (m_fazlaVar) notlar.append(Metin(MetinNo::YalnızSonKayıtlar).arg(EN_ÇOK_KAYIT));
+    if (diziler.size() > EN_ÇOK_ÇİZGİ) notlar.append(Metin(MetinNo::GrafikteİlkMalzemeler).arg(EN_ÇOK_ÇİZGİ));
+    m_not->setText(notlar.join(QLatin1Char(' ')));
+    m_not->setVisible(!notlar.isEmpty());
+    m_grafik->Göster(diziler.mid(0, EN_ÇOK_ÇİZGİ), QDateTime::currentDateTime());
     DüğmeyiAyarla();
     İşSonucunuGöster(sonuç);
 }

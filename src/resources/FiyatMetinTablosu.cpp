@@ -244,6 +244,7 @@ constexpr MetinSatırı Tablo[] = {
     {MetinNo::BaşkaDövizeBağlı, "%1 şimdi %2 dövizine bağlı. Bu bağ çözülüp %3 dövizine bağlansın mı?"},
     {MetinNo::DövizBağıMetni, "%1 × %2 (%3)"},
     {MetinNo::VeDiğerleri, " ve %1 tane daha"},
+    {MetinNo::GrafikteİlkMalzemeler, "Grafikte ilk %1 malzeme çizilir; hepsinin değişimleri listededir."},
 };
 
 static_assert(Sıralı(Tablo));

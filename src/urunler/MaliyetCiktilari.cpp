@@ -48,10 +48,12 @@ YazmaSonucu MaliyetTablosunuÇizelgeyeYaz(const QString& yol, const QString& ba�
     for (int sıra = 0; sıra < model.rowCount() && sonuç.Tamam(); ++sıra) {
         const std::size_t yer = model.KaynakSatırı(sıra);
         const MaliyetTablosuSatırı& satır = satırlar.Satırlar[yer];
-        QList<ÇizelgeDeğeri> değerler{satır.Grup, satır.Ad, DikkatMetni(satır.Dikkat),
-                                      Para::OnBindeBirden(satır.MalzemeSayısı * Para::Ölçek), satır.MalzemeMaliyeti};
+        QList<ÇizelgeDeğeri> değerler;
+        for (const QString& metin : {satır.Grup, satır.Ad, DikkatMetni(satır.Dikkat)}) değerler.emplaceBack(metin);
+        değerler.emplaceBack(Para::OnBindeBirden(satır.MalzemeSayısı * Para::Ölçek));
+        değerler.emplaceBack(satır.MalzemeMaliyeti);
         for (const std::optional<double>& tutar : satır.Tutarlar) Ekle(değerler, tutar);
-        değerler.append(satır.Toplam);
+        değerler.emplaceBack(satır.Toplam);
         Ekle(değerler, satır.BirimMaliyet);
         sonuç = yazıcı.SatırEkle(değerler);
     }
