@@ -102,7 +102,7 @@ void MaliyetTablosuFormu::Yerleştir() {
     düzen->addWidget(bölen, 1);
     düzen->addLayout(DüğmeSırası({m_git, m_yazdır, m_pdf, önizle, aktar, nullptr, kapat}));
     m_tablo->setFocus();
-    BoyVer(*this, {1120, 680});
+    BoyVer(*this, {1200, 700});
 }
 
 bool MaliyetTablosuFormu::Yükle() {

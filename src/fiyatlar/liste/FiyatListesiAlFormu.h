@@ -63,6 +63,7 @@ class FiyatListesiAlFormu : public QDialog {
     // The rows and their materials.
     bool Eşle();
     İşSonucu Eşle(const MalzemeKataloğu& katalog);
+    void KuralıUygula(const MalzemeKataloğu& katalog);
     void KuralDeğişti();
     bool İskontoOkunur() const;
     void SayıyıYaz();
@@ -84,6 +85,7 @@ class FiyatListesiAlFormu : public QDialog {
     qint64 m_araBaşlık = 0;
     QString m_tedarikçiAdı;
     std::vector<Tedarikçi> m_tedarikçiler;
+    std::vector<Deyimler::Tedarikçi::Bağ> m_bağlar;  // that the rows were last matched by
     FiyatListesi m_liste;
     EşleşmeKaynağı m_kaynak;
     TabloModeli m_model;

@@ -27,7 +27,6 @@
 #include "SayiMetni.h"
 #include "Tablo.h"
 #include "TedarikciKayitlari.h"
-#include "TurkceSira.h"
 
 namespace {
 
@@ -194,63 +193,19 @@ bool FiyatListesiAlFormu::SatırlarıOku() {
     return false;
 }
 
-const Deyimler::Tedarikçi::Tedarikçi* FiyatListesiAlFormu::KayıtlıTedarikçi() const {
-    for (const Tedarikçi& tedarikçi : m_tedarikçiler)
-        if (Türkçe::Karşılaştır(tedarikçi.Ad, m_tedarikçiAdı) == 0) return &tedarikçi;
-    return nullptr;
-}
-
-void FiyatListesiAlFormu::TedarikçiDeğişti() {
-    const QString ad = ListeAdı(m_tedarikçi->currentText());
-    if (ad == m_tedarikçiAdı || m_okunuyor) return;
-    const bool kayıtlıydı = KayıtlıTedarikçi() != nullptr;
-    m_tedarikçiAdı = ad;
-    const Tedarikçi* tercih = KayıtlıTedarikçi();
-    // What was put in for another supplier does not pass to this one.
-    if (tercih || kayıtlıydı) TercihiGöster(tercih ? *tercih : Tedarikçi());
-    if (tercih && !m_yol.isEmpty()) {
-        Tanı({});
-        return;
-    }
-    Eşle();
-}
-
-void FiyatListesiAlFormu::TercihiGöster(const Tedarikçi& tercih) {
-    const QSignalBlocker adımSessiz(m_yuvarlama.Adımlar);
-    const QSignalBlocker yönSessiz(m_yuvarlama.Yönler);
-    m_iskonto->setText(tercih.İskonto == Para() ? QString() : SayıYazımı(tercih.İskonto));
-    m_yuvarlama.Seç({tercih.YuvarlamaAdımı.OnBindeBir(), static_cast<YuvarlamaYönü>(tercih.YuvarlamaYönü)});
-    m_ondalık->setCurrentIndex(tercih.Ondalık == u"," ? 1 : tercih.Ondalık == u"." ? 2 : 0);
-}
-
-Deyimler::Tedarikçi::Tedarikçi FiyatListesiAlFormu::SeçilenTercih() const {
-    const SütunTahmini& sütunlar = m_seçim.Sütunlar;
-    const Yuvarlama yuvarlama = m_yuvarlama.Seçilen();
-    Tedarikçi tercih;
-    tercih.Ad = m_tedarikçiAdı;
-    tercih.Sayfa = m_tür == ÇizelgeTürü::Csv ? QString() : m_sayfa->currentData().toString();
-    tercih.BaşlıkSatırı = static_cast<int>(sütunlar.BaşlıkSatırı);
-    tercih.AdSütunu = sütunlar.AdSütunu;
-    tercih.FiyatSütunu = sütunlar.FiyatSütunu;
-    tercih.AdBaşlığı = m_ilkler.Başlık(sütunlar.AdSütunu);
-    tercih.FiyatBaşlığı = m_ilkler.Başlık(sütunlar.FiyatSütunu);
-    constexpr const char* imler[] = {"", ",", "."};
-    tercih.Ondalık = QString::fromLatin1(imler[m_ondalık->currentIndex()]);
-    if (m_tür == ÇizelgeTürü::Csv) tercih.Ayraç = QChar::fromLatin1(m_seçim.Ayraç);
-    tercih.İskonto = ParaOku(m_iskonto->text()).value_or(Para());
-    tercih.YuvarlamaAdımı = Para::OnBindeBirden(yuvarlama.Adım);
-    tercih.YuvarlamaYönü = static_cast<int>(yuvarlama.Yön);
-    return tercih;
-}
-
 İşSonucu FiyatListesiAlFormu::Eşle(const MalzemeKataloğu& katalog) {
     std::vector<Deyimler::Tedarikçi::Bağ> bağlar;
     İşSonucu sonuç;
     if (!m_tedarikçiAdı.isEmpty()) sonuç = TedarikçiBağlarınıOku(ODBCBağlantısı(), m_tedarikçiAdı, bağlar);
-    if (sonuç.Tamam())
-        m_liste.Eşle(katalog, bağlar, static_cast<Ondalıkİmi>(m_ondalık->currentIndex()),
-                     {ParaOku(m_iskonto->text()).value_or(Para()), m_yuvarlama.Seçilen()});
+    if (!sonuç.Tamam()) return sonuç;
+    m_bağlar = std::move(bağlar);
+    KuralıUygula(katalog);
     return sonuç;
+}
+
+void FiyatListesiAlFormu::KuralıUygula(const MalzemeKataloğu& katalog) {
+    m_liste.Eşle(katalog, m_bağlar, static_cast<Ondalıkİmi>(m_ondalık->currentIndex()),
+                 {ParaOku(m_iskonto->text()).value_or(Para()), m_yuvarlama.Seçilen()});
 }
 
 bool FiyatListesiAlFormu::Eşle() {
@@ -266,10 +221,9 @@ bool FiyatListesiAlFormu::Eşle() {
 // The rows stay in their places, as the user may be about to click one.
 void FiyatListesiAlFormu::KuralDeğişti() {
     if (m_liste.Satırlar().empty() || !İskontoOkunur()) return;
-    const İşSonucu sonuç = Eşle(MalzemeKataloğu(m_liste.Katalog()));
+    KuralıUygula(MalzemeKataloğu(m_liste.Katalog()));
     m_model.HücrelerDeğişti();
     SayıyıYaz();
-    İşSonucunuGöster(sonuç);
 }
 
 bool FiyatListesiAlFormu::İskontoOkunur() const {
