@@ -43,7 +43,7 @@ std::optional<Para> MalzemeTutarı(double miktar, Para fiyat) {
 
 std::string_view MiktarBirimi(std::string_view miktar) {
     const std::size_t boşluk = miktar.rfind(' ');
-    return boşluk == miktar.npos ? std::string_view() : miktar.substr(boşluk + 1);
+    return boşluk == std::string_view::npos ? std::string_view() : miktar.substr(boşluk + 1);
 }
 
 bool MalzemeSayımı::Ekle(std::optional<double> miktar, std::optional<Para> fiyat, std::string_view birim) {
