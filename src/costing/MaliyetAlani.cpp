@@ -19,12 +19,6 @@ namespace {
 
 enum Yüzdeler { İşçilik, Kâr, Diğer, Vade };
 
-QString YüzdeMetni(const QString& saklanan) {
-    if (saklanan.isEmpty()) return QStringLiteral("0");
-    const QString metin = NoktayıVirgüleÇevir(saklanan);
-    return SayıMetniBiçimle(metin, OndalıkBasamak, NoktaKuralı::Yerinde).value_or(metin);
-}
-
 }  // namespace
 
 MaliyetAlanı::MaliyetAlanı(std::function<void(bool düzenlendi)> değişince, QWidget* sahip)
@@ -100,7 +94,7 @@ bool MaliyetAlanı::YüzdeleriYükle(const QString& grup, const QString& ürün)
         for (int i = İşçilik; i <= Vade; ++i) saklanan[i] = SütunOku(i + 1);
     });
     if (kayıt != Kayıt::Var) return false;
-    for (int i = İşçilik; i <= Vade; ++i) m_yüzdeler[i]->setText(YüzdeMetni(saklanan[i]));
+    for (int i = İşçilik; i <= Vade; ++i) m_yüzdeler[i]->setText(YüzdeMetni(saklanan[i], OndalıkBasamak));
     return true;
 }
 

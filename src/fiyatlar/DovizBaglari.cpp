@@ -109,9 +109,8 @@ void DövizBağları::SeçimiSakla() {
 void DövizBağları::Yenile(const QString& kod) {
     m_adayModeli.Yenile();
     DöviziSeç(kod);
-    SatırıSeç(*m_bağlar, m_bağModeli,
-              [this](std::size_t satır) { return m_bağKaynağı.Bağ(satır).Malzeme == m_sonBağ; });
-    SatırıSeç(*m_adaylar, m_adayModeli, [this](std::size_t satır) { return m_adayKaynağı.Ad(satır) == m_sonAday; });
+    m_bağlar->SatırıSeç([this](std::size_t satır) { return m_bağKaynağı.Bağ(satır).Malzeme == m_sonBağ; });
+    m_adaylar->SatırıSeç([this](std::size_t satır) { return m_adayKaynağı.Ad(satır) == m_sonAday; });
     NotuYaz(*m_adayNotu, *m_adaylar, Metin(MetinNo::BağlanacakYok));
     DüğmeleriAyarla();
 }
@@ -130,7 +129,7 @@ void DövizBağları::Süz() {
     const QString aranan = m_süz->text().simplified();
     const QString seçili = SeçiliAday();
     m_adayModeli.Süz([this, aranan](std::size_t satır) { return Türkçe::İçerir(m_adayKaynağı.Ad(satır), aranan); });
-    SatırıSeç(*m_adaylar, m_adayModeli, [&](std::size_t satır) { return m_adayKaynağı.Ad(satır) == seçili; });
+    m_adaylar->SatırıSeç([&](std::size_t satır) { return m_adayKaynağı.Ad(satır) == seçili; });
     NotuYaz(*m_adayNotu, *m_adaylar, Metin(MetinNo::BağlanacakYok));
     DüğmeleriAyarla();
 }
@@ -149,7 +148,7 @@ void DövizBağları::BağıAl() {
     if (!satır) return;
     const Bağ bağ = m_bağKaynağı.Bağ(*satır);
     m_süz->clear();
-    const bool var = SatırıSeç(*m_adaylar, m_adayModeli, [&](std::size_t yer) {
+    const bool var = m_adaylar->SatırıSeç([&](std::size_t yer) {
         const Bağ* aday = m_adayKaynağı.Bağ(yer);
         return aday && aday->Malzeme == bağ.Malzeme;
     });

@@ -145,7 +145,7 @@ bool DövizKurlarıFormu::Yükle() {
     m_yenileniyor = true;
     m_veri = std::move(veri);
     m_model.Yenile();
-    SatırıSeç(*m_tablo, m_model, [&](std::size_t satır) { return m_veri.Dövizler[satır].Kod == kod; });
+    m_tablo->SatırıSeç([&](std::size_t satır) { return m_veri.Dövizler[satır].Kod == kod; });
     m_yenileniyor = false;
     NotuYaz(*m_not, *m_tablo, Metin(MetinNo::DövizYok));
     m_bağlar->Yenile(SeçiliKod());
@@ -212,7 +212,7 @@ void DövizKurlarıFormu::DövizEkle() {
     m_kod->clear();
     m_kur->clear();
     if (!Yükle()) return;
-    SatırıSeç(*m_tablo, m_model, [&](std::size_t satır) { return m_veri.Dövizler[satır].Kod == kod; });
+    m_tablo->SatırıSeç([&](std::size_t satır) { return m_veri.Dövizler[satır].Kod == kod; });
     m_tablo->setFocus();
 }
 

@@ -10,15 +10,6 @@
 
 using Deyimler::Döviz::Bağ;
 
-namespace {
-
-template <typename T>
-int Sırala(const T& a, const T& b) {
-    return a < b ? -1 : b < a ? 1 : 0;
-}
-
-}  // namespace
-
 İşSonucu DövizVerisi::Oku(OdbcBağlantısı& bağlantı) {
     DövizVerisi yeni;
     std::vector<Bağ> bağlar;
@@ -143,17 +134,6 @@ int AdayKaynağı::Karşılaştır(std::size_t a, std::size_t b, int sütun) con
     if (sütun == AFiyat) return Sırala(m_veri.Katalog.Malzemeler[a].Fiyat, m_veri.Katalog.Malzemeler[b].Fiyat);
     if (sütun == ABağ && Bağ(a) && Bağ(b) && Bağ(a)->Kod == Bağ(b)->Kod) return Sırala(Bağ(a)->Fiyat, Bağ(b)->Fiyat);
     return TabloKaynağı::Karşılaştır(a, b, sütun);
-}
-
-bool SatırıSeç(Tablo& tablo, const TabloModeli& model, const std::function<bool(std::size_t)>& aranan) {
-    for (int satır = 0; satır < model.rowCount(); ++satır) {
-        if (!aranan(model.KaynakSatırı(satır))) continue;
-        tablo.setCurrentIndex(model.index(satır, 0));
-        tablo.scrollTo(tablo.currentIndex());
-        return true;
-    }
-    tablo.setCurrentIndex({});
-    return false;
 }
 
 QLabel* TabloNotu(const QString& ad, Tablo& tablo) {

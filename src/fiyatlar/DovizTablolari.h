@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include "DovizKayitlari.h"
 #include "TabloModeli.h"
 
@@ -78,9 +76,6 @@ class AdayKaynağı : public TabloKaynağı {
   private:
     const DövizVerisi& m_veri;
 };
-
-// Marks the first shown row of which this holds; none: no row is marked.
-bool SatırıSeç(Tablo& tablo, const TabloModeli& model, const std::function<bool(std::size_t satır)>& aranan);
 
 // A line of text amid an empty table, for what it has to say then.
 QLabel* TabloNotu(const QString& ad, Tablo& tablo);

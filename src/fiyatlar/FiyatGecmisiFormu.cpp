@@ -13,6 +13,7 @@
 #include "FormParcalari.h"
 #include "GeriAlma.h"
 #include "GirisKutusu.h"
+#include "KatalogKaynagi.h"
 #include "MetinTablosu.h"
 #include "OdbcModulu.h"
 #include "Tablo.h"
@@ -43,19 +44,13 @@ QDateTime ZamanOku(const QString& zaman) {
 
 }  // namespace
 
-class FiyatGeçmişiFormu::MalzemeKaynağı : public TabloKaynağı {
+class FiyatGeçmişiFormu::MalzemeKaynağı : public KatalogKaynağı {
   public:
+    MalzemeKaynağı() : KatalogKaynağı(Malzemeler) {}
+
     std::vector<KatalogMalzemesi> Malzemeler;
     std::vector<bool> İşaretliler;
 
-    std::size_t SatırSayısı() const override { return Malzemeler.size(); }
-    QString Hücre(std::size_t satır, int sütun) const override {
-        return sütun == 0 ? Malzemeler[satır].Ad : FiyatMetni(Malzemeler[satır].Fiyat);
-    }
-    int Karşılaştır(std::size_t a, std::size_t b, int sütun) const override {
-        if (sütun == 0) return TabloKaynağı::Karşılaştır(a, b, sütun);
-        return Malzemeler[a].Fiyat < Malzemeler[b].Fiyat ? -1 : Malzemeler[b].Fiyat < Malzemeler[a].Fiyat ? 1 : 0;
-    }
     std::optional<bool> İşaret(std::size_t satır) const override { return İşaretliler[satır]; }
     void İşaretle(std::size_t satır, bool işaretli) override { İşaretliler[satır] = işaretli; }
 };
@@ -93,20 +88,19 @@ class FiyatGeçmişiFormu::GeçmişKaynağı : public TabloKaynağı {
         }
     }
     int Karşılaştır(std::size_t a, std::size_t b, int sütun) const override {
-        const auto sırala = [](const auto& x, const auto& y) { return x < y ? -1 : y < x ? 1 : 0; };
         const Deyimler::Fiyat::Değişim& x = Satırlar[a].Değişim;
         const Deyimler::Fiyat::Değişim& y = Satırlar[b].Değişim;
         switch (sütun) {
             case GZaman:
-                return sırala(x.İşlem, y.İşlem);  // the numbers alone give the order
+                return Sırala(x.İşlem, y.İşlem);  // the numbers alone give the order
             case GEski:
-                return sırala(x.Eski, y.Eski);
+                return Sırala(x.Eski, y.Eski);
             case GYeni:
-                return sırala(x.Yeni, y.Yeni);
+                return Sırala(x.Yeni, y.Yeni);
             case GFark:
-                return sırala(x.Yeni.Double() - x.Eski.Double(), y.Yeni.Double() - y.Eski.Double());
+                return Sırala(x.Yeni.Double() - x.Eski.Double(), y.Yeni.Double() - y.Eski.Double());
             case GYüzde:
-                return sırala(Oranı(x), Oranı(y));
+                return Sırala(Oranı(x), Oranı(y));
             default:
                 return TabloKaynağı::Karşılaştır(a, b, sütun);
         }

@@ -57,19 +57,11 @@ void FiyatÖnizlemeFormu::DüğmeleriKur() {
 }
 
 void FiyatÖnizlemeFormu::Yerleştir() {
-    const auto bölüm = [](int sıra, MetinNo başlık, Tablo* tablo) {
-        auto* parça = new QWidget;
-        auto* düzen = new QVBoxLayout(parça);
-        düzen->setContentsMargins(0, 0, 0, 0);
-        düzen->addWidget(VurgulananEtiket(sıra, başlık, tablo));
-        düzen->addWidget(tablo);
-        return parça;
-    };
     auto* bölen = new QSplitter(Qt::Vertical);
     bölen->setObjectName(QStringLiteral("Bölen"));
     bölen->setChildrenCollapsible(false);
-    bölen->addWidget(bölüm(1, MetinNo::MalzemelerEtiketi, m_malzemeTablosu));
-    bölen->addWidget(bölüm(2, MetinNo::ÜrünlerEtiketi, m_ürünTablosu));
+    bölen->addWidget(TabloBölümü(1, MetinNo::MalzemelerEtiketi, m_malzemeTablosu));
+    bölen->addWidget(TabloBölümü(2, MetinNo::ÜrünlerEtiketi, m_ürünTablosu));
     auto* önizle =
         DüğmeOluştur(QStringLiteral("ÖnizlemeButonu"), MetinNo::Önizleme, [this] { Önizle(*this, Rapor()); });
     auto* iptal = DüğmeOluştur(QStringLiteral("İptalButonu"), MetinNo::Vazgeç, [this] { reject(); });

@@ -7,11 +7,6 @@
 
 namespace {
 
-template <typename T>
-int Sırala(const T& a, const T& b) {
-    return a < b ? -1 : b < a ? 1 : 0;
-}
-
 double Büyüklük(Para önce, Para sonra) {
     return std::abs(sonra.Double() - önce.Double());
 }

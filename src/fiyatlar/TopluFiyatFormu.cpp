@@ -56,8 +56,7 @@ class TopluFiyatFormu::MalzemeKaynağı : public TabloKaynağı {
     int Karşılaştır(std::size_t a, std::size_t b, int sütun) const override {
         const Satır& x = Satırlar[a];
         const Satır& y = Satırlar[b];
-        if (sütun == FiyatSütunu)
-            return x.Malzeme.Fiyat < y.Malzeme.Fiyat ? -1 : y.Malzeme.Fiyat < x.Malzeme.Fiyat ? 1 : 0;
+        if (sütun == FiyatSütunu) return Sırala(x.Malzeme.Fiyat, y.Malzeme.Fiyat);
         if (sütun == SonDeğişimSütunu) return x.SonDeğişim.compare(y.SonDeğişim);
         return TabloKaynağı::Karşılaştır(a, b, sütun);
     }

@@ -24,24 +24,19 @@ class Toplayıcı {
         : m_ürünler(ürünler), m_malzemeler(malzemeler), m_basamak(basamak), m_satırlar(satırlar) {}
 
     void Al(OdbcSatırı& satır) {
-        // A column's bytes hold until the next column is read.
-        const auto oku = [&satır](int sütun, std::string& yer) { yer = satır.Baytlar(sütun).value_or(""); };
-        oku(1, m_okunanGrup);
-        oku(2, m_okunanAd);
-        ÜrünüBul();
+        const auto baytlar = [&satır](int sütun) { return satır.Baytlar(sütun).value_or(std::string_view()); };
+        ÜrünüBul(baytlar(1), baytlar(2));
         if (m_ürün == AdDizini::YOK) return;
         MaliyetTablosuSatırı& ürün = m_satırlar[m_ürün];
-        oku(3, m_malzeme);
-        if (ürün.MalzemeSayısı++ > 0 && Türkçe::Karşılaştır(std::string_view(m_malzeme), m_sonMalzeme) == 0)
-            ürün.Dikkat |= İkiKezYazılmış;
-        m_sonMalzeme.swap(m_malzeme);
-        if (m_malzemeler.Dizin.Bul(m_sonMalzeme) == AdDizini::YOK) ürün.Dikkat |= KatalogDışıMalzeme;
-        oku(4, m_miktar);
-        const std::optional<double> miktar = MiktarSayısı(std::string_view(m_miktar));
-        const std::optional<Para> fiyat = SaklananPara(satır.Baytlar(5).value_or(""));
+        const std::string_view malzeme = baytlar(3);
+        if (ürün.MalzemeSayısı++ > 0 && Türkçe::Karşılaştır(malzeme, m_sonMalzeme) == 0) ürün.Dikkat |= İkiKezYazılmış;
+        m_sonMalzeme = malzeme;
+        if (m_malzemeler.Dizin.Bul(malzeme) == AdDizini::YOK) ürün.Dikkat |= KatalogDışıMalzeme;
+        const std::optional<double> miktar = MiktarSayısı(baytlar(4));
+        const std::optional<Para> fiyat = SaklananPara(baytlar(5));
         if (!miktar) ürün.Dikkat |= OkunamayanMiktar;
         if (fiyat == Para()) ürün.Dikkat |= SıfırFiyat;
-        if (!m_sayım.Ekle(miktar, fiyat, MiktarBirimi(m_miktar)) && miktar) ürün.Dikkat |= TutarTaşıyor;
+        if (!m_sayım.Ekle(miktar, fiyat, MiktarBirimi(baytlar(4))) && miktar) ürün.Dikkat |= TutarTaşıyor;
     }
 
     // After the last row; products without any row too.
@@ -52,11 +47,11 @@ class Toplayıcı {
     }
 
   private:
-    void ÜrünüBul() {
-        if (m_var && m_okunanGrup == m_grup && m_okunanAd == m_ad) return;
-        const std::uint32_t yeni = m_ürünler.Dizin.Bul(m_okunanGrup, m_okunanAd);
-        m_grup = m_okunanGrup;
-        m_ad = m_okunanAd;
+    void ÜrünüBul(std::string_view grup, std::string_view ad) {
+        if (m_var && grup == m_grup && ad == m_ad) return;
+        const std::uint32_t yeni = m_ürünler.Dizin.Bul(grup, ad);
+        m_grup = grup;
+        m_ad = ad;
         m_var = true;
         if (yeni == m_ürün) return;  // only letter case differs
         ÜrünüBitir();
@@ -90,10 +85,6 @@ class Toplayıcı {
     bool m_var = false;
     std::string m_grup;
     std::string m_ad;
-    std::string m_okunanGrup;
-    std::string m_okunanAd;
-    std::string m_malzeme;
-    std::string m_miktar;
     std::string m_sonMalzeme;
     std::uint32_t m_ürün = AdDizini::YOK;
     MalzemeSayımı m_sayım;

@@ -4,8 +4,11 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QScrollBar>
+#include <QVBoxLayout>
 
+#include "FormParcalari.h"
 #include "MetinTablosu.h"
 #include "MetinTemsilcisi.h"
 
@@ -43,6 +46,17 @@ int Tablo::sizeHintForColumn(int sütun) const {
     const QString örnek(tanım.Harf, tanım.Sayı ? QLatin1Char('8') : QLatin1Char('n'));
     const int başlık = fontMetrics().horizontalAdvance(Metin(tanım.Başlık)) + 28;
     return qMax(başlık, fontMetrics().horizontalAdvance(örnek) + 16);
+}
+
+bool Tablo::SatırıSeç(const std::function<bool(std::size_t)>& aranan) {
+    for (int satır = 0; satır < m_model.rowCount(); ++satır) {
+        if (!aranan(m_model.KaynakSatırı(satır))) continue;
+        setCurrentIndex(m_model.index(satır, 0));
+        scrollTo(currentIndex());
+        return true;
+    }
+    setCurrentIndex({});
+    return false;
 }
 
 QSize Tablo::sizeHint() const {
@@ -100,4 +114,13 @@ void Tablo::focusInEvent(QFocusEvent* olay) {
     if (olay->reason() != Qt::MouseFocusReason && !currentIndex().isValid() && m_model.rowCount() > 0)
         setCurrentIndex(m_model.index(0, 0));
     QTableView::focusInEvent(olay);
+}
+
+QWidget* TabloBölümü(int sıra, MetinNo başlık, Tablo* tablo) {
+    auto* bölüm = new QWidget;
+    auto* düzen = new QVBoxLayout(bölüm);
+    düzen->setContentsMargins(0, 0, 0, 0);
+    düzen->addWidget(VurgulananEtiket(sıra, başlık, tablo));
+    düzen->addWidget(tablo);
+    return bölüm;
 }

@@ -14,6 +14,9 @@ class Tablo : public QTableView {
     // The marked row's number in the source.
     std::optional<std::size_t> SeçiliSatır() const;
 
+    // Marks the first shown row of which this holds and brings it into view. False: there is none, and none is marked.
+    bool SatırıSeç(const std::function<bool(std::size_t satır)>& aranan);
+
     // Wide enough for all columns.
     QSize sizeHint() const override;
 
@@ -30,3 +33,6 @@ class Tablo : public QTableView {
 
     TabloModeli& m_model;
 };
+
+// The table with its caption above it, as a part of a form.
+QWidget* TabloBölümü(int sıra, MetinNo başlık, Tablo* tablo);

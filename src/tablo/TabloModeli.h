@@ -10,6 +10,12 @@
 
 enum class MetinNo : int;
 
+// What TabloKaynağı::Karşılaştır gives for two values.
+template <typename T>
+int Sırala(const T& a, const T& b) {
+    return a < b ? -1 : b < a ? 1 : 0;
+}
+
 // The rows behind a table, numbered from 0 in the owner's order. The table holds no copy of them.
 class TabloKaynağı {
   public:

@@ -2,15 +2,13 @@
 
 #include "DegiskenModulu.h"
 #include "MetinTablosu.h"
-#include "Ondalik.h"
 #include "SayfaDuzeni.h"
 
 namespace {
 
-// The value as it is shown.
 void Ekle(QList<ÇizelgeDeğeri>& değerler, const std::optional<double>& sayı) {
-    const auto ondalık = sayı ? OnBeşHaneyle(*sayı) : std::nullopt;
-    ondalık ? değerler.emplaceBack(Yuvarla(*ondalık, OndalıkBasamak, Yarım::SıfırdanUzağa)) : değerler.emplaceBack();
+    const std::optional<Ondalık> gösterilen = GösterilenSayı(sayı);
+    gösterilen ? değerler.emplaceBack(*gösterilen) : değerler.emplaceBack();
 }
 
 }  // namespace

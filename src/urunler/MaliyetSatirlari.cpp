@@ -6,15 +6,9 @@
 
 #include "DegiskenModulu.h"
 #include "MetinTablosu.h"
-#include "Ondalik.h"
 #include "SayiMetni.h"
 
 namespace {
-
-template <typename T>
-int Sırala(const T& a, const T& b) {
-    return a < b ? -1 : b < a ? 1 : 0;
-}
 
 // Nothing comes after everything.
 int SonaBırakarakSırala(const std::optional<double>& a, const std::optional<double>& b) {
@@ -26,10 +20,10 @@ QString Biçimle(const std::optional<double>& sayı) {
     return sayı ? SayıBiçimle(*sayı, OndalıkBasamak).value_or(QString()) : QString();
 }
 
-// As it is shown, so that the sum is that of the figures on screen.
-std::optional<Para> Gösterilen(const std::optional<double>& sayı) {
-    const auto ondalık = sayı ? OnBeşHaneyle(*sayı) : std::nullopt;
-    return ondalık ? Para::Ondalıktan(Yuvarla(*ondalık, OndalıkBasamak, Yarım::SıfırdanUzağa)) : std::nullopt;
+// The sum is that of the figures on screen.
+std::optional<Para> GösterilenPara(const std::optional<double>& sayı) {
+    const std::optional<Ondalık> gösterilen = GösterilenSayı(sayı);
+    return gösterilen ? Para::Ondalıktan(*gösterilen) : std::nullopt;
 }
 
 }  // namespace
@@ -69,6 +63,11 @@ QString DikkatMetni(unsigned dikkat) {
     for (const auto& [neden, metin] : metinler)
         if (dikkat & neden) nedenler.append(Metin(metin));
     return nedenler.join(QStringLiteral("; "));
+}
+
+std::optional<Ondalık> GösterilenSayı(const std::optional<double>& sayı) {
+    const std::optional<Ondalık> ondalık = sayı ? OnBeşHaneyle(*sayı) : std::nullopt;
+    return ondalık ? std::optional(Yuvarla(*ondalık, OndalıkBasamak, Yarım::SıfırdanUzağa)) : std::nullopt;
 }
 
 QString MaliyetSatırları::Hücre(std::size_t satır, int sütun) const {
@@ -144,7 +143,7 @@ void GrupToplamları::Hesapla(const MaliyetSatırları& ürünler, const std::ve
         std::array<std::optional<Para>, 6> tutarlar;
         tutarlar.front() = ürün.MalzemeMaliyeti;
         tutarlar.back() = ürün.Toplam;
-        for (std::size_t i = 0; i < ürün.Tutarlar.size(); ++i) tutarlar[i + 1] = Gösterilen(ürün.Tutarlar[i]);
+        for (std::size_t i = 0; i < ürün.Tutarlar.size(); ++i) tutarlar[i + 1] = GösterilenPara(ürün.Tutarlar[i]);
         ekle(grup->second, tutarlar);
         ekle(hepsi, tutarlar);
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "MaliyetTablosu.h"
+#include "Ondalik.h"
 #include "TabloModeli.h"
 
 // The cost table's two lists: products, and the sums of those that the filter leaves, by group.
@@ -12,6 +13,9 @@ QList<TabloSütunu> GrupToplamıSütunlarınıVer();
 
 // Every reason, one behind the other; "" of none.
 QString DikkatMetni(unsigned dikkat);
+
+// A figure as it is shown, with OndalıkBasamak decimals.
+std::optional<Ondalık> GösterilenSayı(const std::optional<double>& sayı);
 
 class MaliyetSatırları : public TabloKaynağı {
   public:

@@ -79,19 +79,11 @@ void MaliyetTablosuFormu::Yerleştir() {
     üst->addWidget(m_süz, 1);
     üst->addWidget(m_dikkat);
     üst->addWidget(m_sayı);
-    const auto bölüm = [](int sıra, MetinNo başlık, Tablo* tablo) {
-        auto* parça = new QWidget;
-        auto* düzen = new QVBoxLayout(parça);
-        düzen->setContentsMargins(0, 0, 0, 0);
-        düzen->addWidget(VurgulananEtiket(sıra, başlık, tablo));
-        düzen->addWidget(tablo);
-        return parça;
-    };
     auto* bölen = new QSplitter(Qt::Vertical);
     bölen->setObjectName(QStringLiteral("Bölen"));
     bölen->setChildrenCollapsible(false);
-    bölen->addWidget(bölüm(2, MetinNo::ÜrünlerEtiketi, m_tablo));
-    bölen->addWidget(bölüm(3, MetinNo::GrupToplamlarıEtiketi, m_toplamlar));
+    bölen->addWidget(TabloBölümü(2, MetinNo::ÜrünlerEtiketi, m_tablo));
+    bölen->addWidget(TabloBölümü(3, MetinNo::GrupToplamlarıEtiketi, m_toplamlar));
     bölen->setSizes({430, 170});
     auto* önizle =
         DüğmeOluştur(QStringLiteral("ÖnizlemeButonu"), MetinNo::Önizleme, [this] { Önizle(*this, Rapor()); });
@@ -160,13 +152,10 @@ void MaliyetTablosuFormu::YeriSakla() {
 }
 
 void MaliyetTablosuFormu::YereDön() {
-    for (int sıra = 0; sıra < m_model.rowCount(); ++sıra) {
-        const MaliyetTablosuSatırı& satır = m_kaynak.Satırlar[m_model.KaynakSatırı(sıra)];
-        if (satır.Ad != sonGörünüm.Ad || satır.Grup != sonGörünüm.Grup) continue;
-        m_tablo->setCurrentIndex(m_model.index(sıra, 0));
-        m_tablo->scrollTo(m_tablo->currentIndex());
-        return;
-    }
+    m_tablo->SatırıSeç([this](std::size_t yer) {
+        const MaliyetTablosuSatırı& satır = m_kaynak.Satırlar[yer];
+        return satır.Ad == sonGörünüm.Ad && satır.Grup == sonGörünüm.Grup;
+    });
 }
 
 Yazdırılacak MaliyetTablosuFormu::Rapor() const {

@@ -16,11 +16,6 @@ QString BağSorgusu() {
         "SELECT MalzemeAdi, DovizKodu, DovizFiyati, YazilanFiyat, OncekiFiyat, IslemNo FROM DovizBagiTablosu");
 }
 
-QString BağKoşulu(const QString& malzeme, const QString& kod) {
-    return QStringLiteral(" WHERE MalzemeAdi= ") + Tırnakla(malzeme) + QStringLiteral(" AND DovizKodu= ") +
-           Tırnakla(kod);
-}
-
 }  // namespace
 
 QStringList TablolarıOluştur() {
@@ -32,7 +27,6 @@ QStringList TablolarıOluştur() {
                        "DovizFiyati CURRENCY NOT NULL, YazilanFiyat CURRENCY NOT NULL, OncekiFiyat CURRENCY NOT NULL, "
                        "IslemNo DOUBLE NOT NULL)"),
         QStringLiteral("CREATE UNIQUE INDEX DovizBagiSirasi ON DovizBagiTablosu (MalzemeAdi)"),
-        QStringLiteral("CREATE INDEX DovizinBaglari ON DovizBagiTablosu (DovizKodu, MalzemeAdi)"),
     };
 }
 
@@ -59,11 +53,6 @@ QString Bağlar() {
     return BağSorgusu() + QStringLiteral(" ORDER BY MalzemeAdi ASC");
 }
 
-QString BağlarıDövizin(const QString& kod) {
-    return BağSorgusu() + QStringLiteral(" WHERE DovizKodu= ") + Tırnakla(kod) +
-           QStringLiteral(" ORDER BY MalzemeAdi ASC");
-}
-
 QString BağıMalzemenin(const QString& malzeme) {
     return BağSorgusu() + QStringLiteral(" WHERE MalzemeAdi= ") + Tırnakla(malzeme);
 }
@@ -80,14 +69,11 @@ QString BağSil(const QString& malzeme) {
     return QStringLiteral("DELETE FROM DovizBagiTablosu WHERE MalzemeAdi= ") + Tırnakla(malzeme);
 }
 
-QString BağınFiyatı(const QString& malzeme, const QString& kod, Para fiyat) {
-    return QStringLiteral("UPDATE DovizBagiTablosu SET DovizFiyati= ") + Tutar(fiyat) + BağKoşulu(malzeme, kod);
-}
-
 QString BağınYazılanı(const Bağ& bağ) {
     return QStringLiteral("UPDATE DovizBagiTablosu SET YazilanFiyat= ") + Tutar(bağ.Yazılan) +
            QStringLiteral(", OncekiFiyat= ") + Tutar(bağ.Önceki) + QStringLiteral(", IslemNo= ") + Numara(bağ.İşlem) +
-           BağKoşulu(bağ.Malzeme, bağ.Kod);
+           QStringLiteral(" WHERE MalzemeAdi= ") + Tırnakla(bağ.Malzeme) + QStringLiteral(" AND DovizKodu= ") +
+           Tırnakla(bağ.Kod);
 }
 
 }  // namespace Deyimler::Döviz

@@ -34,11 +34,9 @@ struct Bağ {
     std::int64_t İşlem = 0;  // that rate's operation; 0: none yet
 };
 QString Bağlar();  // all columns in that order; by material
-QString BağlarıDövizin(const QString& kod);
 QString BağıMalzemenin(const QString& malzeme);
 QString BağEkle(const Bağ& bağ);
 QString BağSil(const QString& malzeme);
-QString BağınFiyatı(const QString& malzeme, const QString& kod, Para fiyat);
 QString BağınYazılanı(const Bağ& bağ);  // sets Yazılan, Önceki and İşlem
 
 }  // namespace Deyimler::Döviz

@@ -6,11 +6,6 @@
 
 namespace {
 
-template <typename T>
-int Sırala(const T& a, const T& b) {
-    return a < b ? -1 : b < a ? 1 : 0;
-}
-
 QString HücreMetni(const ÇizelgeHücresi& hücre) {
     return (hücre.Metin.isEmpty() ? hücre.Değer : hücre.Metin).simplified();
 }

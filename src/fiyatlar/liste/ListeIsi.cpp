@@ -307,12 +307,7 @@ void FiyatListesiAlFormu::EşleşmeyiÇöz() {
 
 // The row that the user works on stays marked, if the filter still shows it.
 void FiyatListesiAlFormu::YenidenSeç(std::size_t satır) {
-    for (int sıra = 0; sıra < m_model.rowCount(); ++sıra) {
-        if (m_model.KaynakSatırı(sıra) != satır) continue;
-        m_tablo->setCurrentIndex(m_model.index(sıra, 0));
-        m_tablo->scrollTo(m_tablo->currentIndex());
-        break;
-    }
+    m_tablo->SatırıSeç([satır](std::size_t yer) { return yer == satır; });
     m_tablo->setFocus();
 }
 

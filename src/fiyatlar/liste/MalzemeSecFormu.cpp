@@ -12,28 +12,13 @@
 #include "Tablo.h"
 #include "TurkceSira.h"
 
-class MalzemeSeçFormu::Kaynak : public TabloKaynağı {
-  public:
-    explicit Kaynak(const std::vector<KatalogMalzemesi>& malzemeler) : Malzemeler(malzemeler) {}
-
-    std::size_t SatırSayısı() const override { return Malzemeler.size(); }
-    QString Hücre(std::size_t satır, int sütun) const override {
-        return sütun == 0 ? Malzemeler[satır].Ad : FiyatMetni(Malzemeler[satır].Fiyat);
-    }
-    int Karşılaştır(std::size_t a, std::size_t b, int sütun) const override {
-        if (sütun == 0) return TabloKaynağı::Karşılaştır(a, b, sütun);
-        return Malzemeler[a].Fiyat < Malzemeler[b].Fiyat ? -1 : Malzemeler[b].Fiyat < Malzemeler[a].Fiyat ? 1 : 0;
-    }
-
-    const std::vector<KatalogMalzemesi>& Malzemeler;
-};
-
 MalzemeSeçFormu::MalzemeSeçFormu(const QString& listeAdı, const std::vector<KatalogMalzemesi>& malzemeler,
                                  std::uint32_t seçili, Para bölen, QWidget* sahip)
     : QDialog(sahip),
-      m_kaynak(std::make_unique<Kaynak>(malzemeler)),
+      m_malzemeler(malzemeler),
+      m_kaynak(malzemeler),
       m_model(std::make_unique<TabloModeli>(
-          *m_kaynak, QList<TabloSütunu>{{MetinNo::MalzemeSütunu, 34}, {MetinNo::FiyatıSütunu, 12, true}})),
+          m_kaynak, QList<TabloSütunu>{{MetinNo::MalzemeSütunu, 34}, {MetinNo::FiyatıSütunu, 12, true}})),
       m_süz(new GirişKutusu),
       m_tablo(new Tablo(QStringLiteral("MalzemeTablosu"), *m_model)),
       m_bölenKutusu(new SayıKutusu(SayıKutusu::Tür::Serbest)) {
@@ -60,10 +45,7 @@ MalzemeSeçFormu::MalzemeSeçFormu(const QString& listeAdı, const std::vector<K
     düzen->addLayout(DüğmeSırası({m_tamam, nullptr, iptal}));
     connect(m_tablo->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this] { m_tamam->setEnabled(m_tablo->SeçiliSatır().has_value()); });
-    if (seçili != AdDizini::YOK) {
-        m_tablo->setCurrentIndex(m_model->index(static_cast<int>(seçili), 0));
-        m_tablo->scrollTo(m_tablo->currentIndex());
-    }
+    m_tablo->SatırıSeç([seçili](std::size_t yer) { return yer == seçili; });
     m_tamam->setEnabled(m_tablo->SeçiliSatır().has_value());
     m_süz->setFocus();
     BoyVer(*this, {460, 480});
@@ -75,7 +57,7 @@ MalzemeSeçFormu::~MalzemeSeçFormu() {
 
 void MalzemeSeçFormu::Süz(const QString& metin) {
     const QString aranan = metin.simplified();
-    m_model->Süz([this, aranan](std::size_t satır) { return Türkçe::İçerir(m_kaynak->Malzemeler[satır].Ad, aranan); });
+    m_model->Süz([this, aranan](std::size_t satır) { return Türkçe::İçerir(m_malzemeler[satır].Ad, aranan); });
     m_tamam->setEnabled(m_tablo->SeçiliSatır().has_value());
 }
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "KatalogOkuma.h"
+#include "KatalogKaynagi.h"
 #include "Para.h"
 #include "TabloModeli.h"
 
@@ -27,12 +27,11 @@ class MalzemeSeçFormu : public QDialog {
     Para Bölen() const { return m_bölen; }
 
   private:
-    class Kaynak;
-
     void Süz(const QString& metin);
     void Tamamla();
 
-    std::unique_ptr<Kaynak> m_kaynak;
+    const std::vector<KatalogMalzemesi>& m_malzemeler;
+    KatalogKaynağı m_kaynak;
     std::unique_ptr<TabloModeli> m_model;
     GirişKutusu* m_süz;
     Tablo* m_tablo;
