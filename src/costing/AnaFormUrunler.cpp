@@ -8,24 +8,25 @@
 #include "MaliyetTablosuFormu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
+#include "UrunMetinleri.h"
 #include "MiktarAlani.h"
 #include "UrunAgaci.h"
 
 void AnaForm::ÜrünMenüsünüKur() {
-    QMenu* menü = menuBar()->addMenu(Metin(MetinNo::ÜrünlerMenüsü));
+    QMenu* menü = menuBar()->addMenu(Metin(ÜrünMetni::ÜrünlerMenüsü));
     menü->setObjectName(QStringLiteral("ÜrünlerMenüsü"));
     const auto girişEkle = [this, menü](const QString& ad, MetinNo metin, std::function<void()> iş) {
         menü->addAction(KomutOluştur(ad, metin, [this, iş = std::move(iş)] {
             if (KaydedilmemişiSor()) iş();
         }));
     };
-    girişEkle(QStringLiteral("MaliyetTablosuMenüsü"), MetinNo::MaliyetTablosuMenüsü, [this] { MaliyetTablosu(); });
+    girişEkle(QStringLiteral("MaliyetTablosuMenüsü"), ÜrünMetni::MaliyetTablosuMenüsü, [this] { MaliyetTablosu(); });
 }
 
 // What is not saved does not count there. False: it was to be saved, and could not be.
 bool AnaForm::KaydedilmemişiSor() {
     if (!m_komutlar.DeğişiklikleriKaydet->isEnabled()) return true;
-    if (!Sor(Metin(MetinNo::YüzdeleriKaydetSorusu))) return true;
+    if (!Sor(Metin(ÜrünMetni::YüzdeleriKaydetSorusu))) return true;
     DeğişiklikleriKaydet();
     return !m_komutlar.DeğişiklikleriKaydet->isEnabled();
 }
@@ -35,7 +36,7 @@ void AnaForm::MaliyetTablosu() {
     if (!form.Yükle()) return;
     if (form.Boş()) {
         MesajKutusuOrtala();
-        MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(MetinNo::ÜrünYok));
+        MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(ÜrünMetni::ÜrünYok));
         return;
     }
     if (form.exec() != QDialog::Accepted || !form.Gidilecek()) return;

@@ -24,6 +24,9 @@ inline const char* MetniBul(std::span<const MetinSatırı> tablo, MetinNo numara
     return satır == tablo.end() || satır->Numara != numara ? nullptr : satır->Metin;
 }
 
-// The tables of prices and of products as a whole.
+// The tables of other subjects.
 const char* FiyatMetniBul(MetinNo numara);
 const char* ÜrünMetniBul(MetinNo numara);
+const char* KullanımMetniBul(MetinNo numara);
+const char* ArşivMetniBul(MetinNo numara);
+const char* YarıMamulMetniBul(MetinNo numara);

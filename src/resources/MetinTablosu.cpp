@@ -315,8 +315,8 @@ static_assert(Sıralı(Tablo));
 
 QString Metin(MetinNo numara) {
     const char* metin = MetniBul(Tablo, numara);
-    if (!metin) metin = FiyatMetniBul(numara);
-    if (!metin) metin = ÜrünMetniBul(numara);
+    for (const auto bul : {FiyatMetniBul, ÜrünMetniBul, KullanımMetniBul, ArşivMetniBul, YarıMamulMetniBul})
+        if (!metin) metin = bul(numara);
     if (!metin) {
         Q_ASSERT_X(false, "Metin", "unknown text number");
         return QStringLiteral("?%1?").arg(static_cast<int>(numara));

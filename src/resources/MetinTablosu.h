@@ -236,9 +236,6 @@ enum class MetinNo : int {
 
 // Later additions: prices as a whole
 #include "FiyatMetinNumaralari.inc"
-
-// Later additions: products as a whole
-#include "UrunMetinNumaralari.inc"
 };
 
 // The text. Each number has one; an enumerator without would be a fault of the program: it then reads "?number?", and a

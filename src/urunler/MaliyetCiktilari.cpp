@@ -2,6 +2,7 @@
 
 #include "DegiskenModulu.h"
 #include "MetinTablosu.h"
+#include "UrunMetinleri.h"
 #include "SayfaDuzeni.h"
 
 namespace {
@@ -17,9 +18,9 @@ void MaliyetTablosunuYaz(SayfaYüzeyi& yüzey, const QString& başlık, const Ma
                          const TabloModeli& model) {
     SayfaDüzeni düzen(yüzey, başlık,
                       {{MetinNo::ÜrünSütunu, 13.5, HücreTürü::Metin},
-                       {MetinNo::MalzemeMaliyetiSütunu, 2.2, HücreTürü::Sayı},
-                       {MetinNo::ToplamSütunu, 1.55, HücreTürü::Sayı},
-                       {MetinNo::BirimMaliyetSütunu, 1.2, HücreTürü::Sayı}});
+                       {ÜrünMetni::MalzemeMaliyetiSütunu, 2.2, HücreTürü::Sayı},
+                       {ÜrünMetni::ToplamSütunu, 1.55, HücreTürü::Sayı},
+                       {ÜrünMetni::BirimMaliyetSütunu, 1.2, HücreTürü::Sayı}});
     if (!düzen.Başla()) return;
     for (int sıra = 0; sıra < model.rowCount(); ++sıra) {
         const std::size_t yer = model.KaynakSatırı(sıra);

@@ -6,6 +6,7 @@
 
 #include "DegiskenModulu.h"
 #include "MetinTablosu.h"
+#include "UrunMetinleri.h"
 #include "SayiMetni.h"
 
 namespace {
@@ -31,34 +32,34 @@ std::optional<Para> GösterilenPara(const std::optional<double>& sayı) {
 QList<TabloSütunu> MaliyetSütunlarınıVer() {
     return {{MetinNo::GrubuSütunu, 12},
             {MetinNo::ÜrünSütunu, 20},
-            {MetinNo::DikkatSütunu, 14},
-            {MetinNo::MalzemeSayısıSütunu, 5, true},
-            {MetinNo::MalzemeMaliyetiSütunu, 11, true},
-            {MetinNo::İşçilikSütunu, 8, true},
-            {MetinNo::KârSütunu, 8, true},
-            {MetinNo::DiğerSütunu, 8, true},
-            {MetinNo::VadeSütunu, 8, true},
-            {MetinNo::ToplamSütunu, 11, true},
-            {MetinNo::BirimMaliyetSütunu, 9, true}};
+            {ÜrünMetni::DikkatSütunu, 14},
+            {ÜrünMetni::MalzemeSayısıSütunu, 5, true},
+            {ÜrünMetni::MalzemeMaliyetiSütunu, 11, true},
+            {ÜrünMetni::İşçilikSütunu, 8, true},
+            {ÜrünMetni::KârSütunu, 8, true},
+            {ÜrünMetni::DiğerSütunu, 8, true},
+            {ÜrünMetni::VadeSütunu, 8, true},
+            {ÜrünMetni::ToplamSütunu, 11, true},
+            {ÜrünMetni::BirimMaliyetSütunu, 9, true}};
 }
 
 QList<TabloSütunu> GrupToplamıSütunlarınıVer() {
     return {{MetinNo::GrubuSütunu, 20},
-            {MetinNo::ÜrünSayısıSütunu, 7, true},
-            {MetinNo::MalzemeMaliyetiSütunu, 14, true},
-            {MetinNo::İşçilikSütunu, 12, true},
-            {MetinNo::KârSütunu, 12, true},
-            {MetinNo::DiğerSütunu, 12, true},
-            {MetinNo::VadeSütunu, 12, true},
-            {MetinNo::ToplamSütunu, 14, true}};
+            {ÜrünMetni::ÜrünSayısıSütunu, 7, true},
+            {ÜrünMetni::MalzemeMaliyetiSütunu, 14, true},
+            {ÜrünMetni::İşçilikSütunu, 12, true},
+            {ÜrünMetni::KârSütunu, 12, true},
+            {ÜrünMetni::DiğerSütunu, 12, true},
+            {ÜrünMetni::VadeSütunu, 12, true},
+            {ÜrünMetni::ToplamSütunu, 14, true}};
 }
 
 QString DikkatMetni(unsigned dikkat) {
     constexpr std::pair<DikkatNedeni, MetinNo> metinler[] = {
-        {MalzemesiYok, MetinNo::DikkatMalzemesiYok}, {KatalogDışıMalzeme, MetinNo::DikkatKatalogDışı},
-        {SıfırFiyat, MetinNo::DikkatSıfırFiyat},     {OkunamayanMiktar, MetinNo::DikkatOkunamayanMiktar},
-        {İkiKezYazılmış, MetinNo::DikkatİkiKez},     {ToplamSıfır, MetinNo::DikkatToplamSıfır},
-        {TutarTaşıyor, MetinNo::DikkatTutarTaşıyor}};
+        {MalzemesiYok, ÜrünMetni::DikkatMalzemesiYok}, {KatalogDışıMalzeme, ÜrünMetni::DikkatKatalogDışı},
+        {SıfırFiyat, ÜrünMetni::DikkatSıfırFiyat},     {OkunamayanMiktar, ÜrünMetni::DikkatOkunamayanMiktar},
+        {İkiKezYazılmış, ÜrünMetni::DikkatİkiKez},     {ToplamSıfır, ÜrünMetni::DikkatToplamSıfır},
+        {TutarTaşıyor, ÜrünMetni::DikkatTutarTaşıyor}};
     QStringList nedenler;
     for (const auto& [neden, metin] : metinler)
         if (dikkat & neden) nedenler.append(Metin(metin));
@@ -149,7 +150,7 @@ void GrupToplamları::Hesapla(const MaliyetSatırları& ürünler, const std::ve
     }
     Satırlar.clear();
     for (auto& [sıra, satır] : gruplar) Satırlar.push_back(std::move(satır));
-    hepsi.Grup = Metin(MetinNo::BütünGruplar);
+    hepsi.Grup = Metin(ÜrünMetni::BütünGruplar);
     if (!Satırlar.empty()) Satırlar.push_back(std::move(hepsi));
 }
 

@@ -14,6 +14,7 @@
 #include "IlerlemeKutusu.h"
 #include "MaliyetCiktilari.h"
 #include "MetinTablosu.h"
+#include "UrunMetinleri.h"
 #include "OdbcModulu.h"
 #include "Tablo.h"
 #include "TurkceSira.h"
@@ -39,7 +40,7 @@ MaliyetTablosuFormu::MaliyetTablosuFormu(QWidget* sahip)
       m_model(m_kaynak, MaliyetSütunlarınıVer()),
       m_toplamModeli(m_toplamKaynağı, GrupToplamıSütunlarınıVer()) {
     setObjectName(QStringLiteral("MaliyetTablosuFormu"));
-    setWindowTitle(Metin(MetinNo::MaliyetTablosuBaşlığı));
+    setWindowTitle(Metin(ÜrünMetni::MaliyetTablosuBaşlığı));
     KontrolleriKur();
     Yerleştir();
 }
@@ -56,7 +57,7 @@ void MaliyetTablosuFormu::KontrolleriKur() {
     m_süz->setObjectName(QStringLiteral("SüzKutusu"));
     m_süz->setText(sonGörünüm.Süzgeç);
     connect(m_süz, &QLineEdit::textChanged, this, [this] { Süz(); });
-    m_dikkat = new QCheckBox(Metin(MetinNo::DikkatSeçeneği));
+    m_dikkat = new QCheckBox(Metin(ÜrünMetni::DikkatSeçeneği));
     m_dikkat->setObjectName(QStringLiteral("DikkatSeçeneği"));
     m_dikkat->setChecked(sonGörünüm.YalnızDikkat);
     connect(m_dikkat, &QCheckBox::toggled, this, [this] { Süz(); });
@@ -66,7 +67,7 @@ void MaliyetTablosuFormu::KontrolleriKur() {
     connect(m_tablo->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { SeçimDeğişti(); });
     connect(m_tablo, &QAbstractItemView::doubleClicked, this, [this] { Git(); });
     m_toplamlar = new Tablo(QStringLiteral("GrupToplamlarıTablosu"), m_toplamModeli);
-    m_git = DüğmeOluştur(QStringLiteral("GitButonu"), MetinNo::ÜrüneGit, [this] { Git(); });
+    m_git = DüğmeOluştur(QStringLiteral("GitButonu"), ÜrünMetni::ÜrüneGit, [this] { Git(); });
     m_yazdır = DüğmeOluştur(QStringLiteral("YazdırButonu"), MetinNo::Yazdır,
                             [this] { static_cast<void>(Yazdır(*this, *m_yazdır, Rapor())); });
     m_pdf = DüğmeOluştur(QStringLiteral("PdfKaydetButonu"), MetinNo::PdfKaydet,
@@ -75,7 +76,7 @@ void MaliyetTablosuFormu::KontrolleriKur() {
 
 void MaliyetTablosuFormu::Yerleştir() {
     auto* üst = new QHBoxLayout;
-    üst->addWidget(VurgulananEtiket(1, MetinNo::ÜrünSüz, m_süz));
+    üst->addWidget(VurgulananEtiket(1, ÜrünMetni::ÜrünSüz, m_süz));
     üst->addWidget(m_süz, 1);
     üst->addWidget(m_dikkat);
     üst->addWidget(m_sayı);
@@ -83,11 +84,11 @@ void MaliyetTablosuFormu::Yerleştir() {
     bölen->setObjectName(QStringLiteral("Bölen"));
     bölen->setChildrenCollapsible(false);
     bölen->addWidget(TabloBölümü(2, MetinNo::ÜrünlerEtiketi, m_tablo));
-    bölen->addWidget(TabloBölümü(3, MetinNo::GrupToplamlarıEtiketi, m_toplamlar));
+    bölen->addWidget(TabloBölümü(3, ÜrünMetni::GrupToplamlarıEtiketi, m_toplamlar));
     bölen->setSizes({430, 170});
     auto* önizle =
         DüğmeOluştur(QStringLiteral("ÖnizlemeButonu"), MetinNo::Önizleme, [this] { Önizle(*this, Rapor()); });
-    auto* aktar = DüğmeOluştur(QStringLiteral("TabloyaAktarButonu"), MetinNo::TabloyaAktar, [this] { Çizelgeye(); });
+    auto* aktar = DüğmeOluştur(QStringLiteral("TabloyaAktarButonu"), ÜrünMetni::TabloyaAktar, [this] { Çizelgeye(); });
     auto* kapat = DüğmeOluştur(QStringLiteral("KapatButonu"), MetinNo::Kapat, [this] { reject(); });
     auto* düzen = new QVBoxLayout(this);
     düzen->addLayout(üst);
@@ -99,7 +100,7 @@ void MaliyetTablosuFormu::Yerleştir() {
 
 bool MaliyetTablosuFormu::Yükle() {
     std::vector<MaliyetTablosuSatırı> satırlar;
-    İlerlemeKutusu kutu(MetinNo::MaliyetlerOkunuyor, 0, parentWidget());
+    İlerlemeKutusu kutu(ÜrünMetni::MaliyetlerOkunuyor, 0, parentWidget());
     const İşSonucu sonuç = MaliyetTablosunuOku(ODBCBağlantısı(), OndalıkBasamak, satırlar,
                                                [&kutu](std::int64_t okunan) { return kutu.Bildir(okunan); });
     if (!sonuç.Tamam()) {
@@ -126,7 +127,7 @@ void MaliyetTablosuFormu::Süz() {
     for (int sıra = 0; sıra < m_model.rowCount(); ++sıra) yerler.push_back(m_model.KaynakSatırı(sıra));
     m_toplamKaynağı.Hesapla(m_kaynak, yerler);
     m_toplamModeli.Yenile();
-    m_sayı->setText(Metin(MetinNo::ÜrünSayısıMetni).arg(m_model.rowCount()).arg(m_kaynak.Satırlar.size()));
+    m_sayı->setText(Metin(ÜrünMetni::ÜrünSayısıMetni).arg(m_model.rowCount()).arg(m_kaynak.Satırlar.size()));
     SeçimDeğişti();
 }
 
