@@ -36,6 +36,7 @@ class SessizAnaForm : public AnaFormErişimi {
     std::optional<Ürün> SeçiliÜrün() const override { return Ürün{u"ÖLÇÜM"_s, u"Ölçüm Ürünü"_s}; }
     QStringList KullanılanMalzemeAdları() const override { return {}; }
     void FiyatGeçmişiniGöster(const QString&, QWidget*) override {}
+    void VeriDeğişti(const VeriDeğişimi&) override {}
     void MalzemeTablosuYükle() override {}
 };
 

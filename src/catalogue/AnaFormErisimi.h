@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "YariMamulYayilimi.h"
+
 class QWidget;
 
 // What the catalogue forms need of the main form. The main form supplies it; a test may supply its own.
@@ -36,6 +38,10 @@ class AnaFormErişimi {
 
     // Shows the recorded prices of a material, over `sahip`.
     virtual void FiyatGeçmişiniGöster(const QString& malzeme, QWidget* sahip) = 0;
+
+    // Once per command that changed the data, after its last statement whatever that gave and before anything is shown
+    // anew: the prices of materials that stand for products follow. What could not be done has been told.
+    virtual void VeriDeğişti(const VeriDeğişimi& değişim) = 0;
 
     // Reloads the selected product's used materials and percentages and recomputes its cost.
     virtual void MalzemeTablosuYükle() = 0;

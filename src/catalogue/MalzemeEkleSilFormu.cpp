@@ -18,6 +18,7 @@
 #include "Saat.h"
 #include "SayiKutusu.h"
 #include "SayiMetni.h"
+#include "YariMamulMetinleri.h"
 #include "Yukleyiciler.h"
 
 using MesajKutusu::Düğmeler;
@@ -198,7 +199,9 @@ void MalzemeEkleSilFormu::MalzemeEkleKaydetButonu_Click() {
     }
     if (!GirilenlerUygun()) return;
     const QString ad = m_ad->text();
-    if (!DeyimiYürüt(Deyimler::MalzemeEkle(ad, m_fiyat->text()))) return;
+    const bool eklendi = DeyimiYürüt(Deyimler::MalzemeEkle(ad, m_fiyat->text()));
+    m_anaForm.VeriDeğişti({.Malzemeler = {ad}});
+    if (!eklendi) return;
     EklemedenDön();
     const int yer = SıralıYer(
         m_liste->count(), [this](int satır) { return m_liste->item(satır)->text(); }, ad);
@@ -222,16 +225,21 @@ void MalzemeEkleSilFormu::MalzemeSilButonu_Click() {
     if (MesajKutusu::Göster(Simge::Ünlem, Düğmeler::EvetHayır, Metin(MetinNo::SilmeGeriAlınamaz)) == Yanıt::Hayır)
         return;
     if (!DeyimiYürüt(Deyimler::MalzemeSil(ad))) return;
+    const VeriDeğişimi değişim{.Malzemeler = {ad}, .Silindi = true};
     MesajKutusuOrtala();
     // Products keep the material's name, quantity and price unless the user agrees; No is the safe default.
     if (MesajKutusu::Göster(Simge::Soru, Düğmeler::EvetHayır, Metin(MetinNo::ÜrünlerdenÇıkarmaSorusu), {},
                             Yanıt::Hayır) == Yanıt::Evet) {
-        if (!DeyimiYürüt(Deyimler::MalzemeyiÜrünlerdenSil(ad))) {
+        const bool çıkarıldı = DeyimiYürüt(Deyimler::MalzemeyiÜrünlerdenSil(ad));
+        m_anaForm.VeriDeğişti(değişim);
+        if (!çıkarıldı) {
             // The row stays: through it the material can still be taken out of the products.
             YarımKaldı(MetinNo::ÜrünlerdenSilinemedi);
             return;
         }
         SeçiliÜrünüYenile();
+    } else {
+        m_anaForm.VeriDeğişti(değişim);
     }
     ListedenKaldır(m_liste->row(seçili));
 }
@@ -281,7 +289,22 @@ void MalzemeEkleSilFormu::FiyatDeğişimineBaşla() {
     // The boxes may hold what was typed and given up; the change begins with what is stored.
     const Kayıt kayıt = SeçileniGöster();
     if (kayıt == Kayıt::Yok) Uyar(MetinNo::SilinmişMalzeme, *m_liste);
-    if (kayıt == Kayıt::Var) FiyatKipineGeç();
+    if (kayıt == Kayıt::Var && BağÇözüldü(m_liste->SeçiliÖğe()->text())) FiyatKipineGeç();
+}
+
+// The price of a material that stands for a product is that product's, until the user dissolves the tie. True also
+// where there is none.
+bool MalzemeEkleSilFormu::BağÇözüldü(const QString& malzeme) {
+    const YarıMamulBağları* bağlar = nullptr;
+    İşSonucu sonuç = YarıMamulleriAl(ODBCBağlantısı(), bağlar);
+    if (sonuç.Tamam()) {
+        const YarıMamulBağı* bağ = bağlar->Bağı(malzeme);
+        if (!bağ) return true;
+        if (!Sor(Metin(YarıMamulMetni::ÇözmeSorusu).arg(bağ->Malzeme, bağ->Ürün.Grup, bağ->Ürün.Ad))) return false;
+        sonuç = YarıMamulBağınıÇöz(ODBCBağlantısı(), bağ->Malzeme);
+    }
+    if (!sonuç.Tamam()) HatalarıGöster(OdbcİletileriniAl(sonuç.Odbc.Hatalar));
+    return sonuç.Tamam();
 }
 
 void MalzemeEkleSilFormu::FiyatıKaydet() {
@@ -305,6 +328,7 @@ void MalzemeEkleSilFormu::FiyatıKaydet() {
         MesajKutusuOrtala();
         MesajKutusu::Göster(Simge::Ünlem, Düğmeler::Tamam, Metin(MetinNo::GeçmişeYazılamadı));
     }
+    m_anaForm.VeriDeğişti({.Malzemeler = {ad}});
     SeçiliÜrünüYenile();
     FiyattanDön();
     SeçileniGöster();

@@ -48,6 +48,7 @@ class MalzemeEkleSilFormu : public QDialog {
     void SatırıSeç(int satır);
     void ListedenKaldır(int satır);
     void FiyatDeğişimineBaşla();
+    bool BağÇözüldü(const QString& malzeme);
     void FiyatıKaydet();
     void SeçiliÜrünüYenile();
     void GeçmişiGöster();

@@ -23,6 +23,7 @@
 #include "SayiKutusu.h"
 #include "SayiMetni.h"
 #include "TurkceSira.h"
+#include "YariMamulMetinleri.h"
 #include "Yukleyiciler.h"
 
 namespace {
@@ -34,6 +35,11 @@ constexpr qsizetype EnÇokSayılanSatır = 10;  // rows that a message box names
 
 // Quantity, blank and type together fit a stored text: no quantity that can be stored is longer than the box's length.
 constexpr int EnUzunTür = EnUzunAd - 1 - EnUzunSayı;
+
+QString Başı(const QStringList& satırlar) {
+    const QString metin = satırlar.mid(0, EnÇokSayılanSatır).join(QLatin1Char('\n'));
+    return satırlar.size() > EnÇokSayılanSatır ? metin + QStringLiteral("\n...") : metin;
+}
 
 struct TürkçeKüçük {
     bool operator()(const QString& a, const QString& b) const {
@@ -220,31 +226,44 @@ void MalzemeListesiOluşturFormu::ListeyiTemizleButonu_Click() {
 void MalzemeListesiOluşturFormu::ListeyiAktarButonu_Click() {
     if (m_eklenecek->topLevelItemCount() == 0) return;
     HareketTarihiSQL = Deyimler::Tarih(Bugün());
-    if (Sor(Metin(MetinNo::AktarmaSorusu))) Aktar();
+    if (Sor(Metin(MetinNo::AktarmaSorusu)) && !Aktar()) return;
     accept();
 }
 
-void MalzemeListesiOluşturFormu::Aktar() {
+// False: nothing was done, the list stays.
+bool MalzemeListesiOluşturFormu::Aktar() {
     const auto ürün = m_anaForm.SeçiliÜrün();
-    if (!ürün) return;
+    if (!ürün) return true;
     // What the product already uses is rewritten, the rest is new; names compare as the data file compares them.
     const QStringList adlar = m_anaForm.KullanılanMalzemeAdları();
     const std::set<QString, TürkçeKüçük> kullanılan(adlar.cbegin(), adlar.cend());
     QStringList aktarılamayanlar;
+    QStringList döngüler;
+    const YarıMamulBağları* bağlar = nullptr;
+    if (const İşSonucu s = YarıMamulleriAl(ODBCBağlantısı(), bağlar); !s.Tamam()) {
+        // Unknown ties could close a circle, which nobody would see.
+        HatalarıGöster(OdbcİletileriniAl(s.Odbc.Hatalar));
+        return false;
+    }
     for (int sıra = 0; sıra < m_eklenecek->topLevelItemCount(); ++sıra) {
         const QTreeWidgetItem& satır = *m_eklenecek->topLevelItem(sıra);
         const Deyimler::KullanılanMalzeme kayıt{
             ürün->Grup,      ürün->Ad, satır.text(AdSütunu), satır.text(MiktarSütunu), satır.text(FiyatSütunu),
             HareketTarihiSQL};
+        const QStringList zincir = bağlar->Zincir({kayıt.Malzeme}, ÜrünAdı{ürün->Grup, ürün->Ad});
+        if (!zincir.isEmpty()) {
+            döngüler.append(ZincirMetni(ürün->Ad, zincir));
+            continue;
+        }
         // A failing statement has been reported; the others still go.
         if (!DeyimiYürüt(kullanılan.count(kayıt.Malzeme) ? Deyimler::KullanılanMalzemeDeğiştir(kayıt)
                                                          : Deyimler::KullanılanMalzemeEkle(kayıt)))
             aktarılamayanlar.append(kayıt.Miktar + QLatin1Char(' ') + kayıt.Malzeme);
     }
+    m_anaForm.VeriDeğişti({.Ürünler = {{ürün->Grup, ürün->Ad}}});
     m_anaForm.MalzemeTablosuYükle();
-    if (aktarılamayanlar.isEmpty()) return;
+    if (!döngüler.isEmpty()) YarımKaldı(YarıMamulMetni::DöngüyleAktarılmayanlar, QLatin1Char('\n') + Başı(döngüler));
     // The list goes with the form: what has to be entered again is named.
-    QString ek = QLatin1Char('\n') + aktarılamayanlar.mid(0, EnÇokSayılanSatır).join(QLatin1Char('\n'));
-    if (aktarılamayanlar.size() > EnÇokSayılanSatır) ek += QStringLiteral("\n...");
-    YarımKaldı(MetinNo::Aktarılamayanlar, ek);
+    if (!aktarılamayanlar.isEmpty()) YarımKaldı(MetinNo::Aktarılamayanlar, QLatin1Char('\n') + Başı(aktarılamayanlar));
+    return true;
 }

@@ -40,7 +40,7 @@ class MalzemeListesiOluşturFormu : public QDialog {
     void TürüHatırla(const QString& tür);
     bool ZatenEklenmiş(const QString& malzeme) const;
     std::optional<Para> BirimFiyat(const QString& malzeme) const;
-    void Aktar();
+    bool Aktar();
     void ListeDüğmeleriniAyarla();
 
     AnaFormErişimi& m_anaForm;

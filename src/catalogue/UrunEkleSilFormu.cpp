@@ -143,7 +143,9 @@ void ÜrünEkleSilFormu::ÜrünEkleKaydetButonu_Click() {
     if (!GirilenlerUygun()) return;
     const QString grup = KayıtlıGrup(m_grup->currentText());
     const QString ürün = m_ad->text();
-    if (!DeyimiYürüt(Deyimler::ÜrünEkle(grup, ürün))) return;
+    const bool eklendi = DeyimiYürüt(Deyimler::ÜrünEkle(grup, ürün));
+    m_anaForm.VeriDeğişti({.Ürünler = {{grup, ürün}}});
+    if (!eklendi) return;
     EkleneniYerleştir(grup, ürün);
     m_anaForm.ÜrünAğacınıYenile();
     GözatmaKipineDön();
@@ -208,7 +210,10 @@ void ÜrünEkleSilFormu::ÜrünSilButonu_Click() {
     const QString ürün = grupMu ? QString() : düğüm->text(0);
     if (!SilmeOnayı(grupMu)) return;
     if (!DeyimiYürüt(grupMu ? Deyimler::GrubuSil(grup) : Deyimler::ÜrünüSil(grup, ürün))) return;
-    if (!DeyimiYürüt(grupMu ? Deyimler::GrubunMalzemeleriniSil(grup) : Deyimler::ÜrününMalzemeleriniSil(grup, ürün))) {
+    const bool malzemelerSilindi =
+        DeyimiYürüt(grupMu ? Deyimler::GrubunMalzemeleriniSil(grup) : Deyimler::ÜrününMalzemeleriniSil(grup, ürün));
+    m_anaForm.VeriDeğişti({.Ürünler = {{grup, ürün}}, .Silindi = true});
+    if (!malzemelerSilindi) {
         // The node stays here: through it the materials left behind can still be deleted.
         YarımKaldı(MetinNo::MalzemeleriKaldı);
         m_anaForm.ÜrünAğacınıYenile();

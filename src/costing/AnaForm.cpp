@@ -30,6 +30,8 @@ AnaForm::~AnaForm() {
 void AnaForm::Yükle() {
     HataYakala([this] {
         m_haneSayısı->setCurrentIndex(OndalıkBasamak - 1);
+        // What was left undone when the program last ended, or came in by a restored file.
+        VeriDeğişti({.Hepsi = true});
         m_ağaç->Yükle();
         ÜrünListesiTıkla();
         Yerleş();
@@ -105,6 +107,7 @@ void AnaForm::YüklemeyiUygula(bool yüklendi) {
     m_komutlar.MiktarlarıGöster->setEnabled(yüklendi);
     m_komutlar.ListedenMalzemeSil->setEnabled(malzemeVar);
     m_komutlar.DeğişiklikleriKaydet->setEnabled(false);
+    m_komutlar.YarıMamulAğacı->setEnabled(yüklendi);
     YazdırmayaİzinVer(malzemeVar);
     m_maliyet->setEnabled(malzemeVar);
     m_miktar->SeçeneğeİzinVer(yüklendi);
@@ -149,15 +152,16 @@ void AnaForm::ListedenMalzemeSil() {
     if (!Sor(Metin(MetinNo::ListedenÇıkarmaSorusu) + QLatin1Char(' ') + m_liste->SeçiliMiktar() + QLatin1Char(' ') +
              malzeme))
         return;
-    if (DeyimiYürüt(Deyimler::KullanılanMalzemeÇıkar(m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün(), malzeme))) {
-        MalzemeTablosuYükle();
-    }
+    const ÜrünAdı ürün{m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()};
+    const bool çıkarıldı = DeyimiYürüt(Deyimler::KullanılanMalzemeÇıkar(ürün.Grup, ürün.Ad, malzeme));
+    VeriDeğişti({.Ürünler = {ürün}});
+    if (çıkarıldı) MalzemeTablosuYükle();
 }
 
 void AnaForm::DeğişiklikleriKaydet() {
-    if (m_maliyet->YüzdeleriKaydet(m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün())) {
-        m_komutlar.DeğişiklikleriKaydet->setEnabled(false);
-    }
+    const ÜrünAdı ürün{m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()};
+    if (m_maliyet->YüzdeleriKaydet(ürün.Grup, ürün.Ad)) m_komutlar.DeğişiklikleriKaydet->setEnabled(false);
+    VeriDeğişti({.Ürünler = {ürün}});
 }
 
 QAction* AnaForm::TuşKomutu(int tuş) const {

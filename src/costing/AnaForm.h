@@ -73,6 +73,7 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     std::optional<Ürün> SeçiliÜrün() const override;
     QStringList KullanılanMalzemeAdları() const override;
     void FiyatGeçmişiniGöster(const QString& malzeme, QWidget* sahip) override;
+    void VeriDeğişti(const VeriDeğişimi& değişim) override;
 
     void ÜrünEkleSil();
     void İlkÜrünüEkle();
@@ -85,7 +86,11 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void ÜrünMenüsünüKur();
     bool KaydedilmemişiSor();
     void MaliyetTablosu();
-    void ÜrüneGit(const QString& grup, const QString& ürün);
+    bool ÜrüneGit(const QString& grup, const QString& ürün);
+    void AdDeğişti(const ÜrünAdı& eski, const ÜrünAdı& yeni);
+    void YarıMamuller();
+    void YarıMamulAğacı();
+    void YarıMamuleGit(const QString& malzeme);
 
     void FiyatMenüsünüKur();
     void ToplucaFiyatDeğiştir();
@@ -107,6 +112,7 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
         QAction* GünlükMalzemeHareketleri;
         QAction* MalzemeListesi;
         QAction* ÜrünListesi;
+        QAction* YarıMamulAğacı;
         QAction* Çıkış;
     };
 

@@ -65,7 +65,8 @@ AnaForm::AnaForm(AnaFormBağları bağlar) : m_bağlar(std::move(bağlar)) {
 void AnaForm::AlanlarıKur() {
     m_ağaç = new ÜrünAğacı;
     m_ağaç->OlaylarıBağla({[this] { DüğümTıklandı(); }, [this] { ÜrünListesiTıkla(); }, [this] { AğacaGirildi(); },
-                           [this] { m_ağaçBildirimi->setVisible(!m_ağaç->Tam()); }});
+                           [this] { m_ağaçBildirimi->setVisible(!m_ağaç->Tam()); },
+                           [this](const ÜrünAdı& eski, const ÜrünAdı& yeni) { AdDeğişti(eski, yeni); }});
     m_ağaçBildirimi =
         new YüklenemediBildirimi(QStringLiteral("ÜrünListesiniTekrarYükle"), MetinNo::ÜrünListesiOkunamadı,
                                  MetinNo::ListeyiTekrarYükle, [this] { AğacıYenidenYükle(); });
@@ -73,6 +74,7 @@ void AnaForm::AlanlarıKur() {
                                                MetinNo::ÜrünüTekrarYükle, [this] { ÜrünüYenidenYükle(); });
     m_liste = new KullanılanMalzemeListesi;
     connect(m_liste, &QTreeWidget::itemDoubleClicked, this, [this] { m_komutlar.ListedenMalzemeSil->trigger(); });
+    m_liste->YarıMamuleGidince([this](const QString& malzeme) { HataYakala([&] { YarıMamuleGit(malzeme); }); });
 
     m_haneSayısı = new QComboBox;
     m_haneSayısı->setObjectName(QStringLiteral("HaneSayısıKutusu"));

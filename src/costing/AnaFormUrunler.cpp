@@ -16,11 +16,17 @@ void AnaForm::ÜrünMenüsünüKur() {
     QMenu* menü = menuBar()->addMenu(Metin(ÜrünMetni::ÜrünlerMenüsü));
     menü->setObjectName(QStringLiteral("ÜrünlerMenüsü"));
     const auto girişEkle = [this, menü](const QString& ad, MetinNo metin, std::function<void()> iş) {
-        menü->addAction(KomutOluştur(ad, metin, [this, iş = std::move(iş)] {
+        QAction* komut = KomutOluştur(ad, metin, [this, iş = std::move(iş)] {
             if (KaydedilmemişiSor()) iş();
-        }));
+        });
+        menü->addAction(komut);
+        return komut;
     };
     girişEkle(QStringLiteral("MaliyetTablosuMenüsü"), ÜrünMetni::MaliyetTablosuMenüsü, [this] { MaliyetTablosu(); });
+    menü->addSeparator()->setObjectName(QStringLiteral("MenüÇizgisi6"));
+    girişEkle(QStringLiteral("YarıMamulMenüsü"), ÜrünMetni::YarıMamulMenüsü, [this] { YarıMamuller(); });
+    m_komutlar.YarıMamulAğacı = girişEkle(QStringLiteral("YarıMamulAğacıMenüsü"), ÜrünMetni::YarıMamulAğacıMenüsü,
+                                          [this] { YarıMamulAğacı(); });
 }
 
 // What is not saved does not count there. False: it was to be saved, and could not be.
@@ -44,9 +50,10 @@ void AnaForm::MaliyetTablosu() {
 }
 
 // A product that is gone meanwhile leaves the selection as it is.
-void AnaForm::ÜrüneGit(const QString& grup, const QString& ürün) {
-    if (!m_ağaç->ÜrünüSeç(grup, ürün)) return;
+bool AnaForm::ÜrüneGit(const QString& grup, const QString& ürün) {
+    if (!m_ağaç->ÜrünüSeç(grup, ürün)) return false;
     m_miktar->SeçimiKaldır();
     ÜrünListesiTıkla();
     m_ağaç->setFocus();
+    return true;
 }

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
 
 #include "MalzemeToplami.h"
 #include "SutunluListe.h"
 
-// The list of the materials that the selected product uses.
+// The list of the materials that the selected product uses. A material that stands for a product bears a mark beside
+// its name; a double click with Ctrl, or Ctrl+Enter, leads to that product.
 class KullanılanMalzemeListesi : public SütunluListe {
   public:
     explicit KullanılanMalzemeListesi(QWidget* sahip = nullptr);
@@ -21,4 +23,15 @@ class KullanılanMalzemeListesi : public SütunluListe {
     QString SeçiliMiktar() const;
     QString SeçiliMalzeme() const;
     QStringList MalzemeAdları() const;
+
+    void YarıMamuleGidince(std::function<void(const QString& malzeme)> iş) { m_yarıMamuleGit = std::move(iş); }
+
+  protected:
+    void mouseDoubleClickEvent(QMouseEvent* olay) override;
+    void keyPressEvent(QKeyEvent* olay) override;
+
+  private:
+    bool Git(const QTreeWidgetItem* satır);
+
+    std::function<void(const QString&)> m_yarıMamuleGit;
 };

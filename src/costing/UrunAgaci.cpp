@@ -189,7 +189,14 @@ void ÜrünAğacı::Adlandır(QTreeWidgetItem* düğüm, const QString& yeni) {
     const QTreeWidgetItem* grup = düğüm->parent();
     const QString gönderilen = grup ? yeni : GrubunYazımı(düğüm, yeni);
     if (!grup && !Birleşsin(düğüm, gönderilen)) return;
-    switch (grup ? ÜrünüAdlandır(grup->text(0), eski, gönderilen) : GrubuAdlandır(eski, gönderilen)) {
+    const AdlandırmaSonucu sonuç =
+        grup ? ÜrünüAdlandır(grup->text(0), eski, gönderilen) : GrubuAdlandır(eski, gönderilen);
+    if (sonuç == AdlandırmaSonucu::Değişti || sonuç == AdlandırmaSonucu::MalzemelerKaldı) {
+        const QString grupAdı = grup ? grup->text(0) : QString();
+        grup ? m_olaylar.AdDeğişti({grupAdı, eski}, {grupAdı, gönderilen})
+             : m_olaylar.AdDeğişti({eski, {}}, {gönderilen, {}});
+    }
+    switch (sonuç) {
         case AdlandırmaSonucu::Değişti:
             AdıYerleştir(düğüm, gönderilen);
             break;

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "TekSecimli.h"
+#include "YariMamulBaglari.h"
 
 // The product tree: groups without a parent, products beneath them. The text is a node's name and, with its group's,
 // its key in the data file. It is renamed in place.
@@ -15,6 +16,7 @@ class ÜrünAğacı : public TekSeçimli<QTreeWidget> {
         std::function<void()> SeçimiYükle;     // what the current node stands for must be loaded, nothing else changes
         std::function<void()> BoşlukTıklandı;  // a click beside the nodes, or on the empty tree
         std::function<void()> Dolduruldu;      // the tree was filled anew, whole or not
+        std::function<void(const ÜrünAdı& eski, const ÜrünAdı& yeni)> AdDeğişti;  // in the data file; a group's: no Ad
     };
 
     explicit ÜrünAğacı(QWidget* sahip = nullptr);

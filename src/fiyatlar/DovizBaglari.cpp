@@ -16,6 +16,8 @@
 #include "SayiMetni.h"
 #include "Tablo.h"
 #include "TurkceSira.h"
+#include "YariMamulMetinleri.h"
+#include "YariMamulYayilimi.h"
 
 using Deyimler::Döviz::Bağ;
 
@@ -174,6 +176,18 @@ bool DövizBağları::BağlanırMı(const KatalogMalzemesi& malzeme, const std::
     return !eski || eski->Kod == m_kod || Sor(Metin(MetinNo::BaşkaDövizeBağlı).arg(malzeme.Ad, eski->Kod, m_kod));
 }
 
+// A price follows either a rate or a product.
+bool DövizBağları::YarıMamulDeğil(const QString& ad) {
+    const YarıMamulBağları* bağlar = nullptr;
+    if (const İşSonucu s = YarıMamulleriAl(ODBCBağlantısı(), bağlar); !s.Tamam()) {
+        İşSonucunuGöster(s);
+        return false;
+    }
+    const YarıMamulBağı* bağ = bağlar->Bağı(ad);
+    return !bağ ||
+           Uyar(Metin(YarıMamulMetni::DövizMalzemesiYarıMamul).arg(ad, bağ->Ürün.Grup, bağ->Ürün.Ad), *m_adaylar);
+}
+
 // What the file holds at this moment counts, not what is shown.
 void DövizBağları::Bağla() {
     const QString ad = SeçiliAday();
@@ -184,6 +198,7 @@ void DövizBağları::Bağla() {
         Uyar(Metin(MetinNo::KesmeİşaretliBağlanmaz).arg(ad), *m_adaylar);
         return;
     }
+    if (!YarıMamulDeğil(ad)) return;
     std::optional<KatalogMalzemesi> malzeme;
     std::optional<Bağ> eski;
     bool dövizVar = false;

@@ -5,9 +5,11 @@
 
 #include "DovizTablolari.h"
 
+class QLabel;
 class GirişKutusu;
 class KomutDüğmesi;
 class SayıKutusu;
+class Tablo;
 
 // The lower part of the form of currencies: the materials tied to the chosen one, and what ties and unties.
 class DövizBağları : public QWidget {
@@ -30,6 +32,7 @@ class DövizBağları : public QWidget {
     void DüğmeleriAyarla();
     void BağıAl();
     std::optional<Para> Fiyat();
+    bool YarıMamulDeğil(const QString& ad);
     void Bağla();
     bool BağlanırMı(const KatalogMalzemesi& malzeme, const std::optional<Deyimler::Döviz::Bağ>& eski);
     void Çöz();

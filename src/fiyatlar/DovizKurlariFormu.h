@@ -7,10 +7,12 @@
 #include "FiyatIsi.h"
 #include "YuvarlamaSecimi.h"
 
+class QLabel;
 class DövizBağları;
 class DövizKoduKutusu;
 class KomutDüğmesi;
 class SayıKutusu;
+class Tablo;
 class TarihKutusu;
 
 // Currencies, their rates, and the materials whose price follows one. A rate of a currency that has been added is

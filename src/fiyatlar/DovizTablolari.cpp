@@ -1,12 +1,9 @@
 #include "DovizTablolari.h"
 
-#include <QLabel>
-#include <QVBoxLayout>
 #include <algorithm>
 
 #include "FiyatYazimi.h"
 #include "MetinTablosu.h"
-#include "Tablo.h"
 
 using Deyimler::Döviz::Bağ;
 
@@ -134,23 +131,4 @@ int AdayKaynağı::Karşılaştır(std::size_t a, std::size_t b, int sütun) con
     if (sütun == AFiyat) return Sırala(m_veri.Katalog.Malzemeler[a].Fiyat, m_veri.Katalog.Malzemeler[b].Fiyat);
     if (sütun == ABağ && Bağ(a) && Bağ(b) && Bağ(a)->Kod == Bağ(b)->Kod) return Sırala(Bağ(a)->Fiyat, Bağ(b)->Fiyat);
     return TabloKaynağı::Karşılaştır(a, b, sütun);
-}
-
-QLabel* TabloNotu(const QString& ad, Tablo& tablo) {
-    auto* not_ = new QLabel;
-    not_->setObjectName(ad);
-    not_->setTextFormat(Qt::PlainText);
-    not_->setWordWrap(true);
-    not_->setAlignment(Qt::AlignCenter);
-    not_->setForegroundRole(QPalette::Text);
-    not_->setAttribute(Qt::WA_TransparentForMouseEvents);
-    auto* düzen = new QVBoxLayout(tablo.viewport());
-    düzen->addWidget(not_);
-    return not_;
-}
-
-void NotuYaz(QLabel& not_, Tablo& tablo, const QString& metin) {
-    not_.setText(tablo.model()->rowCount() == 0 ? metin : QString());
-    not_.setVisible(!not_.text().isEmpty());
-    tablo.setAccessibleDescription(not_.text());
 }

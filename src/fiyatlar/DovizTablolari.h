@@ -3,9 +3,6 @@
 #include "DovizKayitlari.h"
 #include "TabloModeli.h"
 
-class QLabel;
-class Tablo;
-
 // All that the form of currencies shows, read at once.
 struct DövizVerisi {
     struct BağlıMalzeme {
@@ -76,8 +73,3 @@ class AdayKaynağı : public TabloKaynağı {
   private:
     const DövizVerisi& m_veri;
 };
-
-// A line of text amid an empty table, for what it has to say then.
-QLabel* TabloNotu(const QString& ad, Tablo& tablo);
-// "" where the table has rows.
-void NotuYaz(QLabel& not_, Tablo& tablo, const QString& metin);

@@ -40,7 +40,7 @@ class Satır {
     QList<ÇizelgeDeğeri> m_değerler;
 };
 
-Satır MalzemeSatırı(const GörünenPlan& plan, std::size_t yer) {
+Satır MalzemeDeğerleri(const GörünenPlan& plan, std::size_t yer) {
     const PlanMalzemesi& m = plan.Malzemeler.Malzeme(yer);
     Satır satır;
     satır.Metin(Metin(MetinNo::MalzemeSütunu)).Metin({}).Metin(m.Malzeme);
@@ -54,7 +54,7 @@ Satır MalzemeSatırı(const GörünenPlan& plan, std::size_t yer) {
     return satır;
 }
 
-Satır ÜrünSatırı(const GörünenPlan& plan, std::size_t yer) {
+Satır ÜrünDeğerleri(const GörünenPlan& plan, std::size_t yer) {
     const PlanÜrünü& ü = plan.Ürünler.Ürün(yer);
     Satır satır;
     satır.Metin(Metin(MetinNo::ÜrünSütunu)).Metin(ü.Grup).Metin(ü.Ad);
@@ -111,10 +111,10 @@ YazmaSonucu PlanıÇizelgeyeYaz(const QString& yol, const QString& başlık, con
         for (int satır = 0; satır < plan.MalzemeModeli.rowCount() && sonuç.Tamam(); ++satır) {
             const std::size_t yer = plan.MalzemeModeli.KaynakSatırı(satır);
             if (plan.Malzemeler.Malzeme(yer).İşaretli == alınan)
-                sonuç = yazıcı.SatırEkle(MalzemeSatırı(plan, yer).Değerler());
+                sonuç = yazıcı.SatırEkle(MalzemeDeğerleri(plan, yer).Değerler());
         }
         for (int satır = 0; alınan && satır < plan.ÜrünModeli.rowCount() && sonuç.Tamam(); ++satır)
-            sonuç = yazıcı.SatırEkle(ÜrünSatırı(plan, plan.ÜrünModeli.KaynakSatırı(satır)).Değerler());
+            sonuç = yazıcı.SatırEkle(ÜrünDeğerleri(plan, plan.ÜrünModeli.KaynakSatırı(satır)).Değerler());
     }
     return sonuç.Tamam() ? yazıcı.Bitir() : sonuç;
 }

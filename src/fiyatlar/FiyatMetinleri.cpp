@@ -3,6 +3,7 @@
 #include "DegiskenModulu.h"
 #include "MetinTablosu.h"
 #include "SayiMetni.h"
+#include "YariMamulMetinleri.h"
 
 namespace {
 
@@ -63,6 +64,8 @@ QString NedenMetni(PlanNedeni neden) {
             return Metin(MetinNo::NedenÇokBüyük);
         case PlanNedeni::AdıYazılamaz:
             return Metin(MetinNo::NedenAdıYazılamaz);
+        case PlanNedeni::YarıMamul:
+            return Metin(YarıMamulMetni::NedenYarıMamul);
     }
     return {};
 }
@@ -92,6 +95,8 @@ QString TürMetni(const QString& sözcük) {
             return Metin(MetinNo::TürKur);
         case İşlemTürü::GeriAlma:
             return Metin(MetinNo::TürGeriAlma);
+        case İşlemTürü::YarıMamul:
+            return Metin(YarıMamulMetni::TürYarıMamul);
         case İşlemTürü::Yineleme:
             break;
     }

@@ -121,10 +121,11 @@ void FiyatÖnizlemeFormu::ÖzetiYaz() {
     if (özet.AyrıSatır > 0) satırlar.append(Metin(MetinNo::AyrıSatırSayısı).arg(özet.AyrıSatır));
     if (özet.ÜrünsüzSatır > 0) satırlar.append(Metin(MetinNo::ÜrünsüzSatırSayısı).arg(özet.ÜrünsüzSatır));
     m_özet->setText((satırlar + m_notlar).join(QLatin1Char('\n')));
-    m_uygula->setEnabled(özet.Malzeme > 0 || m_plan.DövizKuru());
+    m_uygula->setEnabled(özet.Malzeme > 0 || m_plan.DövizKuru() || m_plan.Bağ());
 }
 
 void FiyatÖnizlemeFormu::İşaretDeğişti() {
+    m_plan.YayılımıYenile();
     m_ürünModeli->HücrelerDeğişti();
     ÖzetiYaz();
 }

@@ -7,6 +7,7 @@
 #include "Deyimler.h"
 #include "OdbcHareketi.h"
 #include "OdbcTanitici.h"
+#include "YariMamulYayilimi.h"
 
 namespace {
 
@@ -144,6 +145,15 @@ UygulamaSonucu MalzemeleriYaz(Yazıcı& yazıcı, const FiyatPlanı& plan, const
     return {};
 }
 
+OdbcSonucu BağıYaz(OdbcBağlantısı& bağlantı, const FiyatPlanı& plan, bool tabloVar) {
+    const YarıMamulBağı* bağ = plan.Bağ();
+    if (!bağ) return {};
+    YarıMamulleriUnut();
+    for (const QString& deyim : tabloVar ? QStringList() : Deyimler::YarıMamul::TablolarıOluştur())
+        if (OdbcSonucu s = bağlantı.Çalıştır(deyim); !s.Başarılı()) return s;
+    return bağlantı.Çalıştır(Deyimler::YarıMamul::BağEkle(Saklanan(*bağ)));
+}
+
 // The rate itself, and in its ties the prices that it wrote.
 UygulamaSonucu KuruYaz(OdbcBağlantısı& bağlantı, const FiyatPlanı& plan, std::int64_t işlem) {
     const KurDeğişimi& kur = *plan.DövizKuru();
@@ -179,6 +189,11 @@ UygulamaSonucu FiyatlarıUygula(OdbcBağlantısı& bağlantı, const FiyatPlanı
         işlem.EskiKurGünü = kur->EskiGün;
         işlem.YeniKurGünü = kur->YeniGün;
     }
+    bool bağTablosuVar = true;
+    if (plan.Bağ()) {
+        const QString tablo = QString::fromLatin1(Deyimler::YarıMamul::TABLO);
+        if (const OdbcSonucu s = bağlantı.TabloVar(tablo, bağTablosuVar); !s.Başarılı()) return Olmadı(s);
+    }
     bool tablolarVar = false;
     if (const İşSonucu s = FiyatTablolarıVar(bağlantı, tablolarVar); !s.Tamam()) return Olmadı(s.Odbc);
     if (const İşSonucu s = SıradakiİşlemNo(bağlantı, tablolarVar, işlem.No); !s.Tamam()) return Olmadı(s.Odbc);
@@ -197,6 +212,15 @@ UygulamaSonucu FiyatlarıUygula(OdbcBağlantısı& bağlantı, const FiyatPlanı
         if (UygulamaSonucu s = KuruYaz(bağlantı, plan, işlem.No); s.Son != UygulamaSonu::Tamam) return s;
     Yazıcı yazıcı(bağlantı, işlem.No);
     if (UygulamaSonucu s = MalzemeleriYaz(yazıcı, plan, ilerleme); s.Son != UygulamaSonu::Tamam) return s;
-    if (const OdbcSonucu s = hareket.Onayla(); !s.Başarılı()) return Olmadı(s);
+    if (const OdbcSonucu s = BağıYaz(bağlantı, plan, bağTablosuVar); !s.Başarılı()) return Olmadı(s);
+    VeriDeğişimi değişim;
+    değişim.FiyatlarTam = true;
+    for (const PlanMalzemesi& malzeme : plan.Malzemeler())
+        if (malzeme.İşaretli || plan.Bağ()) değişim.Malzemeler.append(malzeme.Malzeme);
+    if (const Yayılım y = YarıMamulleriYay(bağlantı, değişim); !y.Sonuç.Tamam()) return Olmadı(y.Sonuç.Odbc);
+    if (const OdbcSonucu s = hareket.Onayla(); !s.Başarılı()) {
+        YarıMamulleriUnut();
+        return Olmadı(s);
+    }
     return {};
 }

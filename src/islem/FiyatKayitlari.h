@@ -16,7 +16,8 @@ enum class İşlemTürü {
     Liste,  // a supplier's list
     Kur,    // a currency's rate
     GeriAlma,
-    Yineleme  // putting forward again what was taken back
+    Yineleme,  // putting forward again what was taken back
+    YarıMamul  // the price with which a material was tied to its product
 };
 QString TürSözcüğü(İşlemTürü tür);  // as it is stored
 std::optional<İşlemTürü> SözcüğünTürü(const QString& sözcük);

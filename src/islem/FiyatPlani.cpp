@@ -9,6 +9,7 @@
 #include "MalzemeToplami.h"
 #include "OdbcTanitici.h"
 #include "TurkceSira.h"
+#include "YariMamulYayilimi.h"
 
 namespace {
 
@@ -92,9 +93,22 @@ class FiyatPlanı::Okuyucu {
         const std::optional<Para> tutar = Tutar(miktar, fiyat);
         const std::uint32_t malzeme = m_malzemeler.Dizin.Bul(aranan);
         if (ürün != AdDizini::YOK) ÜrüneEkle(m_ürünler.Ürünler[ürün], tutar, malzeme != AdDizini::YOK);
-        if (malzeme == AdDizini::YOK || !fiyat) return;
-        Sık& sık = m_sıklar[malzeme];
-        if (sık.Planda != AdDizini::YOK) PlanaEkle(satır, sık, {ürün, sık.Planda, 0}, miktar, *fiyat, tutar);
+        const std::uint32_t planda = malzeme == AdDizini::YOK ? malzeme : m_sıklar[malzeme].Planda;
+        std::optional<Para> hedef;
+        if (planda != AdDizini::YOK && fiyat)
+            hedef = PlanaEkle(satır, m_sıklar[malzeme], {ürün, planda, 0}, miktar, *fiyat, tutar);
+        PlanYayılımı& yayılım = m_plan.m_yayılım;
+        if (!yayılım.Boş() && yayılım.İlgili(ürün, malzeme))
+            yayılım.Ekle({ürün, malzeme, miktar, fiyat, hedef ? planda : AdDizini::YOK, hedef.value_or(Para())},
+                         Baytlar(satır, 3), Baytlar(satır, 4));
+    }
+
+    // The catalogue's places of the plan's materials.
+    std::vector<std::uint32_t> Plandakiler() const {
+        std::vector<std::uint32_t> yerler;
+        for (std::uint32_t i = 0; i < m_sıklar.size(); ++i)
+            if (m_sıklar[i].Planda != AdDizini::YOK) yerler.push_back(i);
+        return yerler;
     }
 
     std::deque<Satır> Satırlar;  // grows without being moved
@@ -147,22 +161,25 @@ class FiyatPlanı::Okuyucu {
             ürün.Eksik = true;
     }
 
-    void PlanaEkle(OdbcSatırı& okunan, Sık& sık, Satır satır, std::optional<double> miktar, Para fiyat,
-                   std::optional<Para> tutar) {
+    // The price that the plan gives the row, if it reaches it.
+    std::optional<Para> PlanaEkle(OdbcSatırı& okunan, Sık& sık, Satır satır, std::optional<double> miktar, Para fiyat,
+                                  std::optional<Para> tutar) {
         if (fiyat == sık.Eski && sık.Yalın) {
             ++sık.Satır;
             satır.Fark = Ondalığı(Tutar(miktar, sık.Yeni)) - Ondalığı(tutar);
             Satırlar.push_back(satır);
-            return;
+            return sık.Yeni;
         }
         PlanMalzemesi& malzeme = m_plan.m_malzemeler[satır.Malzeme];
         const bool değişir = DağılımaEkle(malzeme, fiyat);
         TekSatır* tek = malzeme.Tekler.empty() ? nullptr : TekiBul(satır.Malzeme, okunan, fiyat);
-        if (!değişir && !tek) return;
+        if (!değişir && !tek) return std::nullopt;
         ++malzeme.DeğişenSatır;
         if (fiyat != malzeme.Eski) malzeme.Ayrılar.push_back(SatırıAl(okunan, fiyat));
-        satır.Fark = Ondalığı(Tutar(miktar, tek ? tek->Hedef : malzeme.Yeni)) - Ondalığı(tutar);
+        const Para hedef = tek ? tek->Hedef : malzeme.Yeni;
+        satır.Fark = Ondalığı(Tutar(miktar, hedef)) - Ondalığı(tutar);
         Satırlar.push_back(satır);
+        return hedef;
     }
 
     static std::int64_t Ondalığı(std::optional<Para> tutar) { return tutar.value_or(Para()).OnBindeBir(); }
@@ -224,16 +241,22 @@ class FiyatPlanı::Okuyucu {
     *this = {};
     m_basamak = basamak;
     m_kur = std::move(teklif.Kur);
+    m_bağ = std::move(teklif.Bağ);
     m_malzemeler.reserve(teklif.Öneriler.size());
     for (FiyatÖnerisi& öneri : teklif.Öneriler) {
         if (Uygulanır(öneri.Neden) && !Deyimler::Yazılabilir(öneri.Malzeme)) öneri.Neden = PlanNedeni::AdıYazılamaz;
         if (!Uygulanır(öneri.Neden)) öneri.İşaretli = false;
         m_malzemeler.push_back({std::move(öneri)});
     }
+    const YarıMamulBağları* bağlar = nullptr;
+    İşSonucu sonuç = YarıMamulleriAl(bağlantı, bağlar);
+    if (!sonuç.Tamam()) return sonuç;
+    BağlılarıBırak(*bağlar);
     MalzemeKataloğu malzemeler;
-    İşSonucu sonuç = malzemeler.Oku(bağlantı, ilerleme);
+    sonuç = malzemeler.Oku(bağlantı, ilerleme);
     ÜrünKataloğu ürünler;
     if (sonuç.Tamam()) sonuç = ürünler.Oku(bağlantı, basamak, ilerleme);
+    if (sonuç.Tamam()) sonuç = m_yayılım.Kur(bağlantı, malzemeler, ürünler);
     if (!sonuç.Tamam()) return sonuç;
 
     Okuyucu okuyucu(*this, ürünler, malzemeler);
@@ -245,6 +268,7 @@ class FiyatPlanı::Okuyucu {
         return !vazgeçildi;
     });
     okuyucu.Bitir();
+    m_yayılım.Bitir(okuyucu.Plandakiler());
     SatırlarıDiz(okuyucu.Satırlar);
     ÜrünleriKur(ürünler);
     return İşSonucuYap(odbc, vazgeçildi);
@@ -261,6 +285,28 @@ void FiyatPlanı::SatırlarıDiz(std::deque<Satır>& satırlar) {
     satırlar = {};
 }
 
+// The price of a tied material is its product's alone.
+void FiyatPlanı::BağlılarıBırak(const YarıMamulBağları& bağlar) {
+    for (PlanMalzemesi& malzeme : m_malzemeler) {
+        if (!Uygulanır(malzeme.Neden) || !bağlar.Bağı(malzeme.Malzeme)) continue;
+        malzeme.Neden = PlanNedeni::YarıMamul;
+        malzeme.İşaretli = false;
+    }
+}
+
+const YarıMamulBağı* FiyatPlanı::Bağ() const {
+    if (!m_bağ || m_malzemeler.size() != 1) return nullptr;
+    const PlanMalzemesi& malzeme = m_malzemeler.front();
+    return malzeme.İşaretli || malzeme.Neden == PlanNedeni::Değişmiyor ? &*m_bağ : nullptr;
+}
+
+std::uint32_t FiyatPlanı::ÜrünüKur(KatalogÜrünü& ürün) {
+    const Para önce = GösterilenToplam(Para::OnBindeBirden(ürün.Malzeme), ürün.Oranlar, m_basamak);
+    m_ürünler.push_back({std::move(ürün.Grup), std::move(ürün.Ad), önce, önce, ürün.Eksik, ürün.KatalogDışı});
+    m_hesaplar.push_back({ürün.Oranlar, ürün.Malzeme, ürün.Eksik});
+    return static_cast<std::uint32_t>(m_ürünler.size() - 1);
+}
+
 // Only the products that a material of the plan reaches are kept.
 void FiyatPlanı::ÜrünleriKur(ÜrünKataloğu& katalog) {
     std::vector<std::uint32_t> yerler(katalog.Ürünler.size(), AdDizini::YOK);
@@ -268,15 +314,13 @@ void FiyatPlanı::ÜrünleriKur(ÜrünKataloğu& katalog) {
         if (!Uygulanır(m_malzemeler[satır.Malzeme].Neden)) satır.Ürün = AdDizini::YOK;
         if (satır.Ürün == AdDizini::YOK) continue;
         std::uint32_t& yer = yerler[satır.Ürün];
-        if (yer == AdDizini::YOK) {
-            KatalogÜrünü& ürün = katalog.Ürünler[satır.Ürün];
-            yer = static_cast<std::uint32_t>(m_ürünler.size());
-            const Para önce = GösterilenToplam(Para::OnBindeBirden(ürün.Malzeme), ürün.Oranlar, m_basamak);
-            m_ürünler.push_back({std::move(ürün.Grup), std::move(ürün.Ad), önce, önce, ürün.Eksik, ürün.KatalogDışı});
-            m_hesaplar.push_back({ürün.Oranlar, ürün.Malzeme, ürün.Eksik});
-        }
+        if (yer == AdDizini::YOK) yer = ÜrünüKur(katalog.Ürünler[satır.Ürün]);
         satır.Ürün = yer;
     }
+    m_yayılım.ÜrünleriNumarala([&](std::uint32_t ürün) {
+        if (yerler[ürün] == AdDizini::YOK) yerler[ürün] = ÜrünüKur(katalog.Ürünler[ürün]);
+        return yerler[ürün];
+    });
     m_işaretliler.assign(m_ürünler.size(), 0);
     for (const Satır& satır : m_satırlar) {
         if (satır.Ürün == AdDizini::YOK || !m_malzemeler[satır.Malzeme].İşaretli) continue;
@@ -284,6 +328,16 @@ void FiyatPlanı::ÜrünleriKur(ÜrünKataloğu& katalog) {
         ++m_işaretliler[satır.Ürün];
     }
     for (std::uint32_t i = 0; i < m_ürünler.size(); ++i) SonrayıHesapla(i);
+    YayılımıYenile();
+}
+
+void FiyatPlanı::YayılımıYenile() {
+    const auto etkiler = m_yayılım.Yenile([this](std::uint32_t malzeme) { return m_malzemeler[malzeme].İşaretli; });
+    for (const PlanYayılımı::Etki& etki : etkiler) {
+        m_hesaplar[etki.Ürün].Sonra += etki.Fark;
+        m_işaretliler[etki.Ürün] += static_cast<std::uint32_t>(etki.İşaret);
+    }
+    for (const PlanYayılımı::Etki& etki : etkiler) SonrayıHesapla(etki.Ürün);
 }
 
 void FiyatPlanı::SonrayıHesapla(std::uint32_t ürün) {

@@ -10,6 +10,7 @@
 #include "FiyatDeyimleri.h"
 #include "FiyatKurali.h"
 #include "KatalogOkuma.h"
+#include "PlanYayilimi.h"
 #include "UrunToplamlari.h"
 
 using Deyimler::KullanılanSatır;
@@ -30,7 +31,8 @@ enum class PlanNedeni {
     TersineDöndü,
     SıfırYaDaAltı,
     ÇokBüyük,
-    AdıYazılamaz  // no statement can name it
+    AdıYazılamaz,  // no statement can name it
+    YarıMamul      // its price is what a product costs
 };
 constexpr bool Uygulanır(PlanNedeni neden) {
     return neden < PlanNedeni::Kullanılıyor;
@@ -73,7 +75,8 @@ struct KurDeğişimi {
 // Where new prices come from: all that a plan is made of.
 struct FiyatTeklifi {
     std::vector<FiyatÖnerisi> Öneriler;
-    std::optional<KurDeğişimi> Kur;
+    std::optional<KurDeğişimi> Kur{};
+    std::optional<YarıMamulBağı> Bağ{};  // a tie that is made with its material's price
 };
 
 struct FiyatlıSatırlar {
@@ -120,9 +123,13 @@ class FiyatPlanı {
     const std::vector<PlanÜrünü>& Ürünler() const { return m_ürünler; }
     PlanÖzeti Özet() const;
     const std::optional<KurDeğişimi>& DövizKuru() const { return m_kur; }
+    // The tie, if its material gets the price or has it already.
+    const YarıMamulBağı* Bağ() const;
 
     // What cannot be carried out stays unticked.
     void İşaretle(std::uint32_t malzeme, bool işaretli);
+    // Lets the products' totals follow where ticked materials change the prices of others; after ticks were changed.
+    void YayılımıYenile();
 
   private:
     struct Satır {
@@ -138,12 +145,16 @@ class FiyatPlanı {
         bool Eksik = false;
     };
 
+    void BağlılarıBırak(const YarıMamulBağları& bağlar);
     void SatırlarıDiz(std::deque<Satır>& satırlar);
     void ÜrünleriKur(ÜrünKataloğu& katalog);
+    std::uint32_t ÜrünüKur(KatalogÜrünü& ürün);
     void SonrayıHesapla(std::uint32_t ürün);
 
     int m_basamak = 2;
     std::optional<KurDeğişimi> m_kur;
+    std::optional<YarıMamulBağı> m_bağ;
+    PlanYayılımı m_yayılım;
     std::vector<PlanMalzemesi> m_malzemeler;
     std::vector<PlanÜrünü> m_ürünler;
     std::vector<ÜrünHesabı> m_hesaplar;        // beside m_ürünler

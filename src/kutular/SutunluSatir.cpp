@@ -29,6 +29,7 @@ QVariant SütunluSatır::data(int sütun, int rol) const {
     if (rol == Qt::DisplayRole || rol == Qt::EditRole) {
         return sütun >= 0 && sütun < m_hücreler.size() ? m_hücreler.at(sütun) : QString();
     }
+    if (rol == Qt::AccessibleDescriptionRole && !m_not.isEmpty()) return m_not;
     return rol == AyrıntıRolü ? Ayrıntı() : QTreeWidgetItem::data(sütun, rol);
 }
 
@@ -39,5 +40,6 @@ QString SütunluSatır::Ayrıntı() const {
         if (gizlenen.isEmpty() || !treeWidget()) continue;
         satırlar.append(treeWidget()->headerItem()->text(static_cast<int>(sütun)) + QStringLiteral(": ") + gizlenen);
     }
+    if (!m_not.isEmpty()) satırlar.prepend(m_not);
     return satırlar.join(QLatin1Char('\n'));
 }

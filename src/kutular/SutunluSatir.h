@@ -12,6 +12,9 @@ class SütunluSatır : public QTreeWidgetItem {
     explicit SütunluSatır(QStringList hücreler, QStringList saklananlar = {})
         : m_hücreler(std::move(hücreler)), m_saklananlar(std::move(saklananlar)) {}
 
+    // Told with the row's tooltip, and to screen readers.
+    void NotKoy(QString metin) { m_not = std::move(metin); }
+
     QVariant data(int sütun, int rol) const override;
 
   private:
@@ -19,4 +22,5 @@ class SütunluSatır : public QTreeWidgetItem {
 
     QStringList m_hücreler;
     QStringList m_saklananlar;
+    QString m_not;
 };

@@ -59,6 +59,8 @@ std::int16_t OdbcBağlantısı::Bağlan(const QString& bağlantıMetni) {
         SQLDriverConnect(m_bağlantı, nullptr, SqlMetni(metin), static_cast<SQLSMALLINT>(metin.size()), nullptr, 0,
                          nullptr, SQL_DRIVER_COMPLETE);
     m_bağlı = SQL_SUCCEEDED(sonuç);
+    static std::uint64_t açılışlar = 0;
+    if (m_bağlı) m_açılış = ++açılışlar;
     return sonuç;
 }
 
@@ -76,6 +78,7 @@ void OdbcBağlantısı::Kapat() {
     if (m_bağlantı) SQLFreeConnect(m_bağlantı);
     if (m_ortam) SQLFreeEnv(m_ortam);
     m_bağlı = m_hareket = false;
+    m_açılış = 0;
     m_bağlantı = nullptr;
     m_ortam = nullptr;
 }

@@ -50,6 +50,10 @@ class OdbcBağlantısı {
 
     void* Tanıtıcı() const { return m_bağlantı; }
 
+    // Which connecting this is, over all connections of the program, from 1; 0: not connected. What is remembered of a
+    // data file is good as long as it stays the same.
+    std::uint64_t Açılış() const { return m_açılış; }
+
   private:
     friend class OdbcHareketi;
     OdbcSonucu Sonuç(std::int16_t kod) const;
@@ -57,6 +61,7 @@ class OdbcBağlantısı {
     void* m_ortam = nullptr;
     void* m_bağlantı = nullptr;
     bool m_bağlı = false;
+    std::uint64_t m_açılış = 0;
     bool m_hareket = false;  // a transaction is under way
 };
 

@@ -124,3 +124,22 @@ QWidget* TabloBölümü(int sıra, MetinNo başlık, Tablo* tablo) {
     düzen->addWidget(tablo);
     return bölüm;
 }
+
+QLabel* TabloNotu(const QString& ad, Tablo& tablo) {
+    auto* not_ = new QLabel;
+    not_->setObjectName(ad);
+    not_->setTextFormat(Qt::PlainText);
+    not_->setWordWrap(true);
+    not_->setAlignment(Qt::AlignCenter);
+    not_->setForegroundRole(QPalette::Text);
+    not_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto* düzen = new QVBoxLayout(tablo.viewport());
+    düzen->addWidget(not_);
+    return not_;
+}
+
+void NotuYaz(QLabel& not_, Tablo& tablo, const QString& metin) {
+    not_.setText(tablo.model()->rowCount() == 0 ? metin : QString());
+    not_.setVisible(!not_.text().isEmpty());
+    tablo.setAccessibleDescription(not_.text());
+}

@@ -4,6 +4,8 @@
 
 #include "TabloModeli.h"
 
+class QLabel;
+
 // A long list: one row is marked at a time, Space ticks it, a click on a caption sorts, Ctrl+C copies the marked row
 // and, with Shift, all shown ones; Tab leaves the list. No figure is cut unseen (MetinTemsilcisi).
 class Tablo : public QTableView {
@@ -36,3 +38,8 @@ class Tablo : public QTableView {
 
 // The table with its caption above it, as a part of a form.
 QWidget* TabloBölümü(int sıra, MetinNo başlık, Tablo* tablo);
+
+// A line of text amid an empty table, for what it has to say then.
+QLabel* TabloNotu(const QString& ad, Tablo& tablo);
+// "" where the table has rows.
+void NotuYaz(QLabel& not_, Tablo& tablo, const QString& metin);

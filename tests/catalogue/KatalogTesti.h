@@ -11,9 +11,11 @@ class SahteAnaForm : public AnaFormErişimi {
     std::optional<Ürün> SeçiliÜrün() const override { return Ürün{"MASA", "Sehpa"}; }
     QStringList KullanılanMalzemeAdları() const override { return {"KERESTE"}; }
     void FiyatGeçmişiniGöster(const QString&, QWidget*) override {}
+    void VeriDeğişti(const VeriDeğişimi&) override { Değişimler++; }
     void MalzemeTablosuYükle() override { Çağrılar += "yükle"; }
 
     QString Çağrılar;
+    int Değişimler = 0;
 };
 
 class KatalogTesti : public FormTesti {
