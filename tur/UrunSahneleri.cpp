@@ -22,8 +22,16 @@ void Tablo(Tur& tur, QWidget& anaForm) {
     });
 }
 
+void Bul(Tur& tur, QWidget& anaForm) {
+    MenüdenAç(anaForm, u"BulMenüsü"_s, [&](QWidget& form) {
+        Tur::Yaz(Tur::Bul<QLineEdit>(form, u"BulKutusu"_s), u"ça"_s);
+        tur.Çek(u"bul"_s, form);
+        Esc(form);
+    });
+}
+
 }  // namespace
 
 std::vector<Sahne> ÜrünSahneleri() {
-    return {{u"maliyet-tablosu"_s, Tablo}};
+    return {{u"maliyet-tablosu"_s, Tablo}, {u"bul"_s, Bul}};
 }

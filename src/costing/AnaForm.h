@@ -85,6 +85,8 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void ÜrünMenüsünüKur();
     bool KaydedilmemişiSor();
     void MaliyetTablosu();
+    void BuluAç();
+    void MalzemeKullanımınıGöster(const QString& malzeme);
     void ÜrüneGit(const QString& grup, const QString& ürün);
 
     void FiyatMenüsünüKur();

@@ -5,6 +5,7 @@
 #include <QMenuBar>
 
 #include "AnaForm.h"
+#include "BulFormu.h"
 #include "MaliyetTablosuFormu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
@@ -16,11 +17,16 @@ void AnaForm::ÜrünMenüsünüKur() {
     QMenu* menü = menuBar()->addMenu(Metin(ÜrünMetni::ÜrünlerMenüsü));
     menü->setObjectName(QStringLiteral("ÜrünlerMenüsü"));
     const auto girişEkle = [this, menü](const QString& ad, MetinNo metin, std::function<void()> iş) {
-        menü->addAction(KomutOluştur(ad, metin, [this, iş = std::move(iş)] {
+        QAction* komut = KomutOluştur(ad, metin, [this, iş = std::move(iş)] {
             if (KaydedilmemişiSor()) iş();
-        }));
+        });
+        menü->addAction(komut);
+        return komut;
     };
     girişEkle(QStringLiteral("MaliyetTablosuMenüsü"), ÜrünMetni::MaliyetTablosuMenüsü, [this] { MaliyetTablosu(); });
+    girişEkle(QStringLiteral("BulMenüsü"), ÜrünMetni::BulMenüsü, [this] {
+        BuluAç();
+    })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F));
 }
 
 // What is not saved does not count there. False: it was to be saved, and could not be.
@@ -41,6 +47,17 @@ void AnaForm::MaliyetTablosu() {
     }
     if (form.exec() != QDialog::Accepted || !form.Gidilecek()) return;
     ÜrüneGit(form.Gidilecek()->Grup, form.Gidilecek()->Ad);
+}
+
+void AnaForm::BuluAç() {
+    BulFormu form(this);
+    if (!form.Yükle() || form.exec() != QDialog::Accepted || !form.Gidilecek()) return;
+    const ArananAd& bulunan = *form.Gidilecek();
+    bulunan.Malzeme ? MalzemeKullanımınıGöster(bulunan.Ad) : ÜrüneGit(bulunan.Grup, bulunan.Ad);
+}
+
+void AnaForm::MalzemeKullanımınıGöster(const QString& malzeme) {
+    FiyatGeçmişiniGöster(malzeme, this);
 }
 
 // A product that is gone meanwhile leaves the selection as it is.

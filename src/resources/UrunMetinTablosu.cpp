@@ -45,6 +45,15 @@ constexpr MetinSatırı Tablo[] = {
     {ÜrünMetni::MaliyetArşiviMenüsü, "Maliyet A&rşivi..."},
     {ÜrünMetni::SatışFiyatListesiMenüsü, "&Satış Fiyat Listesi..."},
     {ÜrünMetni::BulMenüsü, "&Bul..."},
+    {ÜrünMetni::BulBaşlığı, "Bul"},
+    {ÜrünMetni::Aranan, "&Aranan ürün ya da malzeme"},
+    {ÜrünMetni::Bulunanlar, "B&ulunanlar"},
+    {ÜrünMetni::BulunanSayısı, "%1 ad bulundu"},
+    {ÜrünMetni::İlkBulunanlar, "%1 ad bulundu; ilk %2 tanesi listede"},
+    {ÜrünMetni::Git, "&Git"},
+    {ÜrünMetni::TürüÜrün, "ürün"},
+    {ÜrünMetni::TürüMalzeme, "malzeme"},
+    {ÜrünMetni::AdlarOkunuyor, "Adlar okunuyor..."},
 };
 
 static_assert(Sıralı(Tablo));

@@ -43,5 +43,14 @@ inline constexpr MetinNo YarıMamulAğacıMenüsü{2834};
 inline constexpr MetinNo MaliyetArşiviMenüsü{2835};
 inline constexpr MetinNo SatışFiyatListesiMenüsü{2836};
 inline constexpr MetinNo BulMenüsü{2837};
+inline constexpr MetinNo BulBaşlığı{2840};
+inline constexpr MetinNo Aranan{2841};
+inline constexpr MetinNo Bulunanlar{2842};
+inline constexpr MetinNo BulunanSayısı{2843};
+inline constexpr MetinNo İlkBulunanlar{2844};
+inline constexpr MetinNo Git{2845};
+inline constexpr MetinNo TürüÜrün{2846};
+inline constexpr MetinNo TürüMalzeme{2847};
+inline constexpr MetinNo AdlarOkunuyor{2848};
 
 }  // namespace ÜrünMetni
