@@ -22,6 +22,15 @@ void Tablo(Tur& tur, QWidget& anaForm) {
     });
 }
 
+void Kopya(Tur& tur, QWidget& anaForm) {
+    ÜrünSeç(anaForm, u"Yemek Masası"_s);
+    MenüdenAç(anaForm, u"ÜrünKopyalaMenüsü"_s, [&](QWidget& form) {
+        Tur::Yaz(Tur::Bul<QLineEdit>(form, u"YeniAdKutusu"_s), u"uzun yemek masası"_s);
+        tur.Çek(u"urun-kopyala"_s, form);
+        Esc(form);
+    });
+}
+
 void Bul(Tur& tur, QWidget& anaForm) {
     MenüdenAç(anaForm, u"BulMenüsü"_s, [&](QWidget& form) {
         Tur::Yaz(Tur::Bul<QLineEdit>(form, u"BulKutusu"_s), u"ça"_s);
@@ -33,5 +42,5 @@ void Bul(Tur& tur, QWidget& anaForm) {
 }  // namespace
 
 std::vector<Sahne> ÜrünSahneleri() {
-    return {{u"maliyet-tablosu"_s, Tablo}, {u"bul"_s, Bul}};
+    return {{u"maliyet-tablosu"_s, Tablo}, {u"urun-kopyala"_s, Kopya}, {u"bul"_s, Bul}};
 }

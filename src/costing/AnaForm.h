@@ -85,6 +85,7 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void ÜrünMenüsünüKur();
     bool KaydedilmemişiSor();
     void MaliyetTablosu();
+    void ÜrünüKopyala();
     void BuluAç();
     void MalzemeKullanımınıGöster(const QString& malzeme);
     void ÜrüneGit(const QString& grup, const QString& ürün);
@@ -109,6 +110,7 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
         QAction* GünlükMalzemeHareketleri;
         QAction* MalzemeListesi;
         QAction* ÜrünListesi;
+        QAction* ÜrünKopyala;
         QAction* Çıkış;
     };
 

@@ -12,6 +12,7 @@
 #include "UrunMetinleri.h"
 #include "MiktarAlani.h"
 #include "UrunAgaci.h"
+#include "UrunKopyalaFormu.h"
 
 void AnaForm::ÜrünMenüsünüKur() {
     QMenu* menü = menuBar()->addMenu(Metin(ÜrünMetni::ÜrünlerMenüsü));
@@ -24,6 +25,8 @@ void AnaForm::ÜrünMenüsünüKur() {
         return komut;
     };
     girişEkle(QStringLiteral("MaliyetTablosuMenüsü"), ÜrünMetni::MaliyetTablosuMenüsü, [this] { MaliyetTablosu(); });
+    m_komutlar.ÜrünKopyala =
+        girişEkle(QStringLiteral("ÜrünKopyalaMenüsü"), ÜrünMetni::ÜrünKopyalaMenüsü, [this] { ÜrünüKopyala(); });
     girişEkle(QStringLiteral("BulMenüsü"), ÜrünMetni::BulMenüsü, [this] {
         BuluAç();
     })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F));
@@ -47,6 +50,13 @@ void AnaForm::MaliyetTablosu() {
     }
     if (form.exec() != QDialog::Accepted || !form.Gidilecek()) return;
     ÜrüneGit(form.Gidilecek()->Grup, form.Gidilecek()->Ad);
+}
+
+void AnaForm::ÜrünüKopyala() {
+    ÜrünKopyalaFormu form({m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()}, this);
+    if (!form.Yükle() || form.exec() != QDialog::Accepted) return;
+    ÜrünAğacınıYenile();
+    ÜrüneGit(form.Yeni().Grup, form.Yeni().Ad);
 }
 
 void AnaForm::BuluAç() {

@@ -54,6 +54,16 @@ constexpr MetinSatırı Tablo[] = {
     {ÜrünMetni::TürüÜrün, "ürün"},
     {ÜrünMetni::TürüMalzeme, "malzeme"},
     {ÜrünMetni::AdlarOkunuyor, "Adlar okunuyor..."},
+    {ÜrünMetni::KopyaBaşlığı, "Ürünü Kopyala"},
+    {ÜrünMetni::Kopyalanan, "%1 grubundan %2 ürünü, yüzdeleri ve %3 malzeme satırıyla kopyalanır."},
+    {ÜrünMetni::KopyaKalanVar,
+     "Veri dosyasında bu adla silinmiş bir üründen kalan malzemeler var; kopya onları da alırdı. Lütfen farklı bir ad "
+     "giriniz."},
+    {ÜrünMetni::KopyalananDeğişmiş,
+     "Kopyalanacak ürün bu arada değişti; hiçbir şey yazılmadı ve ürün yeniden okundu. Yeni hâlini kopyalamak için bir "
+     "daha \"Tamam\"a basınız."},
+    {ÜrünMetni::ÜrünArtıkYok, "Bu ürün veri dosyasında artık yok."},
+    {ÜrünMetni::KopyaTamam, "&Tamam"},
 };
 
 static_assert(Sıralı(Tablo));

@@ -52,5 +52,11 @@ inline constexpr MetinNo Git{2845};
 inline constexpr MetinNo TürüÜrün{2846};
 inline constexpr MetinNo TürüMalzeme{2847};
 inline constexpr MetinNo AdlarOkunuyor{2848};
+inline constexpr MetinNo KopyaBaşlığı{2849};
+inline constexpr MetinNo Kopyalanan{2850};
+inline constexpr MetinNo KopyaKalanVar{2851};
+inline constexpr MetinNo KopyalananDeğişmiş{2852};
+inline constexpr MetinNo ÜrünArtıkYok{2853};
+inline constexpr MetinNo KopyaTamam{2854};
 
 }  // namespace ÜrünMetni

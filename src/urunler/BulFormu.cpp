@@ -10,7 +10,7 @@
 #include "IlerlemeKutusu.h"
 #include "KesmesizKutu.h"
 #include "MetinTablosu.h"
-#include "OdbcModulu.h"
+#include "OkumaSonucu.h"
 #include "Tablo.h"
 #include "UrunMetinleri.h"
 
@@ -75,9 +75,7 @@ void BulFormu::Yerleştir() {
 
 bool BulFormu::Yükle() {
     İlerlemeKutusu kutu(ÜrünMetni::AdlarOkunuyor, 0, parentWidget());
-    const İşSonucu sonuç = m_arama.Oku(ODBCBağlantısı(), [&kutu](std::int64_t okunan) { return kutu.Bildir(okunan); });
-    if (sonuç.Son == İşSonu::Olmadı) HatalarıGöster(OdbcİletileriniAl(sonuç.Odbc.Hatalar));
-    return sonuç.Tamam();
+    return OlduysaBil(m_arama.Oku(ODBCBağlantısı(), [&kutu](std::int64_t okunan) { return kutu.Bildir(okunan); }));
 }
 
 void BulFormu::Ara() {

@@ -1,4 +1,8 @@
+#include <QAction>
+
 #include "AnaFormOrtami.h"
+#include "Deyimler.h"
+#include "UrunMetinleri.h"
 
 // What the menu of products does to the main form.
 
@@ -12,6 +16,60 @@ class ÜrünMenüsü : public AnaFormOrtamı {
         return yer.parent().data().toString() + '/' + yer.data().toString();
     }
 };
+
+TEST_F(ÜrünMenüsü, KopyaBütünüyleYazılırYaDaHiç) {
+    ÜrünEkle("Masa", "Sehpa", {"12,5", "7,1234", "-3,75", "0"});
+    ÜrünEkle("MASA", "sehpa");  // the same, later in the file: does not count
+    for (const char* miktar : {"2,5 Küçük Kutu", "1 Küçük Kutu", "çok"})
+        KullanımEkle("MASA", "Sehpa", "Çivi", miktar, "4,0625", "#1/2/2020#");
+    KullanımEkle("MASA", "Kalan", "Vida", "1 Adet", "9");  // its product is gone
+    const auto kopya = [this] {
+        return Veri().Oku(
+            "SELECT KullanilanMalzemeMiktari, KullanilanMalzemeAdi, KullanilanMalzemeFiyati, KullanimTarihi, UrunAdi "
+            "FROM UrunMalzemeTablosu WHERE UrunGrubu= 'DOLAP'");
+    };
+    ÜrünEkle("Dolap", "Vitrin");
+    SaatiAyarla([] { return QDate(2026, 3, 7); });
+    Aç();
+    Seç("Masa");
+    EXPECT_FALSE(Bul<QAction>("ÜrünKopyalaMenüsü").isEnabled()) << "a group is selected";
+    const QString sayılmayan = "\nçok Çivi";
+    Beklenen(Simge::Kritik, MetinNo::SayılmayanMalzemeler, Yanıt::Tamam, sayılmayan);
+    Seç("Masa", "Sehpa");
+    Modal("ÜrünKopyalaMenüsü", "ÜrünKopyalaFormu", [&] {
+        const auto önce = Veri().HerSatır();
+        const auto reddedilir = [&](const QString& grup, const QString& ad, MetinNo neden, const char* odak) {
+            Yaz("YeniGrupListesi", grup);
+            Yaz("YeniAdKutusu", ad);
+            Beklenen(Simge::Bilgi, neden, Yanıt::Tamam);
+            Tıkla("TamamButonu");
+            EXPECT_EQ(Odak(), odak);
+            EXPECT_EQ(Veri().HerSatır(), önce);
+        };
+        EXPECT_EQ(Yazılar({"YeniGrupListesi", "YeniAdKutusu"}), "Masa Sehpa");
+        reddedilir("12", "", MetinNo::ÜrünGrubuSayı, "YeniGrupListesi");
+        reddedilir("masa", "sehpa", MetinNo::ÜrünListedeVar, "YeniAdKutusu");
+        reddedilir("masa", "kalan", ÜrünMetni::KopyaKalanVar, "YeniAdKutusu");
+        Yaz("YeniGrupListesi", "dolap");
+        Yaz("YeniAdKutusu", "ali'nin sehpası");
+        Çalıştır(Deyimler::ÜrünlerdeFiyatDeğiştir("ÇİVİ", "5,0625"));
+        const auto değişen = Veri().HerSatır();
+        Beklenen(Simge::Bilgi, ÜrünMetni::KopyalananDeğişmiş, Yanıt::Tamam);
+        Tıkla("TamamButonu");
+        EXPECT_EQ(Veri().HerSatır(), değişen);
+        Beklenen(Simge::Kritik, MetinNo::SayılmayanMalzemeler, Yanıt::Tamam, sayılmayan);
+        Tuş(Qt::Key_Return);
+    });
+    EXPECT_EQ(SeçiliÜrün(), "Dolap/Ali’nin Sehpası");
+    EXPECT_EQ(Yazı("KarYüzdesiKutusu"), "7,12");
+    QStringList satırlar;
+    for (const QStringList& satır : kopya()) satırlar += satır.join('|');
+    EXPECT_EQ(satırlar.join("; "),
+              "2,5 Küçük Kutu|Çivi|5.0625|2026-03-07 00:00:00|Ali’nin Sehpası; "
+              "1 Küçük Kutu|Çivi|5.0625|2026-03-07 00:00:00|Ali’nin Sehpası; "
+              "çok|Çivi|5.0625|2026-03-07 00:00:00|Ali’nin Sehpası");
+    EXPECT_EQ(Oku(Deyimler::Yüzdeler("DOLAP", "Ali’nin Sehpası")), "12.5|7.1234|-3.75|0");
+}
 
 TEST_F(ÜrünMenüsü, BulYazılanıBulurVeİşaretliOlanaGider) {
     for (int i = 0; i < 250; ++i) MalzemeEkle(QString("Çok Çivi %1").arg(i, 3, 10, QChar('0')), "1");

@@ -37,6 +37,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {"MalzemeListesiGösterButonu", "MalzemeListesiFormu"},
                                      {"ÜrünListesiGösterButonu", "ÜrünListesiFormu"},
                                      {"MaliyetTablosuMenüsü", "MaliyetTablosuFormu"},
+                                     {"ÜrünKopyalaMenüsü", "ÜrünKopyalaFormu"},
                                      {"BulMenüsü", "BulFormu"},
                                      {toplu, "TopluFiyatFormu"},
                                      {"FiyatListesiAlMenüsü", "FiyatListesiAlFormu"},
@@ -59,7 +60,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     EXPECT_EQ(sayfalar.join(' '),
               "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu MalzemeListesiOlusturFormu MiktarGosterFormu "
               "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu MaliyetTablosuFormu "
-              "BulFormu TopluFiyatFormu "
+              "UrunKopyalaFormu BulFormu TopluFiyatFormu "
               "FiyatOnizlemeFormu FiyatListesiAlFormu DovizKurlariFormu FiyatGecmisiFormu HakkindaFormu "
               "HataBildirmeFormu");
 }
