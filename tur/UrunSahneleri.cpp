@@ -22,6 +22,17 @@ void Tablo(Tur& tur, QWidget& anaForm) {
     });
 }
 
+void Dağılım(Tur& tur, QWidget& anaForm) {
+    ÜrünSeç(anaForm, u"Yemek Masası"_s);
+    MenüdenAç(anaForm, u"MaliyetDağılımıMenüsü"_s, [&](QWidget& form) {
+        tur.Çek(u"maliyet-dagilimi"_s, form);
+        form.resize(KÜÇÜK);
+        Tur::Durul();
+        tur.Çek(u"maliyet-dagilimi-kucuk"_s, form);
+        Esc(form);
+    });
+}
+
 void Kopya(Tur& tur, QWidget& anaForm) {
     ÜrünSeç(anaForm, u"Yemek Masası"_s);
     MenüdenAç(anaForm, u"ÜrünKopyalaMenüsü"_s, [&](QWidget& form) {
@@ -42,5 +53,6 @@ void Bul(Tur& tur, QWidget& anaForm) {
 }  // namespace
 
 std::vector<Sahne> ÜrünSahneleri() {
-    return {{u"maliyet-tablosu"_s, Tablo}, {u"urun-kopyala"_s, Kopya}, {u"bul"_s, Bul}};
+    return {
+        {u"maliyet-tablosu"_s, Tablo}, {u"maliyet-dagilimi"_s, Dağılım}, {u"urun-kopyala"_s, Kopya}, {u"bul"_s, Bul}};
 }

@@ -85,6 +85,7 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void ÜrünMenüsünüKur();
     bool KaydedilmemişiSor();
     void MaliyetTablosu();
+    void MaliyetDağılımınıGöster();
     void ÜrünüKopyala();
     void BuluAç();
     void MalzemeKullanımınıGöster(const QString& malzeme);
@@ -110,6 +111,7 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
         QAction* GünlükMalzemeHareketleri;
         QAction* MalzemeListesi;
         QAction* ÜrünListesi;
+        QAction* MaliyetDağılımı;
         QAction* ÜrünKopyala;
         QAction* Çıkış;
     };

@@ -6,6 +6,7 @@
 
 #include "AnaForm.h"
 #include "BulFormu.h"
+#include "MaliyetDagilimiFormu.h"
 #include "MaliyetTablosuFormu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
@@ -25,6 +26,8 @@ void AnaForm::ÜrünMenüsünüKur() {
         return komut;
     };
     girişEkle(QStringLiteral("MaliyetTablosuMenüsü"), ÜrünMetni::MaliyetTablosuMenüsü, [this] { MaliyetTablosu(); });
+    m_komutlar.MaliyetDağılımı = girişEkle(QStringLiteral("MaliyetDağılımıMenüsü"), ÜrünMetni::MaliyetDağılımıMenüsü,
+                                           [this] { MaliyetDağılımınıGöster(); });
     m_komutlar.ÜrünKopyala =
         girişEkle(QStringLiteral("ÜrünKopyalaMenüsü"), ÜrünMetni::ÜrünKopyalaMenüsü, [this] { ÜrünüKopyala(); });
     girişEkle(QStringLiteral("BulMenüsü"), ÜrünMetni::BulMenüsü, [this] {
@@ -50,6 +53,11 @@ void AnaForm::MaliyetTablosu() {
     }
     if (form.exec() != QDialog::Accepted || !form.Gidilecek()) return;
     ÜrüneGit(form.Gidilecek()->Grup, form.Gidilecek()->Ad);
+}
+
+void AnaForm::MaliyetDağılımınıGöster() {
+    MaliyetDağılımıFormu form({m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()}, this);
+    if (form.Yükle()) form.exec();
 }
 
 void AnaForm::ÜrünüKopyala() {

@@ -64,6 +64,24 @@ constexpr MetinSatırı Tablo[] = {
      "daha \"Tamam\"a basınız."},
     {ÜrünMetni::ÜrünArtıkYok, "Bu ürün veri dosyasında artık yok."},
     {ÜrünMetni::KopyaTamam, "&Tamam"},
+    {ÜrünMetni::DağılımBaşlığı, "Maliyet Dağılımı"},
+    {ÜrünMetni::DağılımTablosuEtiketi, "Toplamın &dağılımı"},
+    {ÜrünMetni::PaylarTablosuEtiketi, "&Malzemelerin payları"},
+    {ÜrünMetni::KalemSütunu, "Kalem"},
+    {ÜrünMetni::PaySütunu, "Pay (%)"},
+    {ÜrünMetni::BirikimliPaySütunu, "Birikimli (%)"},
+    {ÜrünMetni::Yuvarlama, "Yuvarlama"},
+    {ÜrünMetni::Diğerleri, "Diğerleri (%1)"},
+    {ÜrünMetni::Katılmadı, "maliyete katılmadı"},
+    {ÜrünMetni::SayılmayanlarNotu,
+     "Miktarı ya da fiyatı okunamadığı, ya da tutarı çok büyük olduğu için maliyete katılmayanlar: %1"},
+    {ÜrünMetni::MalzemesizNotu, "Bu ürünün malzemesi yok."},
+    {ÜrünMetni::ResimKaydet, "&Resim Kaydet..."},
+    {ÜrünMetni::ResimFormuBaşlığı, "Resim Olarak Kaydet"},
+    {ÜrünMetni::ResimSüzgeci, "PNG Resimleri (*.png)"},
+    {ÜrünMetni::ResimYazılamadı,
+     "Resim dosyası yazılamadı! \nLütfen, bu yere yazma izniniz ve diskte yeterince boş yer olup olmadığını kontrol "
+     "edip tekrar deneyiniz:"},
 };
 
 static_assert(Sıralı(Tablo));

@@ -58,5 +58,20 @@ inline constexpr MetinNo KopyaKalanVar{2851};
 inline constexpr MetinNo KopyalananDeğişmiş{2852};
 inline constexpr MetinNo ÜrünArtıkYok{2853};
 inline constexpr MetinNo KopyaTamam{2854};
+inline constexpr MetinNo DağılımBaşlığı{2855};
+inline constexpr MetinNo DağılımTablosuEtiketi{2856};
+inline constexpr MetinNo PaylarTablosuEtiketi{2857};
+inline constexpr MetinNo KalemSütunu{2858};
+inline constexpr MetinNo PaySütunu{2859};
+inline constexpr MetinNo BirikimliPaySütunu{2860};
+inline constexpr MetinNo Yuvarlama{2861};
+inline constexpr MetinNo Diğerleri{2862};
+inline constexpr MetinNo Katılmadı{2863};
+inline constexpr MetinNo SayılmayanlarNotu{2864};
+inline constexpr MetinNo MalzemesizNotu{2865};
+inline constexpr MetinNo ResimKaydet{2866};
+inline constexpr MetinNo ResimFormuBaşlığı{2867};
+inline constexpr MetinNo ResimSüzgeci{2868};
+inline constexpr MetinNo ResimYazılamadı{2869};
 
 }  // namespace ÜrünMetni

@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QImage>
 
 #include "AnaFormOrtami.h"
 #include "Deyimler.h"
@@ -69,6 +70,53 @@ TEST_F(ÜrünMenüsü, KopyaBütünüyleYazılırYaDaHiç) {
               "1 Küçük Kutu|Çivi|5.0625|2026-03-07 00:00:00|Ali’nin Sehpası; "
               "çok|Çivi|5.0625|2026-03-07 00:00:00|Ali’nin Sehpası");
     EXPECT_EQ(Oku(Deyimler::Yüzdeler("DOLAP", "Ali’nin Sehpası")), "12.5|7.1234|-3.75|0");
+}
+
+// The form shows what the main form and its amounts show; its picture is for paper, whatever the screen's theme.
+TEST_F(ÜrünMenüsü, DağılımAnaFormunRakamlarınıGösterirVeResmiAkÜstüneKaradır) {
+    ÜrünEkle("MASA", "Sehpa", {"12,5", "7,126", "-3,75", "0"});
+    KullanımEkle("MASA", "Sehpa", "Kullanılmaz", "çok", "4");
+    for (int i = 0; i < 18; ++i)
+        KullanımEkle("MASA", "Sehpa", QString("Çıta %1").arg(i, 2, 10, QChar('0')), QString("%1,3333 Metre").arg(i),
+                     "7");
+    OndalıkBasamak = 3;
+    Aç();
+    Beklenen(Simge::Kritik, MetinNo::SayılmayanMalzemeler, Yanıt::Tamam, "\nçok Kullanılmaz");
+    Seç("MASA", "Sehpa");
+    QString beklenen;
+    Modal("MiktarlarıGösterDüğmesi", "MiktarGösterFormu", [&] {
+        beklenen = Yazılar({"MalzemeMaliyetiKutusu", "İşçilikMaliyetiKutusu", "KarMaliyetiKutusu", "DiğerVarnekKutusu",
+                            "VadeMaliyetiKutusu", "ToplamMaliyetKutusu"});
+    });
+    const QPalette eski = QApplication::palette();
+    QPalette koyu(Qt::white, Qt::black);
+    koyu.setColor(QPalette::Base, Qt::black);
+    QApplication::setPalette(koyu);
+    Modal("MaliyetDağılımıMenüsü", "MaliyetDağılımıFormu", [&] {
+        QStringList tutarlar;
+        for (const QString& satır : Satırlar("DağılımTablosu").split("; "))
+            if (!satır.startsWith("Yuvarlama")) tutarlar += satır.section('|', 1, 1);
+        EXPECT_EQ(tutarlar.join(' '), beklenen);
+        const QString paylar = Satırlar("PaylarTablosu");
+        EXPECT_EQ(paylar.section("; ", 0, 0), "Çıta 17|17,333 Metre|121,333|10,90|10,90");
+        EXPECT_EQ(paylar.section("; ", 18, 18), "Kullanılmaz (maliyete katılmadı)|çok|||");
+        EXPECT_TRUE(Yazı("NotEtiketi").endsWith(": çok Kullanılmaz"));
+        const QString sesli = Bul("PaylarGrafiği").accessibleDescription();
+        EXPECT_TRUE(sesli.contains("Çıta 03 23,333 (%2,10); Diğerleri (3) 27,999 (%2,52)")) << sesli.toStdString();
+        const QString yol = Klasör() + "resim.png";
+        Modal("ResimKaydetButonu", "ResimDosyasıFormu", [&] {
+            Yaz("fileNameEdit", yol);
+            Tuş(Qt::Key_Return);
+        });
+        const QImage resim(yol);
+        ASSERT_FALSE(resim.isNull());
+        EXPECT_EQ(resim.pixelColor(0, 0), QColor(Qt::white));
+        int kara = 0;
+        for (int x = 0; x < resim.width(); ++x)
+            for (int y = 0; y < 100; ++y) kara += resim.pixelColor(x, y) == QColor(Qt::black) ? 1 : 0;
+        EXPECT_GT(kara, 100) << "the caption";
+    });
+    QApplication::setPalette(eski);
 }
 
 TEST_F(ÜrünMenüsü, BulYazılanıBulurVeİşaretliOlanaGider) {

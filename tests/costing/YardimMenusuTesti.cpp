@@ -37,6 +37,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {"MalzemeListesiGösterButonu", "MalzemeListesiFormu"},
                                      {"ÜrünListesiGösterButonu", "ÜrünListesiFormu"},
                                      {"MaliyetTablosuMenüsü", "MaliyetTablosuFormu"},
+                                     {"MaliyetDağılımıMenüsü", "MaliyetDağılımıFormu"},
                                      {"ÜrünKopyalaMenüsü", "ÜrünKopyalaFormu"},
                                      {"BulMenüsü", "BulFormu"},
                                      {toplu, "TopluFiyatFormu"},
@@ -60,7 +61,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     EXPECT_EQ(sayfalar.join(' '),
               "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu MalzemeListesiOlusturFormu MiktarGosterFormu "
               "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu MaliyetTablosuFormu "
-              "UrunKopyalaFormu BulFormu TopluFiyatFormu "
+              "MaliyetDagilimiFormu UrunKopyalaFormu BulFormu TopluFiyatFormu "
               "FiyatOnizlemeFormu FiyatListesiAlFormu DovizKurlariFormu FiyatGecmisiFormu HakkindaFormu "
               "HataBildirmeFormu");
 }
