@@ -55,7 +55,7 @@ constexpr MetinSatırı Tablo[] = {
     {ÜrünMetni::TürüMalzeme, "malzeme"},
     {ÜrünMetni::AdlarOkunuyor, "Adlar okunuyor..."},
     {ÜrünMetni::KopyaBaşlığı, "Ürünü Kopyala"},
-    {ÜrünMetni::Kopyalanan, "%1 grubundan %2 ürünü, yüzdeleri ve %3 malzeme satırıyla kopyalanır."},
+    {ÜrünMetni::Kopyalanan, "Yüzdeleri ve %1 malzeme satırıyla kopyalanır."},
     {ÜrünMetni::KopyaKalanVar,
      "Veri dosyasında bu adla silinmiş bir üründen kalan malzemeler var; kopya onları da alırdı. Lütfen farklı bir ad "
      "giriniz."},

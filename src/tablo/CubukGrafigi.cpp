@@ -46,6 +46,7 @@ class Çizer {
             Satır(çubuk, QRectF(m_alan.left(), y, m_alan.width(), satır));
             y += satır;
         }
+        if (m_dizi.Çubuklar.isEmpty()) return;
         m_boyacı.setPen(QPen(m_palet.color(QPalette::Text), 1));
         m_boyacı.drawLine(QPointF(X(0), m_çubuklar.top()), QPointF(X(0), y));
     }

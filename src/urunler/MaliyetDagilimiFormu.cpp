@@ -10,6 +10,7 @@
 #include "DagilimCiktilari.h"
 #include "DegiskenModulu.h"
 #include "FormParcalari.h"
+#include "KisalanEtiket.h"
 #include "MetinTablosu.h"
 #include "OkumaSonucu.h"
 #include "ResimKaydi.h"
@@ -21,14 +22,11 @@ namespace {
 
 constexpr int BÖLENİN_BOYU = 600;  // pixels, as the form opens
 constexpr int EN_YÜKSEK_GRAFİK = 380;
+constexpr qsizetype EN_UZUN_AD = 40;      // of those in the note
 constexpr qsizetype EN_ÇOK_SAYILAN = 10;  // rows that the note names; the table marks all of them
 
-QLabel* MetinEtiketi(const QString& ad) {
-    auto* etiket = new QLabel;
-    etiket->setObjectName(ad);
-    etiket->setTextFormat(Qt::PlainText);
-    etiket->setWordWrap(true);
-    return etiket;
+QString Kısa(const QString& ad) {
+    return ad.size() <= EN_UZUN_AD ? ad : ad.left(EN_UZUN_AD - 1) + u'…';
 }
 
 QSplitter* Bölen(const QString& ad, Qt::Orientation yön, QWidget* ilk, QWidget* ikinci) {
@@ -66,7 +64,10 @@ MaliyetDağılımıFormu::~MaliyetDağılımıFormu() {
 }
 
 void MaliyetDağılımıFormu::KontrolleriKur() {
-    m_not = MetinEtiketi(QStringLiteral("NotEtiketi"));
+    m_not = new QLabel;
+    m_not->setObjectName(QStringLiteral("NotEtiketi"));
+    m_not->setTextFormat(Qt::PlainText);
+    m_not->setWordWrap(true);
     m_kalemGrafiği = new ÇubukGrafiği(QStringLiteral("DağılımGrafiği"));
     m_malzemeGrafiği = new ÇubukGrafiği(QStringLiteral("PaylarGrafiği"));
     m_kalemler = new Tablo(QStringLiteral("DağılımTablosu"), m_kalemModeli);
@@ -80,7 +81,7 @@ void MaliyetDağılımıFormu::KontrolleriKur() {
 }
 
 void MaliyetDağılımıFormu::Yerleştir() {
-    auto* ürün = MetinEtiketi(QStringLiteral("ÜrünEtiketi"));
+    auto* ürün = new KısalanEtiket(QStringLiteral("ÜrünEtiketi"));
     ürün->setText(m_dağılım.Ürün.Grup + QStringLiteral(" / ") + m_dağılım.Ürün.Ad);
     QFont kalın = ürün->font();
     kalın.setBold(true);
@@ -129,7 +130,8 @@ void MaliyetDağılımıFormu::NotuYaz() {
     QStringList notlar;
     if (m_dağılım.Malzemeler.Satırlar.size() == 1) notlar.append(Metin(ÜrünMetni::MalzemesizNotu));
     if (!m_dağılım.Sayılmayanlar.isEmpty()) {
-        QStringList adlar = m_dağılım.Sayılmayanlar.mid(0, EN_ÇOK_SAYILAN);
+        QStringList adlar;
+        for (const QString& satır : m_dağılım.Sayılmayanlar.mid(0, EN_ÇOK_SAYILAN)) adlar.append(Kısa(satır));
         if (adlar.size() < m_dağılım.Sayılmayanlar.size()) adlar.append(QStringLiteral("…"));
         notlar.append(Metin(ÜrünMetni::SayılmayanlarNotu).arg(adlar.join(QStringLiteral("; "))));
     }

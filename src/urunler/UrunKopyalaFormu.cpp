@@ -6,6 +6,7 @@
 #include "AcilirGirisKutusu.h"
 #include "FormParcalari.h"
 #include "KesmesizKutu.h"
+#include "KisalanEtiket.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "OkumaSonucu.h"
@@ -15,16 +16,10 @@
 
 namespace {
 
-constexpr qsizetype EN_UZUN_AD = 100;  // what the form has room for; the longer text is in the tooltip
-
 class YeniGrupKutusu : public GrupKutusu {
   public:
     QString Düzelt(const QString& metin) const override { return GrupKutusu::Düzelt(metin).replace(u'\'', u'’'); }
 };
-
-QString Kısa(const QString& ad) {
-    return ad.size() <= EN_UZUN_AD ? ad : ad.left(EN_UZUN_AD - 1) + u'…';
-}
 
 }  // namespace
 
@@ -37,6 +32,7 @@ QString Kısa(const QString& ad) {
     m_açıklama->setWordWrap(true);
     m_grup = new YeniGrupKutusu;
     m_grup->setObjectName(QStringLiteral("YeniGrupListesi"));
+    m_grup->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);  // a long name scrolls
     m_ad = new KesmesizKutu<AdKutusu>;
     m_ad->setObjectName(QStringLiteral("YeniAdKutusu"));
     m_tamam = DüğmeOluştur(QStringLiteral("TamamButonu"), ÜrünMetni::KopyaTamam, [this] { Kopyala(); });
@@ -44,8 +40,14 @@ QString Kısa(const QString& ad) {
 }
 
 void ÜrünKopyalaFormu::Yerleştir() {
+    auto* ürün = new KısalanEtiket(QStringLiteral("ÜrünEtiketi"));
+    ürün->setText(m_eski.Grup + QStringLiteral(" / ") + m_eski.Ad);
+    QFont kalın = ürün->font();
+    kalın.setBold(true);
+    ürün->setFont(kalın);
     auto* iptal = DüğmeOluştur(QStringLiteral("İptalButonu"), MetinNo::İptal, [this] { reject(); });
     auto* düzen = new QVBoxLayout(this);
+    düzen->addWidget(ürün);
     düzen->addWidget(m_açıklama);
     düzen->addWidget(VurgulananEtiket(1, MetinNo::ÜrünGrubu, m_grup));
     düzen->addWidget(m_grup);
@@ -71,11 +73,7 @@ bool ÜrünKopyalaFormu::ÜrünüOku() {
     if (!OlduysaBil(SaklananÜrünüOku(ODBCBağlantısı(), m_eski, saklanan))) return false;
     if (!saklanan) return Uyar(ÜrünMetni::ÜrünArtıkYok, *m_ad);
     m_saklanan = std::move(*saklanan);
-    const QString metin = Metin(ÜrünMetni::Kopyalanan);
-    const auto satır = m_saklanan.Satırlar.size();
-    m_açıklama->setText(metin.arg(Kısa(m_eski.Grup), Kısa(m_eski.Ad), QString::number(satır)));
-    m_açıklama->setToolTip(QStringLiteral("<p>") +
-                           metin.arg(m_eski.Grup, m_eski.Ad, QString::number(satır)).toHtmlEscaped());
+    m_açıklama->setText(Metin(ÜrünMetni::Kopyalanan).arg(m_saklanan.Satırlar.size()));
     return true;
 }
 
