@@ -48,6 +48,7 @@ BulFormu::BulFormu(QWidget* sahip)
     m_tablo = new Tablo(QStringLiteral("BulunanlarListesi"), m_model);
     connect(m_tablo->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { SeçimDeğişti(); });
     connect(m_tablo, &QAbstractItemView::doubleClicked, this, [this] { Git(); });
+    Enterİleİlerlesin(m_tablo);
     m_git = DüğmeOluştur(QStringLiteral("GitButonu"), ÜrünMetni::Git, [this] { Git(); });
     Yerleştir();
     Ara();

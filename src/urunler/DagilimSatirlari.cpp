@@ -49,14 +49,14 @@ std::optional<Ondalık> GösterilenPay(const std::optional<double>& pay) {
 }
 
 QList<TabloSütunu> KalemSütunları() {
-    return {{ÜrünMetni::KalemSütunu, 16}, {MetinNo::TutarıSütunu, 14, true}, {ÜrünMetni::PaySütunu, 8, true}};
+    return {{ÜrünMetni::KalemSütunu, 14}, {MetinNo::TutarıSütunu, 11, true}, {ÜrünMetni::PaySütunu, 6, true}};
 }
 
 QList<TabloSütunu> PaySütunları() {
-    return {{MetinNo::MalzemeSütunu, 22},
-            {MetinNo::MiktarıSütunu, 13},
-            {MetinNo::TutarıSütunu, 12, true},
-            {ÜrünMetni::PaySütunu, 7, true},
+    return {{MetinNo::MalzemeSütunu, 16},
+            {MetinNo::MiktarıSütunu, 11},
+            {MetinNo::TutarıSütunu, 9, true},
+            {ÜrünMetni::PaySütunu, 6, true},
             {ÜrünMetni::BirikimliPaySütunu, 7, true}};
 }
 
