@@ -22,8 +22,37 @@ void Tablo(Tur& tur, QWidget& anaForm) {
     });
 }
 
+void Dağılım(Tur& tur, QWidget& anaForm) {
+    ÜrünSeç(anaForm, u"Yemek Masası"_s);
+    MenüdenAç(anaForm, u"MaliyetDağılımıMenüsü"_s, [&](QWidget& form) {
+        tur.Çek(u"maliyet-dagilimi"_s, form);
+        form.resize(KÜÇÜK);
+        Tur::Durul();
+        tur.Çek(u"maliyet-dagilimi-kucuk"_s, form);
+        Esc(form);
+    });
+}
+
+void Kopya(Tur& tur, QWidget& anaForm) {
+    ÜrünSeç(anaForm, u"Yemek Masası"_s);
+    MenüdenAç(anaForm, u"ÜrünKopyalaMenüsü"_s, [&](QWidget& form) {
+        Tur::Yaz(Tur::Bul<QLineEdit>(form, u"YeniAdKutusu"_s), u"uzun yemek masası"_s);
+        tur.Çek(u"urun-kopyala"_s, form);
+        Esc(form);
+    });
+}
+
+void Bul(Tur& tur, QWidget& anaForm) {
+    MenüdenAç(anaForm, u"BulMenüsü"_s, [&](QWidget& form) {
+        Tur::Yaz(Tur::Bul<QLineEdit>(form, u"BulKutusu"_s), u"ça"_s);
+        tur.Çek(u"bul"_s, form);
+        Esc(form);
+    });
+}
+
 }  // namespace
 
 std::vector<Sahne> ÜrünSahneleri() {
-    return {{u"maliyet-tablosu"_s, Tablo}};
+    return {
+        {u"maliyet-tablosu"_s, Tablo}, {u"maliyet-dagilimi"_s, Dağılım}, {u"urun-kopyala"_s, Kopya}, {u"bul"_s, Bul}};
 }

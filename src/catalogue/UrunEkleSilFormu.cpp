@@ -14,8 +14,8 @@
 #include "MetinTablosu.h"
 #include "MetinTemsilcisi.h"
 #include "OdbcModulu.h"
-#include "SayiMetni.h"
 #include "TurkceSira.h"
+#include "YeniUrun.h"
 #include "Yukleyiciler.h"
 
 using MesajKutusu::Düğmeler;
@@ -85,15 +85,8 @@ void ÜrünEkleSilFormu::Yerleştir() {
     m_ağaç->setFocus();
 }
 
-void ÜrünEkleSilFormu::GruplarıYükle() {
-    QStringList gruplar;
-    const Okuma okuma = SatırlarıOku(Deyimler::ÜrünGrupları(), [&gruplar] { gruplar.append(SütunOku(1)); });
-    m_gruplarOkundu = okuma == Okuma::Tamam;
-    m_grup->Doldur(gruplar);
-}
-
 void ÜrünEkleSilFormu::Yükle() {
-    GruplarıYükle();
+    m_gruplarOkundu = GruplarıDoldur(*m_grup);
     ÜrünAğacınıYükle(*m_ağaç);
     SilDüğmesiniAdlandır();
     ListeDurumunuAyarla();
@@ -136,12 +129,12 @@ void ÜrünEkleSilFormu::SilDüğmesiniAdlandır() {
 void ÜrünEkleSilFormu::ÜrünEkleKaydetButonu_Click() {
     if (!EklemeKipinde()) {
         // A group that is not known could come in a second time, spelled otherwise.
-        if (!m_gruplarOkundu) GruplarıYükle();
+        if (!m_gruplarOkundu) m_gruplarOkundu = GruplarıDoldur(*m_grup);
         if (m_gruplarOkundu) EklemeKipineGeç();
         return;
     }
-    if (!GirilenlerUygun()) return;
-    const QString grup = KayıtlıGrup(m_grup->currentText());
+    if (!YeniÜrünUygun(*m_grup, *m_ad)) return;
+    const QString grup = KayıtlıGrup(*m_grup);
     const QString ürün = m_ad->text();
     const bool eklendi = DeyimiYürüt(Deyimler::ÜrünEkle(grup, ürün));
     m_anaForm.VeriDeğişti({.Ürünler = {{grup, ürün}}});
@@ -150,23 +143,6 @@ void ÜrünEkleSilFormu::ÜrünEkleKaydetButonu_Click() {
     m_anaForm.ÜrünAğacınıYenile();
     GözatmaKipineDön();
     m_ekleKaydet->setFocus();
-}
-
-bool ÜrünEkleSilFormu::GirilenlerUygun() {
-    const QString grup = m_grup->currentText();
-    const QString ürün = m_ad->text();
-    if (grup.isEmpty()) return Uyar(MetinNo::ÜrünGrubuBoş, *m_grup);
-    if (SayıMı(grup)) return Uyar(MetinNo::ÜrünGrubuSayı, *m_grup);
-    if (ürün.isEmpty()) return Uyar(MetinNo::ÜrünAdıBoş, *m_ad);
-    const Kayıt aynısı = KaydıOku(Deyimler::ÜrünVarMı(grup, ürün));
-    return aynısı == Kayıt::Var ? Uyar(MetinNo::ÜrünListedeVar, *m_ad) : aynısı == Kayıt::Yok;
-}
-
-QString ÜrünEkleSilFormu::KayıtlıGrup(const QString& grup) const {
-    for (int sıra = 0; sıra < m_grup->count(); ++sıra) {
-        if (Aynı(m_grup->itemText(sıra), grup)) return m_grup->itemText(sıra);
-    }
-    return grup;
 }
 
 QTreeWidgetItem* ÜrünEkleSilFormu::GrupDüğümü(const QString& grup) const {

@@ -32,7 +32,6 @@ class ÜrünEkleSilFormu : public QDialog {
   private:
     void KontrolleriKur();
     void Yerleştir();
-    void GruplarıYükle();
     void ÜrünSilButonu_Click();
     void KapatİptalButonu_Click();
 
@@ -42,13 +41,9 @@ class ÜrünEkleSilFormu : public QDialog {
     void ListeDurumunuAyarla();
     void SilDüğmesiniAdlandır();
 
-    bool GirilenlerUygun();
     void EkleneniYerleştir(const QString& grup, const QString& ürün);
     bool SilmeOnayı(bool grupMu);
     void SilineniKaldır(const QString& grup, const QString& ürün, bool grupMu);
-    // The group as the data file spells it, which compares without regard to case; a second spelling would show the one
-    // group as two.
-    QString KayıtlıGrup(const QString& grup) const;
     QTreeWidgetItem* GrupDüğümü(const QString& grup) const;
 
     AnaFormErişimi& m_anaForm;

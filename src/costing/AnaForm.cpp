@@ -105,6 +105,8 @@ void AnaForm::YüklemeyiUygula(bool yüklendi) {
     const bool malzemeVar = yüklendi && !m_liste->Boş();
     m_komutlar.ListeyeMalzemeEkle->setEnabled(yüklendi);
     m_komutlar.MiktarlarıGöster->setEnabled(yüklendi);
+    m_komutlar.MaliyetDağılımı->setEnabled(yüklendi);
+    m_komutlar.ÜrünKopyala->setEnabled(yüklendi);
     m_komutlar.ListedenMalzemeSil->setEnabled(malzemeVar);
     m_komutlar.DeğişiklikleriKaydet->setEnabled(false);
     m_komutlar.YarıMamulAğacı->setEnabled(yüklendi);

@@ -91,6 +91,10 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void YarıMamuller();
     void YarıMamulAğacı();
     void YarıMamuleGit(const QString& malzeme);
+    void MaliyetDağılımınıGöster();
+    void ÜrünüKopyala();
+    void BuluAç();
+    void MalzemeKullanımınıGöster(const QString& malzeme);
 
     void FiyatMenüsünüKur();
     void ToplucaFiyatDeğiştir();
@@ -113,6 +117,8 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
         QAction* MalzemeListesi;
         QAction* ÜrünListesi;
         QAction* YarıMamulAğacı;
+        QAction* MaliyetDağılımı;
+        QAction* ÜrünKopyala;
         QAction* Çıkış;
     };
 

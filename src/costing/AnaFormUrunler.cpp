@@ -5,12 +5,15 @@
 #include <QMenuBar>
 
 #include "AnaForm.h"
+#include "BulFormu.h"
+#include "MaliyetDagilimiFormu.h"
 #include "MaliyetTablosuFormu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "UrunMetinleri.h"
 #include "MiktarAlani.h"
 #include "UrunAgaci.h"
+#include "UrunKopyalaFormu.h"
 
 void AnaForm::ÜrünMenüsünüKur() {
     QMenu* menü = menuBar()->addMenu(Metin(ÜrünMetni::ÜrünlerMenüsü));
@@ -23,10 +26,18 @@ void AnaForm::ÜrünMenüsünüKur() {
         return komut;
     };
     girişEkle(QStringLiteral("MaliyetTablosuMenüsü"), ÜrünMetni::MaliyetTablosuMenüsü, [this] { MaliyetTablosu(); });
-    menü->addSeparator()->setObjectName(QStringLiteral("MenüÇizgisi6"));
+    m_komutlar.MaliyetDağılımı = girişEkle(QStringLiteral("MaliyetDağılımıMenüsü"), ÜrünMetni::MaliyetDağılımıMenüsü,
+                                           [this] { MaliyetDağılımınıGöster(); });
+    m_komutlar.ÜrünKopyala =
+        girişEkle(QStringLiteral("ÜrünKopyalaMenüsü"), ÜrünMetni::ÜrünKopyalaMenüsü, [this] { ÜrünüKopyala(); });
+    menü->addSeparator()->setObjectName(QStringLiteral("MenüÇizgisi5"));
     girişEkle(QStringLiteral("YarıMamulMenüsü"), ÜrünMetni::YarıMamulMenüsü, [this] { YarıMamuller(); });
     m_komutlar.YarıMamulAğacı = girişEkle(QStringLiteral("YarıMamulAğacıMenüsü"), ÜrünMetni::YarıMamulAğacıMenüsü,
                                           [this] { YarıMamulAğacı(); });
+    menü->addSeparator()->setObjectName(QStringLiteral("MenüÇizgisi6"));
+    girişEkle(QStringLiteral("BulMenüsü"), ÜrünMetni::BulMenüsü, [this] {
+        BuluAç();
+    })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F));
 }
 
 // What is not saved does not count there. False: it was to be saved, and could not be.
@@ -47,6 +58,32 @@ void AnaForm::MaliyetTablosu() {
     }
     if (form.exec() != QDialog::Accepted || !form.Gidilecek()) return;
     ÜrüneGit(form.Gidilecek()->Grup, form.Gidilecek()->Ad);
+}
+
+void AnaForm::MaliyetDağılımınıGöster() {
+    MaliyetDağılımıFormu form({m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()}, this);
+    if (form.Yükle()) form.exec();
+}
+
+void AnaForm::ÜrünüKopyala() {
+    ÜrünKopyalaFormu form({m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()}, this);
+    if (!form.Yükle() || form.exec() != QDialog::Accepted) return;
+    ÜrünAğacınıYenile();
+    ÜrüneGit(form.Yeni().Grup, form.Yeni().Ad);
+}
+
+void AnaForm::BuluAç() {
+    BulFormu form(this);
+    if (!form.Yükle() || form.exec() != QDialog::Accepted || !form.Gidilecek()) return;
+    const ArananAd& bulunan = *form.Gidilecek();
+    if (bulunan.Malzeme)
+        MalzemeKullanımınıGöster(bulunan.Ad);
+    else
+        ÜrüneGit(bulunan.Grup, bulunan.Ad);
+}
+
+void AnaForm::MalzemeKullanımınıGöster(const QString& malzeme) {
+    FiyatGeçmişiniGöster(malzeme, this);
 }
 
 // A product that is gone meanwhile leaves the selection as it is.

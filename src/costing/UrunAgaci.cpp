@@ -1,6 +1,7 @@
 #include "UrunAgaci.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPersistentModelIndex>
@@ -33,6 +34,15 @@ class AdTemsilcisi : public MetinTemsilcisi {
             kutu->setObjectName(QStringLiteral("AdDüzenleyici"));
         }
         return düzenleyici;
+    }
+
+    // A name is being typed: what would lead away from it does nothing.
+    bool eventFilter(QObject* düzenleyici, QEvent* olay) override {
+        const bool tuş = olay->type() == QEvent::ShortcutOverride || olay->type() == QEvent::KeyPress;
+        if (!tuş || !static_cast<QKeyEvent*>(olay)->matches(QKeySequence::Find))
+            return MetinTemsilcisi::eventFilter(düzenleyici, olay);
+        olay->accept();
+        return true;
     }
 
     void setModelData(QWidget* düzenleyici, QAbstractItemModel*, const QModelIndex& yer) const override {

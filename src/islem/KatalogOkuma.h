@@ -28,6 +28,11 @@ struct [[nodiscard]] İşSonucu {
 };
 İşSonucu İşSonucuYap(const OdbcSonucu& odbc, bool vazgeçildi = false);
 
+struct ÜrünAdı {
+    QString Grup;
+    QString Ad;
+};
+
 struct KatalogMalzemesi {
     QString Ad;
     Para Fiyat;

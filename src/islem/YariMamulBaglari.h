@@ -11,11 +11,6 @@
 #include "YariMamulDeyimleri.h"
 #include "YariMamulHesabi.h"
 
-struct ÜrünAdı {
-    QString Grup;
-    QString Ad;
-};
-
 // A material that stands for a product: its price is what the product costs.
 struct YarıMamulBağı {
     QString Malzeme;

@@ -89,6 +89,7 @@ class SayımYüzeyi : public AygıtYüzeyi {
   public:
     using AygıtYüzeyi::AygıtYüzeyi;
     void Çiz(double, double, double, double, QColor) override {}
+    void Şekil(QSizeF, const std::function<void(QPainter&, const QRectF&)>&) override {}
 
   protected:
     double MetniKoy(const QString& metin, Yer yer) override { return std::min(MetinGenişliği(metin), yer.Genişlik); }

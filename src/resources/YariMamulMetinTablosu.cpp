@@ -68,6 +68,8 @@ constexpr MetinSatırı Tablo[] = {
     {YarıMamulMetni::YarıMamullerOkunuyor, "Yarı mamuller okunuyor..."},
     {YarıMamulMetni::YarıMamulYok,
      "Henüz yarı mamul yok. Aşağıdan malzemeyi, fiyatını verecek ürünü ve tutarı seçip \"Bağla\"ya basınız."},
+    {YarıMamulMetni::KopyaDöngüsü,
+     "Kopyanın adı \"%1\" olamaz, çünkü ürün dolaylı olarak kendisinden yapılmış olurdu:\n%2"},
     {YarıMamulMetni::AğaçBaşlığı, "Yarı Mamul Ağacı"},
     {YarıMamulMetni::AğaçÜrünü, "%1 / %2"},
     {YarıMamulMetni::AdetEtiketi, "&Adet"},

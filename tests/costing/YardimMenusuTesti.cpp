@@ -37,6 +37,9 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {"MalzemeListesiGösterButonu", "MalzemeListesiFormu"},
                                      {"ÜrünListesiGösterButonu", "ÜrünListesiFormu"},
                                      {"MaliyetTablosuMenüsü", "MaliyetTablosuFormu"},
+                                     {"MaliyetDağılımıMenüsü", "MaliyetDağılımıFormu"},
+                                     {"ÜrünKopyalaMenüsü", "ÜrünKopyalaFormu"},
+                                     {"BulMenüsü", "BulFormu"},
                                      {toplu, "TopluFiyatFormu"},
                                      {"FiyatListesiAlMenüsü", "FiyatListesiAlFormu"},
                                      {"DövizKurlarıMenüsü", "DövizKurlarıFormu"},
@@ -58,7 +61,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     EXPECT_EQ(sayfalar.join(' '),
               "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu MalzemeListesiOlusturFormu MiktarGosterFormu "
               "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu MaliyetTablosuFormu "
-              "TopluFiyatFormu "
+              "MaliyetDagilimiFormu UrunKopyalaFormu BulFormu TopluFiyatFormu "
               "FiyatOnizlemeFormu FiyatListesiAlFormu DovizKurlariFormu FiyatGecmisiFormu HakkindaFormu "
               "HataBildirmeFormu");
 }

@@ -12,6 +12,7 @@ namespace {
 constexpr double İnçMilimetre = 25.4;
 constexpr double PuntoMilimetre = İnçMilimetre / 72;
 constexpr double ÇizgiKalınlığı = 0.2;  // millimetres
+constexpr int ŞekilYazısı = 13;         // 1/96 inch
 constexpr double AltÇizgiYeri = 0.45;   // of the descent, below the base line: clear of the letters
 
 // Narrow, with all Turkish letters.
@@ -60,6 +61,20 @@ double AygıtYüzeyi::SatırYüksekliği() const {
 void AygıtYüzeyi::Çiz(double x1, double y1, double x2, double y2, QColor renk) {
     m_boyacı.setPen(QPen(renk, ÇizgiKalınlığı * m_ölçek, Qt::SolidLine, Qt::FlatCap));
     m_boyacı.drawLine(QPointF(x1, y1) * m_ölçek, QPointF(x2, y2) * m_ölçek);
+}
+
+void AygıtYüzeyi::Şekil(QSizeF boy, const std::function<void(QPainter&, const QRectF&)>& çizen) {
+    constexpr double birim = İnçMilimetre / 96;
+    QFont font(YazıAilesi());
+    font.setStyleHint(QFont::SansSerif);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setPixelSize(ŞekilYazısı);
+    m_boyacı.save();
+    m_boyacı.translate(X() * m_ölçek, Y() * m_ölçek);
+    m_boyacı.scale(m_ölçek * birim, m_ölçek * birim);
+    m_boyacı.setFont(font);
+    çizen(m_boyacı, QRectF(QPointF(0, 0), boy / birim));
+    m_boyacı.restore();
 }
 
 double AygıtYüzeyi::MetniKoy(const QString& metin, Yer yer) {

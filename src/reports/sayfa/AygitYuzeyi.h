@@ -24,6 +24,7 @@ class AygıtYüzeyi : public SayfaYüzeyi {
     double MetinGenişliği(const QString& metin) const override;
     double SatırYüksekliği() const override;
     void Çiz(double x1, double y1, double x2, double y2, QColor renk) override;
+    void Şekil(QSizeF boy, const std::function<void(QPainter&, const QRectF&)>& çizen) override;
 
   protected:
     double MetniKoy(const QString& metin, Yer yer) override;

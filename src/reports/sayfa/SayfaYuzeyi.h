@@ -1,8 +1,12 @@
 #pragma once
 
 #include <QColor>
+#include <QRectF>
 #include <QString>
+#include <functional>
 #include <limits>
+
+class QPainter;
 
 // A document to print on, page after page. Every position and width is in millimetres, measured from the printable
 // area's top left corner; a text's position is its top left corner. The current position starts each page at (0, 0).
@@ -61,6 +65,10 @@ class SayfaYüzeyi {
 
     // A straight line; the current position stays.
     virtual void Çiz(double x1, double y1, double x2, double y2, QColor renk) = 0;
+
+    // Lets `çizen` draw into a rectangle of this size, in millimetres, whose top left corner is the current position;
+    // that stays. The painter's unit is 1/96 inch, so that the drawing is that of a screen.
+    virtual void Şekil(QSizeF, const std::function<void(QPainter&, const QRectF&)>&) {}
 
     void YeniSayfa();
     int SayfaNo() const { return m_sayfaNo; }
