@@ -9,6 +9,7 @@
 #include "OdbcTanitici.h"
 #include "TurkceSira.h"
 #include "UrunToplamlari.h"
+#include "YariMamulYayilimi.h"
 
 namespace {
 
@@ -20,8 +21,14 @@ int Sırala(const QString& a, const QString& b) {
 class Toplayıcı {
   public:
     Toplayıcı(const ÜrünKataloğu& ürünler, const MalzemeKataloğu& malzemeler, int basamak,
-              std::vector<MaliyetTablosuSatırı>& satırlar)
-        : m_ürünler(ürünler), m_malzemeler(malzemeler), m_basamak(basamak), m_satırlar(satırlar) {}
+              const YarıMamulBağları& bağlar, std::vector<MaliyetTablosuSatırı>& satırlar)
+        : m_ürünler(ürünler), m_malzemeler(malzemeler), m_basamak(basamak), m_satırlar(satırlar) {
+        for (const YarıMamulBağı& bağ : bağlar.Bağlar()) {
+            if (bağ.Durum == BağDurumu::Uyuyor) continue;
+            m_izlemeyenler.BulYaDaEkle(bağ.Malzeme.toStdString(), 0);
+            m_izlemeyenVar = true;
+        }
+    }
 
     void Al(OdbcSatırı& satır) {
         const auto baytlar = [&satır](int sütun) { return satır.Baytlar(sütun).value_or(std::string_view()); };
@@ -32,6 +39,7 @@ class Toplayıcı {
         if (ürün.MalzemeSayısı++ > 0 && Türkçe::Karşılaştır(malzeme, m_sonMalzeme) == 0) ürün.Dikkat |= İkiKezYazılmış;
         m_sonMalzeme = malzeme;
         if (m_malzemeler.Dizin.Bul(malzeme) == AdDizini::YOK) ürün.Dikkat |= KatalogDışıMalzeme;
+        if (m_izlemeyenVar && m_izlemeyenler.Bul(malzeme) != AdDizini::YOK) ürün.Dikkat |= İzlemeyenBağ;
         const std::optional<double> miktar = MiktarSayısı(baytlar(4));
         const std::optional<Para> fiyat = SaklananPara(baytlar(5));
         if (!miktar) ürün.Dikkat |= OkunamayanMiktar;
@@ -82,6 +90,8 @@ class Toplayıcı {
     const MalzemeKataloğu& m_malzemeler;
     const int m_basamak;
     std::vector<MaliyetTablosuSatırı>& m_satırlar;  // beside the products
+    AdDizini m_izlemeyenler;
+    bool m_izlemeyenVar = false;
     bool m_var = false;
     std::string m_grup;
     std::string m_ad;
@@ -118,6 +128,8 @@ void SırayaKoy(std::vector<MaliyetTablosuSatırı>& satırlar) {
     ÜrünKataloğu ürünler;
     İşSonucu sonuç = malzemeler.Oku(bağlantı, ilerleme);
     if (sonuç.Tamam()) sonuç = ürünler.Oku(bağlantı, basamak, ilerleme);
+    const YarıMamulBağları* bağlar = nullptr;
+    if (sonuç.Tamam()) sonuç = YarıMamulleriAl(bağlantı, bağlar);
     if (!sonuç.Tamam()) return sonuç;
     for (const KatalogÜrünü& ürün : ürünler.Ürünler) {
         MaliyetTablosuSatırı& satır = satırlar.emplace_back();
@@ -125,7 +137,7 @@ void SırayaKoy(std::vector<MaliyetTablosuSatırı>& satırlar) {
         satır.Ad = ürün.Ad;
         if (ürün.İkiKez) satır.Dikkat |= İkiKezYazılmış;
     }
-    Toplayıcı toplayıcı(ürünler, malzemeler, basamak, satırlar);
+    Toplayıcı toplayıcı(ürünler, malzemeler, basamak, *bağlar, satırlar);
     std::int64_t okunan = 0;
     bool vazgeçildi = false;
     const OdbcSonucu odbc = bağlantı.Oku(Deyimler::SıralıKullanılanlar(), [&](OdbcSatırı& satır) {

@@ -16,7 +16,8 @@ enum DikkatNedeni : unsigned {
     MalzemesiYok = 8,
     İkiKezYazılmış = 16,  // the product, or one of its materials
     ToplamSıfır = 32,     // or below
-    TutarTaşıyor = 64     // a row or the sum leaves money's range
+    TutarTaşıyor = 64,    // a row or the sum leaves money's range
+    İzlemeyenBağ = 128    // uses a material whose price does not follow the product that it stands for
 };
 
 // A product with the figures that the main form shows of it.

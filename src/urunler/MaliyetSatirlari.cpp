@@ -8,6 +8,7 @@
 #include "MetinTablosu.h"
 #include "UrunMetinleri.h"
 #include "SayiMetni.h"
+#include "YariMamulMetinleri.h"
 
 namespace {
 
@@ -59,7 +60,7 @@ QString DikkatMetni(unsigned dikkat) {
         {MalzemesiYok, ÜrünMetni::DikkatMalzemesiYok}, {KatalogDışıMalzeme, ÜrünMetni::DikkatKatalogDışı},
         {SıfırFiyat, ÜrünMetni::DikkatSıfırFiyat},     {OkunamayanMiktar, ÜrünMetni::DikkatOkunamayanMiktar},
         {İkiKezYazılmış, ÜrünMetni::DikkatİkiKez},     {ToplamSıfır, ÜrünMetni::DikkatToplamSıfır},
-        {TutarTaşıyor, ÜrünMetni::DikkatTutarTaşıyor}};
+        {TutarTaşıyor, ÜrünMetni::DikkatTutarTaşıyor}, {İzlemeyenBağ, YarıMamulMetni::DikkatBağ}};
     QStringList nedenler;
     for (const auto& [neden, metin] : metinler)
         if (dikkat & neden) nedenler.append(Metin(metin));

@@ -39,6 +39,8 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {"MaliyetTablosuMenüsü", "MaliyetTablosuFormu"},
                                      {"MaliyetDağılımıMenüsü", "MaliyetDağılımıFormu"},
                                      {"ÜrünKopyalaMenüsü", "ÜrünKopyalaFormu"},
+                                     {"YarıMamulMenüsü", "YarıMamulFormu"},
+                                     {"YarıMamulAğacıMenüsü", "YarıMamulAğacıFormu"},
                                      {"BulMenüsü", "BulFormu"},
                                      {toplu, "TopluFiyatFormu"},
                                      {"FiyatListesiAlMenüsü", "FiyatListesiAlFormu"},
@@ -61,7 +63,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     EXPECT_EQ(sayfalar.join(' '),
               "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu MalzemeListesiOlusturFormu MiktarGosterFormu "
               "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu MaliyetTablosuFormu "
-              "MaliyetDagilimiFormu UrunKopyalaFormu BulFormu TopluFiyatFormu "
+              "MaliyetDagilimiFormu UrunKopyalaFormu YariMamulFormu YariMamulAgaciFormu BulFormu TopluFiyatFormu "
               "FiyatOnizlemeFormu FiyatListesiAlFormu DovizKurlariFormu FiyatGecmisiFormu HakkindaFormu "
               "HataBildirmeFormu");
 }
