@@ -1,6 +1,7 @@
 // Products as a whole.
 #include <QLineEdit>
 #include <QTableView>
+#include <QTreeWidget>
 
 #include "Sahneler.h"
 
@@ -42,6 +43,28 @@ void Kopya(Tur& tur, QWidget& anaForm) {
     });
 }
 
+void YarıMamuller(Tur& tur, QWidget& anaForm) {
+    MenüdenAç(anaForm, u"YarıMamulMenüsü"_s, [&](QWidget& form) {
+        tur.Çek(u"yari-mamuller"_s, form);
+        form.resize(KÜÇÜK);
+        Tur::Durul();
+        tur.Çek(u"yari-mamuller-kucuk"_s, form);
+        Esc(form);
+    });
+}
+
+void Ağaç(Tur& tur, QWidget& anaForm) {
+    ÜrünSeç(anaForm, u"Yemek Masası"_s);
+    tur.Çek(u"ana-form-yari-mamul"_s, anaForm);
+    MenüdenAç(anaForm, u"YarıMamulAğacıMenüsü"_s, [&](QWidget& form) {
+        Tur::Yaz(Tur::Bul<QLineEdit>(form, u"AdetKutusu"_s), u"12"_s);
+        Tur::Bul<QTreeWidget>(form, u"MalzemeAğacı"_s).expandAll();
+        Tur::Durul();
+        tur.Çek(u"yari-mamul-agaci"_s, form);
+        Esc(form);
+    });
+}
+
 void Bul(Tur& tur, QWidget& anaForm) {
     MenüdenAç(anaForm, u"BulMenüsü"_s, [&](QWidget& form) {
         Tur::Yaz(Tur::Bul<QLineEdit>(form, u"BulKutusu"_s), u"ça"_s);
@@ -53,6 +76,6 @@ void Bul(Tur& tur, QWidget& anaForm) {
 }  // namespace
 
 std::vector<Sahne> ÜrünSahneleri() {
-    return {
-        {u"maliyet-tablosu"_s, Tablo}, {u"maliyet-dagilimi"_s, Dağılım}, {u"urun-kopyala"_s, Kopya}, {u"bul"_s, Bul}};
+    return {{u"yari-mamuller"_s, YarıMamuller}, {u"yari-mamul-agaci"_s, Ağaç}, {u"maliyet-tablosu"_s, Tablo},
+            {u"maliyet-dagilimi"_s, Dağılım},   {u"urun-kopyala"_s, Kopya},    {u"bul"_s, Bul}};
 }
