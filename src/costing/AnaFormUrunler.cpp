@@ -5,6 +5,7 @@
 #include <QMenuBar>
 
 #include "AnaForm.h"
+#include "MaliyetArsiviFormu.h"
 #include "MaliyetTablosuFormu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
@@ -21,6 +22,7 @@ void AnaForm::ÜrünMenüsünüKur() {
         }));
     };
     girişEkle(QStringLiteral("MaliyetTablosuMenüsü"), ÜrünMetni::MaliyetTablosuMenüsü, [this] { MaliyetTablosu(); });
+    girişEkle(QStringLiteral("MaliyetArşiviMenüsü"), ÜrünMetni::MaliyetArşiviMenüsü, [this] { MaliyetArşivi(); });
 }
 
 // What is not saved does not count there. False: it was to be saved, and could not be.
@@ -41,6 +43,11 @@ void AnaForm::MaliyetTablosu() {
     }
     if (form.exec() != QDialog::Accepted || !form.Gidilecek()) return;
     ÜrüneGit(form.Gidilecek()->Grup, form.Gidilecek()->Ad);
+}
+
+void AnaForm::MaliyetArşivi() {
+    MaliyetArşiviFormu form({m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()}, this);
+    if (form.Yükle()) form.exec();
 }
 
 // A product that is gone meanwhile leaves the selection as it is.
