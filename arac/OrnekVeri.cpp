@@ -27,4 +27,5 @@ void ÖrnekVeriYaz(VeriYazıcısı& yazıcı, QDate bugün) {
     ÖrnekGeçmişiYaz(yazıcı, bugün);
     ÖrnekTedarikçiYaz(yazıcı);
     ÖrnekDövizleriYaz(yazıcı, bugün);
+    ÖrnekArşivleriYaz(yazıcı, bugün);
 }

@@ -23,19 +23,33 @@ constexpr std::int64_t FÖY_BOYU = 320;
     }));
 }
 
-İşSonucu Yaz(OdbcBağlantısı& bağlantı, const QString& deyim) {
-    return İşSonucuYap(bağlantı.Çalıştır(deyim));
-}
+// Runs one statement after the other on one handle: there are tens of thousands of them.
+class Yazıcı {
+  public:
+    explicit Yazıcı(OdbcBağlantısı& bağlantı) {
+        if (const std::int16_t kod = m_deyim.Aç(bağlantı)) m_açılış = İşSonucuYap({kod, bağlantı.HatalarınıAl()});
+    }
 
-İşSonucu FöyüYaz(OdbcBağlantısı& bağlantı, const Başlık& arşiv, ArşivFöyü& föy) {
-    föy.Arşiv = arşiv.No;
-    föy.Özet = FöyÖzeti(arşiv, föy);
-    if (İşSonucu s = Yaz(bağlantı, D::FöyEkle(föy)); !s.Tamam()) return s;
-    std::int64_t no = 0;
-    for (const D::Satır& satır : föy.Satırlar)
-        if (İşSonucu s = Yaz(bağlantı, D::SatırEkle(arşiv.No, föy.No, ++no, satır)); !s.Tamam()) return s;
-    return {};
-}
+    İşSonucu Yaz(const QString& deyim) {
+        if (!m_açılış.Tamam()) return m_açılış;
+        const std::int16_t kod = m_deyim.Çalıştır(deyim);
+        return kod == 0 ? İşSonucu() : İşSonucuYap({kod, m_deyim.HatalarınıAl()});
+    }
+
+    İşSonucu FöyüYaz(const Başlık& arşiv, ArşivFöyü& föy) {
+        föy.Arşiv = arşiv.No;
+        föy.Özet = FöyÖzeti(arşiv, föy);
+        if (İşSonucu s = Yaz(D::FöyEkle(föy)); !s.Tamam()) return s;
+        std::int64_t no = 0;
+        for (const D::Satır& satır : föy.Satırlar)
+            if (İşSonucu s = Yaz(D::SatırEkle(arşiv.No, föy.No, ++no, satır)); !s.Tamam()) return s;
+        return {};
+    }
+
+  private:
+    OdbcDeyimi m_deyim;
+    İşSonucu m_açılış;
+};
 
 ArşivFöyü FöySatırı(OdbcSatırı& satır) {
     ArşivFöyü föy;
@@ -75,19 +89,20 @@ bool Sağlam(const Başlık& arşiv, const ArşivFöyü& föy) {
 İşSonucu ArşiviYaz(OdbcBağlantısı& bağlantı, bool tablolarVar, Başlık& yeni, const İlerleme& ilerleme) {
     yeni.FöySayısı = 0;
     const QStringList oluştur = tablolarVar ? QStringList() : D::TablolarıOluştur();
+    Yazıcı yazıcı(bağlantı);
     for (const QString& deyim : oluştur + QStringList(D::Ekle(yeni)))
-        if (İşSonucu s = Yaz(bağlantı, deyim); !s.Tamam()) return s;
+        if (İşSonucu s = yazıcı.Yaz(deyim); !s.Tamam()) return s;
     std::int64_t föyler = 0;
     const İşSonucu sonuç = BugünküFöyleriOku(
         bağlantı, yeni.Neyin, yeni.Basamak,
         [&](ArşivFöyü& föy) {
             ++föyler;
-            return FöyüYaz(bağlantı, yeni, föy);
+            return yazıcı.FöyüYaz(yeni, föy);
         },
         ilerleme);
     if (!sonuç.Tamam()) return sonuç;
     yeni.FöySayısı = föyler;
-    return Yaz(bağlantı, D::FöySayısınıYaz(yeni.No, föyler));
+    return yazıcı.Yaz(D::FöySayısınıYaz(yeni.No, föyler));
 }
 
 İşSonucu Arşivle(OdbcBağlantısı& bağlantı, Başlık& yeni, const İlerleme& ilerleme) {

@@ -77,7 +77,6 @@ constexpr MetinSatırı Tablo[] = {
     {ArşivMetni::FöyBozukUyarısı, "BU FÖY DEĞİŞTİRİLMİŞ: içeriği, arşivlendiği günkü denetim toplamını tutmuyor."},
     {ArşivMetni::FöyEksikNotu, "eksik"},
     {ArşivMetni::FöyünSatırları, "&Malzemeler"},
-    {ArşivMetni::FöyünÖzeti, "Ö&zet"},
     {ArşivMetni::ÖncekiAdı, "Ön&ceki adı"},
     {ArşivMetni::ÖncekiAdYok, "(yok)"},
     {ArşivMetni::GelişimTablosuEtiketi, "Topla&mlar"},
@@ -96,6 +95,10 @@ constexpr MetinSatırı Tablo[] = {
     {ArşivMetni::MalzemeSatırı, "Malzeme maliyeti"},
     {ArşivMetni::FöylerOkunuyor, "Föyler okunuyor..."},
     {ArşivMetni::ArşivinEksiği, "%1 föy olmalıydı, %2 föy var!"},
+    {ArşivMetni::İşçilikSatırı, "İşçilik (%)"},
+    {ArşivMetni::KârSatırı, "Kâr (%)"},
+    {ArşivMetni::DiğerSatırı, "Diğer (%)"},
+    {ArşivMetni::VadeSatırı, "Vade (%)"},
     {ArşivMetni::KesmeUyarısı, "Adında kesme işareti olan ürün arşivlenemez."},
 };
 

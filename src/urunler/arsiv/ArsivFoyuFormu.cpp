@@ -35,10 +35,10 @@ QWidget* ArşivFöyüFormu::Özet() {
     const ArşivFöyü& f = m_föy.Föy;
     const std::tuple<const char*, MetinNo, QString> satırlar[] = {
         {"MalzemeMaliyetiKutusu", ArşivMetni::MalzemeSatırı, f.MalzemeMetni},
-        {"İşçilikKutusu", ArşivMetni::Parçaİşçilik, f.YüzdeMetinleri[0]},
-        {"KârKutusu", ArşivMetni::ParçaKâr, f.YüzdeMetinleri[1]},
-        {"DiğerKutusu", ArşivMetni::ParçaDiğer, f.YüzdeMetinleri[2]},
-        {"VadeKutusu", ArşivMetni::ParçaVade, f.YüzdeMetinleri[3]},
+        {"İşçilikKutusu", ArşivMetni::İşçilikSatırı, f.YüzdeMetinleri[0]},
+        {"KârKutusu", ArşivMetni::KârSatırı, f.YüzdeMetinleri[1]},
+        {"DiğerKutusu", ArşivMetni::DiğerSatırı, f.YüzdeMetinleri[2]},
+        {"VadeKutusu", ArşivMetni::VadeSatırı, f.YüzdeMetinleri[3]},
         {"ToplamKutusu", ArşivMetni::ToplamSatırı, f.ToplamMetni},
         {"ToplamMiktarKutusu", ArşivMetni::ToplamMiktarSatırı, f.MiktarMetni},
         {"BirimMaliyetKutusu", ArşivMetni::BirimSatırı, f.BirimMetni}};

@@ -9,9 +9,9 @@
 QList<TabloSütunu> ArşivSütunlarınıVer() {
     return {{ArşivMetni::NoSütunu, 3, true},
             {ArşivMetni::GünSütunu, 8},
+            {ArşivMetni::FöySayısıSütunu, 5, true},
             {ArşivMetni::KapsamSütunu, 12},
-            {ArşivMetni::NotSütunu, 14},
-            {ArşivMetni::FöySayısıSütunu, 5, true}};
+            {ArşivMetni::NotSütunu, 14}};
 }
 
 QString ArşivSatırları::Hücre(std::size_t satır, int sütun) const {

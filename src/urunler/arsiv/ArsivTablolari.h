@@ -5,7 +5,7 @@
 
 // The lists of archives, of an archive's sheets, and of a sheet's rows.
 
-enum ArşivSütunları { ANo, AGün, AKapsam, ANot, AFöy };
+enum ArşivSütunları { ANo, AGün, AFöy, AKapsam, ANot };
 QList<TabloSütunu> ArşivSütunlarınıVer();
 
 class ArşivSatırları : public TabloKaynağı {

@@ -112,7 +112,8 @@ QString FarkSatırları::Hücre(std::size_t satır, int sütun) const {
             return FarkDurumu(s);
         default: {
             const std::optional<Para> tutar = Tutar(satır, sütun);
-            return tutar ? ArşivTutarı(*tutar) : QString();
+            const bool boş = !tutar || (sütun >= KÇıkan && *tutar == Para());  // what there is stands out
+            return boş ? QString() : ArşivTutarı(*tutar);
         }
     }
 }
@@ -124,7 +125,7 @@ int FarkSatırları::Karşılaştır(std::size_t a, std::size_t b, int sütun) c
 }
 
 QList<TabloSütunu> ParçaSütunlarınıVer() {
-    return {{ArşivMetni::ParçaSütunu, 14}, {MetinNo::MalzemeSütunu, 22}, {ArşivMetni::TutarSütunu, 11, true}};
+    return {{ArşivMetni::TutarSütunu, 12, true}, {ArşivMetni::ParçaSütunu, 14}, {MetinNo::MalzemeSütunu, 22}};
 }
 
 void ParçaSatırları::Göster(const ÜrünFarkı& fark) {
@@ -140,12 +141,11 @@ void ParçaSatırları::Göster(const ÜrünFarkı& fark) {
 
 QString ParçaSatırları::Hücre(std::size_t satır, int sütun) const {
     const Satır& s = m_satırlar[satır];
-    if (sütun == 0) return Metin(s.Parça);
-    return sütun == 1 ? s.Malzeme : ArşivTutarı(s.Tutar);
+    if (sütun == 0) return ArşivTutarı(s.Tutar);
+    return sütun == 1 ? Metin(s.Parça) : s.Malzeme;
 }
 
 int ParçaSatırları::Karşılaştır(std::size_t a, std::size_t b, int sütun) const {
-    constexpr int tutar = 2;
-    if (sütun == 0) return Sırala(a, b);
-    return sütun == tutar ? Sırala(m_satırlar[a].Tutar, m_satırlar[b].Tutar) : TabloKaynağı::Karşılaştır(a, b, sütun);
+    if (sütun == 0) return Sırala(m_satırlar[a].Tutar, m_satırlar[b].Tutar);
+    return sütun == 1 ? Sırala(a, b) : TabloKaynağı::Karşılaştır(a, b, sütun);
 }
