@@ -66,7 +66,8 @@ void ArşivFöyüFormu::Yerleştir() {
     QStringList notlar;
     if (!m_föy.Sağlam) notlar.append(Metin(ArşivMetni::FöyBozukUyarısı));
     const QString dikkat = ArşivDikkatMetni(m_föy.Föy.Dikkat);
-    if (!dikkat.isEmpty()) notlar.append(Metin(ArşivMetni::DurumEksik).arg(dikkat));
+    if (!dikkat.isEmpty())
+        notlar.append(FöyEksik(m_föy.Föy.Dikkat) ? Metin(ArşivMetni::DurumEksik).arg(dikkat) : dikkat);
     if (!m_arşiv.Not.isEmpty()) notlar.append(m_arşiv.Not);
     açıklama->setText(notlar.join(QLatin1Char('\n')));
     açıklama->setVisible(!notlar.isEmpty());

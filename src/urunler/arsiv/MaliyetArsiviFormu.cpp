@@ -317,7 +317,11 @@ void MaliyetArşiviFormu::Sil() {
     if (!seçili) return;
     const Başlık arşiv = *seçili;
     const QString ne = GünMetni(arşiv.Gün) + QStringLiteral(", ") + KapsamMetni(arşiv.Neyin);
-    if (!Sor(Metin(ArşivMetni::SilmeSorusu).arg(QString::number(arşiv.No), ne))) return;
+    MesajKutusuOrtala();
+    const MesajKutusu::Yanıt yanıt = MesajKutusu::Göster(
+        MesajKutusu::Simge::Soru, MesajKutusu::Düğmeler::EvetHayır,
+        Metin(ArşivMetni::SilmeSorusu).arg(QString::number(arşiv.No), ne), {}, MesajKutusu::Yanıt::Hayır);
+    if (yanıt != MesajKutusu::Yanıt::Evet) return;
     setCursor(Qt::WaitCursor);
     const İşSonucu sonuç = ArşiviSil(ODBCBağlantısı(), arşiv.No);
     unsetCursor();
