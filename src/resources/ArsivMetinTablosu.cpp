@@ -99,6 +99,8 @@ constexpr MetinSatırı Tablo[] = {
     {ArşivMetni::KârSatırı, "Kâr (%)"},
     {ArşivMetni::DiğerSatırı, "Diğer (%)"},
     {ArşivMetni::VadeSatırı, "Vade (%)"},
+    {ArşivMetni::FöylerOkunmadı, "Föyler okunmadı; arşivi yeniden seçiniz."},
+    {ArşivMetni::ÜrünArtıkYok, "Bu ürünün föyü artık yok; Karşılaştır'a yeniden basınız."},
     {ArşivMetni::KesmeUyarısı, "Adında kesme işareti olan ürün arşivlenemez."},
 };
 

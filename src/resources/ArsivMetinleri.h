@@ -99,6 +99,8 @@ inline constexpr MetinNo İşçilikSatırı{3090};
 inline constexpr MetinNo KârSatırı{3091};
 inline constexpr MetinNo DiğerSatırı{3092};
 inline constexpr MetinNo VadeSatırı{3093};
-inline constexpr MetinNo KesmeUyarısı{3094};
+inline constexpr MetinNo FöylerOkunmadı{3094};
+inline constexpr MetinNo ÜrünArtıkYok{3095};
+inline constexpr MetinNo KesmeUyarısı{3096};
 
 }  // namespace ArşivMetni

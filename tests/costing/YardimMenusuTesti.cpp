@@ -1,3 +1,5 @@
+#include <QTabWidget>
+
 #include "AcilanAdresler.h"
 #include "AnaFormOrtami.h"
 #include "ErisimDenetimi.h"
@@ -29,6 +31,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     Tıkla("İçindekilerMenüsü");
     const char* tarih = "GünlükMalzemeHareketleriGösterButonu";
     const char* toplu = "TopluFiyatMenüsü";
+    const char* arşiv = "MaliyetArşiviMenüsü";
     for (const auto& [açan, form] : {std::pair("ÜrünEkleSilMenüsü", "ÜrünEkleSilFormu"),
                                      {"MalzemeEkleSilMenüsü", "MalzemeEkleSilFormu"},
                                      {"ListeyeMalzemeEkleButonu", "MalzemeListesiOluşturFormu"},
@@ -37,6 +40,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {"MalzemeListesiGösterButonu", "MalzemeListesiFormu"},
                                      {"ÜrünListesiGösterButonu", "ÜrünListesiFormu"},
                                      {"MaliyetTablosuMenüsü", "MaliyetTablosuFormu"},
+                                     {arşiv, "MaliyetArşiviFormu"},
                                      {toplu, "TopluFiyatFormu"},
                                      {"FiyatListesiAlMenüsü", "FiyatListesiAlFormu"},
                                      {"DövizKurlarıMenüsü", "DövizKurlarıFormu"},
@@ -44,9 +48,19 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {"HakkındaMenüsü", "HakkındaFormu"},
                                      {"HataBildirmeMenüsü", "HataBildirmeFormu"}}) {
         SCOPED_TRACE(form);
-        Modal(açan, form, [this, açan = açan, tarih, toplu] {
+        Modal(açan, form, [this, açan = açan, tarih, toplu, arşiv] {
             FormuOku();
             if (açan == tarih) Modal("TarihDeğiştirButonu", "TarihDeğiştirFormu", [this] { FormuOku(); });
+            if (açan == arşiv) {
+                Tıkla("ArşivleButonu");  // the selected product, which nothing is asked about
+                Tıkla("FöyTablosu", Yer("FöyTablosu", "MASA"));
+                Modal("FöyüGösterButonu", "ArşivFöyüFormu", [this] { FormuOku(); });
+                Tıkla("KarşılaştırButonu");
+                for (const int sayfa : {0, 1}) {
+                    Bul<QTabWidget>("BölümSayfaları").setCurrentIndex(sayfa);
+                    ErişimiDenetle(Form());
+                }
+            }
             if (açan != toplu) return;
             Tıkla("TümünüSeçButonu");
             Yaz("OranKutusu", "10");
@@ -58,7 +72,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     EXPECT_EQ(sayfalar.join(' '),
               "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu MalzemeListesiOlusturFormu MiktarGosterFormu "
               "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu MaliyetTablosuFormu "
-              "TopluFiyatFormu "
+              "MaliyetArsiviFormu ArsivFoyuFormu TopluFiyatFormu "
               "FiyatOnizlemeFormu FiyatListesiAlFormu DovizKurlariFormu FiyatGecmisiFormu HakkindaFormu "
               "HataBildirmeFormu");
 }

@@ -191,7 +191,8 @@ bool FarkBölümü::Oku(std::size_t yer, const FöyYeri& eski, const FöyYeri& y
     std::optional<ÜrünFarkı> fark;
     const İşSonucu sonuç = FöyleriKarşılaştır(ODBCBağlantısı(), eski, yeni, fark);
     ArşivSonucunuGöster(sonuç);
-    if (!sonuç.Tamam() || !fark) return false;
+    if (!sonuç.Tamam()) return false;
+    if (!fark) return Uyar(ArşivMetni::ÜrünArtıkYok, *m_karşılaştır);
     m_kaynak.Satırlar[yer] = std::move(*fark);
     return true;
 }

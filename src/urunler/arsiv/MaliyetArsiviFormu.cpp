@@ -282,8 +282,10 @@ void MaliyetArşiviFormu::ArşivSeçildi() {
     m_föyler.Satırlar = std::move(föyler);
     m_föyModeli.Yenile();
     const bool eksik = arşiv && sonuç.Tamam() && sayı != arşiv->FöySayısı;
-    m_uyarı->setText(eksik ? Metin(ArşivMetni::ArşivinEksiği).arg(arşiv->FöySayısı).arg(sayı) : QString());
-    m_uyarı->setVisible(eksik);
+    m_uyarı->setText(!sonuç.Tamam() ? Metin(ArşivMetni::FöylerOkunmadı)
+                     : eksik        ? Metin(ArşivMetni::ArşivinEksiği).arg(arşiv->FöySayısı).arg(sayı)
+                                    : QString());
+    m_uyarı->setVisible(!m_uyarı->text().isEmpty());
     m_föyTablosu->setCurrentIndex({});
     FöySeçildi();
     ArşivSonucunuGöster(sonuç);
