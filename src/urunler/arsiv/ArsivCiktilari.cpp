@@ -19,6 +19,7 @@ void FarklarıYaz(SayfaYüzeyi& yüzey, const QString& başlık, const FarkSatı
                        {ArşivMetni::EklenenSütunu, 1.24, HücreTürü::Sayı},
                        {ArşivMetni::YüzdelerSütunu, 1.13, HücreTürü::Sayı},
                        {ArşivMetni::YuvarlamaSütunu, 1.07, HücreTürü::Sayı}});
+    düzen.BaşlıklarıYinele();
     if (!düzen.Başla()) return;
     for (int sıra = 0; sıra < model.rowCount(); ++sıra) {
         const std::size_t yer = model.KaynakSatırı(sıra);

@@ -83,12 +83,15 @@ void FarkBölümü::Yerleştir() {
     bölen->setChildrenCollapsible(false);
     bölen->addWidget(TabloBölümü(12, ArşivMetni::FarklarEtiketi, m_tablo));
     bölen->addWidget(alt);
-    bölen->setStretchFactor(0, 1);
+    constexpr int çok = 2;
+    bölen->setStretchFactor(0, çok);
+    bölen->setStretchFactor(1, 1);
+    bölen->setSizes({400, 200});
     auto* düzen = new QVBoxLayout(this);
     düzen->addLayout(üst);
     düzen->addWidget(m_özet);
     düzen->addWidget(bölen, 1);
-    düzen->addLayout(DüğmeSırası({m_yazdır, m_pdf, m_önizle, m_aktar}));
+    düzen->addLayout(DüğmeSırası({m_yazdır, m_pdf, m_önizle, m_aktar, nullptr}));
 }
 
 void FarkBölümü::ArşivleriAyarla(std::vector<Başlık> arşivler) {

@@ -115,10 +115,11 @@ void GelişimBölümü::Yerleştir() {
     bölen->addWidget(m_grafik);
     bölen->addWidget(TabloBölümü(22, ArşivMetni::GelişimTablosuEtiketi, m_tablo));
     bölen->setStretchFactor(0, 1);
+    bölen->setSizes({400, 200});
     auto* düzen = new QVBoxLayout(this);
     düzen->addLayout(üst);
     düzen->addWidget(bölen, 1);
-    düzen->addLayout(DüğmeSırası({m_kaydet}));
+    düzen->addLayout(DüğmeSırası({m_kaydet, nullptr}));
 }
 
 void GelişimBölümü::ÜrünüAyarla(const Kapsam& ürün) {

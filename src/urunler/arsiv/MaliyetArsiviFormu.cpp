@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QSplitter>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -129,12 +130,16 @@ QWidget* MaliyetArşiviFormu::Arşivler() {
     bölen->addWidget(TabloBölümü(4, ArşivMetni::ArşivlerEtiketi, m_arşivTablosu));
     bölen->addWidget(alt);
     bölen->setStretchFactor(1, 1);
+    bölen->setSizes({200, 400});
     return bölen;
 }
 
 void MaliyetArşiviFormu::Yerleştir() {
     auto* sayfalar = new QTabWidget;
     sayfalar->setObjectName(QStringLiteral("BölümSayfaları"));
+    sayfalar->setFocusPolicy(Qt::NoFocus);  // its row of tabs takes the keys
+    sayfalar->tabBar()->setObjectName(QStringLiteral("BölümSekmeleri"));
+    sayfalar->tabBar()->setAccessibleName(windowTitle());
     sayfalar->addTab(m_fark, Metin(ArşivMetni::FarkSayfası));
     sayfalar->addTab(m_gelişim, Metin(ArşivMetni::GelişimSayfası));
     auto* bölen = new QSplitter(Qt::Horizontal);

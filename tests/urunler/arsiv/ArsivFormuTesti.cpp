@@ -2,6 +2,7 @@
 #include <QTabWidget>
 
 #include "AnaFormOrtami.h"
+#include "ArsivCiktilari.h"
 #include "ArsivMetinleri.h"
 #include "KayitYuzeyi.h"
 #include "Yazdirma.h"
@@ -143,6 +144,28 @@ TEST_F(ArşivFormu, FarkEskiAdlaDaBulunurVeGelişimÇizilir) {
         EXPECT_EQ(Satırlar("GelişimTablosu"), "22.11.2026|1|2.218.570,05|||; bugün||2.218.573,40|3,35|0,00|");
         EXPECT_TRUE(Bul("GelişimGrafiği").accessibleName().contains("2.218.570,05"));
     });
+}
+
+// Many columns: captions and page number on every page, a long name in further lines, no figure cut.
+TEST_F(ArşivFormu, FarkÇıktısıHerSayfadaBaşlıklıdır) {
+    FarkSatırları satırlar;
+    for (int i = 0; i < 60; ++i) {
+        ÜrünFarkı fark;
+        fark.Eski = fark.Yeni = FöyYeri{{}, 0, "MASA", i == 0 ? QString(100, 'x') + ' ' + QString(100, 'y') : "Sehpa"};
+        fark.EskiToplam = Para::OnBindeBirden(123'456'789'012'345);
+        fark.YeniToplam = Para::OnBindeBirden(987'654'321'098'765);
+        fark.Ayrım.Parçalar[2] = TutarFarkı(fark.YeniToplam, fark.EskiToplam);
+        satırlar.Satırlar.push_back(fark);
+    }
+    TabloModeli model(satırlar, FarkSütunlarınıVer());
+    KayıtYüzeyi yüzey(297, 210);
+    FarklarıYaz(yüzey, "Başlık", satırlar, model);
+    EXPECT_EQ(yüzey.Bul("Yuvarlama").size(), yüzey.SayfaNo());
+    EXPECT_EQ(yüzey.Bul("Sayfa - 2").size(), 1);
+    EXPECT_GE(yüzey.SayfaNo(), 2);
+    EXPECT_EQ(yüzey.Bul("86.419.753.208,65").size(), 60) << "the difference of every row";
+    EXPECT_EQ(yüzey.Bul("86.419.753.208,64").size(), 60) << "the price's part, and a kuruş of rounding";
+    for (const auto& metin : yüzey.Metinler) EXPECT_LE(metin.Sağ(), 297.01) << metin.Metin.toStdString();
 }
 
 }  // namespace
