@@ -8,8 +8,8 @@ namespace {
 namespace D = Deyimler::Arşiv;
 
 // What a row and a sheet add to the data file on the average, with their indexes.
-constexpr std::int64_t SATIR_BOYU = 150;
-constexpr std::int64_t FÖY_BOYU = 320;
+constexpr std::int64_t SATIR_BOYU = 95;
+constexpr std::int64_t FÖY_BOYU = 380;
 
 İşSonucu TablolarVar(OdbcBağlantısı& bağlantı, bool& var) {
     return İşSonucuYap(bağlantı.TabloVar(QString::fromLatin1(D::TABLO), var));
@@ -171,10 +171,13 @@ bool Sağlam(const Başlık& arşiv, const ArşivFöyü& föy) {
 
 İşSonucu FöyleriOku(OdbcBağlantısı& bağlantı, const Başlık& arşiv, const OkunanFöyAlıcı& al, const İlerleme& ilerleme) {
     std::vector<ArşivFöyü> föyler;
-    İşSonucu sonuç = İşSonucuYap(bağlantı.Oku(D::Föyler(arşiv.No), [&föyler](OdbcSatırı& satır) {
+    bool vazgeçildi = false;
+    const OdbcSonucu başlıklar = bağlantı.Oku(D::Föyler(arşiv.No), [&](OdbcSatırı& satır) {
         föyler.push_back(FöySatırı(satır));
-        return true;
-    }));
+        vazgeçildi = ilerleme && !ilerleme(0);
+        return !vazgeçildi;
+    });
+    İşSonucu sonuç = İşSonucuYap(başlıklar, vazgeçildi);
     if (!sonuç.Tamam()) return sonuç;
     std::size_t yer = 0;
     const auto ver = [&] {
@@ -183,7 +186,6 @@ bool Sağlam(const Başlık& arşiv, const ArşivFöyü& föy) {
         return al(föy);
     };
     std::int64_t okunan = 0;
-    bool vazgeçildi = false;
     const OdbcSonucu odbc = bağlantı.Oku(D::Satırlar(arşiv.No), [&](OdbcSatırı& satır) {
         const std::int64_t no = SayıSütunu(satır, 1);
         while (sonuç.Tamam() && yer < föyler.size() && föyler[yer].No < no) sonuç = ver();

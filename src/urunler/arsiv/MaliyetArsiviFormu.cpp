@@ -79,6 +79,7 @@ void MaliyetArşiviFormu::KontrolleriKur() {
             const FöyBaşlığı& föy = m_föyler.Satırlar[yer];
             return Türkçe::İçerir(föy.Ürün, aranan) || Türkçe::İçerir(föy.Grup, aranan);
         });
+        FöySeçildi();
     });
     m_uyarı = new QLabel;
     m_uyarı->setObjectName(QStringLiteral("FöyUyarısıEtiketi"));
@@ -156,7 +157,7 @@ void MaliyetArşiviFormu::Yerleştir() {
     düzen->addWidget(Arşivleme());
     düzen->addWidget(bölen, 1);
     düzen->addLayout(DüğmeSırası({m_göster, m_sil, nullptr, kapat}));
-    m_arşivTablosu->setFocus();
+    m_grup->setFocus();  // a list marks its first row as it gets the focus
     BoyVer(*this, {1280, 760});
 }
 
@@ -187,8 +188,7 @@ bool MaliyetArşiviFormu::ArşivleriOkuVeGöster(std::int64_t seçilecek) {
     m_fark->ArşivleriAyarla(arşivler);
     m_gelişim->ArşivleriAyarla(std::move(arşivler));
     m_arşivModeli.Yenile();
-    m_arşivTablosu->SatırıSeç(
-        [&](std::size_t yer) { return seçilecek == 0 || m_arşivler.Satırlar[yer].No == seçilecek; });
+    m_arşivTablosu->SatırıSeç([&](std::size_t yer) { return m_arşivler.Satırlar[yer].No == seçilecek; });
     ArşivSeçildi();
     return true;
 }

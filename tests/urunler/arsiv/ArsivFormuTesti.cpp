@@ -79,6 +79,8 @@ TEST_F(ArşivFormu, FöyOGününMaliyetKâğıdıdır) {
         Çalıştır("UPDATE UrunTablosu SET IscilikYuzdesi= '99' WHERE UrunAdi= 'Sehpa'");
         OndalıkBasamak = 3;
         ArşivdeYap([&] {
+            EXPECT_EQ(Satırlar(Föyler), "") << "nothing is read before it is asked for";
+            Tıkla(Arşivler, Satır(Arşivler, 0));
             for (int i = 0; i < 2; ++i) {
                 FöyüYazdır(i);
                 EXPECT_EQ(Basılan(), fişler[i]);
@@ -124,6 +126,9 @@ TEST_F(ArşivFormu, FarkEskiAdlaDaBulunurVeGelişimÇizilir) {
         "UPDATE UrunMalzemeTablosu SET KullanilanMalzemeMiktari= '3 Metre' WHERE UrunAdi= 'Tabure' AND "
         "UrunGrubu= 'MASA' AND KullanilanMalzemeAdi= 'Kayın'");
     ArşivdeYap([&] {
+        Beklenen(Simge::Bilgi, ArşivMetni::ArşivSeçiniz, Yanıt::Tamam);
+        Tıkla("KarşılaştırButonu");
+        Tıkla(Arşivler, Satır(Arşivler, 0));
         Tıkla("KarşılaştırButonu");
         EXPECT_EQ(Satırlar(Farklar),
                   "MASA|Tabure|22,00|33,00|11,00|50,00||11,00|||||eksik: okunamayan miktar; "
