@@ -2,6 +2,7 @@
 #include <unistd.h>
 
 #include "ArsivFarki.h"
+#include "DoluDisk.h"
 #include "MaliyetTablosu.h"
 #include "VarnekTesti.h"
 
@@ -139,6 +140,13 @@ TEST_F(ArşivTesti, YarımKalanİzBırakmaz) {
     const QList<QStringList> önce = Veri().HerSatır();
     Başlık yeni{0, "2026-11-23"};
     EXPECT_EQ(::Arşivle(Bağ(), yeni).Son, İşSonu::Olmadı);
+    EXPECT_EQ(Veri().HerSatır(), önce);
+    // A full disk, seen at the commit at the latest.
+    {
+        const DoluDisk dolu;
+        Başlık tek{0, "2026-11-23", "", {"MASA", ""}};  // which nothing else stands in the way of
+        EXPECT_EQ(::Arşivle(Bağ(), tek).Son, İşSonu::Olmadı);
+    }
     EXPECT_EQ(Veri().HerSatır(), önce);
     // A process that dies in the middle.
     m_veri.reset();
