@@ -136,6 +136,7 @@ class FöyYapıcı {
         for (std::size_t i = 0; i < m_föy.Yüzdeler.size(); ++i) m_föy.Yüzdeler[i] = ürün.Yüzdeler[i].Oran;
         m_föy.Malzeme = m_toplam.Tutar();
         m_föy.Toplam = GösterilenToplam(m_toplam.Tutar(), m_föy.Oranlar(), SAKLANAN_BASAMAK);
+        if (!GösterilenTutar(m_toplam.Tutar(), m_basamak)) m_föy.Dikkat |= TutarTaşıyor;
         if (ürün.İkiKez) m_föy.Dikkat |= İkiKezYazılmış;
         if (m_föy.Satırlar.empty()) m_föy.Dikkat |= MalzemesiYok;
         if (!m_föy.Satırlar.empty() && m_föy.Toplam <= Para()) m_föy.Dikkat |= ToplamSıfır;

@@ -75,7 +75,6 @@ constexpr MetinSatırı Tablo[] = {
     {ArşivMetni::FöyYok, "Bu föy artık yok; liste yeniden okunacak."},
     {ArşivMetni::FöyBaşlığı, "%1 – %2 (arşiv %3)"},
     {ArşivMetni::FöyBozukUyarısı, "BU FÖY DEĞİŞTİRİLMİŞ: içeriği, arşivlendiği günkü denetim toplamını tutmuyor."},
-    {ArşivMetni::FöyEksikNotu, "eksik"},
     {ArşivMetni::FöyünSatırları, "&Malzemeler"},
     {ArşivMetni::ÖncekiAdı, "Ön&ceki adı"},
     {ArşivMetni::ÖncekiAdYok, "(yok)"},

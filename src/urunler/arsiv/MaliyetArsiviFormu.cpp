@@ -224,13 +224,12 @@ Kapsam MaliyetArşiviFormu::SeçiliKapsam() const {
 }
 
 // What it will take is told where it may be much.
-bool MaliyetArşiviFormu::ArşivlensinMi(const Kapsam& kapsam) {
+bool MaliyetArşiviFormu::ArşivlensinMi(const Kapsam& kapsam, ArşivBoyu& boy) {
     if (!Deyimler::Yazılabilir(kapsam.Grup + kapsam.Ürün)) {
         Bildir(MesajKutusu::Simge::Ünlem, Metin(ArşivMetni::KesmeUyarısı));
         return false;
     }
     if (!kapsam.Ürün.isEmpty()) return true;
-    ArşivBoyu boy;
     const İşSonucu sonuç = ArşivBoyunuBul(ODBCBağlantısı(), kapsam, boy);
     ArşivSonucunuGöster(sonuç);
     return sonuç.Tamam() &&
@@ -243,10 +242,11 @@ void MaliyetArşiviFormu::Arşivle() {
     yeni.Not = Deyimler::SaklanacakMetin(m_not->text().trimmed());
     yeni.Neyin = SeçiliKapsam();
     yeni.Basamak = OndalıkBasamak;
-    if (!ArşivlensinMi(yeni.Neyin)) return;
+    ArşivBoyu boy;
+    if (!ArşivlensinMi(yeni.Neyin, boy)) return;
     İşSonucu sonuç;
     {
-        İlerlemeKutusu kutu(ArşivMetni::Arşivleniyor, 0, this);
+        İlerlemeKutusu kutu(ArşivMetni::Arşivleniyor, boy.Satır, this);
         sonuç = ::Arşivle(ODBCBağlantısı(), yeni, [&kutu](std::int64_t okunan) { return kutu.Bildir(okunan); });
     }
     if (sonuç.Son == İşSonu::Vazgeçildi) return;

@@ -33,7 +33,7 @@ class MaliyetArşiviFormu : public QDialog {
     void ÜrünleriDoldur();
     Kapsam SeçiliKapsam() const;
     void Arşivle();
-    bool ArşivlensinMi(const Kapsam& kapsam);
+    bool ArşivlensinMi(const Kapsam& kapsam, ArşivBoyu& boy);
     void ArşivSeçildi();
     void FöySeçildi();
     void FöyüGöster();
