@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <map>
 
 #include "FiyatIslemi.h"
 #include "FiyatKurali.h"
@@ -48,15 +47,30 @@ Para Önceki(Para fiyat, Para yüzde) {
     return eski.value_or(fiyat);
 }
 
+std::map<QString, Para> BugünküFiyatlar() {
+    std::map<QString, Para> fiyatlar;
+    for (const ÖrnekMalzeme& malzeme : ÖrnekMalzemeler())
+        fiyatlar[malzeme.ad.toString()] = ParaOku(malzeme.fiyat).value_or(Para());
+    return fiyatlar;
+}
+
 }  // namespace
+
+std::map<QString, Para> ÖrnekFiyatları(int günÖnce) {
+    std::map<QString, Para> fiyatlar = BugünküFiyatlar();
+    const QList<Değişiklik>& değişiklikler = Değişiklikler();
+    for (auto değişiklik = değişiklikler.rbegin(); değişiklik != değişiklikler.rend(); ++değişiklik)
+        for (auto& [ad, fiyat] : fiyatlar)
+            if (değişiklik->GünÖnce < günÖnce && Geçer(ad, değişiklik->Adlar))
+                fiyat = Önceki(fiyat, ParaOku(değişiklik->Yüzde).value_or(Para()));
+    return fiyatlar;
+}
 
 // From today's prices backwards: each change ends where the next one began.
 void ÖrnekGeçmişiYaz(VeriYazıcısı& yazıcı, QDate bugün) {
     namespace Fiyat = Deyimler::Fiyat;
     for (const QString& deyim : Fiyat::TablolarıOluştur()) yazıcı.Çalıştır(deyim);
-    std::map<QString, Para> fiyatlar;
-    for (const ÖrnekMalzeme& malzeme : ÖrnekMalzemeler())
-        fiyatlar[malzeme.ad.toString()] = ParaOku(malzeme.fiyat).value_or(Para());
+    std::map<QString, Para> fiyatlar = BugünküFiyatlar();
     const QList<Değişiklik>& değişiklikler = Değişiklikler();
     for (qsizetype i = değişiklikler.size(); i-- > 0;) {
         const Değişiklik& değişiklik = değişiklikler[i];

@@ -22,7 +22,7 @@ const QList<ÖrnekMalzeme>& ÖrnekMalzemeler() {
         {u"Ayna Flotal", u"520,00"}, {u"Temperli Cam 8lik", u"890,00"}, {u"Buzlu Cam", u"640,00"},
         {u"Led Şerit Işık", u"72,90"}, {u"Ahşap Tutkalı", u"0,0968"}, {u"Silikon Şeffaf", u"78,90"},
         {u"Selülozik Dolgu", u"215,00"}, {u"Poliüretan Vernik", u"268,50"}, {u"Ahşap Boyası Ceviz", u"189,40"},
-        {u"Lake Boya Beyaz", u"342,75"}, {u"Tiner", u"74,20"}, {u"Zımpara 120lik", u"8,60"},
+        {u"Lake Boya Beyaz", u"342,75"}, {u"Tiner", u"74,20"}, {u"Hazır Vernik", u"238,8678"}, {u"Vernikli Ayak", u"124,6947"}, {u"Zımpara 120lik", u"8,60"},
         {u"Zımpara 220lik", u"8,60"}, {u"Döşemelik Kumaş", u"385,00"}, {u"Sünger 32 Dansite", u"128,00"},
         {u"Suni Deri Kahverengi", u"298,00"}, {u"Zımba Teli", u"24,90"}, {u"Karton Kutu", u"62,50"},
         {u"İç Ambalaj Köpüğü", u"9,35"}};
@@ -41,7 +41,7 @@ QList<ÖrnekÜrün> Masalar() {
             {u"Karton Kutu", u"1 Adet"}}},
         {u"MASA", u"Yemek Masası", {u"30", u"22,5", u"4", u"2,75"}, 0, {
             {u"Meşe Kereste", u"0,08 Metreküp"}, {u"Masif Panel Meşe", u"2,16 Metrekare"},
-            {u"Ahşap Ayak", u"4 Adet"}, {u"Köşe Demiri", u"8 Adet"}, {u"Ağaç Vidası", u"64 Adet"},
+            {u"Vernikli Ayak", u"4 Adet"}, {u"Köşe Demiri", u"8 Adet"}, {u"Ağaç Vidası", u"64 Adet"},
             {u"Ahşap Tutkalı", u"450 Gram"}, {u"Poliüretan Vernik", u"1,2 Litre"}, {u"Tiner", u"0,5 Litre"},
             {u"Zımpara 120lik", u"6 Adet"}, {u"Zımpara 220lik", u"6 Adet"}, {u"İç Ambalaj Köpüğü", u"12 Metre"}}},
         {u"MASA", u"Toplantı Masası", {u"28", u"25", u"5", u"6,5"}, 3, {
@@ -168,6 +168,8 @@ QList<ÖrnekÜrün> ÖzelSiparişler() {
         {u"ÖZEL SİPARİŞ", u"Vernik Karışımı", {u"10", u"8", u"0", u"0"}, 2, {
             {u"Poliüretan Vernik", u"2,5 Litre"}, {u"Tiner", u"1,25 Litre"},
             {u"Ahşap Boyası Ceviz", u"0,375 Litre"}}},
+        {u"YARI MAMUL", u"Vernikli Ayak", {u"15", u"0", u"0", u"0"}, 1, {
+            {u"Ahşap Ayak", u"1 Adet"}, {u"Hazır Vernik", u"0,15 Litre"}, {u"Zımpara 220lik", u"1 Adet"}}},
         {u"ÖZEL SİPARİŞ", u"Öğrenci Sırası", {u"0", u"0", u"0", u"0"}, 0, {}},
     };
 }

@@ -27,4 +27,6 @@ void ÖrnekVeriYaz(VeriYazıcısı& yazıcı, QDate bugün) {
     ÖrnekGeçmişiYaz(yazıcı, bugün);
     ÖrnekTedarikçiYaz(yazıcı);
     ÖrnekDövizleriYaz(yazıcı, bugün);
+    ÖrnekYarıMamulleriYaz(yazıcı);
+    ÖrnekArşivleriYaz(yazıcı, bugün);
 }

@@ -3,6 +3,9 @@
 #include <QDate>
 #include <QList>
 #include <QStringView>
+#include <map>
+
+#include "Para.h"
 
 class VeriYazıcısı;
 
@@ -44,3 +47,11 @@ void ÖrnekTedarikçiYaz(VeriYazıcısı& yazıcı);
 void ÖrnekVeriYaz(VeriYazıcısı& yazıcı, QDate bugün);
 // Its part: two currencies, and the materials whose prices follow them.
 void ÖrnekDövizleriYaz(VeriYazıcısı& yazıcı, QDate bugün);
+
+// Its part: materials that stand for products.
+void ÖrnekYarıMamulleriYaz(VeriYazıcısı& yazıcı);
+
+// What each material cost so many days ago.
+std::map<QString, Para> ÖrnekFiyatları(int günÖnce);
+// Its part, the last one: two archives of former months, of the products as they were then.
+void ÖrnekArşivleriYaz(VeriYazıcısı& yazıcı, QDate bugün);

@@ -64,7 +64,7 @@ void Doldur(const QString& dosya, const std::function<void(VeriYazıcısı&)>& d
 
 }  // namespace
 
-VeriYazıcısı::VeriYazıcısı(OdbcBağlantısı& bağlantı) {
+VeriYazıcısı::VeriYazıcısı(OdbcBağlantısı& bağlantı) : m_bağlantı(bağlantı) {
     if (m_deyim.Aç(bağlantı) != 0) throw VeriHatası(u"Veri dosyası açılamadı: "_s + Neden(bağlantı.HatalarınıAl()));
 }
 

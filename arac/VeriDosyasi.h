@@ -19,8 +19,10 @@ class VeriYazıcısı {
     // Throws VeriHatası.
     explicit VeriYazıcısı(OdbcBağlantısı& bağlantı);
     void Çalıştır(const QString& deyim);
+    OdbcBağlantısı& Bağlantı() { return m_bağlantı; }
 
   private:
+    OdbcBağlantısı& m_bağlantı;
     OdbcDeyimi m_deyim;
 };
 

@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <new>
+#include <utility>
 
 namespace Motor {
 
@@ -152,8 +153,12 @@ SqliteKomutu Veritabanı::Çevir(std::string_view deyim) {
 
 SqliteDeyimi Veritabanı::Hazırla(const SqliteKomutu& komut) {
     SqliteDeyimi deyim(m_vt.get(), komut.Sql);
-    for (std::size_t i = 0; i < komut.Değerler.size(); ++i) deyim.Bağla(static_cast<int>(i) + 1, komut.Değerler[i]);
+    DeğerleriBağla(deyim, komut);
     return deyim;
+}
+
+void Veritabanı::DeğerleriBağla(SqliteDeyimi& deyim, const SqliteKomutu& komut) {
+    for (std::size_t i = 0; i < komut.Değerler.size(); ++i) deyim.Bağla(static_cast<int>(i) + 1, komut.Değerler[i]);
 }
 
 Sorgu Veritabanı::Sorgula(const SqliteKomutu& komut) {
@@ -172,14 +177,21 @@ void Veritabanı::Yürüt(SqliteDeyimi& deyim) {
 }
 
 std::int64_t Veritabanı::Uygula(const SqliteKomutu& komut) {
-    SqliteDeyimi deyim = Hazırla(komut);
+    std::optional<SonDeyim> deyim = std::exchange(m_son, std::nullopt);  // kept by success alone
+    if (deyim && deyim->Sql == komut.Sql)
+        DeğerleriBağla(deyim->Deyim, komut);
+    else
+        deyim.emplace(SonDeyim{komut.Sql, Hazırla(komut)});
     if (m_elleOnay && !HareketAçık()) {
         SqliteYürüt(m_vt.get(), "BEGIN");
         m_hareket = true;
     }
     const std::int64_t önceki = sqlite3_total_changes64(m_vt.get());
-    Yürüt(deyim);
-    if (komut.Tür == SqliteKomutu::Sınıf::Tanım) m_şema.reset();
+    Yürüt(deyim->Deyim);
+    if (komut.Tür == SqliteKomutu::Sınıf::Tanım)
+        m_şema.reset();
+    else if (HareketAçık())
+        m_son = std::move(deyim);
     if (!HareketAçık()) YerindeMi();
     return komut.Tür == SqliteKomutu::Sınıf::Tanım ? 0 : sqlite3_total_changes64(m_vt.get()) - önceki;
 }
@@ -191,6 +203,7 @@ void Veritabanı::ElleOnayla(bool açık) {
 
 void Veritabanı::Onayla() {
     if (KendiliğindenGeriAlındı()) Hazırlan();
+    m_son.reset();
     if (!HareketAçık()) return;
     if (Taşındı()) SqliteHatasıFırlat(SQLITE_READONLY_DBMOVED);
     SqliteDeyimi onayla(m_vt.get(), "COMMIT");
@@ -200,6 +213,7 @@ void Veritabanı::Onayla() {
 }
 
 void Veritabanı::GeriAl() {
+    m_son.reset();
     m_şema.reset();
     if (HareketAçık()) SqliteYürüt(m_vt.get(), "ROLLBACK");
     m_hareket = false;

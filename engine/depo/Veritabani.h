@@ -95,6 +95,7 @@ class Veritabanı : private Şema {
     bool DizinVar(std::string_view ad) override;
     const DosyaŞeması& ŞemayıAl();
     SqliteDeyimi Hazırla(const SqliteKomutu& komut);
+    static void DeğerleriBağla(SqliteDeyimi& deyim, const SqliteKomutu& komut);
     void Yürüt(SqliteDeyimi& deyim);
 
     void Bağlan();
@@ -108,6 +109,12 @@ class Veritabanı : private Şema {
     std::string m_parola;
     SqliteBağlantısı m_vt;
     std::optional<DosyaŞeması> m_şema;  // none: to be read again
+    // The open transaction's last change: who writes many rows sends the same text with other values.
+    struct SonDeyim {
+        std::string Sql;
+        SqliteDeyimi Deyim;
+    };
+    std::optional<SonDeyim> m_son;
     bool m_elleOnay = false;
     bool m_hareket = false;  // begun, and neither committed nor rolled back by the client
 };

@@ -95,6 +95,7 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void ÜrünüKopyala();
     void BuluAç();
     void MalzemeKullanımınıGöster(const QString& malzeme);
+    void MaliyetArşivi();
 
     void FiyatMenüsünüKur();
     void ToplucaFiyatDeğiştir();

@@ -7,6 +7,7 @@
 #include "AnaForm.h"
 #include "BulFormu.h"
 #include "MaliyetDagilimiFormu.h"
+#include "MaliyetArsiviFormu.h"
 #include "MaliyetTablosuFormu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
@@ -35,6 +36,8 @@ void AnaForm::ÜrünMenüsünüKur() {
     m_komutlar.YarıMamulAğacı = girişEkle(QStringLiteral("YarıMamulAğacıMenüsü"), ÜrünMetni::YarıMamulAğacıMenüsü,
                                           [this] { YarıMamulAğacı(); });
     menü->addSeparator()->setObjectName(QStringLiteral("MenüÇizgisi6"));
+    girişEkle(QStringLiteral("MaliyetArşiviMenüsü"), ÜrünMetni::MaliyetArşiviMenüsü, [this] { MaliyetArşivi(); });
+    menü->addSeparator()->setObjectName(QStringLiteral("MenüÇizgisi7"));
     girişEkle(QStringLiteral("BulMenüsü"), ÜrünMetni::BulMenüsü, [this] {
         BuluAç();
     })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F));
@@ -84,6 +87,11 @@ void AnaForm::BuluAç() {
 
 void AnaForm::MalzemeKullanımınıGöster(const QString& malzeme) {
     FiyatGeçmişiniGöster(malzeme, this);
+}
+
+void AnaForm::MaliyetArşivi() {
+    MaliyetArşiviFormu form({m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()}, this);
+    if (form.Yükle()) form.exec();
 }
 
 // A product that is gone meanwhile leaves the selection as it is.

@@ -1,11 +1,16 @@
 #include "BasamakGrafigi.h"
 
+#include <QImage>
 #include <QPainter>
 #include <QPainterPath>
+#include <QSaveFile>
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
+#include "ArsivMetinleri.h"
+#include "KayitYeri.h"
+#include "MesajKutusu.h"
 #include "SayiMetni.h"
 
 namespace {
@@ -136,7 +141,9 @@ class Çizer {
 
     void DiziyiÇiz(int sıra) {
         const BasamakDizisi& dizi = m_diziler[sıra];
-        QPainterPath yol(QPointF(X(m_ilk), Y(dizi.İlkDeğer)));
+        const bool içeride = dizi.ÖncesiYok && !dizi.Noktalar.isEmpty();
+        const qint64 başı = içeride ? dizi.Noktalar.first().Zaman.toMSecsSinceEpoch() : m_ilk;
+        QPainterPath yol(QPointF(X(başı), Y(dizi.İlkDeğer)));
         for (const auto& nokta : dizi.Noktalar) {
             const double x = X(nokta.Zaman.toMSecsSinceEpoch());
             yol.lineTo(x, yol.currentPosition().y());
@@ -146,6 +153,11 @@ class Çizer {
         m_boyacı.setPen(Kalem(sıra));
         m_boyacı.setBrush(Qt::NoBrush);
         m_boyacı.drawPath(yol);
+        if (!dizi.Noktalı) return;
+        m_boyacı.setBrush(m_boyacı.pen().color());
+        constexpr double yarıçap = 3.5;
+        for (const auto& nokta : dizi.Noktalar)
+            m_boyacı.drawEllipse(QPointF(X(nokta.Zaman.toMSecsSinceEpoch()), Y(nokta.Değer)), yarıçap, yarıçap);
     }
 
     void AçıklamaÇiz(const QPalette& palet) {
@@ -208,4 +220,25 @@ void BasamakGrafiği::Göster(QList<BasamakDizisi> diziler, const QDateTime& son
 void BasamakGrafiği::paintEvent(QPaintEvent*) {
     QPainter boyacı(this);
     BasamaklarıÇiz(boyacı, QRectF(rect()).adjusted(6, 6, -6, -6), m_diziler, m_son, m_boşMetni);
+}
+
+void BasamakGrafiği::Kaydet(QWidget& form, const QString& ad) const {
+    const QString yol = KaydedilecekYer(
+        form, ad,
+        {QStringLiteral("PngDosyasıFormu"), QStringLiteral("png"), ArşivMetni::PngBaşlığı, ArşivMetni::PngSüzgeci});
+    if (yol.isEmpty()) return;
+    constexpr qreal büyütme = 2;
+    QImage resim(size() * büyütme, QImage::Format_RGB32);
+    resim.setDevicePixelRatio(büyütme);
+    resim.fill(QPalette().color(QPalette::Base));
+    {
+        QPainter boyacı(&resim);
+        boyacı.setFont(font());
+        BasamaklarıÇiz(boyacı, QRectF(rect()).adjusted(6, 6, -6, -6), m_diziler, m_son, m_boşMetni);
+    }
+    QSaveFile dosya(yol);
+    if (dosya.open(QIODevice::WriteOnly) && resim.save(&dosya, "PNG") && dosya.flush() && dosya.commit()) return;
+    MesajKutusuOrtala();
+    MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam,
+                        Metin(ArşivMetni::PngYazılamadı) + QLatin1Char('\n') + yol);
 }

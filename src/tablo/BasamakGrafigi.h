@@ -13,8 +13,10 @@ struct BasamakDizisi {
         double Değer;
     };
     QString Ad;
-    double İlkDeğer = 0;    // before the first point
-    QList<Nokta> Noktalar;  // in order of time
+    double İlkDeğer = 0;     // before the first point
+    QList<Nokta> Noktalar;   // in order of time
+    bool ÖncesiYok = false;  // nothing is known of the time before the first point; İlkDeğer is that point's
+    bool Noktalı = false;    // each point is marked
 };
 
 // Draws the series into `alan`: the same on screen, on paper and in a picture. `son`: the right end of the axis.
@@ -27,6 +29,9 @@ class BasamakGrafiği : public QWidget {
     BasamakGrafiği(const QString& ad, QString boşMetni, QWidget* sahip = nullptr);
 
     void Göster(QList<BasamakDizisi> diziler, const QDateTime& son);
+
+    // The same as a picture, offered under `ad`; a failure is told and leaves what stood there.
+    void Kaydet(QWidget& form, const QString& ad) const;
 
     QSize sizeHint() const override { return {480, 220}; }
     QSize minimumSizeHint() const override { return {240, 140}; }

@@ -1,3 +1,5 @@
+#include <QTabWidget>
+
 #include "AcilanAdresler.h"
 #include "AnaFormOrtami.h"
 #include "ErisimDenetimi.h"
@@ -29,6 +31,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     Tıkla("İçindekilerMenüsü");
     const char* tarih = "GünlükMalzemeHareketleriGösterButonu";
     const char* toplu = "TopluFiyatMenüsü";
+    const char* arşiv = "MaliyetArşiviMenüsü";
     for (const auto& [açan, form] : {std::pair("ÜrünEkleSilMenüsü", "ÜrünEkleSilFormu"),
                                      {"MalzemeEkleSilMenüsü", "MalzemeEkleSilFormu"},
                                      {"ListeyeMalzemeEkleButonu", "MalzemeListesiOluşturFormu"},
@@ -41,6 +44,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {"ÜrünKopyalaMenüsü", "ÜrünKopyalaFormu"},
                                      {"YarıMamulMenüsü", "YarıMamulFormu"},
                                      {"YarıMamulAğacıMenüsü", "YarıMamulAğacıFormu"},
+                                     {arşiv, "MaliyetArşiviFormu"},
                                      {"BulMenüsü", "BulFormu"},
                                      {toplu, "TopluFiyatFormu"},
                                      {"FiyatListesiAlMenüsü", "FiyatListesiAlFormu"},
@@ -49,9 +53,19 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {"HakkındaMenüsü", "HakkındaFormu"},
                                      {"HataBildirmeMenüsü", "HataBildirmeFormu"}}) {
         SCOPED_TRACE(form);
-        Modal(açan, form, [this, açan = açan, tarih, toplu] {
+        Modal(açan, form, [this, açan = açan, tarih, toplu, arşiv] {
             FormuOku();
             if (açan == tarih) Modal("TarihDeğiştirButonu", "TarihDeğiştirFormu", [this] { FormuOku(); });
+            if (açan == arşiv) {
+                Tıkla("ArşivleButonu");  // the selected product, which nothing is asked about
+                Tıkla("FöyTablosu", Yer("FöyTablosu", "MASA"));
+                Modal("FöyüGösterButonu", "ArşivFöyüFormu", [this] { FormuOku(); });
+                Tıkla("KarşılaştırButonu");
+                for (const int sayfa : {0, 1}) {
+                    Bul<QTabWidget>("BölümSayfaları").setCurrentIndex(sayfa);
+                    ErişimiDenetle(Form());
+                }
+            }
             if (açan != toplu) return;
             Tıkla("TümünüSeçButonu");
             Yaz("OranKutusu", "10");
@@ -63,7 +77,8 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     EXPECT_EQ(sayfalar.join(' '),
               "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu MalzemeListesiOlusturFormu MiktarGosterFormu "
               "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu MaliyetTablosuFormu "
-              "MaliyetDagilimiFormu UrunKopyalaFormu YariMamulFormu YariMamulAgaciFormu BulFormu TopluFiyatFormu "
+              "MaliyetDagilimiFormu UrunKopyalaFormu YariMamulFormu YariMamulAgaciFormu MaliyetArsiviFormu "
+              "ArsivFoyuFormu BulFormu TopluFiyatFormu "
               "FiyatOnizlemeFormu FiyatListesiAlFormu DovizKurlariFormu FiyatGecmisiFormu HakkindaFormu "
               "HataBildirmeFormu");
 }

@@ -100,3 +100,23 @@ TEST_F(MotorTesti, SayılarTamOlarakGeriGelir) {
     bağ.Çalıştır("INSERT INTO Deneme (Ad) VALUES ('')");
     EXPECT_EQ(bağ.Oku("SELECT * FROM Deneme"), (Satırlar{{"", "-2.5", "1.25", "<NULL>"}}));
 }
+
+// Many changes of one text in a transaction: a refused one in between leaves no trace, nor do other tables.
+TEST_F(MotorTesti, AynıMetinliDeğişikliklerKarışmaz) {
+    TestVerisi bağ(m_dosya);
+    bağ.ElleOnayla();
+    bağ.Çalıştır(MalzemeEkle("a", "1"));
+    EXPECT_EQ(bağ.Dene(MalzemeEkle("A", "2")).Durum, "23000");
+    bağ.Çalıştır(MalzemeEkle("b", "3"));
+    bağ.Çalıştır("CREATE TABLE Deneme (Ad TEXT(3))");
+    bağ.Çalıştır(MalzemeEkle("c", "4"));
+    EXPECT_EQ(bağ.Oku(HerMalzeme).size(), 3u) << "reading in between";
+    bağ.Çalıştır(MalzemeEkle("d", "5"));
+    bağ.Onayla();
+    TestVerisi(m_dosya).Çalıştır("CREATE UNIQUE INDEX Fiyatlar ON MalzemeTablosu (MalzemeFiyati)");
+    bağ.ElleOnayla();
+    EXPECT_EQ(bağ.Dene(MalzemeEkle("e", "5")).Durum, "23000") << "what another client made holds";
+    bağ.Çalıştır(MalzemeEkle("e", "6"));
+    bağ.Onayla();
+    EXPECT_EQ(bağ.Oku(HerMalzeme), (Satırlar{{"a", "1"}, {"b", "3"}, {"c", "4"}, {"d", "5"}, {"e", "6"}}));
+}

@@ -1,5 +1,7 @@
 #include "FiyatDeyimleri.h"
 
+#include <algorithm>
+
 #include "DeyimParcalari.h"
 #include "Deyimler.h"
 
@@ -24,6 +26,12 @@ bool Yazılabilir(const QString& ad) {
 }
 
 QString SaklanacakMetin(const QString& metin) {
+    // Nearly all texts are stored as they are.
+    const bool olduğuGibi =
+        metin.size() <= AZAMİ_UZUNLUK && std::all_of(metin.begin(), metin.end(), [](QChar harf) {
+            return harf >= u' ' && harf != u'\'' && (harf < u'\x7f' || (harf >= u'\xa0' && harf < u'\x2000'));
+        });
+    if (olduğuGibi) return metin;
     QString sonuç = metin;
     for (QChar& harf : sonuç) {
         if (harf == QLatin1Char('\'')) harf = QChar(u'’');
@@ -31,7 +39,7 @@ QString SaklanacakMetin(const QString& metin) {
             harf == QChar::ParagraphSeparator)
             harf = QLatin1Char(' ');
     }
-    if (sonuç.toUcs4().size() <= AZAMİ_UZUNLUK) return sonuç;
+    if (sonuç.size() <= AZAMİ_UZUNLUK || sonuç.toUcs4().size() <= AZAMİ_UZUNLUK) return sonuç;
     const QList<uint> kodlar = sonuç.toUcs4().first(AZAMİ_UZUNLUK - 1);
     return QString::fromUcs4(reinterpret_cast<const char32_t*>(kodlar.constData()), kodlar.size()) + QChar(u'…');
 }

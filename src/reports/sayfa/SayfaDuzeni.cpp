@@ -97,7 +97,11 @@ void SayfaDüzeni::SayfaBaşlığıYaz() {
     m_yüzey.YazVeSatırıBitir(sayfaMetni);
     m_yüzey.Çiz(SayfaBaşlığıKenarı, SayfaBaşlığıÇizgisi, m_sayfaGenişliği - SayfaBaşlığıKenarı, SayfaBaşlığıÇizgisi,
                 Qt::black);
-    m_yüzey.YAyarla(ÜstBoşluk);
+    m_yüzey.YAyarla(m_başlıklarYinelenir ? SayfaBaşlığıÇizgisi - SayfaBaşlığıÜstü / 2 : ÜstBoşluk);
+    if (!m_başlıklarYinelenir) return;
+    m_yüzey.KalınAyarla(true);
+    m_yüzey.AltÇizgiAyarla(true);
+    SütunBaşlıklarınıYaz();
 }
 
 // A title that is too long for its line is written smaller, then in two lines; only what is longer even so is cut.
