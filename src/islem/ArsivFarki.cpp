@@ -1,6 +1,6 @@
 #include "ArsivFarki.h"
 
-#include <algorithm>
+#include <cstdlib>
 
 #include "MalzemeToplami.h"
 #include "OdbcTanitici.h"
@@ -50,12 +50,9 @@ using TarafAlıcı = std::function<İşSonucu(Taraf taraf)>;
         ilerleme);
 }
 
-bool Aynı(const QString& a, const QString& b) {
-    return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) == 0;
-}
-
 bool İçinde(const Kapsam& kapsam, const FöyYeri& yer) {
-    return kapsam.Tümü() || (Aynı(kapsam.Grup, yer.Grup) && (kapsam.Ürün.isEmpty() || Aynı(kapsam.Ürün, yer.Ürün)));
+    return kapsam.Tümü() ||
+           (AynıAdlı(kapsam.Grup, yer.Grup) && (kapsam.Ürün.isEmpty() || AynıAdlı(kapsam.Ürün, yer.Ürün)));
 }
 
 ÜrünFarkı TekTaraf(const Taraf& taraf, bool eskisi) {
@@ -82,6 +79,14 @@ std::int64_t Eksikler(const std::optional<Başlık>& arşiv, std::int64_t okunan
 }
 
 }  // namespace
+
+bool AynıAdlı(const QString& a, const QString& b) {
+    return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) == 0;
+}
+
+bool AynıÜrün(const FöyYeri& a, const FöyYeri& b) {
+    return AynıAdlı(a.Ürün, b.Ürün) && AynıAdlı(a.Grup, b.Grup);
+}
 
 İşSonucu GünleriKarşılaştır(OdbcBağlantısı& bağlantı, const Başlık& eski, const std::optional<Başlık>& yeni,
                             ArşivFarkı& fark, const İlerleme& ilerleme) {
@@ -167,8 +172,7 @@ namespace {
     }
     return İşSonucuYap(bağlantı.Oku(Deyimler::Arşiv::Ürünler({}), [&yerler](OdbcSatırı& satır) {
         FöyYeri yer{{}, 0, satır.Metin(1), satır.Metin(2)};
-        if (yerler.empty() || !Aynı(yerler.back().Ürün, yer.Ürün) || !Aynı(yerler.back().Grup, yer.Grup))
-            yerler.push_back(std::move(yer));
+        if (yerler.empty() || !AynıÜrün(yerler.back(), yer)) yerler.push_back(std::move(yer));
         return true;
     }));
 }
