@@ -1,6 +1,6 @@
 #include "ArsivFarki.h"
 
-#include <algorithm>
+#include <cstdlib>
 
 #include "MalzemeToplami.h"
 #include "OdbcTanitici.h"
@@ -27,7 +27,7 @@ Taraf TarafYap(const ArşivFöyü& föy, FöyYeri yer, bool sağlam) {
     return taraf;
 }
 
-using TarafAlıcı = std::function<İşSonucu(Taraf taraf)>;
+using TarafAlıcı = std::function<İşSonucu(Taraf& taraf)>;
 
 // An archive's sheets, or today's of `kapsam`.
 İşSonucu TaraflarıOku(OdbcBağlantısı& bağlantı, const std::optional<Başlık>& arşiv, const Kapsam& kapsam,
@@ -37,7 +37,8 @@ using TarafAlıcı = std::function<İşSonucu(Taraf taraf)>;
             bağlantı, kapsam, SAKLANAN_BASAMAK,
             [&](ArşivFöyü& föy) {
                 ++sayı;
-                return al(TarafYap(föy, {{}, föy.No, föy.Grup, föy.Ürün}, true));
+                Taraf taraf = TarafYap(föy, {{}, föy.No, föy.Grup, föy.Ürün}, true);
+                return al(taraf);
             },
             ilerleme);
     return FöyleriOku(
@@ -45,17 +46,15 @@ using TarafAlıcı = std::function<İşSonucu(Taraf taraf)>;
         [&](OkunanFöy& okunan) {
             ++sayı;
             const ArşivFöyü& föy = okunan.Föy;
-            return al(TarafYap(föy, {arşiv, föy.No, föy.Grup, föy.Ürün}, okunan.Sağlam));
+            Taraf taraf = TarafYap(föy, {arşiv, föy.No, föy.Grup, föy.Ürün}, okunan.Sağlam);
+            return al(taraf);
         },
         ilerleme);
 }
 
-bool Aynı(const QString& a, const QString& b) {
-    return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) == 0;
-}
-
 bool İçinde(const Kapsam& kapsam, const FöyYeri& yer) {
-    return kapsam.Tümü() || (Aynı(kapsam.Grup, yer.Grup) && (kapsam.Ürün.isEmpty() || Aynı(kapsam.Ürün, yer.Ürün)));
+    return kapsam.Tümü() ||
+           (AynıAdlı(kapsam.Grup, yer.Grup) && (kapsam.Ürün.isEmpty() || AynıAdlı(kapsam.Ürün, yer.Ürün)));
 }
 
 ÜrünFarkı TekTaraf(const Taraf& taraf, bool eskisi) {
@@ -83,45 +82,73 @@ std::int64_t Eksikler(const std::optional<Başlık>& arşiv, std::int64_t okunan
 
 }  // namespace
 
+bool AynıAdlı(const QString& a, const QString& b) {
+    return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) == 0;
+}
+
+bool AynıÜrün(const FöyYeri& a, const FöyYeri& b) {
+    return AynıAdlı(a.Ürün, b.Ürün) && AynıAdlı(a.Grup, b.Grup);
+}
+
+namespace {
+
+// The old side in memory, the new one row by row beside it.
+class Karşılaştırma {
+  public:
+    Karşılaştırma(const Kapsam& eski, const Kapsam& yeni, std::vector<ÜrünFarkı>& ürünler)
+        : m_eski(eski), m_yeni(yeni), m_ürünler(ürünler) {}
+
+    İşSonucu EskiyiAl(Taraf& taraf) {
+        if (!İçinde(m_yeni, taraf.Yer)) return {};
+        const auto yer = static_cast<std::uint32_t>(m_eskiler.size());
+        m_dizin.BulYaDaEkle(taraf.Yer.Grup.toStdString(), taraf.Yer.Ürün.toStdString(), yer);
+        m_eskiler.push_back(std::move(taraf));
+        m_eşlendi.push_back(false);
+        return {};
+    }
+
+    İşSonucu YeniyiAl(const Taraf& taraf) {
+        if (!İçinde(m_eski, taraf.Yer)) return {};
+        const std::uint32_t yer = m_dizin.Bul(taraf.Yer.Grup.toStdString(), taraf.Yer.Ürün.toStdString());
+        m_ürünler.push_back(yer == AdDizini::YOK ? TekTaraf(taraf, false) : İkiTaraf(m_eskiler[yer], taraf));
+        m_ürünler.back().Ayrım.Kalemler = {};  // asked for anew where they are looked at
+        if (yer != AdDizini::YOK) m_eşlendi[yer] = true;
+        return {};
+    }
+
+    void Bitir() {
+        for (std::size_t i = 0; i < m_eskiler.size(); ++i)
+            if (!m_eşlendi[i]) m_ürünler.push_back(TekTaraf(m_eskiler[i], true));
+    }
+
+  private:
+    const Kapsam& m_eski;
+    const Kapsam& m_yeni;
+    std::vector<ÜrünFarkı>& m_ürünler;
+    std::vector<Taraf> m_eskiler;
+    std::vector<bool> m_eşlendi;
+    AdDizini m_dizin;
+};
+
+}  // namespace
+
 İşSonucu GünleriKarşılaştır(OdbcBağlantısı& bağlantı, const Başlık& eski, const std::optional<Başlık>& yeni,
                             ArşivFarkı& fark, const İlerleme& ilerleme) {
     fark = {};
-    std::vector<Taraf> eskiler;
-    std::vector<bool> kullanıldı;
-    AdDizini dizin;
+    ArşivFarkı sonuçtaki;
+    Karşılaştırma karşılaştırma(eski.Neyin, yeni ? yeni->Neyin : eski.Neyin, sonuçtaki.Ürünler);
     std::int64_t eskiSayısı = 0;
     std::int64_t yeniSayısı = 0;
-    const Kapsam yenininki = yeni ? yeni->Neyin : eski.Neyin;
     İşSonucu sonuç = TaraflarıOku(
-        bağlantı, eski, {}, eskiSayısı,
-        [&](Taraf taraf) -> İşSonucu {
-            if (!İçinde(yenininki, taraf.Yer)) return {};
-            const auto yer = static_cast<std::uint32_t>(eskiler.size());
-            dizin.BulYaDaEkle(taraf.Yer.Grup.toStdString(), taraf.Yer.Ürün.toStdString(), yer);
-            eskiler.push_back(std::move(taraf));
-            return {};
-        },
-        ilerleme);
+        bağlantı, eski, {}, eskiSayısı, [&](Taraf& taraf) { return karşılaştırma.EskiyiAl(taraf); }, ilerleme);
+    if (sonuç.Tamam())
+        sonuç = TaraflarıOku(
+            bağlantı, yeni, eski.Neyin, yeniSayısı, [&](Taraf& taraf) { return karşılaştırma.YeniyiAl(taraf); },
+            ilerleme);
     if (!sonuç.Tamam()) return sonuç;
-    kullanıldı.assign(eskiler.size(), false);
-    sonuç = TaraflarıOku(
-        bağlantı, yeni, eski.Neyin, yeniSayısı,
-        [&](Taraf taraf) -> İşSonucu {
-            if (!İçinde(eski.Neyin, taraf.Yer)) return {};
-            const std::uint32_t yer = dizin.Bul(taraf.Yer.Grup.toStdString(), taraf.Yer.Ürün.toStdString());
-            fark.Ürünler.push_back(yer == AdDizini::YOK ? TekTaraf(taraf, false) : İkiTaraf(eskiler[yer], taraf));
-            fark.Ürünler.back().Ayrım.Kalemler = {};  // asked for anew where they are looked at
-            if (yer != AdDizini::YOK) kullanıldı[yer] = true;
-            return {};
-        },
-        ilerleme);
-    if (!sonuç.Tamam()) {
-        fark = {};
-        return sonuç;
-    }
-    for (std::size_t i = 0; i < eskiler.size(); ++i)
-        if (!kullanıldı[i]) fark.Ürünler.push_back(TekTaraf(eskiler[i], true));
-    fark.EksikFöy = Eksikler(eski, eskiSayısı) + Eksikler(yeni, yeniSayısı);
+    karşılaştırma.Bitir();
+    sonuçtaki.EksikFöy = Eksikler(eski, eskiSayısı) + Eksikler(yeni, yeniSayısı);
+    fark = std::move(sonuçtaki);
     return sonuç;
 }
 
@@ -132,7 +159,7 @@ namespace {
     if (!yer.Arşiv) {
         std::int64_t sayı = 0;
         return TaraflarıOku(bağlantı, {}, {yer.Grup, yer.Ürün}, sayı,
-                            [&taraf](Taraf okunan) -> İşSonucu {
+                            [&taraf](Taraf& okunan) -> İşSonucu {
                                 taraf = std::move(okunan);
                                 return {};
                             },
@@ -167,8 +194,7 @@ namespace {
     }
     return İşSonucuYap(bağlantı.Oku(Deyimler::Arşiv::Ürünler({}), [&yerler](OdbcSatırı& satır) {
         FöyYeri yer{{}, 0, satır.Metin(1), satır.Metin(2)};
-        if (yerler.empty() || !Aynı(yerler.back().Ürün, yer.Ürün) || !Aynı(yerler.back().Grup, yer.Grup))
-            yerler.push_back(std::move(yer));
+        if (yerler.empty() || !AynıÜrün(yerler.back(), yer)) yerler.push_back(std::move(yer));
         return true;
     }));
 }

@@ -13,6 +13,10 @@ struct FöyYeri {
     QString Ürün;
 };
 
+// Whether the names are one, as the data file compares them.
+bool AynıAdlı(const QString& a, const QString& b);
+bool AynıÜrün(const FöyYeri& a, const FöyYeri& b);
+
 struct ÜrünFarkı {
     std::optional<FöyYeri> Eski;  // nothing: the product stands on one side alone
     std::optional<FöyYeri> Yeni;

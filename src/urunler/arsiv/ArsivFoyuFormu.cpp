@@ -68,7 +68,7 @@ void ArşivFöyüFormu::Yerleştir() {
     const QString dikkat = ArşivDikkatMetni(m_föy.Föy.Dikkat);
     if (!dikkat.isEmpty())
         notlar.append(FöyEksik(m_föy.Föy.Dikkat) ? Metin(ArşivMetni::DurumEksik).arg(dikkat) : dikkat);
-    if (!m_arşiv.Not.isEmpty()) notlar.append(m_arşiv.Not);
+    if (!m_arşiv.Not.isEmpty()) notlar.append(SatırlaraBölünür(m_arşiv.Not));
     açıklama->setText(notlar.join(QLatin1Char('\n')));
     açıklama->setVisible(!notlar.isEmpty());
     if (!m_föy.Sağlam) {

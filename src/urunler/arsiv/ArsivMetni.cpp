@@ -46,6 +46,22 @@ Para ArşivGösterimi(Para tutar) {
     return GösterilenTutar(tutar, OndalıkBasamak).value_or(tutar);
 }
 
+QString SatırlaraBölünür(const QString& metin) {
+    constexpr int enUzun = 20;
+    constexpr QChar bölünmeYeri(0x200B);  // takes no room
+    QString sonuç;
+    int sıra = 0;
+    for (const QChar harf : metin) {
+        sıra = harf.isSpace() ? 0 : sıra + 1;
+        if (sıra > enUzun && !harf.isLowSurrogate() && !harf.isMark()) {
+            sonuç += bölünmeYeri;
+            sıra = 1;
+        }
+        sonuç += harf;
+    }
+    return sonuç;
+}
+
 void ArşivSonucunuGöster(const İşSonucu& sonuç) {
     if (sonuç.Son != İşSonu::Olmadı) return;
     const QStringList iletiler = OdbcİletileriniAl(sonuç.Odbc.Hatalar);

@@ -15,5 +15,8 @@ QString ArşivYüzdesi(Para eski, Para yeni);  // the change in per cent, two de
 QString ArşivBoyuMetni(std::int64_t bayt);   // KB or MB
 Para ArşivGösterimi(Para tutar);             // rounded to OndalıkBasamak
 
+// For a label that wraps: a long run of letters without a blank may be broken too, so that it does not widen the form.
+QString SatırlaraBölünür(const QString& metin);
+
 // Shows why reading failed, a box for each error. Nothing for success and where the user gave up.
 void ArşivSonucunuGöster(const İşSonucu& sonuç);

@@ -241,15 +241,13 @@ void FarkBölümü::Eşleştir() {
     std::vector<ÜrünFarkı>& satırlar = m_kaynak.Satırlar;
     const auto kendisi = [&](const ÜrünFarkı& satır) {
         const std::optional<FöyYeri>& tek = eskisi.Eski ? satır.Yeni : satır.Eski;
-        return satır.Eski.has_value() != satır.Yeni.has_value() && tek && tek->Grup == öteki.Grup &&
-               tek->Ürün == öteki.Ürün;
+        return satır.Eski.has_value() != satır.Yeni.has_value() && tek && AynıÜrün(*tek, öteki);
     };
     satırlar.erase(std::remove_if(satırlar.begin(), satırlar.end(), kendisi), satırlar.end());
     m_model.Yenile();
     m_tablo->SatırıSeç([&](std::size_t aranan) {
         const ÜrünFarkı& satır = satırlar[aranan];
-        return satır.Eski && satır.Yeni && satır.Yeni->Grup == eşleşen.Yeni->Grup &&
-               satır.Yeni->Ürün == eşleşen.Yeni->Ürün;
+        return satır.Eski && satır.Yeni && AynıÜrün(*satır.Yeni, *eşleşen.Yeni);
     });
     m_tablo->setFocus();
     SatırSeçildi();

@@ -4,7 +4,6 @@
 #include "ArsivMetni.h"
 #include "DegiskenModulu.h"
 #include "SayiMetni.h"
-#include "TurkceSira.h"
 
 namespace {
 
@@ -15,11 +14,7 @@ int BoşuÖneKoy(const std::optional<Para>& a, const std::optional<Para>& b) {
 }
 
 bool AdıDeğişmiş(const ÜrünFarkı& fark) {
-    const auto aynı = [](const QString& a, const QString& b) {
-        return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) == 0;
-    };
-    return fark.Eski && fark.Yeni &&
-           (!aynı(fark.Eski->Ürün, fark.Yeni->Ürün) || !aynı(fark.Eski->Grup, fark.Yeni->Grup));
+    return fark.Eski && fark.Yeni && !AynıÜrün(*fark.Eski, *fark.Yeni);
 }
 
 double Oranı(const ÜrünFarkı& fark) {

@@ -208,7 +208,7 @@ void GelişimBölümü::Oku() {
 
 void GelişimBölümü::Çiz() {
     const std::vector<Nokta>& noktalar = m_kaynak->Satırlar;
-    m_başlık->setText(m_ürün.Tümü() ? QString() : KapsamMetni(m_ürün));
+    m_başlık->setText(m_ürün.Tümü() ? QString() : SatırlaraBölünür(KapsamMetni(m_ürün)));
     const QDateTime şimdi(Bugün(), QTime::currentTime());
     QList<BasamakDizisi> diziler;
     if (!noktalar.empty()) {

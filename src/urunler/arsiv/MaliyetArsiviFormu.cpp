@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ArsivFarki.h"
 #include "ArsivFoyuFormu.h"
 #include "ArsivMetinleri.h"
 #include "ArsivMetni.h"
@@ -27,10 +28,6 @@
 #include "TurkceSira.h"
 
 namespace {
-
-bool Aynı(const QString& a, const QString& b) {
-    return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) == 0;
-}
 
 void Bildir(MesajKutusu::Simge simge, const QString& metin) {
     MesajKutusuOrtala();
@@ -169,7 +166,7 @@ bool MaliyetArşiviFormu::Yükle() {
     }
     m_gruplar.clear();
     for (const FöyYeri& ürün : ürünler) {
-        if (m_gruplar.empty() || !Aynı(m_gruplar.back().first, ürün.Grup)) m_gruplar.push_back({ürün.Grup, {}});
+        if (m_gruplar.empty() || !AynıAdlı(m_gruplar.back().first, ürün.Grup)) m_gruplar.push_back({ürün.Grup, {}});
         m_gruplar.back().second.append(ürün.Ürün);
     }
     KapsamıDoldur(m_ilk);
@@ -201,13 +198,13 @@ void MaliyetArşiviFormu::KapsamıDoldur(const Kapsam& seçili) {
         int yer = 0;
         for (const auto& [grup, ürünler] : m_gruplar) {
             m_grup->addItem(grup);
-            if (!seçili.Tümü() && Aynı(grup, seçili.Grup)) yer = m_grup->count() - 1;
+            if (!seçili.Tümü() && AynıAdlı(grup, seçili.Grup)) yer = m_grup->count() - 1;
         }
         m_grup->setCurrentIndex(yer);
     }
     ÜrünleriDoldur();
     for (int i = 1; !seçili.Ürün.isEmpty() && i < m_ürün->count(); ++i)
-        if (Aynı(m_ürün->itemText(i), seçili.Ürün)) m_ürün->setCurrentIndex(i);
+        if (AynıAdlı(m_ürün->itemText(i), seçili.Ürün)) m_ürün->setCurrentIndex(i);
 }
 
 void MaliyetArşiviFormu::ÜrünleriDoldur() {
