@@ -22,7 +22,8 @@ const QList<ÖrnekMalzeme>& ÖrnekMalzemeler() {
         {u"Ayna Flotal", u"520,00"}, {u"Temperli Cam 8lik", u"890,00"}, {u"Buzlu Cam", u"640,00"},
         {u"Led Şerit Işık", u"72,90"}, {u"Ahşap Tutkalı", u"0,0968"}, {u"Silikon Şeffaf", u"78,90"},
         {u"Selülozik Dolgu", u"215,00"}, {u"Poliüretan Vernik", u"268,50"}, {u"Ahşap Boyası Ceviz", u"189,40"},
-        {u"Lake Boya Beyaz", u"342,75"}, {u"Tiner", u"74,20"}, {u"Hazır Vernik", u"238,8678"}, {u"Vernikli Ayak", u"124,6947"}, {u"Zımpara 120lik", u"8,60"},
+        {u"Lake Boya Beyaz", u"342,75"}, {u"Tiner", u"74,20"}, {u"Hazır Vernik", u"238,8678"},
+        {u"Vernikli Ayak", u"124,6947"}, {u"Zımpara 120lik", u"8,60"},
         {u"Zımpara 220lik", u"8,60"}, {u"Döşemelik Kumaş", u"385,00"}, {u"Sünger 32 Dansite", u"128,00"},
         {u"Suni Deri Kahverengi", u"298,00"}, {u"Zımba Teli", u"24,90"}, {u"Karton Kutu", u"62,50"},
         {u"İç Ambalaj Köpüğü", u"9,35"}};

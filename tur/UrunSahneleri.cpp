@@ -70,50 +70,53 @@ void Bul(Tur& tur, QWidget& anaForm) {
     MenüdenAç(anaForm, u"BulMenüsü"_s, [&](QWidget& form) {
         Tur::Yaz(Tur::Bul<QLineEdit>(form, u"BulKutusu"_s), u"ça"_s);
         tur.Çek(u"bul"_s, form);
-        QModelIndex Satır(QWidget & form, const QString& tablo, int sütun, const QString& metin) {
-            const auto& model = *Tur::Bul<QTableView>(form, tablo).model();
-            const QModelIndexList bulunan =
-                model.match(model.index(0, sütun), Qt::DisplayRole, metin, 1, Qt::MatchStartsWith);
-            if (bulunan.isEmpty()) throw TurHatası(u"not in the table: "_s + metin);
-            return bulunan.first();
-        }
+        Esc(form);
+    });
+}
 
-        void Arşiv(Tur & tur, QWidget & anaForm) {
-            ÜrünSeç(anaForm, u"Çalışma Masası"_s);
-            MenüdenAç(anaForm, u"MaliyetArşiviMenüsü"_s, [&](QWidget& form) {
-                const auto seç = [&form](const QString& tablo, int sütun, const QString& metin) {
-                    Tur::Tıkla(Tur::Bul<QTableView>(form, tablo), Satır(form, tablo, sütun, metin));
-                    Tur::Durul();
-                };
-                seç(u"ArşivTablosu"_s, 0, u"1"_s);
-                Bas(form, u"KarşılaştırButonu"_s);
-                seç(u"FarkTablosu"_s, 1, u"Çalışma Masası"_s);
-                tur.Çek(u"maliyet-arsivi"_s, form);
-                seç(u"FöyTablosu"_s, 1, u"Çalışma Masası"_s);
-                Tur::Kipli([&] { Bas(form, u"FöyüGösterButonu"_s); },
-                           [&](QWidget& föy) {
-                               tur.Çek(u"arsiv-foyu"_s, föy);
-                               Esc(föy);
-                           });
-                Tur::Bul<QTabWidget>(form, u"BölümSayfaları"_s).setCurrentIndex(1);
-                Tur::Durul();
-                tur.Çek(u"maliyet-arsivi-gelisim"_s, form);
-                Tur::Bul<QTabWidget>(form, u"BölümSayfaları"_s).setCurrentIndex(0);
-                form.resize(KÜÇÜK);
-                Tur::Durul();
-                tur.Çek(u"maliyet-arsivi-kucuk"_s, form);
-                Esc(form);
-            });
-        }
+QModelIndex Satır(QWidget& form, const QString& tablo, int sütun, const QString& metin) {
+    const auto& model = *Tur::Bul<QTableView>(form, tablo).model();
+    const QModelIndexList bulunan = model.match(model.index(0, sütun), Qt::DisplayRole, metin, 1, Qt::MatchStartsWith);
+    if (bulunan.isEmpty()) throw TurHatası(u"not in the table: "_s + metin);
+    return bulunan.first();
+}
+
+void Arşiv(Tur& tur, QWidget& anaForm) {
+    ÜrünSeç(anaForm, u"Çalışma Masası"_s);
+    MenüdenAç(anaForm, u"MaliyetArşiviMenüsü"_s, [&](QWidget& form) {
+        const auto seç = [&form](const QString& tablo, int sütun, const QString& metin) {
+            Tur::Tıkla(Tur::Bul<QTableView>(form, tablo), Satır(form, tablo, sütun, metin));
+            Tur::Durul();
+        };
+        seç(u"ArşivTablosu"_s, 0, u"1"_s);
+        Bas(form, u"KarşılaştırButonu"_s);
+        seç(u"FarkTablosu"_s, 1, u"Çalışma Masası"_s);
+        tur.Çek(u"maliyet-arsivi"_s, form);
+        seç(u"FöyTablosu"_s, 1, u"Çalışma Masası"_s);
+        Tur::Kipli([&] { Bas(form, u"FöyüGösterButonu"_s); },
+                   [&](QWidget& föy) {
+                       tur.Çek(u"arsiv-foyu"_s, föy);
+                       Esc(föy);
+                   });
+        Tur::Bul<QTabWidget>(form, u"BölümSayfaları"_s).setCurrentIndex(1);
+        Tur::Durul();
+        tur.Çek(u"maliyet-arsivi-gelisim"_s, form);
+        Tur::Bul<QTabWidget>(form, u"BölümSayfaları"_s).setCurrentIndex(0);
+        form.resize(KÜÇÜK);
+        Tur::Durul();
+        tur.Çek(u"maliyet-arsivi-kucuk"_s, form);
+        Esc(form);
+    });
+}
 
 }  // namespace
 
 std::vector<Sahne> ÜrünSahneleri() {
-        return {{u"yari-mamuller"_s, YarıMamuller},
-                {u"yari-mamul-agaci"_s, Ağaç},
-                {u"maliyet-tablosu"_s, Tablo},
-                {u"maliyet-dagilimi"_s, Dağılım},
-                {u"urun-kopyala"_s, Kopya},
-                {u"maliyet-arsivi"_s, Arşiv},
-                {u"bul"_s, Bul}};
+    return {{u"yari-mamuller"_s, YarıMamuller},
+            {u"yari-mamul-agaci"_s, Ağaç},
+            {u"maliyet-tablosu"_s, Tablo},
+            {u"maliyet-dagilimi"_s, Dağılım},
+            {u"urun-kopyala"_s, Kopya},
+            {u"maliyet-arsivi"_s, Arşiv},
+            {u"bul"_s, Bul}};
 }

@@ -88,7 +88,8 @@ QList<QStringList> TestVerisi::HerSatır() {
         bool var = false;
         Başarmalı(m_bağlantı.TabloVar(QLatin1String(ad), var), QLatin1String(ad));
         if (!var) continue;
-        hepsi += QStringList(QLatin1String(ad));  // without rows it is there all the same
+        // Without rows it is there all the same; every file has the first three.
+        if (std::string_view(ad).starts_with("Arsiv")) hepsi += QStringList(QLatin1String(ad));
         for (const QStringList& satır : Oku(QStringLiteral("SELECT * FROM ") + QLatin1String(ad)))
             hepsi += QStringList(QLatin1String(ad)) + satır;
     }
