@@ -22,8 +22,19 @@ void Tablo(Tur& tur, QWidget& anaForm) {
     });
 }
 
+void NeredeKullanılıyor(Tur& tur, QWidget& anaForm) {
+    MenüdenAç(anaForm, u"NeredeKullanılıyorMenüsü"_s, [&](QWidget& form) {
+        Tur::Yaz(Tur::Bul<QWidget>(form, u"MalzemeListesi"_s), u"Kavela"_s);
+        tur.Çek(u"nerede-kullaniliyor"_s, form);
+        form.resize(KÜÇÜK);
+        Tur::Durul();
+        tur.Çek(u"nerede-kullaniliyor-kucuk"_s, form);
+        Esc(form);
+    });
+}
+
 }  // namespace
 
 std::vector<Sahne> ÜrünSahneleri() {
-    return {{u"maliyet-tablosu"_s, Tablo}};
+    return {{u"maliyet-tablosu"_s, Tablo}, {u"nerede-kullaniliyor"_s, NeredeKullanılıyor}};
 }

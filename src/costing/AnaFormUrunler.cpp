@@ -9,7 +9,10 @@
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "UrunMetinleri.h"
+#include "KullanilanMalzemeler.h"
+#include "KullanimMetinleri.h"
 #include "MiktarAlani.h"
+#include "NeredeKullaniliyorFormu.h"
 #include "UrunAgaci.h"
 
 void AnaForm::ÜrünMenüsünüKur() {
@@ -21,6 +24,8 @@ void AnaForm::ÜrünMenüsünüKur() {
         }));
     };
     girişEkle(QStringLiteral("MaliyetTablosuMenüsü"), ÜrünMetni::MaliyetTablosuMenüsü, [this] { MaliyetTablosu(); });
+    girişEkle(QStringLiteral("NeredeKullanılıyorMenüsü"), ÜrünMetni::NeredeKullanılıyorMenüsü,
+              [this] { NeredeKullanılıyor(m_liste->SeçiliMalzeme()); });
 }
 
 // What is not saved does not count there. False: it was to be saved, and could not be.
@@ -41,6 +46,18 @@ void AnaForm::MaliyetTablosu() {
     }
     if (form.exec() != QDialog::Accepted || !form.Gidilecek()) return;
     ÜrüneGit(form.Gidilecek()->Grup, form.Gidilecek()->Ad);
+}
+
+void AnaForm::NeredeKullanılıyor(const QString& malzeme) {
+    NeredeKullanılıyorFormu form(this);
+    if (!form.Yükle(malzeme)) return;
+    if (form.Boş()) {
+        MesajKutusuOrtala();
+        MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam,
+                            Metin(KullanımMetni::KullanılanYok));
+        return;
+    }
+    if (form.exec() == QDialog::Accepted && form.Gidilecek()) ÜrüneGit(form.Gidilecek()->Grup, form.Gidilecek()->Ad);
 }
 
 // A product that is gone meanwhile leaves the selection as it is.

@@ -59,13 +59,17 @@ class YazdırmaDurumu {
     bool m_odaktaydı;
 };
 
-QPageLayout BütünA4() {
-    return {QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter};
+QPageLayout::Orientation Yönü(const Yazdırılacak& iş) {
+    return iş.Yatay ? QPageLayout::Landscape : QPageLayout::Portrait;
+}
+
+QPageLayout BütünA4(const Yazdırılacak& iş) {
+    return {QPageSize(QPageSize::A4), Yönü(iş), QMarginsF(0, 0, 0, 0), QPageLayout::Millimeter};
 }
 
 // The default printer (the first one where none is marked so), with its own paper and all of its printable area; null:
 // there is none.
-std::unique_ptr<QPrinter> VarsayılanYazıcı() {
+std::unique_ptr<QPrinter> VarsayılanYazıcı(const Yazdırılacak& iş) {
     if (!YazıcıVar) return nullptr;
     QPrinterInfo bilgi = QPrinterInfo::defaultPrinter();
     if (bilgi.isNull()) {
@@ -78,6 +82,7 @@ std::unique_ptr<QPrinter> VarsayılanYazıcı() {
     yazıcı->setFullPage(false);
     // A printer object starts with A4 whatever lies in the printer.
     if (const QPageSize kâğıt = bilgi.defaultPageSize(); kâğıt.isValid()) yazıcı->setPageSize(kâğıt);
+    yazıcı->setPageOrientation(Yönü(iş));
     QPageLayout alan = yazıcı->pageLayout();
     alan.setMargins(alan.minimumMargins());
     yazıcı->setPageLayout(alan);
@@ -101,12 +106,12 @@ bool SayfalarİsteniyorMu(const Yazdırılacak& iş) {
     int sayfa = 0;
     {
         const Bekletenİmleç bekler;
-        const std::unique_ptr<QPrinter> yazıcı = VarsayılanYazıcı();
+        const std::unique_ptr<QPrinter> yazıcı = VarsayılanYazıcı(iş);
         QBuffer boş;
         boş.open(QIODevice::WriteOnly);
         QPdfWriter yazar(&boş);
         yazar.setResolution(PdfÇözünürlüğü);
-        yazar.setPageLayout(yazıcı ? yazıcı->pageLayout() : BütünA4());
+        yazar.setPageLayout(yazıcı ? yazıcı->pageLayout() : BütünA4(iş));
         SayımYüzeyi yüzey(yazar);
         iş.Yaz(yüzey);
         sayfa = yüzey.SayfaNo();
@@ -118,7 +123,7 @@ bool SayfalarİsteniyorMu(const Yazdırılacak& iş) {
 }
 
 void YazıcıdaYaz(const Yazdırılacak& iş) {
-    const std::unique_ptr<QPrinter> yazıcı = VarsayılanYazıcı();
+    const std::unique_ptr<QPrinter> yazıcı = VarsayılanYazıcı(iş);
     if (!yazıcı) return;
     yazıcı->setDocName(iş.Ad);
     AygıtYüzeyi yüzey(*yazıcı);
@@ -157,11 +162,11 @@ void PdfKaydet(QWidget& form, QAbstractButton& düğme, const Yazdırılacak& i�
 
 void Önizle(QWidget& form, const Yazdırılacak& iş) {
     if (!SayfalarİsteniyorMu(iş)) return;
-    std::unique_ptr<QPrinter> yazıcı = VarsayılanYazıcı();
+    std::unique_ptr<QPrinter> yazıcı = VarsayılanYazıcı(iş);
     if (!yazıcı) {
         yazıcı = std::make_unique<QPrinter>(QPrinter::HighResolution);
         yazıcı->setOutputFormat(QPrinter::PdfFormat);
-        yazıcı->setPageLayout(BütünA4());
+        yazıcı->setPageLayout(BütünA4(iş));
     }
     yazıcı->setDocName(iş.Ad);
     QPrintPreviewDialog kutu(yazıcı.get(), &form);
@@ -178,12 +183,12 @@ bool PdfYaz(const QString& yol, const Yazdırılacak& iş) {
     QSaveFile dosya(yol);
     if (!dosya.open(QIODevice::WriteOnly)) return false;
     {
-        const std::unique_ptr<QPrinter> yazıcı = VarsayılanYazıcı();
+        const std::unique_ptr<QPrinter> yazıcı = VarsayılanYazıcı(iş);
         QPdfWriter yazar(&dosya);
         yazar.setResolution(PdfÇözünürlüğü);
         yazar.setTitle(iş.Ad);
         yazar.setCreator(UygulamaBaşlığı);
-        yazar.setPageLayout(yazıcı ? yazıcı->pageLayout() : BütünA4());
+        yazar.setPageLayout(yazıcı ? yazıcı->pageLayout() : BütünA4(iş));
         AygıtYüzeyi yüzey(yazar);
         iş.Yaz(yüzey);
     }

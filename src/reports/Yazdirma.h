@@ -13,6 +13,7 @@ struct Yazdırılacak {
     QString Ad;                             // the document's name; a PDF file is offered under it
     std::function<void(SayfaYüzeyi&)> Yaz;  // the printout
     bool UzunsaSor = false;                 // more than 50 pages come only if the user wants them
+    bool Yatay = false;                     // landscape
 };
 
 // All three keep the button disabled and the form's pointer waiting while pages are written; button, focus and pointer

@@ -43,6 +43,8 @@ bool SayfaDüzeni::Başla() {
         m_yerler.append({TamMilimetre(m_sayfaGenişliği / sütun.Bölen), 0});
     }
     BaşlıkYaz();
+    m_yüzey.YAyarla(m_yüzey.Y() + 5);
+    m_yüzey.PuntoAyarla(SatırPuntosu);
     SütunBaşlıklarınıYaz();
     return true;
 }
@@ -66,8 +68,8 @@ void SayfaDüzeni::BaşlıkYaz() {
 }
 
 void SayfaDüzeni::SütunBaşlıklarınıYaz() {
-    m_yüzey.YAyarla(m_yüzey.Y() + 5);
-    m_yüzey.PuntoAyarla(SatırPuntosu);
+    m_yüzey.KalınAyarla(true);
+    m_yüzey.AltÇizgiAyarla(true);
     QList<SatırHücresi> hücreler;
     for (qsizetype i = 0; i < m_sütunlar.size(); ++i) {
         const QString başlık = Metin(m_sütunlar.at(i).Başlık);
@@ -98,6 +100,7 @@ void SayfaDüzeni::SayfaBaşlığıYaz() {
     m_yüzey.Çiz(SayfaBaşlığıKenarı, SayfaBaşlığıÇizgisi, m_sayfaGenişliği - SayfaBaşlığıKenarı, SayfaBaşlığıÇizgisi,
                 Qt::black);
     m_yüzey.YAyarla(ÜstBoşluk);
+    if (m_başlıklarYinelenir) SütunBaşlıklarınıYaz();
 }
 
 // A title that is too long for its line is written smaller, then in two lines; only what is longer even so is cut.

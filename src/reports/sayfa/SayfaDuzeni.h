@@ -30,6 +30,9 @@ class SayfaDüzeni {
   public:
     SayfaDüzeni(SayfaYüzeyi& yüzey, QString raporBaşlığı, QList<SayfaSütunu> sütunlar);
 
+    // The captions come again on every page.
+    void SütunBaşlıklarıYinelensin() { m_başlıklarYinelenir = true; }
+
     // Opens the document and prints title and captions. False: the surface cannot begin, the printout does nothing.
     bool Başla();
 
@@ -74,4 +77,5 @@ class SayfaDüzeni {
     QList<SütunYeri> m_yerler;
     std::int16_t m_sayfaYüksekliği = 0;
     std::int16_t m_sayfaGenişliği = 0;
+    bool m_başlıklarYinelenir = false;
 };
