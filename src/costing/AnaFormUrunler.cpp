@@ -57,7 +57,9 @@ void AnaForm::NeredeKullanılıyor(const QString& malzeme) {
                             Metin(KullanımMetni::KullanılanYok));
         return;
     }
-    if (form.exec() == QDialog::Accepted && form.Gidilecek()) ÜrüneGit(form.Gidilecek()->Grup, form.Gidilecek()->Ad);
+    const bool gidilir = form.exec() == QDialog::Accepted && form.Gidilecek();
+    if (form.Uygulandı()) FiyatlarDeğişti();
+    if (gidilir) ÜrüneGit(form.Gidilecek()->Grup, form.Gidilecek()->Ad);
 }
 
 // A product that is gone meanwhile leaves the selection as it is.

@@ -1,6 +1,7 @@
 #include "FiyatMetinleri.h"
 
 #include "DegiskenModulu.h"
+#include "KullanimMetinleri.h"
 #include "MetinTablosu.h"
 #include "SayiMetni.h"
 
@@ -92,6 +93,8 @@ QString TürMetni(const QString& sözcük) {
             return Metin(MetinNo::TürKur);
         case İşlemTürü::GeriAlma:
             return Metin(MetinNo::TürGeriAlma);
+        case İşlemTürü::Değiştir:
+            return Metin(KullanımMetni::TürDeğiştir);
         case İşlemTürü::Yineleme:
             break;
     }

@@ -16,7 +16,8 @@ enum class İşlemTürü {
     Liste,  // a supplier's list
     Kur,    // a currency's rate
     GeriAlma,
-    Yineleme  // putting forward again what was taken back
+    Yineleme,  // putting forward again what was taken back
+    Değiştir   // a material put in another one's place; it changes used rows, and no price of the catalogue
 };
 QString TürSözcüğü(İşlemTürü tür);  // as it is stored
 std::optional<İşlemTürü> SözcüğünTürü(const QString& sözcük);

@@ -46,6 +46,6 @@ class MalzemeKullanımı {
 
     std::vector<Malzeme> m_malzemeler;
     std::vector<Ürün> m_ürünler;
-    std::vector<Satır> m_satırlar;       // by material
+    std::vector<Satır> m_satırlar;        // by material
     std::vector<std::size_t> m_ilkSatır;  // of each material, and their end
 };

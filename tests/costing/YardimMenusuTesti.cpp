@@ -11,6 +11,7 @@ class YardımMenüsü : public AnaFormOrtamı {
         ÜrünEkle("MASA", "Sehpa");
         KullanımEkle("MASA", "Sehpa", "Çam Kereste", "2,5 Metre", "4");
         MalzemeEkle("Çam Kereste", "4");
+        MalzemeEkle("Meşe Kereste", "9");
         Aç();
     }
 
@@ -28,6 +29,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     FormuOku();
     Tıkla("İçindekilerMenüsü");
     const char* tarih = "GünlükMalzemeHareketleriGösterButonu";
+    const char* nerede = "NeredeKullanılıyorMenüsü";
     const char* toplu = "TopluFiyatMenüsü";
     for (const auto& [açan, form] : {std::pair("ÜrünEkleSilMenüsü", "ÜrünEkleSilFormu"),
                                      {"MalzemeEkleSilMenüsü", "MalzemeEkleSilFormu"},
@@ -37,7 +39,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {"MalzemeListesiGösterButonu", "MalzemeListesiFormu"},
                                      {"ÜrünListesiGösterButonu", "ÜrünListesiFormu"},
                                      {"MaliyetTablosuMenüsü", "MaliyetTablosuFormu"},
-                                     {"NeredeKullanılıyorMenüsü", "NeredeKullanılıyorFormu"},
+                                     {nerede, "NeredeKullanılıyorFormu"},
                                      {toplu, "TopluFiyatFormu"},
                                      {"FiyatListesiAlMenüsü", "FiyatListesiAlFormu"},
                                      {"DövizKurlarıMenüsü", "DövizKurlarıFormu"},
@@ -45,9 +47,15 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {"HakkındaMenüsü", "HakkındaFormu"},
                                      {"HataBildirmeMenüsü", "HataBildirmeFormu"}}) {
         SCOPED_TRACE(form);
-        Modal(açan, form, [this, açan = açan, tarih, toplu] {
+        Modal(açan, form, [this, açan = açan, tarih, toplu, nerede] {
             FormuOku();
             if (açan == tarih) Modal("TarihDeğiştirButonu", "TarihDeğiştirFormu", [this] { FormuOku(); });
+            if (açan == nerede)
+                Modal("DeğiştirButonu", "MalzemeDeğiştirFormu", [this] {
+                    FormuOku();
+                    Yaz("YeniMalzemeListesi", "Meşe Kereste");
+                    Modal("ÖnizleButonu", "DeğişimÖnizlemeFormu", [this] { FormuOku(); });
+                });
             if (açan != toplu) return;
             Tıkla("TümünüSeçButonu");
             Yaz("OranKutusu", "10");
@@ -59,7 +67,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     EXPECT_EQ(sayfalar.join(' '),
               "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu MalzemeListesiOlusturFormu MiktarGosterFormu "
               "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu MaliyetTablosuFormu "
-              "NeredeKullaniliyorFormu TopluFiyatFormu "
+              "NeredeKullaniliyorFormu MalzemeDegistirFormu DegisimOnizlemeFormu TopluFiyatFormu "
               "FiyatOnizlemeFormu FiyatListesiAlFormu DovizKurlariFormu FiyatGecmisiFormu HakkindaFormu "
               "HataBildirmeFormu");
 }

@@ -51,8 +51,8 @@ YazmaSonucu KullanımıÇizelgeyeYaz(const QString& yol, const QString& başlık
         Ekle(değerler, satır.FiyatSayısı);
         Ekle(değerler, satır.TutarSayısı);
         const std::optional<Ondalık> pay = satır.Pay ? OnBeşHaneyle(*satır.Pay) : std::nullopt;
-        Ekle(değerler, pay ? std::optional(Yuvarla(*pay, KullanımSatırları::PAY_BASAMAĞI, Yarım::SıfırdanUzağa))
-                           : std::nullopt);
+        Ekle(değerler,
+             pay ? std::optional(Yuvarla(*pay, KullanımSatırları::PAY_BASAMAĞI, Yarım::SıfırdanUzağa)) : std::nullopt);
         değerler.emplaceBack(satırlar.Açıklama(yer));
         sonuç = yazıcı.SatırEkle(değerler);
     }

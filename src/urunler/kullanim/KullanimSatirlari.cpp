@@ -42,12 +42,8 @@ KullanımSatırları::Satır SatırYap(const MalzemeKullanımı::Ürün& ürün,
 }  // namespace
 
 QList<TabloSütunu> KullanımSütunlarınıVer() {
-    return {{MetinNo::GrubuSütunu, 14},
-            {MetinNo::ÜrünSütunu, 24},
-            {MetinNo::MiktarıSütunu, 14},
-            {MetinNo::FiyatıSütunu, 12, true},
-            {MetinNo::TutarıSütunu, 13, true},
-            {KullanımMetni::PaySütunu, 8, true},
+    return {{MetinNo::GrubuSütunu, 14},        {MetinNo::ÜrünSütunu, 24},         {MetinNo::MiktarıSütunu, 14},
+            {MetinNo::FiyatıSütunu, 12, true}, {MetinNo::TutarıSütunu, 13, true}, {KullanımMetni::PaySütunu, 8, true},
             {ÜrünMetni::DikkatSütunu, 16}};
 }
 

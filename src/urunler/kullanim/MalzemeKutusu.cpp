@@ -88,5 +88,6 @@ void MalzemeKutusu::Öner(const QString& aranan) {
         if (öneriler.size() == EN_ÇOK_ÖNERİ) break;
         if (Türkçe::İçerir(metin, parça)) öneriler.append(metin);
     }
-    m_öneriler->setStringList(öneriler);
+    const bool bulundu = öneriler.size() == 1 && Bul(aranan).has_value();  // nothing is left to be offered
+    m_öneriler->setStringList(bulundu ? QStringList() : öneriler);
 }

@@ -12,6 +12,7 @@
 #include "IlerlemeKutusu.h"
 #include "KullanimCiktilari.h"
 #include "KullanimMetinleri.h"
+#include "MalzemeDegistirFormu.h"
 #include "MalzemeKutusu.h"
 #include "OdbcModulu.h"
 #include "Tablo.h"
@@ -39,6 +40,7 @@ void NeredeKullanılıyorFormu::KontrolleriKur() {
     connect(m_tablo->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { DüğmeleriAyarla(); });
     connect(m_tablo, &QAbstractItemView::doubleClicked, this, [this] { Git(); });
     m_git = DüğmeOluştur(QStringLiteral("GitButonu"), ÜrünMetni::ÜrüneGit, [this] { Git(); });
+    m_değiştir = DüğmeOluştur(QStringLiteral("DeğiştirButonu"), KullanımMetni::DeğiştirDüğmesi, [this] { Değiştir(); });
     m_yazdır = DüğmeOluştur(QStringLiteral("YazdırButonu"), MetinNo::Yazdır,
                             [this] { static_cast<void>(Yazdır(*this, *m_yazdır, Rapor())); });
     m_pdf = DüğmeOluştur(QStringLiteral("PdfKaydetButonu"), MetinNo::PdfKaydet,
@@ -56,7 +58,7 @@ void NeredeKullanılıyorFormu::Yerleştir() {
     auto* düzen = new QVBoxLayout(this);
     düzen->addLayout(üst);
     düzen->addWidget(TabloBölümü(2, KullanımMetni::KullananlarEtiketi, m_tablo), 1);
-    düzen->addLayout(DüğmeSırası({m_git, m_yazdır, m_pdf, m_önizle, m_aktar, nullptr, kapat}));
+    düzen->addLayout(DüğmeSırası({m_değiştir, m_git, m_yazdır, m_pdf, m_önizle, m_aktar, nullptr, kapat}));
     m_malzeme->setFocus();
     BoyVer(*this, {960, 560});
 }
@@ -99,6 +101,7 @@ void NeredeKullanılıyorFormu::MalzemeSeçildi() {
 void NeredeKullanılıyorFormu::DüğmeleriAyarla() {
     const std::optional<std::size_t> satır = m_tablo->SeçiliSatır();
     m_git->setEnabled(satır && m_kaynak.Satırlar[*satır].Ürün->Listede);
+    m_değiştir->setEnabled(!m_kaynak.Satırlar.empty());
     for (KomutDüğmesi* düğme : {m_yazdır, m_pdf, m_önizle, m_aktar})
         düğme->setEnabled(m_malzeme->Seçilen().has_value());
 }
@@ -108,6 +111,16 @@ void NeredeKullanılıyorFormu::Git() {
     if (!satır || !m_kaynak.Satırlar[*satır].Ürün->Listede) return;
     m_gidilecek = m_kaynak.Satırlar[*satır].Ürün;
     accept();
+}
+
+void NeredeKullanılıyorFormu::Değiştir() {
+    const std::optional<std::size_t> malzeme = m_malzeme->Seçilen();
+    if (!malzeme) return;
+    MalzemeDeğiştirFormu form(m_kullanım.Malzemeler()[*malzeme].Ad, this);
+    if (!form.Yükle() || form.exec() != QDialog::Accepted) return;
+    m_uygulandı = true;
+    // What is on screen is no longer so; if it cannot be read anew, it is not left standing.
+    if (!Yükle()) reject();
 }
 
 QString NeredeKullanılıyorFormu::Başlık() const {

@@ -21,6 +21,9 @@ class NeredeKullanılıyorFormu : public QDialog {
     bool Yükle(const QString& malzeme = {});
     bool Boş() const { return m_kullanım.Malzemeler().empty(); }
 
+    // A replacement was carried out while the form was open.
+    bool Uygulandı() const { return m_uygulandı; }
+
     // The product to go to, once the form was accepted.
     const MalzemeKullanımı::Ürün* Gidilecek() const { return m_gidilecek; }
 
@@ -30,6 +33,7 @@ class NeredeKullanılıyorFormu : public QDialog {
     void MalzemeSeçildi();
     void DüğmeleriAyarla();
     void Git();
+    void Değiştir();
     void Çizelgeye();
     QString Başlık() const;
     Yazdırılacak Rapor() const;
@@ -38,10 +42,12 @@ class NeredeKullanılıyorFormu : public QDialog {
     KullanımSatırları m_kaynak;
     TabloModeli m_model;
     const MalzemeKullanımı::Ürün* m_gidilecek = nullptr;
+    bool m_uygulandı = false;
     MalzemeKutusu* m_malzeme;
     QLabel* m_sayı;
     Tablo* m_tablo;
     KomutDüğmesi* m_git;
+    KomutDüğmesi* m_değiştir;
     KomutDüğmesi* m_yazdır;
     KomutDüğmesi* m_pdf;
     KomutDüğmesi* m_önizle;
