@@ -243,7 +243,7 @@ void DeğişimPlanı::Değiştir(DeğişenÜrün& ürün, const DeğişimKuralı
 // What the operation wrote about its products.
 struct DeğişimPlanı::Kayıt {
     struct Ürün {
-        std::vector<KullanılanSatır> Duran;   // what should stand now
+        std::vector<KullanılanSatır> Duran;    // what should stand now
         std::vector<KullanılanSatır> Gelecek;  // what comes back
     };
     std::vector<Ürün> Ürünler;

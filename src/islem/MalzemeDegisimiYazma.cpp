@@ -14,8 +14,7 @@ QStringList Anahtarlar(const std::vector<KullanılanSatır>& satırlar, const Ad
     QStringList anahtarlar;
     for (const KullanılanSatır& s : satırlar)
         anahtarlar.append(QString::number(malzemeler.Bul(s.Malzeme.toStdString())) + QLatin1Char('|') +
-                          Deyimler::SaklanacakSayı(s.Fiyat) + QLatin1Char('|') + s.Tarih + QLatin1Char('|') +
-                          s.Miktar);
+                          Deyimler::SaklanacakSayı(s.Fiyat) + QLatin1Char('|') + s.Tarih + QLatin1Char('|') + s.Miktar);
     anahtarlar.sort();
     return anahtarlar;
 }
@@ -85,8 +84,7 @@ class Yazıcı {
         for (const QString& malzeme : m_plan.Malzemeler()) {
             const bool aranan = m_plan.Yeni() && malzeme == m_plan.Malzemeler().first();
             const OdbcSonucu s = m_bağlantı.Oku(Deyimler::MalzemeninSatırları(malzeme), [&](OdbcSatırı& okunan) {
-                const std::uint32_t yer =
-                    ürünler.Bul(okunan.Baytlar(1).value_or(""), okunan.Baytlar(2).value_or(""));
+                const std::uint32_t yer = ürünler.Bul(okunan.Baytlar(1).value_or(""), okunan.Baytlar(2).value_or(""));
                 if (yer == AdDizini::YOK) {
                     if (aranan) yeniÜrün = ÜrünMetni(okunan.Metin(1), okunan.Metin(2));
                 } else if (m_plan.Ürünler()[yer].İşaretli) {

@@ -62,12 +62,15 @@ class MalzemeDeğişimi : public VarnekTesti {
         Veri().ElleOnayla();
         std::mt19937 rastgele(20261123);
         const auto sayı = [&](int en, int boy) { return std::uniform_int_distribution(en, boy)(rastgele); };
-        for (const char* ad : {"Çam", "Meşe", "Vida"}) MalzemeEkle(ad, QString("%1,12%2").arg(sayı(1, 90)).arg(sayı(10, 99)));
-        const QString miktarlar[] = {"1 Adet", "2,5 Adet", "0,3333 Adet", "1.250 Adet", "0,0000004 Adet", "çok Adet", "3 m"};
+        for (const char* ad : {"Çam", "Meşe", "Vida"})
+            MalzemeEkle(ad, QString("%1,12%2").arg(sayı(1, 90)).arg(sayı(10, 99)));
+        const QString miktarlar[] = {"1 Adet",         "2,5 Adet", "0,3333 Adet", "1.250 Adet",
+                                     "0,0000004 Adet", "çok Adet", "3 m"};
         for (int i = 0; i < 60; ++i) {
             ÜrünEkle("RAF", QString("Raf %1").arg(i), {"10", "7,125", "-2", "0"});
             for (int j = sayı(1, 4); j > 0; --j)
-                KullanımEkle(sayı(0, 3) ? "RAF" : "raf", QString("RAF %1").arg(i), sayı(0, 1) ? "ÇAM" : (sayı(0, 1) ? "Meşe" : "Vida"),
+                KullanımEkle(sayı(0, 3) ? "RAF" : "raf", QString("RAF %1").arg(i),
+                             sayı(0, 1) ? "ÇAM" : (sayı(0, 1) ? "Meşe" : "Vida"),
                              miktarlar[sayı(0, 15) < 12 ? sayı(0, 3) : sayı(4, 6)], QString("%1,5").arg(sayı(1, 40)),
                              QString("#11/%1/2026#").arg(sayı(21, 23)));
         }
@@ -84,7 +87,9 @@ QString Sonrası(const DeğişimPlanı& plan, std::size_t yer = 0) {
 
 TEST(Ondalık, ÇarparkenVeToplarkenBasamakYitirmez) {
     const auto oku = [](const char* metin) { return *OndalıkOku(QString::fromUtf8(metin)); };
-    const auto yaz = [](const Ondalık& s) { return (s.Eksi ? "-" : "") + std::string(s.Tam()) + "," + std::string(s.Kesir()); };
+    const auto yaz = [](const Ondalık& s) {
+        return (s.Eksi ? "-" : "") + std::string(s.Tam()) + "," + std::string(s.Kesir());
+    };
     EXPECT_EQ(yaz(Çarp(oku("12345678901234567890,5"), oku("-99999,99"))), "-1234567766666667776704321,095");
     EXPECT_EQ(yaz(Çarp(oku("-0,5"), oku("0"))), "0,0");
     EXPECT_EQ(yaz(Topla(oku("0,1"), oku("999,95"))), "1000,05");
@@ -125,8 +130,8 @@ TEST_F(MalzemeDeğişimi, MiktarTamOndalıklaHesaplanırVeNedeniyleDışarıdaKa
         EXPECT_EQ(Sonrası(plan, plan.Ürünler().size() - 1), QString::fromUtf8(d.Sonuç));
         EXPECT_EQ(plan.Ürünler().back().İşaretli, d.Neden == DeğişimNedeni::Yok);
     }
-    ÜrünEkle("MASA", "Uzun");
-    KullanımEkle("MASA", "Uzun", "Çam", "1 " + QString(252, 'm'), "2");
+    ÜrünEkle("MASA", "Zor");
+    KullanımEkle("MASA", "Zor", "Çam", "1 " + QString(252, 'm'), "2");
     EXPECT_EQ(Plan("Çam", "Meşe", "10").Ürünler().back().Neden, DeğişimNedeni::MetinUzun);
     EXPECT_EQ(Plan("Çam", "Meşe").Ürünler().back().Neden, DeğişimNedeni::Yok);
     EXPECT_TRUE(Plan("Çam", "ÇAM").YeniYok());
@@ -145,12 +150,16 @@ TEST_F(MalzemeDeğişimi, UygulanırGeriAlınırYinelenir) {
     for (const DeğişenÜrün& ü : plan.Ürünler()) {
         SCOPED_TRACE(ü.Ad.toStdString());
         const auto satırlar = [&](const char* malzeme) {
-            return Oku("SELECT KullanilanMalzemeMiktari, KullanilanMalzemeFiyati, KullanimTarihi FROM UrunMalzemeTablosu WHERE "
-                       "UrunGrubu= 'RAF' AND UrunAdi= '" + ü.Ad + "' AND KullanilanMalzemeAdi= '" + malzeme + "'");
+            return Oku(
+                "SELECT KullanilanMalzemeMiktari, KullanilanMalzemeFiyati, KullanimTarihi FROM UrunMalzemeTablosu "
+                "WHERE "
+                "UrunGrubu= 'RAF' AND UrunAdi= '" +
+                ü.Ad + "' AND KullanilanMalzemeAdi= '" + malzeme + "'");
         };
         EXPECT_EQ(satırlar("Çam").isEmpty(), ü.İşaretli);
         if (!ü.İşaretli) continue;
-        EXPECT_EQ(satırlar("Meşe"), ü.Sonra[0].Miktar + "|" + Oku("SELECT MalzemeFiyati FROM MalzemeTablosu WHERE MalzemeAdi= 'Meşe'") +
+        EXPECT_EQ(satırlar("Meşe"), ü.Sonra[0].Miktar + "|" +
+                                        Oku("SELECT MalzemeFiyati FROM MalzemeTablosu WHERE MalzemeAdi= 'Meşe'") +
                                         "|2026-11-23 00:00:00");
         EXPECT_EQ(AnaFormunToplamı("RAF", ü.Ad), ü.SonrakiToplam);
     }
@@ -180,13 +189,15 @@ TEST_F(MalzemeDeğişimi, UygulanırGeriAlınırYinelenir) {
 TEST_F(MalzemeDeğişimi, DeğişenVeriyeYazılmazVeYarımKalmaz) {
     Doldur();
     const DeğişimPlanı plan = Plan("Çam", "Meşe", "1,5");
-    const auto ilk = std::find_if(plan.Ürünler().begin(), plan.Ürünler().end(), [](const auto& ü) { return ü.İşaretli; });
+    const auto ilk =
+        std::find_if(plan.Ürünler().begin(), plan.Ürünler().end(), [](const auto& ü) { return ü.İşaretli; });
     const QString ürün = " WHERE UrunGrubu= 'RAF' AND UrunAdi= '" + ilk->Ad + "' AND KullanilanMalzemeAdi= 'Çam'";
     ÜrünEkle("YENİ", "Ürün");
-    for (const QString& deyim : {"UPDATE UrunMalzemeTablosu SET KullanimTarihi= #1/1/2020#" + ürün,
-                                 "UPDATE UrunMalzemeTablosu SET KullanilanMalzemeMiktari= '9 Adet'" + ürün,
-                                 QString("UPDATE MalzemeTablosu SET MalzemeFiyati= '1' WHERE MalzemeAdi= 'Meşe'"),
-                                 Deyimler::KullanılanMalzemeEkle({"YENİ", "Ürün", "Çam", "1 Adet", "1", "#1/1/2020#"})}) {
+    for (const QString& deyim :
+         {"UPDATE UrunMalzemeTablosu SET KullanimTarihi= #1/1/2020#" + ürün,
+          "UPDATE UrunMalzemeTablosu SET KullanilanMalzemeMiktari= '9 Adet'" + ürün,
+          QString("UPDATE MalzemeTablosu SET MalzemeFiyati= '1' WHERE MalzemeAdi= 'Meşe'"),
+          Deyimler::KullanılanMalzemeEkle({"YENİ", "Ürün", "Çam", "1 Adet", "1", "#1/1/2020#"})}) {
         SCOPED_TRACE(deyim.toStdString());
         const DeğişimPlanı şimdiki = Plan("Çam", "Meşe", "1,5");
         Çalıştır(deyim);
@@ -203,8 +214,8 @@ TEST_F(MalzemeDeğişimi, DeğişenVeriyeYazılmazVeYarımKalmaz) {
     EXPECT_FALSE(var);
     // What changed after the operation is not taken back over it.
     ASSERT_EQ(Uygula(Plan("Çam", "Meşe")), UygulamaSonu::Tamam);
-    Çalıştır("UPDATE UrunMalzemeTablosu SET KullanilanMalzemeMiktari= '77 Adet' WHERE UrunGrubu= 'RAF' AND UrunAdi= '" + ilk->Ad +
-             "' AND KullanilanMalzemeAdi= 'Meşe'");
+    Çalıştır("UPDATE UrunMalzemeTablosu SET KullanilanMalzemeMiktari= '77 Adet' WHERE UrunGrubu= 'RAF' AND UrunAdi= '" +
+             ilk->Ad + "' AND KullanilanMalzemeAdi= 'Meşe'");
     const DeğişimPlanı geri = Dönüş(1, true);
     for (const DeğişenÜrün& ü : geri.Ürünler())
         EXPECT_EQ(ü.Neden, ü.Ad.toUpper() == ilk->Ad.toUpper() ? DeğişimNedeni::SatırlarıDeğişmiş : DeğişimNedeni::Yok);

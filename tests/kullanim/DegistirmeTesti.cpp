@@ -25,6 +25,11 @@ class Değiştirme : public FormTesti {
             "SELECT UrunAdi, KullanilanMalzemeAdi, KullanilanMalzemeMiktari, KullanilanMalzemeFiyati, KullanimTarihi "
             "FROM UrunMalzemeTablosu ORDER BY UrunAdi, KullanilanMalzemeFiyati");
     }
+    void DeğişmişBeklenir() {
+        Kutular().Yanıtla(Yanıt::Tamam, [](const MesajKutusu::İstek& kutu) {
+            EXPECT_TRUE(kutu.metin.startsWith("Veriler bu arada değişmiş (MASA / Masa)"));
+        });
+    }
     QModelIndex Satır(const char* tablo, int satır) { return Bul<QAbstractItemView>(tablo).model()->index(satır, 0); }
 };
 
@@ -51,32 +56,38 @@ TEST_F(Değiştirme, KatalogdanSilinmişMalzemeOnarılırVeGeçmiştenGeriAlın�
         }
         Yaz("ÇarpanKutusu", "0,3");
         Modal("ÖnizleButonu", "DeğişimÖnizlemeFormu", [this] {
-            EXPECT_EQ(Satırlar(TABLO), "MASA|Masa|4 Adet Silinmiş; 1 Adet Silinmiş|1,5 Adet Meşe|44,00|4,69|-39,31|-89,34|");
+            EXPECT_EQ(Satırlar(TABLO),
+                      "MASA|Masa|4 Adet Silinmiş; 1 Adet Silinmiş|1,5 Adet Meşe|44,00|4,69|-39,31|-89,34|");
             EXPECT_TRUE(Yazı("ÖzetEtiketi").contains("Kendi gününün malzeme hareketlerinden çıkacak satır: 2"));
             Tıkla(TABLO, Satır(TABLO, 0));
-            Tuş(Qt::Key_Space);
+            QTest::keyClick(&Bul(TABLO), Qt::Key_Space);
             EXPECT_FALSE(Etkin("UygulaButonu"));
-            Tuş(Qt::Key_Space);
+            QTest::keyClick(&Bul(TABLO), Qt::Key_Space);
             // Changed under the preview: nothing is written, and the preview shows how it is now.
-            Çalıştır("UPDATE UrunMalzemeTablosu SET KullanilanMalzemeMiktari= '5 Adet' WHERE KullanilanMalzemeMiktari= '4 Adet'");
-            Beklenen(Simge::Ünlem, MetinNo::VerilerDeğişmiş, Yanıt::Tamam);
+            Çalıştır(
+                "UPDATE UrunMalzemeTablosu SET KullanilanMalzemeMiktari= '5 Adet' WHERE KullanilanMalzemeMiktari= '4 "
+                "Adet'");
+            DeğişmişBeklenir();
             Tıkla("UygulaButonu");
             EXPECT_TRUE(Satırlar(TABLO).contains("|1,8 Adet Meşe|"));
-            Çalıştır("UPDATE UrunMalzemeTablosu SET KullanilanMalzemeMiktari= '4 Adet' WHERE KullanilanMalzemeMiktari= '5 Adet'");
-            Beklenen(Simge::Ünlem, MetinNo::VerilerDeğişmiş, Yanıt::Tamam);
+            Çalıştır(
+                "UPDATE UrunMalzemeTablosu SET KullanilanMalzemeMiktari= '4 Adet' WHERE KullanilanMalzemeMiktari= '5 "
+                "Adet'");
+            DeğişmişBeklenir();
             Tıkla("UygulaButonu");
             Tıkla("UygulaButonu");
         });
     });
     EXPECT_TRUE(form.Uygulandı());
-    EXPECT_EQ(Kullanılanlar(), "Masa|Meşe|1,5 Adet|3.1234|2026-11-23 00:00:00; Sehpa|Çam|1,5 Metre|2|2026-11-01 00:00:00");
+    EXPECT_EQ(Kullanılanlar(),
+              "Masa|Meşe|1,5 Adet|3.1234|2026-11-23 00:00:00; Sehpa|Çam|1,5 Metre|2|2026-11-01 00:00:00");
     EXPECT_EQ(Yazı("KullanımSayısıEtiketi"), "malzeme seçilmedi");
 
     auto& geçmiş = Aç<FiyatGeçmişiFormu>(DeğişimiÇevir, nullptr);
     EXPECT_TRUE(Satırlar("GeçmişTablosu").startsWith("Malzeme değişimi: Silinmiş yerine Meşe; çarpan 0,3|"));
     // Of a ticked material, its replacements stand among its price changes.
     Tıkla("MalzemeTablosu", Satır("MalzemeTablosu", 1));
-    Tuş(Qt::Key_Space);
+    QTest::keyClick(&Bul("MalzemeTablosu"), Qt::Key_Space);
     EXPECT_TRUE(Satırlar("GeçmişTablosu").startsWith("Meşe|"));
     Tıkla("GeçmişTablosu", Satır("GeçmişTablosu", 0));
     Modal("GeriAlButonu", "DeğişimÖnizlemeFormu", [this] { Tıkla("UygulaButonu"); });

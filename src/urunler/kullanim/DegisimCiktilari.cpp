@@ -41,8 +41,8 @@ QList<ÇizelgeDeğeri> Değerler(const DeğişimSatırları& satırlar, std::siz
     for (int sütun = DGrup; sütun <= DSonra; ++sütun) değerler.emplaceBack(satırlar.Hücre(yer, sütun));
     değerler.emplaceBack(ürün.ÖncekiToplam);
     Ekle(değerler, değişir ? std::optional(ürün.SonrakiToplam) : std::nullopt);
-    Ekle(değerler, değişir ? Topla(ürün.SonrakiToplam, Para::OnBindeBirden(-ürün.ÖncekiToplam.OnBindeBir()))
-                           : std::nullopt);
+    Ekle(değerler,
+         değişir ? Topla(ürün.SonrakiToplam, Para::OnBindeBirden(-ürün.ÖncekiToplam.OnBindeBir())) : std::nullopt);
     const std::optional<Ondalık> oran = değişir ? Oran(ürün) : std::nullopt;
     oran ? değerler.emplaceBack(*oran) : değerler.emplaceBack();
     değerler.emplaceBack(Neden(satırlar, yer));

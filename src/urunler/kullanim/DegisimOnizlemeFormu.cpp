@@ -132,7 +132,6 @@ Yazdırılacak DeğişimÖnizlemeFormu::Rapor() const {
 }
 
 void DeğişimÖnizlemeFormu::Çizelgeye() {
-    ÇizelgeyeKaydet(*this, windowTitle(), [this](const QString& yol) {
-        return DeğişimiÇizelgeyeYaz(yol, windowTitle(), m_kaynak, m_model);
-    });
+    ÇizelgeyeKaydet(*this, windowTitle(),
+                    [this](const QString& yol) { return DeğişimiÇizelgeyeYaz(yol, windowTitle(), m_kaynak, m_model); });
 }
