@@ -85,6 +85,7 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void ÜrünMenüsünüKur();
     bool KaydedilmemişiSor();
     void MaliyetTablosu();
+    void SatışFiyatListesi();
     void NeredeKullanılıyor(const QString& malzeme);
     void ÜrüneGit(const QString& grup, const QString& ürün);
 

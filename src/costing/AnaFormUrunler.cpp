@@ -13,6 +13,7 @@
 #include "KullanimMetinleri.h"
 #include "MiktarAlani.h"
 #include "NeredeKullaniliyorFormu.h"
+#include "SatisFiyatListesiFormu.h"
 #include "UrunAgaci.h"
 
 void AnaForm::ÜrünMenüsünüKur() {
@@ -26,6 +27,8 @@ void AnaForm::ÜrünMenüsünüKur() {
     girişEkle(QStringLiteral("MaliyetTablosuMenüsü"), ÜrünMetni::MaliyetTablosuMenüsü, [this] { MaliyetTablosu(); });
     girişEkle(QStringLiteral("NeredeKullanılıyorMenüsü"), ÜrünMetni::NeredeKullanılıyorMenüsü,
               [this] { NeredeKullanılıyor(m_liste->SeçiliMalzeme()); });
+    girişEkle(QStringLiteral("SatışFiyatListesiMenüsü"), ÜrünMetni::SatışFiyatListesiMenüsü,
+              [this] { SatışFiyatListesi(); });
 }
 
 // What is not saved does not count there. False: it was to be saved, and could not be.
@@ -46,6 +49,17 @@ void AnaForm::MaliyetTablosu() {
     }
     if (form.exec() != QDialog::Accepted || !form.Gidilecek()) return;
     ÜrüneGit(form.Gidilecek()->Grup, form.Gidilecek()->Ad);
+}
+
+void AnaForm::SatışFiyatListesi() {
+    SatışFiyatListesiFormu form(this);
+    if (!form.Yükle()) return;
+    if (form.Boş()) {
+        MesajKutusuOrtala();
+        MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(ÜrünMetni::ÜrünYok));
+        return;
+    }
+    form.exec();
 }
 
 void AnaForm::NeredeKullanılıyor(const QString& malzeme) {

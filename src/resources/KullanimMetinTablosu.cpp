@@ -45,6 +45,18 @@ constexpr MetinSatırı Tablo[] = {
     {KullanımMetni::NedenSonuçSıfır, "yeni miktar sıfır"},
     {KullanımMetni::NedenMetinUzun, "yeni miktar çok uzun"},
     {KullanımMetni::NedenÇemberKapatır, "yarı mamuller çember oluşturur"},
+    {KullanımMetni::SatışListesiBaşlığı, "Satış Fiyat Listesi"},
+    {KullanımMetni::SatışListesiİlkBaşlığı, "Fiyat Listesi"},
+    {KullanımMetni::FiyatSütunu, "Fiyat"},
+    {KullanımMetni::KdvSütunu, "KDV (%)"},
+    {KullanımMetni::KdvliSütunu, "KDV'li fiyat"},
+    {KullanımMetni::FiyatSıfırYaDaAltı, "fiyat sıfır ya da altında"},
+    {KullanımMetni::KdvEtiketi, "&KDV oranı (%)"},
+    {KullanımMetni::BaşlıkEtiketi, "&Başlık"},
+    {KullanımMetni::AltYazıEtiketi, "&Alt yazı"},
+    {KullanımMetni::BasılacakSayısı, "%1 ürün basılacak"},
+    {KullanımMetni::BasılmayanSayısı, "%1 ürün basılacak; süzgeç dışındaki %2 işaretli ürün basılmaz"},
+    {KullanımMetni::KdvAralıkDışı, "KDV oranı 0 ile 100 arasında olmalı! Lütfen, başka bir oran giriniz."},
 };
 
 static_assert(Sıralı(Tablo));

@@ -44,5 +44,17 @@ inline constexpr MetinNo NedenSatırOkunamaz{2935};
 inline constexpr MetinNo NedenSonuçSıfır{2936};
 inline constexpr MetinNo NedenMetinUzun{2937};
 inline constexpr MetinNo NedenÇemberKapatır{2938};
+inline constexpr MetinNo SatışListesiBaşlığı{2950};
+inline constexpr MetinNo SatışListesiİlkBaşlığı{2951};
+inline constexpr MetinNo FiyatSütunu{2952};
+inline constexpr MetinNo KdvSütunu{2953};
+inline constexpr MetinNo KdvliSütunu{2954};
+inline constexpr MetinNo FiyatSıfırYaDaAltı{2955};
+inline constexpr MetinNo KdvEtiketi{2956};
+inline constexpr MetinNo BaşlıkEtiketi{2957};
+inline constexpr MetinNo AltYazıEtiketi{2958};
+inline constexpr MetinNo BasılacakSayısı{2959};
+inline constexpr MetinNo BasılmayanSayısı{2960};
+inline constexpr MetinNo KdvAralıkDışı{2961};
 
 }  // namespace KullanımMetni

@@ -40,6 +40,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {"ÜrünListesiGösterButonu", "ÜrünListesiFormu"},
                                      {"MaliyetTablosuMenüsü", "MaliyetTablosuFormu"},
                                      {nerede, "NeredeKullanılıyorFormu"},
+                                     {"SatışFiyatListesiMenüsü", "SatışFiyatListesiFormu"},
                                      {toplu, "TopluFiyatFormu"},
                                      {"FiyatListesiAlMenüsü", "FiyatListesiAlFormu"},
                                      {"DövizKurlarıMenüsü", "DövizKurlarıFormu"},
@@ -64,12 +65,13 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     }
     QStringList sayfalar;
     for (const QUrl& adres : m_açılanlar) sayfalar += adres.fileName().remove(".html");
-    EXPECT_EQ(sayfalar.join(' '),
-              "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu MalzemeListesiOlusturFormu MiktarGosterFormu "
-              "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu MaliyetTablosuFormu "
-              "NeredeKullaniliyorFormu MalzemeDegistirFormu DegisimOnizlemeFormu TopluFiyatFormu "
-              "FiyatOnizlemeFormu FiyatListesiAlFormu DovizKurlariFormu FiyatGecmisiFormu HakkindaFormu "
-              "HataBildirmeFormu");
+    EXPECT_EQ(
+        sayfalar.join(' '),
+        "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu MalzemeListesiOlusturFormu MiktarGosterFormu "
+        "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu MaliyetTablosuFormu "
+        "NeredeKullaniliyorFormu MalzemeDegistirFormu DegisimOnizlemeFormu SatisFiyatListesiFormu TopluFiyatFormu "
+        "FiyatOnizlemeFormu FiyatListesiAlFormu DovizKurlariFormu FiyatGecmisiFormu HakkindaFormu "
+        "HataBildirmeFormu");
 }
 
 }  // namespace
