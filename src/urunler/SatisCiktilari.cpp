@@ -25,8 +25,7 @@ void SatışListesiniYaz(SayfaYüzeyi& yüzey, const SatışListesi& liste) {
     if (!düzen.Başla()) return;
     HerBasılan(liste, [&](std::size_t yer) {
         const auto hücre = [&](int sütun) { return liste.Satırlar.Hücre(yer, sütun); };
-        düzen.SatırYaz(
-            {hücre(SGrup) + QStringLiteral(" / ") + hücre(SAd), hücre(SFiyat), hücre(SKdv), hücre(SKdvli)});
+        düzen.SatırYaz({hücre(SGrup) + QStringLiteral(" / ") + hücre(SAd), hücre(SFiyat), hücre(SKdv), hücre(SKdvli)});
     });
     if (!liste.AltYazı.isEmpty()) düzen.AltYazıYaz(liste.AltYazı);
     düzen.Bitir();

@@ -96,10 +96,10 @@ void SatışFiyatListesiFormu::KontrolleriKur() {
                             basınca([this] { static_cast<void>(Yazdır(*this, *m_yazdır, Rapor())); }));
     m_pdf = DüğmeOluştur(QStringLiteral("PdfKaydetButonu"), MetinNo::PdfKaydet,
                          basınca([this] { PdfKaydet(*this, *m_pdf, Rapor()); }));
-    m_önizle = DüğmeOluştur(QStringLiteral("ÖnizlemeButonu"), MetinNo::Önizleme,
-                            basınca([this] { Önizle(*this, Rapor()); }));
-    m_aktar = DüğmeOluştur(QStringLiteral("TabloyaAktarButonu"), ÜrünMetni::TabloyaAktar,
-                           basınca([this] { Çizelgeye(); }));
+    m_önizle =
+        DüğmeOluştur(QStringLiteral("ÖnizlemeButonu"), MetinNo::Önizleme, basınca([this] { Önizle(*this, Rapor()); }));
+    m_aktar =
+        DüğmeOluştur(QStringLiteral("TabloyaAktarButonu"), ÜrünMetni::TabloyaAktar, basınca([this] { Çizelgeye(); }));
 }
 
 QWidget* SatışFiyatListesiFormu::KuralBölümü() {
@@ -209,7 +209,6 @@ Yazdırılacak SatışFiyatListesiFormu::Rapor() const {
 }
 
 void SatışFiyatListesiFormu::Çizelgeye() {
-    ÇizelgeyeKaydet(*this, windowTitle(), [this](const QString& yol) {
-        return SatışListesiniÇizelgeyeYaz(yol, windowTitle(), Liste());
-    });
+    ÇizelgeyeKaydet(*this, windowTitle(),
+                    [this](const QString& yol) { return SatışListesiniÇizelgeyeYaz(yol, windowTitle(), Liste()); });
 }

@@ -16,9 +16,12 @@ QString Biçimle(const std::optional<Para>& tutar) {
 }  // namespace
 
 QList<TabloSütunu> SatışSütunlarınıVer() {
-    return {{MetinNo::GrubuSütunu, 14},           {MetinNo::ÜrünSütunu, 26},
-            {KullanımMetni::FiyatSütunu, 14, true}, {KullanımMetni::KdvSütunu, 8, true},
-            {KullanımMetni::KdvliSütunu, 14, true}, {ÜrünMetni::DikkatSütunu, 22}};
+    return {{MetinNo::GrubuSütunu, 14},
+            {MetinNo::ÜrünSütunu, 26},
+            {KullanımMetni::FiyatSütunu, 14, true},
+            {KullanımMetni::KdvSütunu, 8, true},
+            {KullanımMetni::KdvliSütunu, 14, true},
+            {ÜrünMetni::DikkatSütunu, 22}};
 }
 
 void SatışSatırları::Al(const std::vector<MaliyetTablosuSatırı>& ürünler) {

@@ -21,9 +21,9 @@ class SatışSatırları : public TabloKaynağı {
         std::uint32_t AdSırası = 0;
         Para Toplam;  // as the main form shows it
         unsigned Dikkat = 0;
-        std::optional<Para> Fiyat;   // nothing: beyond the range of money
-        std::optional<Para> Kdvli;   // nothing as well without a rate
-        bool İstenen = false;        // the user's tick, also while the price allows none
+        std::optional<Para> Fiyat;  // nothing: beyond the range of money
+        std::optional<Para> Kdvli;  // nothing as well without a rate
+        bool İstenen = false;       // the user's tick, also while the price allows none
     };
     std::vector<Satır> Satırlar;
     std::optional<Para> Oran;

@@ -43,23 +43,23 @@ void MalzemeKutusu::MalzemeleriKoy(const QList<Öğe>& öğeler) {
     }
     // A name counts before another one's text.
     for (std::uint32_t i = 0; i < m_metinler.size(); ++i) m_yerler.BulYaDaEkle(m_metinler[i].toStdString(), i);
-    {
-        const QSignalBlocker sessiz(this);
-        m_liste->setStringList(m_metinler);
-        setCurrentIndex(-1);
-        setEditText(önceki);
-    }
+    const QSignalBlocker sessiz(this);
+    m_liste->setStringList(m_metinler);
     m_seçilen = Bul(önceki);
+    setCurrentIndex(m_seçilen ? static_cast<int>(*m_seçilen) : -1);
+    if (!m_seçilen) setEditText(önceki);
 }
 
 std::optional<std::size_t> MalzemeKutusu::Bul(const QString& metin) const {
-    const std::uint32_t yer = m_yerler.Bul(metin.simplified().toStdString());
-    if (yer == AdDizini::YOK) return std::nullopt;
-    return yer;
+    for (const QString& ad : {metin, metin.simplified()}) {  // a name may have blanks around it
+        const std::uint32_t yer = m_yerler.Bul(ad.toStdString());
+        if (yer != AdDizini::YOK) return yer;
+    }
+    return std::nullopt;
 }
 
 void MalzemeKutusu::Seç(std::size_t yer) {
-    setEditText(m_metinler[static_cast<qsizetype>(yer)]);
+    setCurrentIndex(static_cast<int>(yer));
 }
 
 bool MalzemeKutusu::AdıylaSeç(const QString& ad) {
