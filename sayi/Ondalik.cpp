@@ -33,6 +33,20 @@ bool YukarıMı(std::string_view rakamlar, std::size_t yer, Yarım yarım) {
     return (rakamlar[yer - 1] - '0') % 2 != 0;
 }
 
+// Without needless zeros in front, and without a sign of zero.
+Ondalık Yalınlaştır(Ondalık sayı) {
+    const std::size_t fazla = sayı.Tam().find_first_not_of('0');
+    sayı.Rakamlar.erase(0, std::min(fazla, sayı.Tam().size() - 1));
+    if (sayı.Eksi) sayı.Eksi = !HepsiSıfır(sayı.Rakamlar);
+    return sayı;
+}
+
+// All digits, with `basamak` decimals and zeros in front up to `boy` digits.
+std::string Hizala(const Ondalık& sayı, std::size_t boy, std::size_t basamak) {
+    std::string rakamlar = sayı.Rakamlar + std::string(basamak - sayı.Basamak, '0');
+    return rakamlar.insert(0, boy - rakamlar.size(), '0');
+}
+
 std::uint64_t Büyüklük(std::int64_t sayı) {
     return sayı < 0 ? 0 - static_cast<std::uint64_t>(sayı) : static_cast<std::uint64_t>(sayı);
 }
@@ -47,6 +61,40 @@ Ondalık Yuvarla(Ondalık sayı, int basamak, Yarım yarım) {
     if (yukarı) BirArtır(sayı.Rakamlar);
     if (sayı.Eksi) sayı.Eksi = !HepsiSıfır(sayı.Rakamlar);
     return sayı;
+}
+
+Ondalık Çarp(const Ondalık& a, const Ondalık& b) {
+    std::string rakamlar(a.Rakamlar.size() + b.Rakamlar.size(), 0);  // digits as numbers, the last one first
+    for (std::size_t i = 0; i < a.Rakamlar.size(); ++i) {
+        int elde = 0;
+        for (std::size_t j = 0; j < b.Rakamlar.size() || elde > 0; ++j) {
+            const int çarpan = j < b.Rakamlar.size() ? b.Rakamlar[b.Rakamlar.size() - 1 - j] - '0' : 0;
+            const int hane = rakamlar[i + j] + (a.Rakamlar[a.Rakamlar.size() - 1 - i] - '0') * çarpan + elde;
+            rakamlar[i + j] = static_cast<char>(hane % 10);
+            elde = hane / 10;
+        }
+    }
+    for (char& rakam : rakamlar) rakam = static_cast<char>(rakam + '0');
+    std::reverse(rakamlar.begin(), rakamlar.end());
+    return Yalınlaştır({a.Eksi != b.Eksi, std::move(rakamlar), a.Basamak + b.Basamak});
+}
+
+Ondalık Topla(const Ondalık& a, const Ondalık& b) {
+    const std::size_t basamak = std::max(a.Basamak, b.Basamak);
+    const std::size_t boy = std::max(a.Tam().size(), b.Tam().size()) + basamak;
+    std::string büyük = Hizala(a, boy, basamak);
+    std::string küçük = Hizala(b, boy, basamak);
+    const bool takas = büyük < küçük;
+    if (takas) std::swap(büyük, küçük);
+    const bool çıkar = a.Eksi != b.Eksi;
+    int elde = 0;
+    for (std::size_t yer = boy; yer-- > 0;) {
+        const int hane = büyük[yer] - '0' + (çıkar ? -(küçük[yer] - '0') : küçük[yer] - '0') + elde;
+        elde = hane < 0 ? -1 : hane / 10;
+        büyük[yer] = static_cast<char>('0' + (hane + 10) % 10);
+    }
+    if (elde > 0) büyük.insert(0, 1, '1');
+    return Yalınlaştır({takas ? b.Eksi : a.Eksi, std::move(büyük), basamak});
 }
 
 std::optional<Ondalık> OnBeşHaneyle(double değer) {

@@ -23,6 +23,10 @@ enum class Yarım { Çifte, SıfırdanUzağa };
 // The number with exactly `basamak` decimals.
 Ondalık Yuvarla(Ondalık sayı, int basamak, Yarım yarım);
 
+// Exact, with as many digits as it takes.
+Ondalık Çarp(const Ondalık& a, const Ondalık& b);
+Ondalık Topla(const Ondalık& a, const Ondalık& b);
+
 // The value's 15 significant digits; what stands behind them is noise of the binary form. Not finite: nullopt.
 std::optional<Ondalık> OnBeşHaneyle(double değer);
 

@@ -16,18 +16,6 @@ void Kapat(QWidget& form) {
     QTest::keyClick(&form, Qt::Key_Escape);
 }
 
-// Saves what the form prints under this name among the pictures.
-void PdfKaydet(Tur& tur, QWidget& form, const QString& ad) {
-    const QString yol = tur.Klasör() + u'/' + ad + u".pdf"_s;
-    Tur::Kipli([&] { Tur::Tıkla(Tur::Bul<QAbstractButton>(form, u"PdfKaydetButonu"_s)); },
-               [&](QWidget& kutu) {
-                   auto& adKutusu = Tur::Bul<QLineEdit>(kutu, u"fileNameEdit"_s);
-                   Tur::Yaz(adKutusu, yol);
-                   QTest::keyClick(&adKutusu, Qt::Key_Return);
-               });
-    if (!QFile::exists(yol)) throw TurHatası(u"no PDF: "_s + yol);
-}
-
 Sahne RaporSahnesi(const QString& ad, const QString& düğme, const std::function<void(Tur&, QWidget&)>& dahası) {
     return {ad, [=](Tur& tur, QWidget& anaForm) {
                 Tur::Kipli([&] { Tur::Tıkla(Tur::Bul<QAbstractButton>(anaForm, düğme)); },

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QFile>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -161,4 +162,15 @@ std::vector<Sahne> Sahneler() {
     for (Sahne& sahne : ÜrünSahneleri()) sahneler.push_back(std::move(sahne));
     for (Sahne& sahne : FiyatSahneleri()) sahneler.push_back(std::move(sahne));  // last: they change the data
     return sahneler;
+}
+
+void PdfKaydet(Tur& tur, QWidget& form, const QString& ad) {
+    const QString yol = tur.Klasör() + u'/' + ad + u".pdf"_s;
+    Tur::Kipli([&] { Tur::Tıkla(Tur::Bul<QAbstractButton>(form, u"PdfKaydetButonu"_s)); },
+               [&](QWidget& kutu) {
+                   auto& adKutusu = Tur::Bul<QLineEdit>(kutu, u"fileNameEdit"_s);
+                   Tur::Yaz(adKutusu, yol);
+                   QTest::keyClick(&adKutusu, Qt::Key_Return);
+               });
+    if (!QFile::exists(yol)) throw TurHatası(u"no PDF: "_s + yol);
 }

@@ -18,3 +18,5 @@ void Bas(QWidget& form, const QString& düğme);
 void Esc(QWidget& form);
 // Runs `iş` on the form that a menu entry opens.
 void MenüdenAç(QWidget& anaForm, const QString& giriş, const std::function<void(QWidget&)>& iş);
+// Saves what the form prints under this name among the pictures.
+void PdfKaydet(Tur& tur, QWidget& form, const QString& ad);

@@ -96,6 +96,7 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void BuluAç();
     void MalzemeKullanımınıGöster(const QString& malzeme);
     void MaliyetArşivi();
+    void SatışFiyatListesi();
 
     void FiyatMenüsünüKur();
     void ToplucaFiyatDeğiştir();

@@ -5,6 +5,7 @@
 #include <QMenuBar>
 
 #include "AnaForm.h"
+#include "DegisimIsi.h"
 #include "DovizKurlariFormu.h"
 #include "FiyatGecmisiFormu.h"
 #include "FiyatIsi.h"
@@ -20,9 +21,9 @@ void AnaForm::FiyatMenüsünüKur() {
     const auto girişEkle = [this, menü](const QString& ad, MetinNo metin, std::function<void()> iş) {
         menü->addAction(KomutOluştur(ad, metin, std::move(iş)));
     };
-    const auto değişirse = [this](bool (*iş)(QWidget*)) {
+    const auto değişirse = [this](bool (*iş)(const DeğişimÇevirici&, QWidget*)) {
         return [this, iş] {
-            if (iş(this)) FiyatlarDeğişti();
+            if (iş(DeğişimiÇevir, this)) FiyatlarDeğişti();
         };
     };
     girişEkle(QStringLiteral("TopluFiyatMenüsü"), MetinNo::TopluFiyatMenüsü, [this] { ToplucaFiyatDeğiştir(); });
@@ -37,7 +38,7 @@ void AnaForm::FiyatMenüsünüKur() {
         if (form.Uygulandı()) FiyatlarDeğişti();
     });
     girişEkle(QStringLiteral("FiyatGeçmişiMenüsü"), MetinNo::FiyatGeçmişiMenüsü, [this] {
-        FiyatGeçmişiFormu form(true, this);
+        FiyatGeçmişiFormu form(DeğişimiÇevir, this);
         if (form.Yükle()) form.exec();
         if (form.Uygulandı()) FiyatlarDeğişti();
     });
@@ -67,6 +68,6 @@ void AnaForm::FiyatlarDeğişti() {
 
 // From the material form: for looking only.
 void AnaForm::FiyatGeçmişiniGöster(const QString& malzeme, QWidget* sahip) {
-    FiyatGeçmişiFormu form(false, sahip);
+    FiyatGeçmişiFormu form({}, sahip);
     if (form.Yükle(malzeme)) form.exec();
 }

@@ -12,7 +12,11 @@
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "UrunMetinleri.h"
+#include "KullanilanMalzemeler.h"
+#include "KullanimMetinleri.h"
 #include "MiktarAlani.h"
+#include "NeredeKullaniliyorFormu.h"
+#include "SatisFiyatListesiFormu.h"
 #include "UrunAgaci.h"
 #include "UrunKopyalaFormu.h"
 
@@ -31,16 +35,19 @@ void AnaForm::ÜrünMenüsünüKur() {
                                            [this] { MaliyetDağılımınıGöster(); });
     m_komutlar.ÜrünKopyala =
         girişEkle(QStringLiteral("ÜrünKopyalaMenüsü"), ÜrünMetni::ÜrünKopyalaMenüsü, [this] { ÜrünüKopyala(); });
+    girişEkle(QStringLiteral("NeredeKullanılıyorMenüsü"), ÜrünMetni::NeredeKullanılıyorMenüsü,
+              [this] { MalzemeKullanımınıGöster(m_liste->SeçiliMalzeme()); });
     menü->addSeparator()->setObjectName(QStringLiteral("MenüÇizgisi5"));
     girişEkle(QStringLiteral("YarıMamulMenüsü"), ÜrünMetni::YarıMamulMenüsü, [this] { YarıMamuller(); });
     m_komutlar.YarıMamulAğacı = girişEkle(QStringLiteral("YarıMamulAğacıMenüsü"), ÜrünMetni::YarıMamulAğacıMenüsü,
                                           [this] { YarıMamulAğacı(); });
     menü->addSeparator()->setObjectName(QStringLiteral("MenüÇizgisi6"));
     girişEkle(QStringLiteral("MaliyetArşiviMenüsü"), ÜrünMetni::MaliyetArşiviMenüsü, [this] { MaliyetArşivi(); });
+    girişEkle(QStringLiteral("SatışFiyatListesiMenüsü"), ÜrünMetni::SatışFiyatListesiMenüsü,
+              [this] { SatışFiyatListesi(); });
     menü->addSeparator()->setObjectName(QStringLiteral("MenüÇizgisi7"));
-    girişEkle(QStringLiteral("BulMenüsü"), ÜrünMetni::BulMenüsü, [this] {
-        BuluAç();
-    })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F));
+    QAction* bul = girişEkle(QStringLiteral("BulMenüsü"), ÜrünMetni::BulMenüsü, [this] { BuluAç(); });
+    bul->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F));
 }
 
 // What is not saved does not count there. False: it was to be saved, and could not be.
@@ -85,13 +92,34 @@ void AnaForm::BuluAç() {
         ÜrüneGit(bulunan.Grup, bulunan.Ad);
 }
 
-void AnaForm::MalzemeKullanımınıGöster(const QString& malzeme) {
-    FiyatGeçmişiniGöster(malzeme, this);
-}
-
 void AnaForm::MaliyetArşivi() {
     MaliyetArşiviFormu form({m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()}, this);
     if (form.Yükle()) form.exec();
+}
+
+void AnaForm::SatışFiyatListesi() {
+    SatışFiyatListesiFormu form(this);
+    if (!form.Yükle()) return;
+    if (form.Boş()) {
+        MesajKutusuOrtala();
+        MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(ÜrünMetni::ÜrünYok));
+        return;
+    }
+    form.exec();
+}
+
+void AnaForm::MalzemeKullanımınıGöster(const QString& malzeme) {
+    NeredeKullanılıyorFormu form(this);
+    if (!form.Yükle(malzeme)) return;
+    if (form.Boş()) {
+        MesajKutusuOrtala();
+        MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam,
+                            Metin(KullanımMetni::KullanılanYok));
+        return;
+    }
+    const bool gidilir = form.exec() == QDialog::Accepted && form.Gidilecek();
+    if (form.Uygulandı()) FiyatlarDeğişti();
+    if (gidilir) ÜrüneGit(form.Gidilecek()->Grup, form.Gidilecek()->Ad);
 }
 
 // A product that is gone meanwhile leaves the selection as it is.

@@ -7,6 +7,7 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <limits>
 
 #include "BasamakGrafigi.h"
 #include "FiyatMetinleri.h"
@@ -14,6 +15,7 @@
 #include "GeriAlma.h"
 #include "GirisKutusu.h"
 #include "KatalogKaynagi.h"
+#include "MalzemeDegisimi.h"
 #include "MetinTablosu.h"
 #include "OdbcModulu.h"
 #include "Tablo.h"
@@ -60,15 +62,18 @@ class FiyatGeçmişiFormu::GeçmişKaynağı : public TabloKaynağı {
     struct Satır {
         Deyimler::Fiyat::Değişim Değişim;  // operation 0: a price that no operation wrote
         const Deyimler::Fiyat::İşlem* İşlem = nullptr;
+        bool Fiyatlı = true;  // false: the operation changed used rows and no price
     };
     std::vector<Satır> Satırlar;
 
     std::size_t SatırSayısı() const override { return Satırlar.size(); }
     QString Hücre(std::size_t satır, int sütun) const override {
-        const auto& [d, işlem] = Satırlar[satır];
+        const auto& [d, işlem, fiyatlı] = Satırlar[satır];
+        if (!fiyatlı && sütun >= GEski && sütun <= GYüzde) return {};
         switch (sütun) {
             case GMalzeme:
-                return d.Malzeme;
+                // An operation on used rows as a whole has no one material: what it did stands there.
+                return !fiyatlı && d.Malzeme.isEmpty() ? işlem->Açıklama : d.Malzeme;
             case GZaman:
                 return işlem ? ZamanOku(işlem->Zaman).toString(QStringLiteral("dd.MM.yyyy HH:mm")) : QString();
             case GEski:
@@ -108,8 +113,9 @@ class FiyatGeçmişiFormu::GeçmişKaynağı : public TabloKaynağı {
     QString Açıklama(std::size_t satır) const override { return Hücre(satır, GAçıklama); }
 };
 
-FiyatGeçmişiFormu::FiyatGeçmişiFormu(bool geriAlınır, QWidget* sahip)
+FiyatGeçmişiFormu::FiyatGeçmişiFormu(DeğişimÇevirici çevir, QWidget* sahip)
     : QDialog(sahip),
+      m_çevir(std::move(çevir)),
       m_malzemeler(std::make_unique<MalzemeKaynağı>()),
       m_geçmiş(std::make_unique<GeçmişKaynağı>()),
       m_malzemeModeli(std::make_unique<TabloModeli>(*m_malzemeler, MALZEME_SÜTUNLARI)),
@@ -117,7 +123,7 @@ FiyatGeçmişiFormu::FiyatGeçmişiFormu(bool geriAlınır, QWidget* sahip)
     setObjectName(QStringLiteral("FiyatGeçmişiFormu"));
     setWindowTitle(Metin(MetinNo::FiyatGeçmişiBaşlığı));
     KontrolleriKur();
-    m_geriAl->setVisible(geriAlınır);
+    m_geriAl->setVisible(static_cast<bool>(m_çevir));
     Yerleştir();
 }
 
@@ -241,6 +247,34 @@ const Deyimler::Fiyat::İşlem* FiyatGeçmişiFormu::İşlemiBul(std::int64_t no
     return sonuç;
 }
 
+// Beside the material's price changes, which stand from `ilk` on.
+İşSonucu FiyatGeçmişiFormu::DeğiştirmeleriEkle(std::size_t ilk, const QString& malzeme) {
+    std::vector<std::int64_t> işlemler;
+    const İşSonucu sonuç = MalzemeninDeğiştirmeleri(ODBCBağlantısı(), malzeme, işlemler);
+    for (const std::int64_t no : işlemler)
+        if (const Deyimler::Fiyat::İşlem* işlem = İşlemiBul(no))
+            m_geçmiş->Satırlar.push_back({{no, malzeme, {}, {}}, işlem, false});
+    const auto sıra = [](const GeçmişKaynağı::Satır& satır) {
+        return satır.İşlem ? satır.Değişim.İşlem : std::numeric_limits<std::int64_t>::max();
+    };
+    std::stable_sort(m_geçmiş->Satırlar.begin() + static_cast<std::ptrdiff_t>(ilk), m_geçmiş->Satırlar.end(),
+                     [&sıra](const auto& a, const auto& b) { return sıra(a) > sıra(b); });
+    return sonuç;
+}
+
+// Replacements and their taking back, each in one row without a material, down to the last operation that is shown.
+void FiyatGeçmişiFormu::HerDeğiştirmeyiEkle() {
+    std::vector<GeçmişKaynağı::Satır>& satırlar = m_geçmiş->Satırlar;
+    const std::int64_t son = m_fazlaVar ? satırlar.back().Değişim.İşlem : 0;
+    for (const Deyimler::Fiyat::İşlem& işlem : m_işlemler) {
+        const Deyimler::Fiyat::İşlem* asıl = işlem.Karşılığı == 0 ? &işlem : İşlemiBul(işlem.Karşılığı);
+        if (işlem.No >= son && asıl && MalzemeDeğişimiMi(*asıl))
+            satırlar.push_back({{işlem.No, {}, {}, {}}, &işlem, false});
+    }
+    std::stable_sort(satırlar.begin(), satırlar.end(),
+                     [](const auto& a, const auto& b) { return a.Değişim.İşlem > b.Değişim.İşlem; });
+}
+
 void FiyatGeçmişiFormu::GeçmişiOku() {
     m_geçmiş->Satırlar.clear();
     m_fazlaVar = false;
@@ -250,12 +284,15 @@ void FiyatGeçmişiFormu::GeçmişiOku() {
         if (!m_malzemeler->İşaretliler[i]) continue;
         const KatalogMalzemesi& malzeme = m_malzemeler->Malzemeler[i];
         diziler.append({malzeme.Ad, malzeme.Fiyat.Double(), {}});
+        const std::size_t ilk = m_geçmiş->Satırlar.size();
         sonuç = MalzemeninGeçmişiniOku(malzeme, diziler.last());
+        if (sonuç.Tamam()) sonuç = DeğiştirmeleriEkle(ilk, malzeme.Ad);
     }
     if (diziler.isEmpty() && !m_işlemler.empty()) {
         std::vector<Deyimler::Fiyat::Değişim> değişimler;
         sonuç = DeğişimleriOku(ODBCBağlantısı(), Deyimler::Fiyat::Değişimler(), değişimler, EN_ÇOK_KAYIT, m_fazlaVar);
         for (const auto& değişim : değişimler) m_geçmiş->Satırlar.push_back({değişim, İşlemiBul(değişim.İşlem)});
+        HerDeğiştirmeyiEkle();
     }
     // Not read is not empty, and a part is no history: the box says why.
     if (!sonuç.Tamam()) {
@@ -285,7 +322,7 @@ void FiyatGeçmişiFormu::DüğmeyiAyarla() {
 
 void FiyatGeçmişiFormu::GeriAl() {
     const Deyimler::Fiyat::İşlem* işlem = Seçiliİşlem();
-    if (!işlem || !İşlemiGeriAl(Deyimler::Fiyat::İşlem(*işlem), this)) return;
+    if (!işlem || !İşlemiGeriAl(Deyimler::Fiyat::İşlem(*işlem), m_çevir, this)) return;
     m_uygulandı = true;
     static_cast<void>(Yükle());
 }

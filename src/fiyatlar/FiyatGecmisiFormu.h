@@ -17,8 +17,8 @@ class Tablo;
 // Every recorded price change: of the ticked materials, with a plot; without a tick the latest of all.
 class FiyatGeçmişiFormu : public QDialog {
   public:
-    // `geriAlınır`: offers to take operations back.
-    FiyatGeçmişiFormu(bool geriAlınır, QWidget* sahip);
+    // `çevir`: takes back what changed used rows. Empty: nothing is taken back from here.
+    FiyatGeçmişiFormu(DeğişimÇevirici çevir, QWidget* sahip);
     ~FiyatGeçmişiFormu() override;
 
     // Reads the catalogue and the records; ticks stay, `malzeme` gets one. False: the user has been told why not.
@@ -32,12 +32,15 @@ class FiyatGeçmişiFormu : public QDialog {
     void KontrolleriKur();
     void Yerleştir();
     void GeçmişiOku();
+    İşSonucu DeğiştirmeleriEkle(std::size_t ilk, const QString& malzeme);
+    void HerDeğiştirmeyiEkle();
     İşSonucu MalzemeninGeçmişiniOku(const KatalogMalzemesi& malzeme, BasamakDizisi& dizi);
     const Deyimler::Fiyat::İşlem* İşlemiBul(std::int64_t no) const;
     void GeriAl();
     void DüğmeyiAyarla();
     const Deyimler::Fiyat::İşlem* Seçiliİşlem() const;
 
+    DeğişimÇevirici m_çevir;
     bool m_uygulandı = false;
     bool m_fazlaVar = false;  // more records than are shown
     std::vector<Deyimler::Fiyat::İşlem> m_işlemler;

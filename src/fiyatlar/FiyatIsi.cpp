@@ -6,6 +6,7 @@
 #include "FiyatMetinleri.h"
 #include "FiyatOnizlemeFormu.h"
 #include "GeriAlma.h"
+#include "MalzemeDegisimi.h"
 #include "IlerlemeKutusu.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
@@ -20,7 +21,8 @@ void Bildir(MetinNo metin) {
     MesajKutusu::Göster(MesajKutusu::Simge::Bilgi, MesajKutusu::Düğmeler::Tamam, Metin(metin));
 }
 
-bool GeriAlYaDaYinele(const İşlem& işlem, İşlemTürü tür, QWidget* sahip) {
+bool GeriAlYaDaYinele(const İşlem& işlem, İşlemTürü tür, const DeğişimÇevirici& çevir, QWidget* sahip) {
+    if (MalzemeDeğişimiMi(işlem)) return çevir(işlem, tür, sahip);
     const MetinNo açıklama = tür == İşlemTürü::GeriAlma ? MetinNo::GeriAlmaAçıklaması : MetinNo::YinelemeAçıklaması;
     const Fiyatİşi iş{{tür, Metin(açıklama).arg(işlem.No).arg(işlem.Açıklama), işlem.No, işlem.GeriAlan},
                       [işlem, tür](FiyatTeklifi& teklif, QStringList& notlar) {
@@ -35,7 +37,7 @@ bool GeriAlYaDaYinele(const İşlem& işlem, İşlemTürü tür, QWidget* sahip)
 }
 
 bool SonuncuyuYürüt(std::optional<İşlem> (*bul)(const std::vector<İşlem>&), İşlemTürü tür, MetinNo yok,
-                    QWidget* sahip) {
+                    const DeğişimÇevirici& çevir, QWidget* sahip) {
     std::vector<İşlem> işlemler;
     const İşSonucu sonuç = İşlemleriOku(ODBCBağlantısı(), işlemler);
     if (!sonuç.Tamam()) {
@@ -47,7 +49,7 @@ bool SonuncuyuYürüt(std::optional<İşlem> (*bul)(const std::vector<İşlem>&)
         Bildir(yok);
         return false;
     }
-    return GeriAlYaDaYinele(*işlem, tür, sahip);
+    return GeriAlYaDaYinele(*işlem, tür, çevir, sahip);
 }
 
 }  // namespace
@@ -63,14 +65,14 @@ bool FiyatİşiniYürüt(const Fiyatİşi& iş, QWidget* sahip) {
     return form.PlanıKur() && form.exec() == QDialog::Accepted;
 }
 
-bool İşlemiGeriAl(const İşlem& işlem, QWidget* sahip) {
-    return GeriAlYaDaYinele(işlem, İşlemTürü::GeriAlma, sahip);
+bool İşlemiGeriAl(const İşlem& işlem, const DeğişimÇevirici& çevir, QWidget* sahip) {
+    return GeriAlYaDaYinele(işlem, İşlemTürü::GeriAlma, çevir, sahip);
 }
 
-bool SonİşlemiGeriAl(QWidget* sahip) {
-    return SonuncuyuYürüt(GeriAlınacakİşlem, İşlemTürü::GeriAlma, MetinNo::GeriAlınacakYok, sahip);
+bool SonİşlemiGeriAl(const DeğişimÇevirici& çevir, QWidget* sahip) {
+    return SonuncuyuYürüt(GeriAlınacakİşlem, İşlemTürü::GeriAlma, MetinNo::GeriAlınacakYok, çevir, sahip);
 }
 
-bool SonGeriAlınanıYinele(QWidget* sahip) {
-    return SonuncuyuYürüt(YinelenecekİşlemiBul, İşlemTürü::Yineleme, MetinNo::YinelenecekYok, sahip);
+bool SonGeriAlınanıYinele(const DeğişimÇevirici& çevir, QWidget* sahip) {
+    return SonuncuyuYürüt(YinelenecekİşlemiBul, İşlemTürü::Yineleme, MetinNo::YinelenecekYok, çevir, sahip);
 }

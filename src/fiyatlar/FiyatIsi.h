@@ -20,10 +20,14 @@ struct Fiyatİşi {
 // Makes the plan, shows it, carries it out if the user wants it. True: carried out.
 bool FiyatİşiniYürüt(const Fiyatİşi& iş, QWidget* sahip);
 
+// Takes back (GeriAlma) or puts forward (Yineleme) an operation that changed used rows and no prices. The room that has
+// such operations supplies it. True: carried out.
+using DeğişimÇevirici = std::function<bool(const Deyimler::Fiyat::İşlem& işlem, İşlemTürü tür, QWidget* sahip)>;
+
 // "Geri Al" and "Yinele" for one operation; where there is nothing to be done a message says so.
-bool İşlemiGeriAl(const Deyimler::Fiyat::İşlem& işlem, QWidget* sahip);
-bool SonİşlemiGeriAl(QWidget* sahip);
-bool SonGeriAlınanıYinele(QWidget* sahip);
+bool İşlemiGeriAl(const Deyimler::Fiyat::İşlem& işlem, const DeğişimÇevirici& çevir, QWidget* sahip);
+bool SonİşlemiGeriAl(const DeğişimÇevirici& çevir, QWidget* sahip);
+bool SonGeriAlınanıYinele(const DeğişimÇevirici& çevir, QWidget* sahip);
 
 // Shows why reading or writing failed, a box for each error. Nothing for success and where the user gave up.
 void İşSonucunuGöster(const İşSonucu& sonuç);

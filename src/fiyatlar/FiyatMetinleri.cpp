@@ -1,6 +1,7 @@
 #include "FiyatMetinleri.h"
 
 #include "DegiskenModulu.h"
+#include "KullanimMetinleri.h"
 #include "MetinTablosu.h"
 #include "SayiMetni.h"
 #include "YariMamulMetinleri.h"
@@ -97,6 +98,8 @@ QString TürMetni(const QString& sözcük) {
             return Metin(MetinNo::TürGeriAlma);
         case İşlemTürü::YarıMamul:
             return Metin(YarıMamulMetni::TürYarıMamul);
+        case İşlemTürü::Değiştir:
+            return Metin(KullanımMetni::TürDeğiştir);
         case İşlemTürü::Yineleme:
             break;
     }

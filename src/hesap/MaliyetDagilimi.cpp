@@ -8,48 +8,6 @@
 
 namespace {
 
-// Digits of one length.
-std::string BüyüklükleriTopla(const std::string& a, const std::string& b) {
-    std::string sonuç(a.size() + 1, '0');
-    int elde = 0;
-    for (std::size_t i = a.size(); i-- > 0;) {
-        const int basamak = (a[i] - '0') + (b[i] - '0') + elde;
-        sonuç[i + 1] = static_cast<char>('0' + basamak % 10);
-        elde = basamak / 10;
-    }
-    sonuç[0] = static_cast<char>('0' + elde);
-    return sonuç;
-}
-
-// `a` is not below `b`.
-std::string BüyüklüktenÇıkar(const std::string& a, const std::string& b) {
-    std::string sonuç(a.size(), '0');
-    int ödünç = 0;
-    for (std::size_t i = a.size(); i-- > 0;) {
-        const int basamak = (a[i] - b[i]) - ödünç;
-        ödünç = basamak < 0 ? 1 : 0;
-        sonuç[i] = static_cast<char>('0' + basamak + 10 * ödünç);
-    }
-    return sonuç;
-}
-
-// Of numbers with equally many decimals.
-Ondalık Topla(Ondalık a, Ondalık b) {
-    const std::size_t boy = std::max(a.Rakamlar.size(), b.Rakamlar.size());
-    a.Rakamlar.insert(0, boy - a.Rakamlar.size(), '0');
-    b.Rakamlar.insert(0, boy - b.Rakamlar.size(), '0');
-    if (a.Eksi == b.Eksi) {
-        a.Rakamlar = BüyüklükleriTopla(a.Rakamlar, b.Rakamlar);
-    } else {
-        if (a.Rakamlar < b.Rakamlar) std::swap(a, b);
-        a.Rakamlar = BüyüklüktenÇıkar(a.Rakamlar, b.Rakamlar);
-    }
-    const std::size_t ilk = std::min(a.Rakamlar.find_first_not_of('0'), a.Rakamlar.size() - a.Basamak - 1);
-    a.Rakamlar.erase(0, ilk);
-    a.Eksi = a.Eksi && a.Rakamlar.find_first_not_of('0') != std::string::npos;
-    return a;
-}
-
 Ondalık Eksilisi(Ondalık sayı) {
     sayı.Eksi = !sayı.Eksi;
     return sayı;

@@ -179,9 +179,29 @@ UygulamaSonucu KuruYaz(OdbcBağlantısı& bağlantı, const FiyatPlanı& plan, s
 
 }  // namespace
 
+UygulamaSonucu İşlemiAç(OdbcBağlantısı& bağlantı, OdbcHareketi& hareket, const İşlemBilgisi& bilgi,
+                        Deyimler::Fiyat::İşlem& işlem) {
+    işlem.Tür = TürSözcüğü(bilgi.Tür);
+    işlem.Açıklama = bilgi.Açıklama;
+    işlem.Karşılığı = bilgi.Karşılığı;
+    bool tablolarVar = false;
+    if (const İşSonucu s = FiyatTablolarıVar(bağlantı, tablolarVar); !s.Tamam()) return Olmadı(s.Odbc);
+    if (const İşSonucu s = SıradakiİşlemNo(bağlantı, tablolarVar, işlem.No); !s.Tamam()) return Olmadı(s.Odbc);
+    if (const OdbcSonucu s = hareket.Başla(); !s.Başarılı()) return Olmadı(s);
+    if (const İşSonucu s = İşlemiYaz(bağlantı, tablolarVar, işlem); !s.Tamam()) return Olmadı(s.Odbc);
+    if (bilgi.Karşılığı == 0) return {};
+    const bool geri = bilgi.Tür == İşlemTürü::GeriAlma;
+    const OdbcSonucu s =
+        bağlantı.Çalıştır(Deyimler::Fiyat::GeriAlanıYaz(bilgi.Karşılığı, bilgi.KarşılığıGeriAlan, geri ? işlem.No : 0));
+    if (!s.Başarılı()) return Olmadı(s);
+    if (s.Etkilenen != 1) return {UygulamaSonu::İşlemDeğişmiş, s, {}};
+    return {};
+}
+
 UygulamaSonucu FiyatlarıUygula(OdbcBağlantısı& bağlantı, const FiyatPlanı& plan, const İşlemBilgisi& bilgi,
                                const QString& zaman, const İlerleme& ilerleme) {
-    Deyimler::Fiyat::İşlem işlem{0, zaman, TürSözcüğü(bilgi.Tür), bilgi.Açıklama, bilgi.Karşılığı, 0};
+    Deyimler::Fiyat::İşlem işlem;
+    işlem.Zaman = zaman;
     if (const std::optional<KurDeğişimi>& kur = plan.DövizKuru()) {
         işlem.DövizKodu = kur->Kod;
         işlem.EskiKur = kur->Eski;
@@ -194,20 +214,8 @@ UygulamaSonucu FiyatlarıUygula(OdbcBağlantısı& bağlantı, const FiyatPlanı
         const QString tablo = QString::fromLatin1(Deyimler::YarıMamul::TABLO);
         if (const OdbcSonucu s = bağlantı.TabloVar(tablo, bağTablosuVar); !s.Başarılı()) return Olmadı(s);
     }
-    bool tablolarVar = false;
-    if (const İşSonucu s = FiyatTablolarıVar(bağlantı, tablolarVar); !s.Tamam()) return Olmadı(s.Odbc);
-    if (const İşSonucu s = SıradakiİşlemNo(bağlantı, tablolarVar, işlem.No); !s.Tamam()) return Olmadı(s.Odbc);
-
     OdbcHareketi hareket(bağlantı);  // rolls back on every way out but the commit's success
-    if (const OdbcSonucu s = hareket.Başla(); !s.Başarılı()) return Olmadı(s);
-    if (const İşSonucu s = İşlemiYaz(bağlantı, tablolarVar, işlem); !s.Tamam()) return Olmadı(s.Odbc);
-    if (bilgi.Karşılığı != 0) {
-        const bool geri = bilgi.Tür == İşlemTürü::GeriAlma;
-        const OdbcSonucu s = bağlantı.Çalıştır(
-            Deyimler::Fiyat::GeriAlanıYaz(bilgi.Karşılığı, bilgi.KarşılığıGeriAlan, geri ? işlem.No : 0));
-        if (!s.Başarılı()) return Olmadı(s);
-        if (s.Etkilenen != 1) return {UygulamaSonu::İşlemDeğişmiş, s, {}};
-    }
+    if (UygulamaSonucu s = İşlemiAç(bağlantı, hareket, bilgi, işlem); s.Son != UygulamaSonu::Tamam) return s;
     if (plan.DövizKuru())
         if (UygulamaSonucu s = KuruYaz(bağlantı, plan, işlem.No); s.Son != UygulamaSonu::Tamam) return s;
     Yazıcı yazıcı(bağlantı, işlem.No);

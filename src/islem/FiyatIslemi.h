@@ -6,6 +6,8 @@
 #include "FiyatKayitlari.h"
 #include "FiyatPlani.h"
 
+class OdbcHareketi;
+
 // Carrying a plan out: every price of its ticked materials, in the catalogue and in every used row, with the
 // operation's record, in one transaction; all of it or nothing.
 
@@ -28,6 +30,11 @@ struct [[nodiscard]] UygulamaSonucu {
     OdbcSonucu Odbc;  // of what failed
     QString Malzeme;  // where the data differ
 };
+
+// Begins the transaction with the operation's record (its number, kind, description and counterpart are filled in here)
+// and marks the operation that it takes back or puts forward. To be called before anything else is read or written.
+UygulamaSonucu İşlemiAç(OdbcBağlantısı& bağlantı, OdbcHareketi& hareket, const İşlemBilgisi& bilgi,
+                        Deyimler::Fiyat::İşlem& işlem);
 
 // `zaman`: local, "yyyy-MM-dd HH:mm:ss". `ilerleme` is told how many materials are done; it is not asked any more once
 // committing has begun.

@@ -7,7 +7,7 @@
 namespace {
 
 // The stored words are part of the file format.
-constexpr const char* SÖZCÜKLER[] = {"elle", "toplu", "liste", "kur", "geri", "yine", "yari"};
+constexpr const char* SÖZCÜKLER[] = {"elle", "toplu", "liste", "kur", "geri", "yine", "yari", "degistir"};
 
 }  // namespace
 

@@ -17,7 +17,8 @@ enum class İşlemTürü {
     Kur,    // a currency's rate
     GeriAlma,
     Yineleme,  // putting forward again what was taken back
-    YarıMamul  // the price with which a material was tied to its product
+    YarıMamul,  // the price with which a material was tied to its product
+    Değiştir    // a material put in another one's place; it changes used rows, and no price of the catalogue
 };
 QString TürSözcüğü(İşlemTürü tür);  // as it is stored
 std::optional<İşlemTürü> SözcüğünTürü(const QString& sözcük);

@@ -136,6 +136,7 @@ void SırayaKoy(std::vector<MaliyetTablosuSatırı>& satırlar) {
         satır.Grup = ürün.Grup;
         satır.Ad = ürün.Ad;
         if (ürün.İkiKez) satır.Dikkat |= İkiKezYazılmış;
+        satır.YarıMamul = !bağlar->Boş() && bağlar->ÜrününBağıVar({ürün.Grup, ürün.Ad});
     }
     Toplayıcı toplayıcı(ürünler, malzemeler, basamak, *bağlar, satırlar);
     std::int64_t okunan = 0;

@@ -32,6 +32,7 @@ struct MaliyetTablosuSatırı {
     Para Toplam;                                    // as shown
     std::optional<double> BirimMaliyet;             // nothing: several units, or no quantity
     unsigned Dikkat = 0;                            // of DikkatNedeni
+    bool YarıMamul = false;                         // a material stands for it
 };
 
 // Every product of the product table once, in the tree's order. `basamak`: the decimals that the main form shows.

@@ -13,6 +13,7 @@ class YardımMenüsü : public AnaFormOrtamı {
         ÜrünEkle("MASA", "Sehpa");
         KullanımEkle("MASA", "Sehpa", "Çam Kereste", "2,5 Metre", "4");
         MalzemeEkle("Çam Kereste", "4");
+        MalzemeEkle("Meşe Kereste", "9");
         Aç();
     }
 
@@ -30,6 +31,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     FormuOku();
     Tıkla("İçindekilerMenüsü");
     const char* tarih = "GünlükMalzemeHareketleriGösterButonu";
+    const char* nerede = "NeredeKullanılıyorMenüsü";
     const char* toplu = "TopluFiyatMenüsü";
     const char* arşiv = "MaliyetArşiviMenüsü";
     for (const auto& [açan, form] : {std::pair("ÜrünEkleSilMenüsü", "ÜrünEkleSilFormu"),
@@ -42,9 +44,11 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {"MaliyetTablosuMenüsü", "MaliyetTablosuFormu"},
                                      {"MaliyetDağılımıMenüsü", "MaliyetDağılımıFormu"},
                                      {"ÜrünKopyalaMenüsü", "ÜrünKopyalaFormu"},
+                                     {nerede, "NeredeKullanılıyorFormu"},
                                      {"YarıMamulMenüsü", "YarıMamulFormu"},
                                      {"YarıMamulAğacıMenüsü", "YarıMamulAğacıFormu"},
                                      {arşiv, "MaliyetArşiviFormu"},
+                                     {"SatışFiyatListesiMenüsü", "SatışFiyatListesiFormu"},
                                      {"BulMenüsü", "BulFormu"},
                                      {toplu, "TopluFiyatFormu"},
                                      {"FiyatListesiAlMenüsü", "FiyatListesiAlFormu"},
@@ -53,7 +57,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {"HakkındaMenüsü", "HakkındaFormu"},
                                      {"HataBildirmeMenüsü", "HataBildirmeFormu"}}) {
         SCOPED_TRACE(form);
-        Modal(açan, form, [this, açan = açan, tarih, toplu, arşiv] {
+        Modal(açan, form, [this, açan = açan, tarih, toplu, arşiv, nerede] {
             FormuOku();
             if (açan == tarih) Modal("TarihDeğiştirButonu", "TarihDeğiştirFormu", [this] { FormuOku(); });
             if (açan == arşiv) {
@@ -66,6 +70,12 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                     ErişimiDenetle(Form());
                 }
             }
+            if (açan == nerede)
+                Modal("DeğiştirButonu", "MalzemeDeğiştirFormu", [this] {
+                    FormuOku();
+                    Yaz("YeniMalzemeListesi", "Meşe Kereste");
+                    Modal("ÖnizleButonu", "DeğişimÖnizlemeFormu", [this] { FormuOku(); });
+                });
             if (açan != toplu) return;
             Tıkla("TümünüSeçButonu");
             Yaz("OranKutusu", "10");
@@ -77,10 +87,10 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     EXPECT_EQ(sayfalar.join(' '),
               "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu MalzemeListesiOlusturFormu MiktarGosterFormu "
               "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu MaliyetTablosuFormu "
-              "MaliyetDagilimiFormu UrunKopyalaFormu YariMamulFormu YariMamulAgaciFormu MaliyetArsiviFormu "
-              "ArsivFoyuFormu BulFormu TopluFiyatFormu "
-              "FiyatOnizlemeFormu FiyatListesiAlFormu DovizKurlariFormu FiyatGecmisiFormu HakkindaFormu "
-              "HataBildirmeFormu");
+              "MaliyetDagilimiFormu UrunKopyalaFormu NeredeKullaniliyorFormu MalzemeDegistirFormu "
+              "DegisimOnizlemeFormu YariMamulFormu YariMamulAgaciFormu MaliyetArsiviFormu ArsivFoyuFormu "
+              "SatisFiyatListesiFormu BulFormu TopluFiyatFormu FiyatOnizlemeFormu FiyatListesiAlFormu "
+              "DovizKurlariFormu FiyatGecmisiFormu HakkindaFormu HataBildirmeFormu");
 }
 
 }  // namespace

@@ -150,6 +150,14 @@ void SayfaDüzeni::ParçalarıYaz(const QList<SatırParçası>& parçalar, bool 
     }
 }
 
+void SayfaDüzeni::AltYazıYaz(const QString& metin) {
+    const QList<SatırParçası> parçalar =
+        Yerleştir({{metin, HücreTürü::Metin, static_cast<double>(m_yerler.constFirst().Konum), 0}});
+    SayfaSonunaBak(AltBoşluk + SatırSayısı(parçalar) * m_yüzey.SatırYüksekliği());
+    m_yüzey.YAyarla(m_yüzey.Y() + m_yüzey.SatırYüksekliği());
+    ParçalarıYaz(parçalar, true);
+}
+
 void SayfaDüzeni::ÖzetSatırıYaz(const QString& etiket, const QString& değer) {
     ParçalarıYaz(ÖzetiYerleştir(etiket, değer), false);
 }

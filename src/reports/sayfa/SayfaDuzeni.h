@@ -45,6 +45,9 @@ class SayfaDüzeni {
     // new page. What its first cell says there, if that is empty: yeniSayfada.
     void SatırYaz(const QStringList& hücreler, const QString& yeniSayfada = {});
 
+    // A text under the rows, over the page's width.
+    void AltYazıYaz(const QString& metin);
+
     // Label and value end at the right edges of the last two columns' captions.
     void ÖzetSatırıYaz(const QString& etiket, const QString& değer);
     // In the current font; millimetres.

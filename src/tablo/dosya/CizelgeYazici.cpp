@@ -154,9 +154,14 @@ YazmaSonucu ÇizelgeYazıcı::Aç() {
     kitap.Defter.reset(workbook_new_opt(kitap.DosyaAdı.constData(), &seçenekler));
     if (kitap.Defter) kitap.Sayfa = workbook_add_worksheet(kitap.Defter.get(), m_sayfaAdı.toUtf8().constData());
     if (!kitap.Sayfa) return kitap.İlkHata = Yazılamadı();
-    worksheet_freeze_panes(kitap.Sayfa, 1, 0);
     lxw_format* koyu = workbook_add_format(kitap.Defter.get());
     format_set_bold(koyu);
+    if (!m_üstYazı.isEmpty()) {
+        kitap.İlkHata = Çevir(kitap.Yaz(0, m_üstYazı, koyu));
+        if (!kitap.İlkHata.Tamam()) return kitap.İlkHata;
+        kitap.SonrakiSatır();
+    }
+    worksheet_freeze_panes(kitap.Sayfa, kitap.YazılanSatır + 1, 0);
     for (const ÇizelgeSütunu& sütun : std::as_const(m_sütunlar)) {
         const auto sıra = static_cast<lxw_col_t>(kitap.Biçimler.size());
         lxw_format* biçim = nullptr;

@@ -51,6 +51,9 @@ class ÇizelgeYazıcı {
     ÇizelgeYazıcı(const ÇizelgeYazıcı&) = delete;
     ÇizelgeYazıcı& operator=(const ÇizelgeYazıcı&) = delete;
 
+    // A line above the captions; "": none. To be said before Aç.
+    void ÜstYazıKoy(const QString& metin) { m_üstYazı = metin; }
+
     YazmaSonucu Aç();
     // Values behind the last column are not written.
     YazmaSonucu SatırEkle(const QList<ÇizelgeDeğeri>& değerler);
@@ -61,6 +64,7 @@ class ÇizelgeYazıcı {
 
     QString m_yol;
     QString m_sayfaAdı;
+    QString m_üstYazı;
     QList<ÇizelgeSütunu> m_sütunlar;
     std::unique_ptr<Kitap> m_kitap;
 };

@@ -1,0 +1,137 @@
+#include "DegisimOnizlemeFormu.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "CizelgeKaydi.h"
+#include "DegisimCiktilari.h"
+#include "FiyatIsi.h"
+#include "FormParcalari.h"
+#include "IlerlemeKutusu.h"
+#include "KullanimMetinleri.h"
+#include "MesajKutusu.h"
+#include "OdbcModulu.h"
+#include "Saat.h"
+#include "Tablo.h"
+#include "UrunMetinleri.h"
+#include "Yazdirma.h"
+
+using MesajKutusu::Simge;
+
+namespace {
+
+void Bildir(Simge simge, const QString& metin) {
+    MesajKutusuOrtala();
+    MesajKutusu::Göster(simge, MesajKutusu::Düğmeler::Tamam, metin);
+}
+
+}  // namespace
+
+DeğişimÖnizlemeFormu::DeğişimÖnizlemeFormu(const Değişimİşi& iş, QWidget* sahip)
+    : QDialog(sahip), m_iş(iş), m_kaynak(m_plan), m_model(m_kaynak, DeğişimSütunlarınıVer()) {
+    setObjectName(QStringLiteral("DeğişimÖnizlemeFormu"));
+    setWindowTitle(Metin(KullanımMetni::DeğişimÖnizlemeBaşlığı));
+    KontrolleriKur();
+    Yerleştir();
+}
+
+DeğişimÖnizlemeFormu::~DeğişimÖnizlemeFormu() {
+    delete m_tablo;  // before the model that it shows
+}
+
+void DeğişimÖnizlemeFormu::KontrolleriKur() {
+    m_özet = new QLabel;
+    m_özet->setObjectName(QStringLiteral("ÖzetEtiketi"));
+    m_özet->setWordWrap(true);
+    m_özet->setTextFormat(Qt::PlainText);
+    m_tablo = new Tablo(QStringLiteral("DeğişimTablosu"), m_model);
+    m_model.İşaretlenince([this] { ÖzetiYaz(); });
+    m_uygula = DüğmeOluştur(QStringLiteral("UygulaButonu"), MetinNo::Uygula, [this] { Uygula(); });
+    m_yazdır = DüğmeOluştur(QStringLiteral("YazdırButonu"), MetinNo::Yazdır,
+                            [this] { static_cast<void>(Yazdır(*this, *m_yazdır, Rapor())); });
+    m_pdf = DüğmeOluştur(QStringLiteral("PdfKaydetButonu"), MetinNo::PdfKaydet,
+                         [this] { PdfKaydet(*this, *m_pdf, Rapor()); });
+}
+
+void DeğişimÖnizlemeFormu::Yerleştir() {
+    auto* önizle =
+        DüğmeOluştur(QStringLiteral("ÖnizlemeButonu"), MetinNo::Önizleme, [this] { Önizle(*this, Rapor()); });
+    auto* aktar = DüğmeOluştur(QStringLiteral("TabloyaAktarButonu"), ÜrünMetni::TabloyaAktar, [this] { Çizelgeye(); });
+    auto* iptal = DüğmeOluştur(QStringLiteral("İptalButonu"), MetinNo::Vazgeç, [this] { reject(); });
+    auto* düzen = new QVBoxLayout(this);
+    düzen->addWidget(m_özet);
+    düzen->addWidget(TabloBölümü(1, MetinNo::ÜrünlerEtiketi, m_tablo), 1);
+    düzen->addLayout(DüğmeSırası({m_uygula, m_yazdır, m_pdf, önizle, aktar, nullptr, iptal}));
+    m_tablo->setFocus();
+    BoyVer(*this, {1160, 600});
+}
+
+bool DeğişimÖnizlemeFormu::PlanıKur() {
+    İşSonucu sonuç;
+    {
+        İlerlemeKutusu kutu(KullanımMetni::DeğişimHesaplanıyor, 0, isVisible() ? this : parentWidget());
+        sonuç = m_iş.PlanıKur(m_plan, [&kutu](std::int64_t okunan) { return kutu.Bildir(okunan); });
+    }
+    m_model.Yenile();
+    if (!sonuç.Tamam()) {
+        İşSonucunuGöster(sonuç);
+        return false;
+    }
+    if (m_plan.YeniYok()) Bildir(Simge::Ünlem, Metin(KullanımMetni::YeniMalzemeKatalogdaYok));
+    ÖzetiYaz();
+    return !m_plan.YeniYok();
+}
+
+void DeğişimÖnizlemeFormu::ÖzetiYaz() {
+    const DeğişimÖzeti özet = m_plan.Özet();
+    QStringList satırlar{m_iş.Bilgi.Açıklama,
+                         Metin(KullanımMetni::DeğişimÖzeti).arg(özet.Ürün).arg(özet.Silinen).arg(özet.Yazılan)};
+    if (özet.GünündenÇıkan > 0) satırlar.append(Metin(KullanımMetni::GünündenÇıkanSayısı).arg(özet.GünündenÇıkan));
+    if (özet.Dışarıda > 0) satırlar.append(Metin(KullanımMetni::DışarıdaKalanSayısı).arg(özet.Dışarıda));
+    m_özet->setText(satırlar.join(QLatin1Char('\n')));
+    m_uygula->setEnabled(özet.Ürün > 0);
+}
+
+void DeğişimÖnizlemeFormu::Uygula() {
+    UygulamaSonucu sonuç;
+    m_plan.GünüDeğiştir(Bugün());  // the preview may have been open over midnight
+    {
+        İlerlemeKutusu kutu(KullanımMetni::DeğişimYazılıyor, m_plan.Özet().Ürün, this);
+        sonuç = DeğişimiUygula(ODBCBağlantısı(), m_plan, m_iş.Bilgi, ŞimdikiZaman(),
+                               [&kutu](std::int64_t biten) { return kutu.Bildir(biten); });
+    }
+    SonucuGöster(sonuç);
+}
+
+void DeğişimÖnizlemeFormu::SonucuGöster(const UygulamaSonucu& sonuç) {
+    switch (sonuç.Son) {
+        case UygulamaSonu::Tamam:
+            accept();
+            return;
+        case UygulamaSonu::Vazgeçildi:
+            return;  // everything is as it was, the preview stays
+        case UygulamaSonu::Olmadı:
+            Bildir(Simge::Kritik, Metin(KullanımMetni::DeğişimYazılamadı)
+                                      .arg(OdbcİletileriniAl(sonuç.Odbc.Hatalar).join(QLatin1Char('\n'))));
+            return;
+        case UygulamaSonu::Değişmiş:
+            Bildir(Simge::Ünlem, Metin(MetinNo::VerilerDeğişmiş).arg(sonuç.Malzeme));
+            if (!PlanıKur()) reject();
+            return;
+        case UygulamaSonu::İşlemDeğişmiş:
+            Bildir(Simge::Ünlem, Metin(MetinNo::İşlemDeğişmiş));
+            reject();
+            return;
+    }
+}
+
+Yazdırılacak DeğişimÖnizlemeFormu::Rapor() const {
+    return {windowTitle(), [this](SayfaYüzeyi& yüzey) { DeğişimiYaz(yüzey, m_iş.Bilgi.Açıklama, m_kaynak, m_model); },
+            true, true};
+}
+
+void DeğişimÖnizlemeFormu::Çizelgeye() {
+    ÇizelgeyeKaydet(*this, windowTitle(),
+                    [this](const QString& yol) { return DeğişimiÇizelgeyeYaz(yol, windowTitle(), m_kaynak, m_model); });
+}
