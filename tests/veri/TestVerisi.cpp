@@ -83,15 +83,16 @@ std::string TestVerisi::Tek(const TestMetni& sql) {
 
 QList<QStringList> TestVerisi::HerSatır() {
     QList<QStringList> hepsi;
-    for (const char* ad : {"UrunTablosu", "MalzemeTablosu", "UrunMalzemeTablosu", "ArsivTablosu", "ArsivFoyTablosu",
-                           "ArsivSatirTablosu"}) {
+    const auto satırları = [&](const QString& ad) {
+        for (const QStringList& satır : Oku(QStringLiteral("SELECT * FROM ") + ad)) hepsi += QStringList(ad) + satır;
+    };
+    for (const char* ad : {"UrunTablosu", "MalzemeTablosu", "UrunMalzemeTablosu"}) satırları(QLatin1String(ad));
+    for (const char* ad : {"ArsivTablosu", "ArsivFoyTablosu", "ArsivSatirTablosu"}) {
         bool var = false;
         Başarmalı(m_bağlantı.TabloVar(QLatin1String(ad), var), QLatin1String(ad));
         if (!var) continue;
-        // Without rows it is there all the same; every file has the first three.
-        if (std::string_view(ad).starts_with("Arsiv")) hepsi += QStringList(QLatin1String(ad));
-        for (const QStringList& satır : Oku(QStringLiteral("SELECT * FROM ") + QLatin1String(ad)))
-            hepsi += QStringList(QLatin1String(ad)) + satır;
+        hepsi += QStringList(QLatin1String(ad));  // without rows it is there all the same
+        satırları(QLatin1String(ad));
     }
     std::sort(hepsi.begin(), hepsi.end());
     return hepsi;

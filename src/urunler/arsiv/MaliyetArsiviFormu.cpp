@@ -135,7 +135,8 @@ QWidget* MaliyetArşiviFormu::Arşivler() {
 void MaliyetArşiviFormu::Yerleştir() {
     auto* sayfalar = new QTabWidget;
     sayfalar->setObjectName(QStringLiteral("BölümSayfaları"));
-    sayfalar->setFocusPolicy(Qt::NoFocus);  // its row of tabs takes the keys
+    sayfalar->setFocusPolicy(Qt::NoFocus);
+    sayfalar->tabBar()->setFocusPolicy(Qt::TabFocus);  // the row of tabs alone takes the keys
     sayfalar->tabBar()->setObjectName(QStringLiteral("BölümSekmeleri"));
     sayfalar->tabBar()->setAccessibleName(windowTitle());
     sayfalar->addTab(m_fark, Metin(ArşivMetni::FarkSayfası));
