@@ -64,7 +64,7 @@ void DeğişimÖnizlemeFormu::Yerleştir() {
     düzen->addWidget(TabloBölümü(1, MetinNo::ÜrünlerEtiketi, m_tablo), 1);
     düzen->addLayout(DüğmeSırası({m_uygula, m_yazdır, m_pdf, önizle, aktar, nullptr, iptal}));
     m_tablo->setFocus();
-    BoyVer(*this, {1160, 600});
+    BoyVer(*this, {1280, 600});
 }
 
 bool DeğişimÖnizlemeFormu::PlanıKur() {
