@@ -89,7 +89,7 @@ void DeğişimÖnizlemeFormu::ÖzetiYaz() {
                          Metin(KullanımMetni::DeğişimÖzeti).arg(özet.Ürün).arg(özet.Silinen).arg(özet.Yazılan)};
     if (özet.GünündenÇıkan > 0) satırlar.append(Metin(KullanımMetni::GünündenÇıkanSayısı).arg(özet.GünündenÇıkan));
     if (özet.Dışarıda > 0) satırlar.append(Metin(KullanımMetni::DışarıdaKalanSayısı).arg(özet.Dışarıda));
-    m_özet->setText(satırlar.join(QLatin1Char('\n')));
+    m_özet->setText(Bölünebilir(satırlar.join(QLatin1Char('\n'))));
     m_uygula->setEnabled(özet.Ürün > 0);
 }
 
