@@ -198,6 +198,7 @@ bool FiyatGeçmişiFormu::Yükle(const QString& malzeme) {
         return false;
     }
     m_işlemler = std::move(işlemler);
+    m_değiştirmeVar = std::any_of(m_işlemler.begin(), m_işlemler.end(), MalzemeDeğişimiMi);
     m_işlemYerleri.clear();
     for (std::size_t i = 0; i < m_işlemler.size(); ++i) m_işlemYerleri[m_işlemler[i].No] = i;
     const std::uint32_t seçilen = malzeme.isEmpty() ? AdDizini::YOK : katalog.Dizin.Bul(malzeme.toStdString());
@@ -249,6 +250,7 @@ const Deyimler::Fiyat::İşlem* FiyatGeçmişiFormu::İşlemiBul(std::int64_t no
 
 // Beside the material's price changes, which stand from `ilk` on.
 İşSonucu FiyatGeçmişiFormu::DeğiştirmeleriEkle(std::size_t ilk, const QString& malzeme) {
+    if (!m_değiştirmeVar) return {};
     std::vector<std::int64_t> işlemler;
     const İşSonucu sonuç = MalzemeninDeğiştirmeleri(ODBCBağlantısı(), malzeme, işlemler);
     for (const std::int64_t no : işlemler)

@@ -42,7 +42,8 @@ class FiyatGeçmişiFormu : public QDialog {
 
     DeğişimÇevirici m_çevir;
     bool m_uygulandı = false;
-    bool m_fazlaVar = false;  // more records than are shown
+    bool m_değiştirmeVar = false;  // an operation changed used rows
+    bool m_fazlaVar = false;       // more records than are shown
     std::vector<Deyimler::Fiyat::İşlem> m_işlemler;
     std::unordered_map<std::int64_t, std::size_t> m_işlemYerleri;
     std::unique_ptr<MalzemeKaynağı> m_malzemeler;

@@ -110,7 +110,7 @@ std::optional<KullanılanSatır> KullanılanSatırıAl(OdbcSatırı& satır, int
 // Whether the operation changed used rows itself.
 bool MalzemeDeğişimiMi(const Deyimler::Fiyat::İşlem& işlem);
 
-// The numbers of the operations that replaced the material or put it in another one's place, and of those that took
-// them back.
+// To be asked where there is such an operation: the numbers of those that replaced the material or put it in another
+// one's place, and of those that took them back or put them forward.
 İşSonucu MalzemeninDeğiştirmeleri(OdbcBağlantısı& bağlantı, const QString& malzeme,
                                   std::vector<std::int64_t>& işlemler);

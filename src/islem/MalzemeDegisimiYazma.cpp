@@ -140,9 +140,7 @@ bool MalzemeDeğişimiMi(const Deyimler::Fiyat::İşlem& işlem) {
 İşSonucu MalzemeninDeğiştirmeleri(OdbcBağlantısı& bağlantı, const QString& malzeme,
                                   std::vector<std::int64_t>& işlemler) {
     işlemler.clear();
-    bool var = false;
-    const OdbcSonucu tablo = bağlantı.TabloVar(QString::fromLatin1(Deyimler::Değiştirme::TABLO), var);
-    if (!tablo.Başarılı() || !var || !Deyimler::Yazılabilir(malzeme)) return İşSonucuYap(tablo);
+    if (!Deyimler::Yazılabilir(malzeme)) return {};
     return İşSonucuYap(bağlantı.Oku(Deyimler::Değiştirme::Malzemeninİşlemleri(malzeme), [&](OdbcSatırı& satır) {
         işlemler.push_back(SayıSütunu(satır, 1));
         return true;

@@ -45,6 +45,21 @@ QString SıralıAd(const QString& ad, int sıra) {
     return ad + QLatin1Char('(') + QString::number(sıra) + QLatin1Char(')');
 }
 
+QString Bölünebilir(const QString& metin) {
+    constexpr int enUzun = 40;
+    QString sonuç;
+    int boy = 0;
+    for (const QChar harf : metin) {
+        boy = harf.isSpace() ? 0 : boy + 1;
+        if (boy > enUzun && !harf.isLowSurrogate()) {
+            sonuç += QChar(0x200B);
+            boy = 1;
+        }
+        sonuç += harf;
+    }
+    return sonuç;
+}
+
 QLabel* EtiketOluştur(int sıra, MetinNo metin, QWidget* denetim) {
     auto* etiket = new QLabel(Metin(metin));
     etiket->setTextFormat(Qt::PlainText);

@@ -26,6 +26,10 @@ QLabel* EtiketOluştur(int sıra, MetinNo metin, QWidget* denetim = nullptr);
 // The same for a box, list or tree that the user works in: the caption is highlighted meanwhile.
 QLabel* VurgulananEtiket(int sıra, MetinNo metin, QWidget* denetim);
 
+// For a label that goes on in further lines: a run of letters that no line could hold gets invisible places to break
+// at, so that it does not make the form as wide as itself.
+QString Bölünebilir(const QString& metin);
+
 // Makes `etiket` the caption of `kutu` (box, list or tree): its mnemonic leads there, screen readers read it, and it
 // takes EtkinEtiketRengi while the user is in `kutu`. To be called once the caption has its text.
 void EtiketEşle(QLabel* etiket, QWidget* kutu);

@@ -64,7 +64,7 @@ void DeğişimÖnizlemeFormu::Yerleştir() {
     düzen->addWidget(TabloBölümü(1, MetinNo::ÜrünlerEtiketi, m_tablo), 1);
     düzen->addLayout(DüğmeSırası({m_uygula, m_yazdır, m_pdf, önizle, aktar, nullptr, iptal}));
     m_tablo->setFocus();
-    BoyVer(*this, {1160, 600});
+    BoyVer(*this, {1280, 600});
 }
 
 bool DeğişimÖnizlemeFormu::PlanıKur() {
@@ -89,7 +89,7 @@ void DeğişimÖnizlemeFormu::ÖzetiYaz() {
                          Metin(KullanımMetni::DeğişimÖzeti).arg(özet.Ürün).arg(özet.Silinen).arg(özet.Yazılan)};
     if (özet.GünündenÇıkan > 0) satırlar.append(Metin(KullanımMetni::GünündenÇıkanSayısı).arg(özet.GünündenÇıkan));
     if (özet.Dışarıda > 0) satırlar.append(Metin(KullanımMetni::DışarıdaKalanSayısı).arg(özet.Dışarıda));
-    m_özet->setText(satırlar.join(QLatin1Char('\n')));
+    m_özet->setText(Bölünebilir(satırlar.join(QLatin1Char('\n'))));
     m_uygula->setEnabled(özet.Ürün > 0);
 }
 

@@ -31,7 +31,7 @@ MalzemeDeğiştirFormu::MalzemeDeğiştirFormu(const QString& eski, QWidget* sah
 }
 
 void MalzemeDeğiştirFormu::Yerleştir() {
-    auto* eski = new QLabel(Metin(KullanımMetni::EskiMalzemeMetni).arg(m_eski));
+    auto* eski = new QLabel(Bölünebilir(Metin(KullanımMetni::EskiMalzemeMetni).arg(m_eski)));
     eski->setObjectName(QStringLiteral("EskiMalzemeEtiketi"));
     eski->setTextFormat(Qt::PlainText);
     eski->setWordWrap(true);
@@ -50,7 +50,8 @@ void MalzemeDeğiştirFormu::Yerleştir() {
     düzen->addStretch();
     düzen->addLayout(DüğmeSırası({m_önizle, nullptr, iptal}));
     m_yeni->setFocus();
-    BoyVer(*this, {460, 260});
+    constexpr QSize boy(460, 260);
+    BoyVer(*this, boy.expandedTo({boy.width(), düzen->totalHeightForWidth(boy.width())}));
 }
 
 bool MalzemeDeğiştirFormu::Yükle() {
