@@ -16,7 +16,7 @@ enum class İşlemTürü {
     Liste,  // a supplier's list
     Kur,    // a currency's rate
     GeriAlma,
-    Yineleme,  // putting forward again what was taken back
+    Yineleme,   // putting forward again what was taken back
     YarıMamul,  // the price with which a material was tied to its product
     Değiştir    // a material put in another one's place; it changes used rows, and no price of the catalogue
 };
