@@ -103,14 +103,6 @@ class FiyatPlanı::Okuyucu {
                          Baytlar(satır, 3), Baytlar(satır, 4));
     }
 
-    // The catalogue's places of the plan's materials.
-    std::vector<std::uint32_t> Plandakiler() const {
-        std::vector<std::uint32_t> yerler;
-        for (std::uint32_t i = 0; i < m_sıklar.size(); ++i)
-            if (m_sıklar[i].Planda != AdDizini::YOK) yerler.push_back(i);
-        return yerler;
-    }
-
     std::deque<Satır> Satırlar;  // grows without being moved
 
   private:
@@ -268,7 +260,7 @@ class FiyatPlanı::Okuyucu {
         return !vazgeçildi;
     });
     okuyucu.Bitir();
-    m_yayılım.Bitir(okuyucu.Plandakiler());
+    m_yayılım.Bitir();
     SatırlarıDiz(okuyucu.Satırlar);
     ÜrünleriKur(ürünler);
     return İşSonucuYap(odbc, vazgeçildi);

@@ -1,10 +1,12 @@
 #include "MalzemeDegisimi.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 #include "DegisimDeyimleri.h"
 #include "Deyimler.h"
 #include "MaliyetHesabi.h"
+#include "MalzemeDegisimiOkuma.h"
 #include "MalzemeToplami.h"
 #include "OdbcTanitici.h"
 #include "Ondalik.h"
@@ -34,11 +36,6 @@ bool SıfırMı(const Ondalık& sayı) {
 
 bool Aynı(const QString& a, const QString& b) {
     return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) == 0;
-}
-
-std::optional<Para> Tutar(const KullanılanSatır& satır) {
-    const std::optional<double> miktar = MiktarSayısı(QStringView(satır.Miktar));
-    return miktar ? MalzemeTutarı(*miktar, satır.Fiyat) : std::nullopt;
 }
 
 bool HepsiYazılabilir(const std::vector<KullanılanSatır>& satırlar) {
@@ -78,119 +75,6 @@ DeğişimNedeni MiktarıBul(const DeğişenÜrün& ürün, const DeğişimKural�
 
 }  // namespace
 
-// Goes through all used rows: what every product costs without the materials' rows, and those rows of it.
-class DeğişimPlanı::Okuyucu {
-  public:
-    struct Ürün {
-        std::int64_t Malzeme = 0;  // ten-thousandths, of the rows that count
-        std::int64_t Kalan = 0;    // without the materials' rows
-        std::vector<KullanılanSatır> Satırlar;
-        bool Listede = true;
-        bool Okunamaz = false;
-        bool Eski = false;  // a row is of the first material
-        QString Grup;
-        QString Ad;
-    };
-    std::vector<Ürün> Ürünler;  // those of the product table first
-    ÜrünKataloğu Katalog;
-
-    explicit Okuyucu(const QStringList& malzemeler) {
-        for (std::uint32_t i = 0; i < malzemeler.size(); ++i) m_malzemeler.BulYaDaEkle(malzemeler[i].toStdString(), i);
-    }
-
-    İşSonucu Oku(OdbcBağlantısı& bağlantı, int basamak, const İlerleme& ilerleme) {
-        m_basamak = basamak;
-        const İşSonucu sonuç = Katalog.Oku(bağlantı, basamak, ilerleme);
-        if (!sonuç.Tamam()) return sonuç;
-        Ürünler.resize(Katalog.Ürünler.size());
-        for (std::size_t i = 0; i < Ürünler.size(); ++i) {
-            Ürünler[i].Grup = Katalog.Ürünler[i].Grup;
-            Ürünler[i].Ad = Katalog.Ürünler[i].Ad;
-        }
-        std::int64_t okunan = 0;
-        bool vazgeçildi = false;
-        const OdbcSonucu odbc = bağlantı.Oku(Deyimler::TümKullanılanlar(), [&](OdbcSatırı& satır) {
-            Al(satır);
-            vazgeçildi = ilerleme && !ilerleme(++okunan);
-            return !vazgeçildi;
-        });
-        return İşSonucuYap(odbc, vazgeçildi);
-    }
-
-    std::uint32_t Bul(const QString& grup, const QString& ad) const {
-        return Katalog.Dizin.Bul(grup.toStdString(), ad.toStdString());
-    }
-
-    // The total as the main form shows it, of a material cost in ten-thousandths.
-    Para Toplam(std::size_t yer, std::int64_t malzeme) const {
-        const MaliyetOranları oranlar = Ürünler[yer].Listede ? Katalog.Ürünler[yer].Oranlar : MaliyetOranları();
-        return GösterilenToplam(Para::OnBindeBirden(malzeme), oranlar, m_basamak);
-    }
-
-    // With the totals; those beyond the range of money leave it out.
-    void ToplamlarıKoy(std::size_t yer, DeğişenÜrün& ürün) const {
-        ürün.ÖncekiToplam = ürün.SonrakiToplam = Toplam(yer, Ürünler[yer].Malzeme);
-        if (!Uygulanır(ürün.Neden)) return;
-        std::optional<Para> sonra = Para::OnBindeBirden(Ürünler[yer].Kalan);
-        for (const KullanılanSatır& satır : ürün.Sonra) {
-            const std::optional<Para> tutar = Tutar(satır);
-            if (!tutar && MiktarSayısı(QStringView(satır.Miktar))) sonra.reset();
-            if (sonra && tutar) sonra = Topla(*sonra, *tutar);
-        }
-        if (sonra) {
-            ürün.SonrakiToplam = Toplam(yer, sonra->OnBindeBir());
-        } else {
-            ürün.Neden = DeğişimNedeni::TutarBüyük;
-            ürün.Sonra.clear();
-        }
-    }
-
-  private:
-    void Al(OdbcSatırı& okunan) {
-        const auto baytlar = [&okunan](int sütun) { return okunan.Baytlar(sütun).value_or(std::string_view()); };
-        const std::uint32_t malzeme = m_malzemeler.Bul(baytlar(3));
-        const std::uint32_t yer = ÜrünüBul(baytlar(1), baytlar(2), malzeme != AdDizini::YOK);
-        if (yer == AdDizini::YOK) return;
-        Ürün& ürün = Ürünler[yer];
-        const std::optional<double> miktar = MiktarSayısı(baytlar(4));
-        const std::optional<Para> fiyat = SaklananPara(baytlar(5));
-        const std::optional<Para> tutar = miktar && fiyat ? MalzemeTutarı(*miktar, *fiyat) : std::nullopt;
-        Ekle(ürün.Malzeme, tutar);
-        if (malzeme == AdDizini::YOK) {
-            Ekle(ürün.Kalan, tutar);
-            return;
-        }
-        ürün.Eski |= malzeme == 0;
-        if (std::optional<KullanılanSatır> satır = KullanılanSatırıAl(okunan))
-            ürün.Satırlar.push_back(std::move(*satır));
-        else
-            ürün.Okunamaz = true;
-    }
-
-    static void Ekle(std::int64_t& toplam, std::optional<Para> tutar) {
-        const std::optional<Para> sonuç = tutar ? Topla(Para::OnBindeBirden(toplam), *tutar) : std::nullopt;
-        if (sonuç) toplam = sonuç->OnBindeBir();
-    }
-
-    // Rows without a product are kept where they are of the materials.
-    std::uint32_t ÜrünüBul(std::string_view grup, std::string_view ad, bool saklanır) {
-        const std::uint32_t yer = Katalog.Dizin.Bul(grup, ad);
-        if (yer != AdDizini::YOK || !saklanır) return yer;
-        const auto yeni = static_cast<std::uint32_t>(Ürünler.size());
-        const std::uint32_t bulunan = m_ürünsüzler.BulYaDaEkle(grup, ad, yeni);
-        if (bulunan != yeni) return bulunan;
-        Ürün& ürün = Ürünler.emplace_back();
-        ürün.Listede = false;
-        ürün.Grup = QString::fromUtf8(grup.data(), static_cast<qsizetype>(grup.size()));
-        ürün.Ad = QString::fromUtf8(ad.data(), static_cast<qsizetype>(ad.size()));
-        return bulunan;
-    }
-
-    int m_basamak = 2;
-    AdDizini m_malzemeler;
-    AdDizini m_ürünsüzler;
-};
-
 std::int64_t DeğişenÜrün::GünündenÇıkan() const {
     return std::count_if(Önce.begin(), Önce.end(), [this](const KullanılanSatır& satır) {
         return std::none_of(Sonra.begin(), Sonra.end(),
@@ -212,6 +96,7 @@ void DeğişimPlanı::Değiştir(DeğişenÜrün& ürün, const DeğişimKuralı
 İşSonucu DeğişimPlanı::Kur(OdbcBağlantısı& bağlantı, const DeğişimKuralı& kural, QDate gün, int basamak,
                            const İlerleme& ilerleme) {
     *this = {};
+    m_basamak = basamak;
     MalzemeKataloğu katalog;  // read whole: a name with an apostrophe cannot be asked for
     const YarıMamulBağları* bağlar = nullptr;
     İşSonucu sonuç = YarıMamulleriAl(bağlantı, bağlar);
@@ -222,7 +107,7 @@ void DeğişimPlanı::Değiştir(DeğişenÜrün& ürün, const DeğişimKuralı
     if (m_yeniYok) return sonuç;
     m_yeni = katalog.Malzemeler[yeni];
     m_malzemeler = {kural.Eski, m_yeni->Ad};
-    Okuyucu okuyucu(m_malzemeler);
+    Okuyucu okuyucu(m_malzemeler, katalog, m_yayılım);
     sonuç = okuyucu.Oku(bağlantı, basamak, ilerleme);
     if (!sonuç.Tamam()) return sonuç;
     const QString tarih = Deyimler::Tarih(gün);
@@ -239,7 +124,7 @@ void DeğişimPlanı::Değiştir(DeğişenÜrün& ürün, const DeğişimKuralı
         ürün.İşaretli = ürün.Neden == DeğişimNedeni::Yok;
         m_ürünler.push_back(std::move(ürün));
     }
-    SırayaKoy(m_ürünler);
+    YayılımıKur(okuyucu, katalog);
     return sonuç;
 }
 
@@ -295,6 +180,7 @@ void DeğişimPlanı::Dön(DeğişenÜrün& ürün, const Kayıt& kayıt, std::s
 İşSonucu DeğişimPlanı::DönüşüKur(OdbcBağlantısı& bağlantı, std::int64_t işlem, bool geri, int basamak,
                                  const İlerleme& ilerleme) {
     *this = {};
+    m_basamak = basamak;
     Kayıt kayıt;
     MalzemeKataloğu katalog;
     const YarıMamulBağları* bağlar = nullptr;
@@ -302,7 +188,7 @@ void DeğişimPlanı::Dön(DeğişenÜrün& ürün, const Kayıt& kayıt, std::s
     if (sonuç.Tamam()) sonuç = KaydıOku(bağlantı, işlem, geri, kayıt);
     if (sonuç.Tamam()) sonuç = katalog.Oku(bağlantı, ilerleme);
     if (!sonuç.Tamam()) return sonuç;
-    Okuyucu okuyucu(m_malzemeler);
+    Okuyucu okuyucu(m_malzemeler, katalog, m_yayılım);
     sonuç = okuyucu.Oku(bağlantı, basamak, ilerleme);
     if (!sonuç.Tamam()) return sonuç;
     for (std::size_t i = 0; i < kayıt.Ürünler.size(); ++i) {
@@ -322,14 +208,69 @@ void DeğişimPlanı::Dön(DeğişenÜrün& ürün, const Kayıt& kayıt, std::s
         ürün.İşaretli = ürün.Neden == DeğişimNedeni::Yok;
         m_ürünler.push_back(std::move(ürün));
     }
-    SırayaKoy(m_ürünler);
+    YayılımıKur(okuyucu, katalog);
     return sonuç;
+}
+
+// The rows that come; and products that only a sub-assembly's price reaches.
+void DeğişimPlanı::YayılımıKur(Okuyucu& okuyucu, const MalzemeKataloğu& katalog) {
+    if (!m_yayılım.Boş()) {
+        for (const DeğişenÜrün& ürün : m_ürünler)
+            for (const KullanılanSatır& satır : ürün.Sonra) {
+                const QByteArray miktar = satır.Miktar.toUtf8();
+                const std::string ad = satır.Malzeme.toStdString();
+                const std::uint32_t yer = ürün.Hesabı.Yer;
+                m_yayılım.Ekle({yer,
+                                katalog.Dizin.Bul(ad),
+                                MiktarSayısı(QStringView(satır.Miktar)),
+                                satır.Fiyat,
+                                yer,
+                                {},
+                                PlanYayılımı::SatırTürü::Gelir},
+                               ad, {miktar.constData(), static_cast<std::size_t>(miktar.size())});
+            }
+        m_yayılım.Bitir();
+        std::vector<bool> var(okuyucu.Katalog.Ürünler.size(), false);
+        for (const DeğişenÜrün& ürün : m_ürünler)
+            if (ürün.Hesabı.Yer != AdDizini::YOK) var[ürün.Hesabı.Yer] = true;
+        m_yayılım.ÜrünleriNumarala([&](std::uint32_t yer) {
+            if (!var[yer]) {
+                const KatalogÜrünü& ürün = okuyucu.Katalog.Ürünler[yer];
+                DeğişenÜrün yeni{ürün.Grup, ürün.Ad, {}, {}, {}, {}, DeğişimNedeni::YarıMamulünden};
+                yeni.ÖncekiToplam = yeni.SonrakiToplam = okuyucu.Toplam(yer, okuyucu.Ürünler[yer].Malzeme);
+                yeni.Hesabı = okuyucu.HesapYap(yer);
+                m_ürünler.push_back(std::move(yeni));
+                var[yer] = true;
+            }
+            return yer;
+        });
+    }
+    SırayaKoy(m_ürünler);
+    YayılımıYenile();
+}
+
+void DeğişimPlanı::YayılımıYenile() {
+    if (m_yayılım.Boş()) return;
+    std::unordered_map<std::uint32_t, DeğişenÜrün*> ürünler;
+    for (DeğişenÜrün& ürün : m_ürünler)
+        if (ürün.Hesabı.Yer != AdDizini::YOK) ürünler[ürün.Hesabı.Yer] = &ürün;
+    const auto işaretli = [&ürünler](std::uint32_t yer) {
+        const auto bulunan = ürünler.find(yer);
+        return bulunan != ürünler.end() && bulunan->second->İşaretli;
+    };
+    for (const PlanYayılımı::Etki& etki : m_yayılım.Yenile(işaretli))
+        ürünler.at(etki.Ürün)->Hesabı.Yayılan += etki.Fark;
+    for (DeğişenÜrün& ürün : m_ürünler) {
+        const DeğişenÜrün::Hesap& hesap = ürün.Hesabı;
+        const std::int64_t malzeme = (ürün.İşaretli ? hesap.Sonra : hesap.Önce) + hesap.Yayılan;
+        ürün.SonrakiToplam = GösterilenToplam(Para::OnBindeBirden(malzeme), hesap.Oranlar, m_basamak);
+    }
 }
 
 DeğişimÖzeti DeğişimPlanı::Özet() const {
     DeğişimÖzeti özet;
     for (const DeğişenÜrün& ürün : m_ürünler) {
-        if (!Uygulanır(ürün.Neden)) ++özet.Dışarıda;
+        if (!Uygulanır(ürün.Neden) && ürün.Neden != DeğişimNedeni::YarıMamulünden) ++özet.Dışarıda;
         if (!ürün.İşaretli) continue;
         ++özet.Ürün;
         özet.Silinen += static_cast<std::int64_t>(ürün.Önce.size());

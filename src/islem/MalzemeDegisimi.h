@@ -23,8 +23,9 @@ enum class DeğişimNedeni {
     SonuçSıfır,
     MetinUzun,
     TutarBüyük,
-    AdYazılamaz,   // no statement can name it
-    ÇemberKapatır  // the product would be made, through others, of itself
+    AdYazılamaz,    // no statement can name it
+    ÇemberKapatır,  // the product would be made, through others, of itself
+    YarıMamulünden  // nothing is to be changed in it; a sub-assembly that it uses gets another price
 };
 constexpr bool Uygulanır(DeğişimNedeni neden) {
     return neden < DeğişimNedeni::SatırlarıDeğişmiş;
@@ -40,6 +41,16 @@ struct DeğişenÜrün {
     DeğişimNedeni Neden = DeğişimNedeni::Yok;
     bool İşaretli = false;
     bool FiyatAyrı = false;  // a row that comes back has another price than the catalogue now
+
+    // What the totals are reckoned from: material costs in ten-thousandths.
+    struct Hesap {
+        std::uint32_t Yer = AdDizini::YOK;  // in the product table's reading order
+        MaliyetOranları Oranlar{};
+        std::int64_t Önce = 0;
+        std::int64_t Sonra = 0;    // when it is ticked
+        std::int64_t Yayılan = 0;  // what comes through sub-assemblies
+    };
+    Hesap Hesabı{};
 
     // The rows that leave the report of their day.
     std::int64_t GünündenÇıkan() const;
@@ -77,6 +88,8 @@ class DeğişimPlanı {
 
     // What cannot be carried out stays unticked.
     void İşaretle(std::size_t ürün, bool işaretli);
+    // Lets the totals follow the ticks, through sub-assemblies too; after ticks were changed.
+    void YayılımıYenile();
     // The rows to be written are used on this day; those that come back keep theirs.
     void GünüDeğiştir(QDate gün);
 
@@ -89,6 +102,10 @@ class DeğişimPlanı {
     void Dön(DeğişenÜrün& ürün, const Kayıt& kayıt, std::size_t yer, bool geri, const MalzemeKataloğu& katalog,
              const YarıMamulBağları& bağlar);
 
+    void YayılımıKur(Okuyucu& okuyucu, const MalzemeKataloğu& katalog);
+
+    int m_basamak = 2;
+    PlanYayılımı m_yayılım;
     QStringList m_malzemeler;
     std::optional<KatalogMalzemesi> m_yeni;  // of a replacement; nothing of a taking back
     bool m_yeniYok = false;

@@ -46,10 +46,11 @@ void PlanYayılımı::Ekle(const Satır& satır, std::string_view malzemeAdı, s
         m_satırlar[m_ürününSatırları[satır.Ürün]].push_back(
             {satır, std::string(malzemeAdı), std::string(MiktarBirimi(miktar))});
     if (satır.Malzeme != YOK && satır.Ürün != YOK && m_malzemeninBağı[satır.Malzeme] != YOK)
-        m_yayılanlar[m_malzemeninBağı[satır.Malzeme]].push_back({satır.Ürün, satır.Miktar, satır.Fiyat});
+        m_yayılanlar[m_malzemeninBağı[satır.Malzeme]].push_back(
+            {satır.Ürün, satır.Miktar, satır.Fiyat, satır.Plan, satır.Tür});
 }
 
-void PlanYayılımı::Bitir(const std::vector<std::uint32_t>& planda) {
+void PlanYayılımı::Bitir() {
     if (Boş()) return;
     // Sums of quantities are floating point and depend on the reading order, which is by name.
     for (std::vector<ÜrünSatırı>& satırlar : m_satırlar)
@@ -57,9 +58,6 @@ void PlanYayılımı::Bitir(const std::vector<std::uint32_t>& planda) {
             return Türkçe::Karşılaştır(std::string_view(a.Ad), std::string_view(b.Ad)) < 0;
         });
     // Ties that nothing of the plan reaches stay out.
-    std::vector<bool> değişebilir(m_malzemeninBağı.size(), false);
-    for (const std::uint32_t malzeme : planda)
-        if (malzeme != YOK) değişebilir[malzeme] = true;
     std::vector<std::uint32_t> kalanlar;
     std::vector<bool> bağDeğişebilir(m_bağlar.size(), false);
     for (const std::uint32_t yer : m_sıra) {
@@ -68,9 +66,8 @@ void PlanYayılımı::Bitir(const std::vector<std::uint32_t>& planda) {
         const auto& satırlar = m_satırlar[bağ.Satırlar];
         const bool ulaşır = std::any_of(satırlar.begin(), satırlar.end(), [&](const ÜrünSatırı& satır) {
             const std::uint32_t malzeme = satır.İçerik.Malzeme;
-            if (malzeme == YOK) return false;
-            const std::uint32_t alt = m_malzemeninBağı[malzeme];
-            return değişebilir[malzeme] || (alt != YOK && bağDeğişebilir[alt]);
+            const std::uint32_t alt = malzeme == YOK ? YOK : m_malzemeninBağı[malzeme];
+            return satır.İçerik.Plan != YOK || (alt != YOK && bağDeğişebilir[alt]);
         });
         bağDeğişebilir[yer] = ulaşır;
         if (ulaşır) kalanlar.push_back(yer);
@@ -87,12 +84,15 @@ std::vector<std::optional<Para>> PlanYayılımı::Fiyatlar(const std::function<b
         YarıMamulHesabı hesap;
         bool değişti = false;
         for (const ÜrünSatırı& satır : m_satırlar[bağ.Satırlar]) {
+            const bool ulaşıldı = satır.İçerik.Plan != YOK && işaretli(satır.İçerik.Plan);
+            if (satır.İçerik.Tür != SatırTürü::Durur) değişti = değişti || ulaşıldı;
+            if (!Var(satır.İçerik.Tür, ulaşıldı)) continue;
             std::optional<Para> fiyat = satır.İçerik.Fiyat;
             const std::uint32_t alt = satır.İçerik.Malzeme == YOK ? YOK : m_malzemeninBağı[satır.İçerik.Malzeme];
             if (alt != YOK && yeniler[alt]) {
                 fiyat = yeniler[alt];
                 değişti = true;
-            } else if (satır.İçerik.Plan != YOK && işaretli(satır.İçerik.Plan)) {
+            } else if (ulaşıldı && satır.İçerik.Tür == SatırTürü::Durur) {
                 fiyat = satır.İçerik.Hedef;
                 değişti = true;
             }
@@ -119,8 +119,9 @@ std::vector<PlanYayılımı::Etki> PlanYayılımı::Yenile(const std::function<b
         return t.value_or(Para()).OnBindeBir();
     };
     for (std::size_t bağ = 0; bağ < yeniler.size(); ++bağ) {
-        const bool değişir = yeniler[bağ].has_value();
         for (Yayılan& satır : m_yayılanlar[bağ]) {
+            const bool ulaşıldı = satır.Plan != YOK && işaretli(satır.Plan);
+            const bool değişir = yeniler[bağ] && Var(satır.Tür, ulaşıldı);
             const std::int64_t fark = değişir ? tutar(satır, yeniler[bağ]) - tutar(satır, satır.Fiyat) : 0;
             if (fark == satır.Fark && satır.Değişti == değişir) continue;
             etkiler.push_back({satır.Ürün, fark - satır.Fark, int{değişir} - int{satır.Değişti}});

@@ -17,8 +17,12 @@ class PlanYayılımı {
     İşSonucu Kur(OdbcBağlantısı& bağlantı, const MalzemeKataloğu& malzemeler, const ÜrünKataloğu& ürünler);
     bool Boş() const { return m_bağlar.empty(); }
 
-    // A used row; `malzeme`: its place in the catalogue. `plan`, `hedef`: the plan's material that reaches it and the
-    // price it then gets.
+    enum class SatırTürü {
+        Durur,
+        Gider,  // taken out by the plan
+        Gelir   // put in by it
+    };
+    // A used row. Plan: what of the plan reaches it, Hedef: the price that a row which stays then gets.
     struct Satır {
         std::uint32_t Ürün = YOK;
         std::uint32_t Malzeme = YOK;
@@ -26,13 +30,14 @@ class PlanYayılımı {
         std::optional<Para> Fiyat{};
         std::uint32_t Plan = YOK;
         Para Hedef{};
+        SatırTürü Tür = SatırTürü::Durur;
     };
     // Whether anything has to be kept of such a row.
     bool İlgili(std::uint32_t ürün, std::uint32_t malzeme) const;
     void Ekle(const Satır& satır, std::string_view malzemeAdı, std::string_view miktar);
 
-    // After the last row. `planda`: the catalogue's places of the plan's materials.
-    void Bitir(const std::vector<std::uint32_t>& planda);
+    // After the last row.
+    void Bitir();
 
     // Hands over the product of each used row whose price may follow; what it is set to is the product's number in
     // what Yenile gives.
@@ -51,9 +56,14 @@ class PlanYayılımı {
         std::uint32_t Ürün;
         std::optional<double> Miktar;
         std::optional<Para> Fiyat;
+        std::uint32_t Plan = YOK;
+        SatırTürü Tür = SatırTürü::Durur;
         std::int64_t Fark = 0;
         bool Değişti = false;  // the row gets another price
     };
+    static bool Var(SatırTürü tür, bool işaretli) {
+        return tür == SatırTürü::Durur || (tür == SatırTürü::Gelir) == işaretli;
+    }
     // The new price of each tie whose price the ticked materials change.
     std::vector<std::optional<Para>> Fiyatlar(const std::function<bool(std::uint32_t plan)>& işaretli) const;
 

@@ -70,6 +70,7 @@ constexpr MetinSatırı Tablo[] = {
      "Henüz yarı mamul yok. Aşağıdan malzemeyi, fiyatını verecek ürünü ve tutarı seçip \"Bağla\"ya basınız."},
     {YarıMamulMetni::KopyaDöngüsü,
      "Kopyanın adı \"%1\" olamaz, çünkü ürün dolaylı olarak kendisinden yapılmış olurdu:\n%2"},
+    {YarıMamulMetni::NedenYarıMamulünden, "yarı mamulünün fiyatı değişir"},
     {YarıMamulMetni::AğaçBaşlığı, "Yarı Mamul Ağacı"},
     {YarıMamulMetni::AğaçÜrünü, "%1 / %2"},
     {YarıMamulMetni::AdetEtiketi, "&Adet"},

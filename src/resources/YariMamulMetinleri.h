@@ -53,6 +53,7 @@ inline constexpr MetinNo DövizMalzemesiYarıMamul{3144};
 inline constexpr MetinNo YarıMamullerOkunuyor{3145};
 inline constexpr MetinNo YarıMamulYok{3146};
 inline constexpr MetinNo KopyaDöngüsü{3147};
+inline constexpr MetinNo NedenYarıMamulünden{3148};
 inline constexpr MetinNo AğaçBaşlığı{3150};
 inline constexpr MetinNo AğaçÜrünü{3151};
 inline constexpr MetinNo AdetEtiketi{3152};

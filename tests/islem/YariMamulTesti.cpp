@@ -3,6 +3,7 @@
 #include "Deyimler.h"
 #include "FiyatIslemi.h"
 #include "MaliyetTablosu.h"
+#include "MalzemeDegisimi.h"
 #include "UrunAcilimi.h"
 #include "VarnekTesti.h"
 #include "YariMamulYayilimi.h"
@@ -159,6 +160,41 @@ TEST_F(YarıMamul, KomutlarınArdındanGelir) {
     EXPECT_EQ(yürüt({.Ürünler = {{"G", "Q"}}, .Silindi = true}).Çözülenler, QStringList{"T0"});
     EXPECT_EQ(Fiyat("T0"), "14");
     HerŞeyUyuyor();
+}
+
+TEST_F(YarıMamul, MalzemeDeğişimiYayılırÖnizlemeDeOnuGösterir) {
+    KatlarıKur();
+    const auto denetle = [this](const DeğişimPlanı& plan) {
+        std::vector<MaliyetTablosuSatırı> satırlar;
+        ASSERT_TRUE(MaliyetTablosunuOku(Bağ(), 2, satırlar).Tamam());
+        for (const DeğişenÜrün& ürün : plan.Ürünler())
+            for (const MaliyetTablosuSatırı& satır : satırlar)
+                if (satır.Ad == ürün.Ad) {
+                    EXPECT_EQ(satır.Toplam, ürün.SonrakiToplam) << ürün.Ad.toStdString();
+                }
+        HerŞeyUyuyor();
+    };
+    const auto uygula = [&](const QString& eski, const QString& yeni, int kalan) {
+        DeğişimPlanı plan;
+        ASSERT_TRUE(plan.Kur(Bağ(), {eski, yeni}, {2026, 11, 23}, 2).Tamam());
+        for (std::size_t i = 0; i < plan.Ürünler().size(); ++i)
+            if (static_cast<int>(i) >= kalan) plan.İşaretle(i, false);
+        plan.YayılımıYenile();
+        ASSERT_EQ(DeğişimiUygula(Bağ(), plan, {İşlemTürü::Değiştir, "x"}, "2026-11-23 10:00:00").Son,
+                  UygulamaSonu::Tamam);
+        denetle(plan);
+    };
+    uygula("Tahta", "Çivi", 3);
+    // A sub-assembly in a base material's place: not where it would close a circle.
+    DeğişimPlanı plan;
+    ASSERT_TRUE(plan.Kur(Bağ(), {"Çivi", "T1"}, {2026, 11, 23}, 2).Tamam());
+    for (const DeğişenÜrün& ürün : plan.Ürünler()) {
+        if (ürün.Ad == "P0" || ürün.Ad == "P1") {
+            EXPECT_EQ(ürün.Neden, DeğişimNedeni::ÇemberKapatır);
+        }
+    }
+    uygula("Çivi", "T1", 99);
+    uygula("T4", "T0", 99);
 }
 
 TEST_F(YarıMamul, DöngüdeFiyatlarDurur) {

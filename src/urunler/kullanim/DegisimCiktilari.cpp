@@ -36,7 +36,7 @@ std::optional<Ondalık> Oran(const DeğişenÜrün& ürün) {
 
 QList<ÇizelgeDeğeri> Değerler(const DeğişimSatırları& satırlar, std::size_t yer) {
     const DeğişenÜrün& ürün = satırlar.Ürün(yer);
-    const bool değişir = Uygulanır(ürün.Neden);
+    const bool değişir = Uygulanır(ürün.Neden) || ürün.Neden == DeğişimNedeni::YarıMamulünden;
     QList<ÇizelgeDeğeri> değerler;
     for (int sütun = DGrup; sütun <= DSonra; ++sütun) değerler.emplaceBack(satırlar.Hücre(yer, sütun));
     değerler.emplaceBack(ürün.ÖncekiToplam);

@@ -46,7 +46,11 @@ void DeğişimÖnizlemeFormu::KontrolleriKur() {
     m_özet->setWordWrap(true);
     m_özet->setTextFormat(Qt::PlainText);
     m_tablo = new Tablo(QStringLiteral("DeğişimTablosu"), m_model);
-    m_model.İşaretlenince([this] { ÖzetiYaz(); });
+    m_model.İşaretlenince([this] {
+        m_plan.YayılımıYenile();
+        m_model.HücrelerDeğişti();
+        ÖzetiYaz();
+    });
     m_uygula = DüğmeOluştur(QStringLiteral("UygulaButonu"), MetinNo::Uygula, [this] { Uygula(); });
     m_yazdır = DüğmeOluştur(QStringLiteral("YazdırButonu"), MetinNo::Yazdır,
                             [this] { static_cast<void>(Yazdır(*this, *m_yazdır, Rapor())); });

@@ -4,6 +4,7 @@
 
 #include "FiyatMetinleri.h"
 #include "KullanimMetinleri.h"
+#include "YariMamulMetinleri.h"
 
 namespace {
 
@@ -59,6 +60,8 @@ QString DeğişimNedeniMetni(DeğişimNedeni neden) {
             return Metin(MetinNo::NedenÇokBüyük);
         case DeğişimNedeni::AdYazılamaz:
             return Metin(MetinNo::NedenAdıYazılamaz);
+        case DeğişimNedeni::YarıMamulünden:
+            return Metin(YarıMamulMetni::NedenYarıMamulünden);
         case DeğişimNedeni::ÇemberKapatır:
             return Metin(KullanımMetni::NedenÇemberKapatır);
     }
@@ -67,7 +70,7 @@ QString DeğişimNedeniMetni(DeğişimNedeni neden) {
 
 QString DeğişimSatırları::Hücre(std::size_t satır, int sütun) const {
     const DeğişenÜrün& ü = Ürün(satır);
-    const bool değişir = Uygulanır(ü.Neden);
+    const bool değişir = Uygulanır(ü.Neden) || ü.Neden == DeğişimNedeni::YarıMamulünden;
     switch (sütun) {
         case DGrup:
             return ü.Grup;
