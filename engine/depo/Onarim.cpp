@@ -61,10 +61,12 @@ void Kopyala(const std::string& kaynak, const std::string& hedef) {
     if (!yaz.flush()) throw Hata(Durum::Genel, "Diskte yer kalmadığı için dosya kopyalanamadı.");
 }
 
-// A file that was cut short still says how many pages it had, and would not be opened at all.
+// A file that was cut short still says how many pages it had, and would not be opened at all: what is missing is put
+// there, empty. A number that no file has is put right.
 void SayfaSayısınıDüzelt(const std::string& yol) {
     constexpr std::size_t sayfaBoyuYeri = 16;
     constexpr std::size_t sayfaSayısıYeri = 28;
+    constexpr std::uint64_t azamiBoy = std::uint64_t{1} << 38;  // takes no room on the disk
     std::fstream dosya(yol, std::ios::binary | std::ios::in | std::ios::out);
     std::array<unsigned char, 100> baş{};
     if (!dosya.read(reinterpret_cast<char*>(baş.data()), baş.size())) return;
@@ -75,6 +77,13 @@ void SayfaSayısınıDüzelt(const std::string& yol) {
     std::uint64_t yazan = 0;
     for (std::size_t i = 0; i < 4; ++i) yazan = yazan << 8 | baş[sayfaSayısıYeri + i];
     if (yazan <= var) return;
+    std::error_code sığmadı;
+    if (yazan * sayfa <= azamiBoy) {
+        dosya.close();
+        fs::resize_file(yol, yazan * sayfa, sığmadı);
+        if (!sığmadı) return;
+        dosya.open(yol, std::ios::binary | std::ios::in | std::ios::out);
+    }
     dosya.seekp(sayfaSayısıYeri);
     for (int kaydır = 24; kaydır >= 0; kaydır -= 8) dosya.put(static_cast<char>(var >> kaydır & 0xFF));
 }
@@ -117,7 +126,7 @@ class Onarım {
         const std::string günlük = kopya + "-journal";
         Kopyala(kaynak, kopya);
         SayfaSayısınıDüzelt(kopya);
-        m_sınır = static_cast<std::int64_t>(fs::file_size(kopya)) / 8 + 1'000'000;
+        m_sınır = static_cast<std::int64_t>(fs::file_size(kaynak)) / 8 + 1'000'000;
         if (!Dosya::OlağanDosyaVar(kaynak + "-journal")) return HasarlıyıAç(kopya);
         Kopyala(kaynak + "-journal", günlük);
         try {
