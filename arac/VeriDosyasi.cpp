@@ -9,6 +9,7 @@
 #include "GeciciDosya.h"
 #include "OdbcHareketi.h"
 #include "OdbcSurucu.h"
+#include "Tablolar.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,49 +17,28 @@ namespace {
 
 volatile std::sig_atomic_t yarıdaKesildi = 0;
 
-// Percentages have a default, because the program's INSERT does not name them. Only material names are unique: merged
-// groups may hold the same product twice, and a product the same material twice.
-constexpr const char16_t* TABLOLAR[] = {
-    u"CREATE TABLE UrunTablosu (UrunGrubu TEXT(255) NOT NULL, UrunAdi TEXT(255) NOT NULL, "
-    u"IscilikYuzdesi DOUBLE DEFAULT 0 NOT NULL, KarYuzdesi DOUBLE DEFAULT 0 NOT NULL, "
-    u"DigerVarnekYuzdesi DOUBLE DEFAULT 0 NOT NULL, VadeFarkiYuzdesi DOUBLE DEFAULT 0 NOT NULL)",
-    u"CREATE INDEX UrunSirasi ON UrunTablosu (UrunGrubu, UrunAdi)",
-    u"CREATE TABLE MalzemeTablosu (MalzemeAdi TEXT(255) NOT NULL, MalzemeFiyati CURRENCY NOT NULL)",
-    u"CREATE UNIQUE INDEX MalzemeSirasi ON MalzemeTablosu (MalzemeAdi)",
-    u"CREATE TABLE UrunMalzemeTablosu (KullanimTarihi DATETIME NOT NULL, UrunGrubu TEXT(255) NOT NULL, "
-    u"UrunAdi TEXT(255) NOT NULL, KullanilanMalzemeAdi TEXT(255) NOT NULL, "
-    u"KullanilanMalzemeMiktari TEXT(255) NOT NULL, KullanilanMalzemeFiyati CURRENCY NOT NULL)",
-};
-
-// The ways in which the program looks used materials up or orders them. They are made once the rows are there, which is
-// much faster for many rows.
-constexpr const char16_t* KULLANIM_DİZİNLERİ[] = {
-    u"CREATE INDEX UrununMalzemeleri ON UrunMalzemeTablosu (UrunGrubu, UrunAdi, KullanilanMalzemeAdi)",
-    u"CREATE INDEX MalzemeninUrunleri ON UrunMalzemeTablosu (KullanilanMalzemeAdi)",
-    u"CREATE INDEX GununHareketleri ON UrunMalzemeTablosu (KullanimTarihi, UrunAdi)",
-};
-
 QString Neden(const QList<OdbcHatası>& hatalar) {
     return OdbcİletileriniAl(hatalar).value(0);
 }
 
 // Rows together, which makes many of them fast.
-void Doldur(const QString& dosya, const std::function<void(VeriYazıcısı&)>& doldur) {
+void Doldur(const QString& dosya, const QStringList& tablolar, const std::function<void(VeriYazıcısı&)>& doldur) {
     OdbcBağlantısı bağlantı;
     const OdbcSonucu açılış = bağlantı.Aç(BağlantıMetni(dosya));
     if (!bağlantı.Tanıtıcı()) throw VeriHatası(u"ODBC sürücülerine erişilemiyor."_s);
     if (!açılış.Başarılı()) throw VeriHatası(u"Veri dosyası açılamadı: "_s + Neden(açılış.Hatalar));
     VeriYazıcısı yazıcı(bağlantı);
-    for (const char16_t* tablo : TABLOLAR) yazıcı.Çalıştır(QString::fromUtf16(tablo));
+    for (const QString& bildirim : tablolar)
+        if (!Deyimler::HızDizini(bildirim)) yazıcı.Çalıştır(bildirim);
     OdbcHareketi hareket(bağlantı);
     const OdbcSonucu başlangıç = hareket.Başla();
     if (!başlangıç.Başarılı()) throw VeriHatası(u"Toplu yazma açılamadı: "_s + Neden(başlangıç.Hatalar));
     doldur(yazıcı);
     const OdbcSonucu onay = hareket.Onayla();
     if (!onay.Başarılı()) throw VeriHatası(u"Yazılanlar onaylanamadı: "_s + Neden(onay.Hatalar));
-    for (const char16_t* dizin : KULLANIM_DİZİNLERİ) {
+    for (const QString& bildirim : tablolar) {
         YarıdaKesildiMi();
-        yazıcı.Çalıştır(QString::fromUtf16(dizin));
+        if (Deyimler::HızDizini(bildirim)) yazıcı.Çalıştır(bildirim);
     }
 }
 
@@ -69,8 +49,21 @@ VeriYazıcısı::VeriYazıcısı(OdbcBağlantısı& bağlantı) : m_bağlantı(b
 }
 
 void VeriYazıcısı::Çalıştır(const QString& deyim) {
-    if (m_deyim.Çalıştır(deyim) != 0)
-        throw VeriHatası(u"Deyim çalıştırılamadı: %1\n%2"_s.arg(Neden(m_deyim.HatalarınıAl()), deyim));
+    const QString neden = Dene(deyim);
+    if (!neden.isEmpty()) throw VeriHatası(u"Deyim çalıştırılamadı: %1\n%2"_s.arg(neden, deyim));
+}
+
+QString VeriYazıcısı::Dene(const QString& deyim) {
+    if (m_deyim.Çalıştır(deyim) == 0) return {};
+    const QString neden = Neden(m_deyim.HatalarınıAl());
+    return neden.isEmpty() ? u"nedeni bilinmiyor"_s : neden;
+}
+
+QList<OdbcSütunu> VeriYazıcısı::Sütunlar(const QString& tablo) {
+    QList<OdbcSütunu> sütunlar;
+    const OdbcSonucu sonuç = m_bağlantı.Sütunlar(tablo, sütunlar);
+    if (!sonuç.Başarılı()) throw VeriHatası(u"%1 okunamadı: %2"_s.arg(tablo, Neden(sonuç.Hatalar)));
+    return sütunlar;
 }
 
 void YarıdaKes() noexcept {
@@ -82,6 +75,11 @@ void YarıdaKesildiMi() {
 }
 
 void VeriDosyasıYap(const QString& hedef, const std::function<void(VeriYazıcısı&)>& doldur) {
+    VeriDosyasıYap(hedef, Deyimler::TabloTakımları().constFirst(), doldur);
+}
+
+void VeriDosyasıYap(const QString& hedef, const QStringList& tablolar,
+                    const std::function<void(VeriYazıcısı&)>& doldur) {
     const QFileInfo bilgi(hedef);
     const QString yol = bilgi.absoluteFilePath();
     if (bilgi.exists() || bilgi.isSymLink()) {
@@ -94,7 +92,7 @@ void VeriDosyasıYap(const QString& hedef, const std::function<void(VeriYazıcı
     const QString geçici = klasör.filePath(u"Yeni.vtb"_s);
     if (!BoşVeriDosyasıOluştur(geçici))
         throw VeriHatası(u"Veri dosyası oluşturulamadı: "_s + SürücüKurulumHataları().value(0));
-    Doldur(geçici, doldur);
+    Doldur(geçici, tablolar, doldur);
     YarıdaKesildiMi();
     const Dosya::Sonuç taşıma = Dosya::Taşı(QFile::encodeName(geçici).toStdString(),
                                             QFile::encodeName(yol).toStdString(), Dosya::Yerleştirme::Yeni);

@@ -20,6 +20,9 @@ class VeriYazıcısı {
     explicit VeriYazıcısı(OdbcBağlantısı& bağlantı);
     void Çalıştır(const QString& deyim);
     OdbcBağlantısı& Bağlantı() { return m_bağlantı; }
+    // Why it cannot be run; empty: it was.
+    QString Dene(const QString& deyim);
+    QList<OdbcSütunu> Sütunlar(const QString& tablo);
 
   private:
     OdbcBağlantısı& m_bağlantı;
@@ -31,6 +34,9 @@ class VeriYazıcısı {
 // leaves nothing under the target's name. Throws VeriHatası.
 // `doldur` writes the rows, which are written together: without success none of them is kept.
 void VeriDosyasıYap(const QString& hedef, const std::function<void(VeriYazıcısı&)>& doldur);
+// `tablolar`: the declarations of its tables and indexes; the one above has the tables that every data file has.
+void VeriDosyasıYap(const QString& hedef, const QStringList& tablolar,
+                    const std::function<void(VeriYazıcısı&)>& doldur);
 
 // Ends the work at the next statement, as a failure. May be called from a signal handler.
 void YarıdaKes() noexcept;

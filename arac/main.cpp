@@ -1,69 +1,78 @@
 #include <QCoreApplication>
-#include <QDate>
-#include <QStringList>
+#include <clocale>
 #include <csignal>
-#include <cstdio>
 
-#include "BuyukVeri.h"
+#include "Komut.h"
 #include "OdbcSurucu.h"
-#include "OrnekVeri.h"
+#include "Uc.h"
 #include "VeriDosyasi.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-enum ÇıkışKodu { Tamam = 0, Başarısız = 1, YanlışKullanım = 2 };
+constexpr const Komut* Komutlar[] = {&YeniKomutu,       &ÖrnekKomutu,   &BüyükKomutu,   &DışarıAktarKomutu,
+                                     &İçeriAktarKomutu, &MaliyetKomutu, &DenetleKomutu, &OnarKomutu};
 
-constexpr int EN_ÇOK_SATIR = 100'000'000;
-
-void Yaz(std::FILE* nereye, const QString& metin) {
-    std::fprintf(nereye, "%s\n", metin.toUtf8().constData());
+QString Kullanım(const Komut& komut) {
+    return u"varnek-veri %1 %2"_s.arg(komut.Ad, komut.Yazılış);
 }
 
-int KullanımıGöster() {
-    Yaz(stderr,
-        u"Varnek veri dosyası aracı\n\n"
-        u"  varnek-veri yeni DOSYA      boş bir veri dosyası oluşturur\n"
-        u"  varnek-veri ornek DOSYA     örnek bir mobilya atölyesinin verileriyle oluşturur\n"
-        u"  varnek-veri buyuk DOSYA N   ölçme için N kullanılan malzeme satırıyla oluşturur\n\n"
-        u"Var olan bir dosyanın üzerine yazılmaz.\n"
-        u"Çıkış kodu: 0 başarılı, 1 dosya oluşturulamadı, 2 yanlış kullanım"_s);
-    return YanlışKullanım;
+QString GenelKullanım() {
+    QString metin = u"Varnek veri dosyası aracı\n\n"_s;
+    for (const Komut* komut : Komutlar)
+        metin += u"  %1\n      %2\n"_s.arg(Kullanım(*komut), QString::fromUtf16(komut->Özet));
+    return metin + u"\nBir komutun ayrıntıları ve çıkış kodları: varnek-veri KOMUT --help"_s;
 }
 
-int Oluştur(const QString& dosya, const std::function<void(VeriYazıcısı&)>& doldur) {
-    for (int sinyal : {SIGINT, SIGTERM, SIGHUP}) std::signal(sinyal, [](int) { YarıdaKes(); });
-    try {
-        SürücüKlasörünüAyarla(QCoreApplication::applicationDirPath());
-        VeriDosyasıYap(dosya, doldur);
-    } catch (const VeriHatası& hata) {
-        Yaz(stderr, hata.Metin());
-        return Başarısız;
+QString KomutYardımı(const Komut& komut) {
+    return u"%1\n%2\n\n%3"_s.arg(Kullanım(komut), QString::fromUtf16(komut.Özet), QString::fromUtf16(komut.Yardım));
+}
+
+bool Yardımİstiyor(const QStringList& sözler) {
+    return sözler.contains(u"--help"_s) || sözler.contains(u"-h"_s);
+}
+
+int KomutuYürüt(const Komut& komut, const QStringList& sözler) {
+    if (Yardımİstiyor(sözler)) {
+        ÇıktıSatırı(KomutYardımı(komut));
+        return Tamam;
     }
-    Yaz(stdout, u"%1 oluşturuldu."_s.arg(dosya));
-    return Tamam;
+    try {
+        return komut.Yürüt(sözler);
+    } catch (const KullanımHatası& hata) {
+        if (!hata.Metin().isEmpty()) Bildir(hata.Metin());
+        Bildir(u"Kullanım: %1\nAyrıntılar: varnek-veri %2 --help"_s.arg(Kullanım(komut), komut.Ad));
+        return YanlışKullanım;
+    }
+}
+
+int Yürüt(const QStringList& sözler) {
+    for (const Komut* komut : Komutlar)
+        if (sözler.value(0) == komut->Ad) return KomutuYürüt(*komut, sözler.mid(1));
+    if (Yardımİstiyor(sözler)) {
+        ÇıktıSatırı(GenelKullanım());
+        return Tamam;
+    }
+    if (!sözler.isEmpty()) Bildir(u"Bilinmeyen komut: %1\n"_s.arg(sözler[0]));
+    Bildir(GenelKullanım());
+    return YanlışKullanım;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
     const QCoreApplication uygulama(argc, argv);
-    const QStringList sözler = QCoreApplication::arguments().mid(1);
-    const QDate bugün = QDate::currentDate();
-    const QString komut = sözler.value(0);
-    if (sözler.size() == 2 && komut == u"yeni") {
-        return Oluştur(sözler[1], [](VeriYazıcısı&) {});
+    std::setlocale(LC_NUMERIC, "C");
+    for (int sinyal : {SIGINT, SIGTERM, SIGHUP}) std::signal(sinyal, [](int) { YarıdaKes(); });
+    std::signal(SIGPIPE, SIG_IGN);  // a reader that is gone is a failure to write, after which things are put away
+    SürücüKlasörünüAyarla(QCoreApplication::applicationDirPath());
+    try {
+        const int kod = Yürüt(QCoreApplication::arguments().mid(1));
+        ÇıktıyıBitir();
+        return kod;
+    } catch (const VeriHatası& hata) {
+        Bildir(hata.Metin());
+        return Başarısız;
     }
-    if (sözler.size() == 2 && komut == u"ornek") {
-        return Oluştur(sözler[1], [&](VeriYazıcısı& yazıcı) { ÖrnekVeriYaz(yazıcı, bugün); });
-    }
-    if (sözler.size() == 3 && komut == u"buyuk") {
-        bool sayı = false;
-        const int satır = sözler[2].toInt(&sayı);
-        if (sayı && satır > 0 && satır <= EN_ÇOK_SATIR) {
-            return Oluştur(sözler[1], [&](VeriYazıcısı& yazıcı) { BüyükVeriYaz(yazıcı, satır, bugün); });
-        }
-    }
-    return KullanımıGöster();
 }

@@ -9,12 +9,6 @@ namespace Motor {
 
 namespace {
 
-void BütünlüğüDenetle(sqlite3* vt) {
-    SqliteDeyimi denetle(vt, "PRAGMA integrity_check(1)");
-    const bool sağlam = denetle.Adım() && denetle.Metin(0) == "ok";
-    if (!sağlam) SqliteHatasıFırlat(SQLITE_CORRUPT);
-}
-
 // A journal beside the target belongs to the target's present content and must never meet the new one. If it is a
 // crash's, SQLite undoes the half transaction first: should this run be cut off before the new file is in place, the
 // old target is still whole.
@@ -41,6 +35,12 @@ void YerindeSıkıştır(sqlite3* vt) {
 }
 
 }  // namespace
+
+void BütünlüğüDenetle(sqlite3* vt) {
+    SqliteDeyimi denetle(vt, "PRAGMA integrity_check(1)");
+    const bool sağlam = denetle.Adım() && denetle.Metin(0) == "ok";
+    if (!sağlam) SqliteHatasıFırlat(SQLITE_CORRUPT);
+}
 
 void VeriDosyasıOluştur(const std::string& yol, std::string_view parola) {
     if (Dosya::YolVar(yol)) throw Hata(Durum::Genel, "Bu adda bir dosya zaten var; üzerine yazılmadı: " + yol);

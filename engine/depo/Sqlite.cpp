@@ -131,6 +131,10 @@ void SqliteDeyimi::BağlaBayt(int sıra, std::string_view baytlar) {
     Denetle(sqlite3_bind_blob64(m_deyim.get(), sıra, baytlar.data(), baytlar.size(), SQLITE_TRANSIENT));
 }
 
+void SqliteDeyimi::BağlaDeğer(int sıra, const sqlite3_value* değer) {
+    Denetle(sqlite3_bind_value(m_deyim.get(), sıra, değer));
+}
+
 std::string_view SqliteDeyimi::Bayt(int sütun) const {
     const auto* baytlar = static_cast<const char*>(sqlite3_column_blob(m_deyim.get(), sütun));
     return {baytlar, static_cast<std::size_t>(sqlite3_column_bytes(m_deyim.get(), sütun))};

@@ -42,12 +42,16 @@ class SqliteDeyimi {
 
     void Bağla(int sıra, const Değer& değer);  // from 1
     void BağlaBayt(int sıra, std::string_view baytlar);
+    void BağlaDeğer(int sıra, const sqlite3_value* değer);  // of another statement's row
 
     // The next row; at the end false, and the file's lock is given back.
     bool Adım() {
         const int sonuç = sqlite3_step(m_deyim.get());
         return sonuç == SQLITE_ROW || Bitti(sonuç);
     }
+
+    // Ends the rows before their end.
+    void Bırak() { sqlite3_reset(m_deyim.get()); }
 
     // A value of the current row, for the sqlite3_value_... functions, which cost less than their sqlite3_column_...
     // counterparts and are as good here, where no second thread can be in the connection.

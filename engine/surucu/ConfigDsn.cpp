@@ -1,6 +1,7 @@
-// What the installer calls: registering the data source, creating and compacting data files.
+// What the installer calls: registering the data source, creating, compacting and repairing data files.
 #include "Bakim.h"
 #include "BaglantiMetni.h"
+#include "Onarim.h"
 #include "Tani.h"
 
 #include <odbcinst.h>
@@ -11,7 +12,8 @@ namespace {
 
 using namespace Motor;
 
-// Paths in a COMPACT_DB pair are separated by a blank; a blank within a path is written %20 and a percent sign %25.
+// Paths in a pair (COMPACT_DB, REPAIR_DB) are separated by a blank; a blank within a path is written %20 and a percent
+// sign %25.
 std::string YoluÇöz(std::string_view yol) {
     std::string çözülen;
     while (!yol.empty()) {
@@ -23,12 +25,28 @@ std::string YoluÇöz(std::string_view yol) {
     return çözülen;
 }
 
-bool Sıkıştır(const std::string& yollar, const std::string& parola) {
+struct YolÇifti {
+    std::string Kaynak;
+    std::string Hedef;
+};
+
+YolÇifti YollarıAyır(const std::string& istek, const std::string& yollar) {
     const std::size_t boşluk = yollar.find(' ');
     if (boşluk == 0 || boşluk == std::string::npos || yollar.find(' ', boşluk + 1) != std::string::npos)
-        throw Hata(Durum::Genel, "COMPACT_DB için araları boşluklu iki dosya yolu gerekiyor.");
+        throw Hata(Durum::Genel, istek + " için araları boşluklu iki dosya yolu gerekiyor.");
     const std::string_view görünüm(yollar);
-    VeriDosyasıSıkıştır(YoluÇöz(görünüm.substr(0, boşluk)), YoluÇöz(görünüm.substr(boşluk + 1)), parola);
+    return {YoluÇöz(görünüm.substr(0, boşluk)), YoluÇöz(görünüm.substr(boşluk + 1))};
+}
+
+bool Sıkıştır(const std::string& yollar, const std::string& parola) {
+    const YolÇifti çift = YollarıAyır("COMPACT_DB", yollar);
+    VeriDosyasıSıkıştır(çift.Kaynak, çift.Hedef, parola);
+    return true;
+}
+
+bool Onar(const std::string& yollar, const Öznitelikler& öznitelikler) {
+    const YolÇifti çift = YollarıAyır("REPAIR_DB", yollar);
+    VeriDosyasıOnar(çift.Kaynak, çift.Hedef, öznitelikler.Değer("PWD"), öznitelikler.Değer("REPAIR_REPORT"));
     return true;
 }
 
@@ -45,6 +63,7 @@ bool VeriKaynağınıYaz(const Öznitelikler& öznitelikler, const char* sürüc
 bool İsteğiYürüt(WORD istek, const char* sürücü, const Öznitelikler& öznitelikler) {
     if (istek == ODBC_REMOVE_DSN) return SQLRemoveDSNFromIni(öznitelikler.Değer("DSN").c_str());
     if (const std::string* yollar = öznitelikler.Bul("COMPACT_DB")) return Sıkıştır(*yollar, öznitelikler.Değer("PWD"));
+    if (const std::string* yollar = öznitelikler.Bul("REPAIR_DB")) return Onar(*yollar, öznitelikler);
     if (const std::string* yol = öznitelikler.Bul("CREATE_DB")) {
         VeriDosyasıOluştur(*yol, öznitelikler.Değer("PWD"));
         return true;

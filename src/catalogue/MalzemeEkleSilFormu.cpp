@@ -199,9 +199,8 @@ void MalzemeEkleSilFormu::MalzemeEkleKaydetButonu_Click() {
     }
     if (!GirilenlerUygun()) return;
     const QString ad = m_ad->text();
-    const bool eklendi = DeyimiYürüt(Deyimler::MalzemeEkle(ad, m_fiyat->text()));
+    if (!DeyimiYürüt(Deyimler::MalzemeEkle(ad, m_fiyat->text()))) return;
     m_anaForm.VeriDeğişti({.Malzemeler = {ad}});
-    if (!eklendi) return;
     EklemedenDön();
     const int yer = SıralıYer(
         m_liste->count(), [this](int satır) { return m_liste->item(satır)->text(); }, ad);
@@ -301,7 +300,8 @@ bool MalzemeEkleSilFormu::BağÇözüldü(const QString& malzeme) {
         const YarıMamulBağı* bağ = bağlar->Bağı(malzeme);
         if (!bağ) return true;
         if (!Sor(Metin(YarıMamulMetni::ÇözmeSorusu).arg(bağ->Malzeme, bağ->Ürün.Grup, bağ->Ürün.Ad))) return false;
-        sonuç = YarıMamulBağınıÇöz(ODBCBağlantısı(), bağ->Malzeme);
+        sonuç = YarıMamulBağınıÇöz(ODBCBağlantısı(), QString(bağ->Malzeme));
+        SeçiliÜrünüYenile();  // the mark goes
     }
     if (!sonuç.Tamam()) HatalarıGöster(OdbcİletileriniAl(sonuç.Odbc.Hatalar));
     return sonuç.Tamam();
@@ -328,7 +328,7 @@ void MalzemeEkleSilFormu::FiyatıKaydet() {
         MesajKutusuOrtala();
         MesajKutusu::Göster(Simge::Ünlem, Düğmeler::Tamam, Metin(MetinNo::GeçmişeYazılamadı));
     }
-    m_anaForm.VeriDeğişti({.Malzemeler = {ad}});
+    if (yazılan.Katalogda || yazılan.Ürünlerde) m_anaForm.VeriDeğişti({.Malzemeler = {ad}});
     SeçiliÜrünüYenile();
     FiyattanDön();
     SeçileniGöster();

@@ -260,7 +260,8 @@ bool MalzemeListesiOluşturFormu::Aktar() {
                                                          : Deyimler::KullanılanMalzemeEkle(kayıt)))
             aktarılamayanlar.append(kayıt.Miktar + QLatin1Char(' ') + kayıt.Malzeme);
     }
-    m_anaForm.VeriDeğişti({.Ürünler = {{ürün->Grup, ürün->Ad}}});
+    if (aktarılamayanlar.size() + döngüler.size() < m_eklenecek->topLevelItemCount())
+        m_anaForm.VeriDeğişti({.Ürünler = {{ürün->Grup, ürün->Ad}}});
     m_anaForm.MalzemeTablosuYükle();
     if (!döngüler.isEmpty()) YarımKaldı(YarıMamulMetni::DöngüyleAktarılmayanlar, QLatin1Char('\n') + Başı(döngüler));
     // The list goes with the form: what has to be entered again is named.

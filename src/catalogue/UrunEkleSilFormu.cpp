@@ -136,9 +136,8 @@ void ÜrünEkleSilFormu::ÜrünEkleKaydetButonu_Click() {
     if (!YeniÜrünUygun(*m_grup, *m_ad)) return;
     const QString grup = KayıtlıGrup(*m_grup);
     const QString ürün = m_ad->text();
-    const bool eklendi = DeyimiYürüt(Deyimler::ÜrünEkle(grup, ürün));
+    if (!DeyimiYürüt(Deyimler::ÜrünEkle(grup, ürün))) return;
     m_anaForm.VeriDeğişti({.Ürünler = {{grup, ürün}}});
-    if (!eklendi) return;
     EkleneniYerleştir(grup, ürün);
     m_anaForm.ÜrünAğacınıYenile();
     GözatmaKipineDön();

@@ -156,13 +156,15 @@ void AnaForm::ListedenMalzemeSil() {
         return;
     const ÜrünAdı ürün{m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()};
     const bool çıkarıldı = DeyimiYürüt(Deyimler::KullanılanMalzemeÇıkar(ürün.Grup, ürün.Ad, malzeme));
+    if (!çıkarıldı) return;
     VeriDeğişti({.Ürünler = {ürün}});
-    if (çıkarıldı) MalzemeTablosuYükle();
+    MalzemeTablosuYükle();
 }
 
 void AnaForm::DeğişiklikleriKaydet() {
     const ÜrünAdı ürün{m_ağaç->SeçiliGrup(), m_ağaç->SeçiliÜrün()};
-    if (m_maliyet->YüzdeleriKaydet(ürün.Grup, ürün.Ad)) m_komutlar.DeğişiklikleriKaydet->setEnabled(false);
+    if (!m_maliyet->YüzdeleriKaydet(ürün.Grup, ürün.Ad)) return;
+    m_komutlar.DeğişiklikleriKaydet->setEnabled(false);
     VeriDeğişti({.Ürünler = {ürün}});
 }
 

@@ -105,6 +105,7 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void RaporKomutlarınıKur();
     void YazdırmayaİzinVer(bool izin);
     MaliyetFişi Fiş() const;
+    void FişiAktar();
 
     // The commands of buttons and function keys; one that the selection does not allow is disabled.
     struct Komutlar {
@@ -113,6 +114,7 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
         QAction* Yazdır;
         QAction* PdfKaydet;
         QAction* Önizle;
+        QAction* TabloyaAktar;
         QAction* DeğişiklikleriKaydet;
         QAction* MiktarlarıGöster;
         QAction* GünlükMalzemeHareketleri;

@@ -213,10 +213,11 @@ QWidget* AnaForm::ListeAltlığı() {
     başlık->addWidget(EtiketOluştur(11, MetinNo::HaneOlsun));
     m_yazdır = KomutaBağlıDüğme(QStringLiteral("YazdırButonu"), m_komutlar.Yazdır);
     m_pdfKaydet = KomutaBağlıDüğme(QStringLiteral("PdfKaydetButonu"), m_komutlar.PdfKaydet);
-    QHBoxLayout* düğmeler = DüğmeSırası(
-        {KomutaBağlıDüğme(QStringLiteral("ListeyeMalzemeEkleButonu"), m_komutlar.ListeyeMalzemeEkle),
-         KomutaBağlıDüğme(QStringLiteral("ListedenMalzemeSilButonu"), m_komutlar.ListedenMalzemeSil), m_yazdır,
-         m_pdfKaydet, KomutaBağlıDüğme(QStringLiteral("ÖnizlemeButonu"), m_komutlar.Önizle), nullptr});
+    QHBoxLayout* düğmeler =
+        DüğmeSırası({KomutaBağlıDüğme(QStringLiteral("ListeyeMalzemeEkleButonu"), m_komutlar.ListeyeMalzemeEkle),
+                     KomutaBağlıDüğme(QStringLiteral("ListedenMalzemeSilButonu"), m_komutlar.ListedenMalzemeSil),
+                     m_yazdır, m_pdfKaydet, KomutaBağlıDüğme(QStringLiteral("ÖnizlemeButonu"), m_komutlar.Önizle),
+                     KomutaBağlıDüğme(QStringLiteral("TabloyaAktarButonu"), m_komutlar.TabloyaAktar), nullptr});
     auto* düzen = new QVBoxLayout(altlık);
     düzen->setContentsMargins(0, 0, 0, 0);
     düzen->addLayout(başlık);

@@ -10,6 +10,7 @@
 #include "FiyatGecmisiFormu.h"
 #include "FiyatIsi.h"
 #include "FiyatListesiAlFormu.h"
+#include "MaliyetAlani.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "TopluFiyatFormu.h"
@@ -60,10 +61,17 @@ void AnaForm::ToplucaFiyatDeğiştir() {
     if (form.Uygulandı()) FiyatlarDeğişti();
 }
 
-// As after a price that was changed in the material's form.
+// As after a price that was changed in the material's form. Percentages that are typed and not saved stay typed.
 void AnaForm::FiyatlarDeğişti() {
     const std::int32_t sıra = m_ağaç->SeçiliSıra();
-    if (sıra >= 0) DüğümüSeç(sıra);
+    if (sıra < 0) return;
+    const bool kaydedilmemiş = m_komutlar.DeğişiklikleriKaydet->isEnabled();
+    const MaliyetGirdisi yazılan = m_maliyet->Girdi();
+    DüğümüSeç(sıra);
+    if (!kaydedilmemiş || !m_ürünYüklendi) return;
+    m_maliyet->YüzdeleriKoy(yazılan);
+    ToplamMaliyetHesapla();
+    m_komutlar.DeğişiklikleriKaydet->setEnabled(true);
 }
 
 // From the material form: for looking only.

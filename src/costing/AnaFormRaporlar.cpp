@@ -3,11 +3,13 @@
 #include <QAction>
 
 #include "AnaForm.h"
+#include "CizelgeKaydi.h"
 #include "DegiskenModulu.h"
 #include "FormParcalari.h"
 #include "KullanilanMalzemeler.h"
 #include "MaliyetAlani.h"
 #include "MaliyetFisi.h"
+#include "ListeCizelgesi.h"
 #include "MalzemeHareketleriFormu.h"
 #include "MalzemeListesiFormu.h"
 #include "MetinTablosu.h"
@@ -39,6 +41,8 @@ void AnaForm::RaporKomutlarınıKur() {
                                         [this] { ::PdfKaydet(*this, *m_pdfKaydet, FişiYazdır(Fiş())); });
     m_komutlar.Önizle = KomutOluştur(QStringLiteral("ÖnizlemeKomutu"), MetinNo::Önizleme,
                                      [this] { ::Önizle(*this, FişiYazdır(Fiş())); });
+    m_komutlar.TabloyaAktar =
+        KomutOluştur(QStringLiteral("TabloyaAktarKomutu"), MetinNo::ExcelKaydet, [this] { FişiAktar(); });
     m_komutlar.GünlükMalzemeHareketleri =
         KomutOluştur(QStringLiteral("GünlükMalzemeHareketleriGösterKomutu"), MetinNo::GünlükMalzemeHareketleriDüğmesi,
                      [this] { MalzemeHareketleriFormu(this).exec(); });
@@ -50,7 +54,27 @@ void AnaForm::RaporKomutlarınıKur() {
 }
 
 void AnaForm::YazdırmayaİzinVer(bool izin) {
-    for (QAction* komut : {m_komutlar.Yazdır, m_komutlar.PdfKaydet, m_komutlar.Önizle}) komut->setEnabled(izin);
+    for (QAction* komut : {m_komutlar.Yazdır, m_komutlar.PdfKaydet, m_komutlar.Önizle, m_komutlar.TabloyaAktar})
+        komut->setEnabled(izin);
+}
+
+// The printout's summary stands below the rows, its captions under the names, its figures under the amounts.
+void AnaForm::FişiAktar() {
+    const MaliyetFişi fiş = Fiş();
+    QList<QList<ÇizelgeDeğeri>> özet;
+    özet.emplaceBack();
+    for (const FişÖzeti& satır : FişinÖzeti(fiş)) {
+        QList<ÇizelgeDeğeri>& değerler = özet.emplaceBack();
+        for (int boş = 0; boş < 2; ++boş) değerler.emplaceBack();
+        değerler.emplaceBack(satır.Etiket);
+        değerler.emplaceBack();
+        değerler.append(GösterilenDeğer(satır.Değer));
+    }
+    ÇizelgeyeKaydet(*this, fiş.Ürün, [&](const QString& yol) {
+        return ListeyiÇizelgeyeYaz(yol, fiş.Ürün, *m_liste,
+                                   {ListeSütunu::Miktar, ListeSütunu::Metin, ListeSütunu::Fiyat, ListeSütunu::Tutar},
+                                   özet);
+    });
 }
 
 MaliyetFişi AnaForm::Fiş() const {

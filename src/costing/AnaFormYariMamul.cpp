@@ -34,7 +34,7 @@ void AnaForm::YarıMamuller() {
     YarıMamulFormu form(this);
     if (!form.Yükle()) return;
     form.exec();
-    if (form.Değişti()) MalzemeTablosuYükle();
+    if (form.Değişti()) FiyatlarDeğişti();
     if (const ÜrünAdı* ürün = form.Gidilecek()) ÜrüneGit(ürün->Grup, ürün->Ad);
 }
 

@@ -98,6 +98,11 @@ bool MaliyetAlanı::YüzdeleriYükle(const QString& grup, const QString& ürün)
     return true;
 }
 
+void MaliyetAlanı::YüzdeleriKoy(const MaliyetGirdisi& girdi) {
+    const QString metinler[] = {girdi.İşçilik, girdi.Kâr, girdi.Diğer, girdi.Vade};
+    for (int i = İşçilik; i <= Vade; ++i) m_yüzdeler[i]->setText(metinler[i]);
+}
+
 bool MaliyetAlanı::YüzdeleriKaydet(const QString& grup, const QString& ürün) {
     const bool saklanır =
         std::all_of(m_yüzdeler.begin(), m_yüzdeler.end(), [](SayıKutusu* kutu) { return kutu->Saklanır(); });

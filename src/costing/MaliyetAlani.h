@@ -25,6 +25,9 @@ class MaliyetAlanı : public QFrame {
     // Stores the boxes' percentages as the product's. False: they are not stored, and the user has been told.
     bool YüzdeleriKaydet(const QString& grup, const QString& ürün);
 
+    // Puts back what the user had typed.
+    void YüzdeleriKoy(const MaliyetGirdisi& girdi);
+
     void ToplamMaliyetHesapla();
     void Boşalt();
 

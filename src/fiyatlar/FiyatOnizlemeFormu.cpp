@@ -65,7 +65,7 @@ void FiyatÖnizlemeFormu::Yerleştir() {
     auto* önizle =
         DüğmeOluştur(QStringLiteral("ÖnizlemeButonu"), MetinNo::Önizleme, [this] { Önizle(*this, Rapor()); });
     auto* iptal = DüğmeOluştur(QStringLiteral("İptalButonu"), MetinNo::Vazgeç, [this] { reject(); });
-    auto* excel = DüğmeOluştur(QStringLiteral("ExcelKaydetButonu"), MetinNo::ExcelKaydet, [this] { ExceleKaydet(); });
+    auto* excel = DüğmeOluştur(QStringLiteral("TabloyaAktarButonu"), MetinNo::ExcelKaydet, [this] { ExceleKaydet(); });
     QHBoxLayout* düğmeler = DüğmeSırası({m_uygula, m_yazdır, m_pdf, önizle, excel, nullptr, iptal});
     auto* düzen = new QVBoxLayout(this);
     düzen->addWidget(m_özet);

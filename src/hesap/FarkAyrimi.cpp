@@ -56,7 +56,7 @@ Eşleşme Eşleştir(const FarkTarafı& eski, const FarkTarafı& yeni) {
         const Yerler eklenen = fark >= 0 ? Adaşlar(yeniler, j) : Yerler();
         i += çıkan.size();
         j += eklenen.size();
-        if (çıkan.size() == 1 && eklenen.size() == 1 && Sırala(çıkan[0]->Birim, eklenen[0]->Birim) == 0) {
+        if (çıkan.size() == 1 && eklenen.size() == 1 && çıkan[0]->Birim == eklenen[0]->Birim) {
             sonuç.Kalanlar.push_back({çıkan[0], eklenen[0]});
         } else {
             kat(sonuç.Çıkanlar, çıkan);

@@ -60,14 +60,22 @@ enum Kademe : std::size_t { İleBaşlayan, Adında, Grubunda, KademeSayısı };
 AdArama::Bulunanlar AdArama::Ara(const QString& aranan, std::size_t enÇok) const {
     Bulunanlar sonuç;
     if (aranan.isEmpty()) return sonuç;
+    // What the box writes for an apostrophe stands for both.
+    const QString düz = QString(aranan).replace(QChar(u'’'), QLatin1Char('\''));
+    const auto içerir = [&](const QString& ad) {
+        return Türkçe::İçerir(ad, aranan) || (düz != aranan && Türkçe::İçerir(ad, düz));
+    };
+    const auto başlar = [&](const QString& ad) {
+        return Türkçe::İleBaşlar(ad, aranan) || (düz != aranan && Türkçe::İleBaşlar(ad, düz));
+    };
     std::vector<bool> grupta(m_gruplar.size(), false);  // the materials' place stays false
-    for (std::size_t i = 1; i < m_gruplar.size(); ++i) grupta[i] = Türkçe::İçerir(m_gruplar[i], aranan);
+    for (std::size_t i = 1; i < m_gruplar.size(); ++i) grupta[i] = içerir(m_gruplar[i]);
     std::array<std::vector<const ArananAd*>, KademeSayısı> kademeler;
     for (const Kayıt& kayıt : m_adlar) {
         Kademe kademe = Grubunda;
-        if (Türkçe::İleBaşlar(kayıt.Ad.Ad, aranan))
+        if (başlar(kayıt.Ad.Ad))
             kademe = İleBaşlayan;
-        else if (Türkçe::İçerir(kayıt.Ad.Ad, aranan))
+        else if (içerir(kayıt.Ad.Ad))
             kademe = Adında;
         else if (!grupta[kayıt.Grup])
             continue;

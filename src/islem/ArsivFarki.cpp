@@ -82,8 +82,10 @@ std::int64_t Eksikler(const std::optional<Başlık>& arşiv, std::int64_t okunan
 
 }  // namespace
 
+// An archive writes an apostrophe as ’.
 bool AynıAdlı(const QString& a, const QString& b) {
-    return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) == 0;
+    const auto yazım = [](const QString& ad) { return QString(ad).replace(QLatin1Char('\''), QChar(u'’')); };
+    return Türkçe::Karşılaştır(yazım(a), yazım(b)) == 0;
 }
 
 bool AynıÜrün(const FöyYeri& a, const FöyYeri& b) {

@@ -107,8 +107,10 @@ bool Kendiİşlemi(const İşlem& işlem) {
 }
 
 std::optional<İşlem> GeriAlınacakİşlem(const std::vector<İşlem>& işlemler) {
-    const auto yer = std::find_if(işlemler.begin(), işlemler.end(),
-                                  [](const İşlem& i) { return Kendiİşlemi(i) && i.GeriAlan == 0; });
+    const auto yer = std::find_if(işlemler.begin(), işlemler.end(), [](const İşlem& i) {
+        // While a tie stands its price cannot be taken back; the history offers it.
+        return Kendiİşlemi(i) && i.GeriAlan == 0 && SözcüğünTürü(i.Tür) != İşlemTürü::YarıMamul;
+    });
     return yer == işlemler.end() ? std::nullopt : std::optional(*yer);
 }
 

@@ -1,6 +1,7 @@
 #include "UrunAcilimi.h"
 
 #include <algorithm>
+#include <map>
 
 #include "Deyimler.h"
 #include "OdbcTanitici.h"
@@ -103,16 +104,20 @@ std::vector<AçılımToplamı> ÜrünAçılımı::Toplamlar(double adet) const {
     std::vector<std::size_t> bekleyen(m_ürünler.size(), 0);
     std::vector<double> adetler(m_ürünler.size(), 0);
     std::vector<bool> karışık(m_ürünler.size(), false);
+    std::vector<bool> eksik(m_ürünler.size(), false);  // a row that leads there has an unreadable quantity
     for (const AçılanÜrün& ürün : m_ürünler)
         for (const AçılımSatırı& satır : ürün.Satırlar)
             if (satır.Ürün != AçılımSatırı::YOK) ++bekleyen[satır.Ürün];
     std::vector<AçılımToplamı> toplamlar;
-    AdDizini yerler;
-    const auto topla = [&](const AçılımSatırı& satır, double kat, bool farklıBirim) {
-        const auto yeni = static_cast<std::uint32_t>(toplamlar.size());
-        const std::uint32_t yer = yerler.BulYaDaEkle(satır.Birim.toStdString(), satır.Malzeme.toStdString(), yeni);
-        if (yer == yeni) toplamlar.push_back({satır.Malzeme, satır.Birim});
-        AçılımToplamı& toplam = toplamlar[yer];
+    AdDizini malzemeler;
+    std::map<std::pair<std::uint32_t, QString>, std::size_t> yerler;  // units are one only to the letter
+    const auto topla = [&](const AçılımSatırı& satır, double kat, bool farklıBirim, bool yolEksik) {
+        const auto sayı = static_cast<std::uint32_t>(toplamlar.size());
+        const std::uint32_t malzeme = malzemeler.BulYaDaEkle(satır.Malzeme.toStdString(), sayı);
+        const auto [yer, yeni] = yerler.try_emplace({malzeme, satır.Birim}, toplamlar.size());
+        if (yeni) toplamlar.push_back({satır.Malzeme, satır.Birim});
+        AçılımToplamı& toplam = toplamlar[yer->second];
+        toplam.Okunamayan += yolEksik;
         satır.Miktar ? void(toplam.Miktar += kat * *satır.Miktar) : void(++toplam.Okunamayan);
         toplam.FarklıBirim = toplam.FarklıBirim || farklıBirim;
         if (satır.Durum != BağDurumu::Uyuyor) toplam.Durum = satır.Durum;
@@ -124,10 +129,11 @@ std::vector<AçılımToplamı> ÜrünAçılımı::Toplamlar(double adet) const {
         for (const AçılımSatırı& satır : m_ürünler[ürün].Satırlar) {
             // What cannot be read cannot be exploded either: it is named as it stands.
             if (satır.Ürün == AçılımSatırı::YOK || !satır.Miktar)
-                topla(satır, adetler[ürün], karışık[ürün] || satır.FarklıBirim);
+                topla(satır, adetler[ürün], karışık[ürün] || satır.FarklıBirim, eksik[ürün]);
             if (satır.Ürün == AçılımSatırı::YOK) continue;
             adetler[satır.Ürün] += adetler[ürün] * satır.Miktar.value_or(0) * satır.Oran;
             karışık[satır.Ürün] = karışık[satır.Ürün] || karışık[ürün] || satır.FarklıBirim;
+            eksik[satır.Ürün] = eksik[satır.Ürün] || eksik[ürün] || !satır.Miktar;
             if (--bekleyen[satır.Ürün] == 0) sıra.push_back(satır.Ürün);
         }
     }

@@ -46,7 +46,8 @@ class Yayıcı {
             işaretle(m_bağlar.Kullananlar(malzeme));
             if (const std::uint32_t bağ = m_bağlar.Bul(malzeme); bağ != YarıMamulBağları::YOK) m_kirli[bağ] = true;
         }
-        return std::find(m_kirli.begin(), m_kirli.end(), true) != m_kirli.end() || YuvarlanmışVar();
+        const bool yuvarlanmış = YuvarlanmışVar();  // found in any case: they come first
+        return yuvarlanmış || std::find(m_kirli.begin(), m_kirli.end(), true) != m_kirli.end();
     }
 
     // The materials whose price was to follow.
@@ -86,11 +87,20 @@ class Yayıcı {
         if (m_değişim.FiyatlarTam || m_değişim.Silindi || m_bağlar.Boş()) return false;
         for (const ÜrünAdı& ürün : m_değişim.Ürünler) {
             if (ürün.Ad.isEmpty() || !Yazılabilir(ürün)) continue;
-            QStringList malzemeler;
-            m_yayılım.Sonuç = ÜrününMalzemeleri(m_bağlantı, ürün, malzemeler);
-            if (!m_yayılım.Sonuç.Tamam()) return true;  // the transaction meets it again
-            for (const QString& malzeme : malzemeler)
-                if (m_bağlar.Bul(malzeme) != YarıMamulBağları::YOK) m_yuvarlananlar.push_back({ürün, malzeme});
+            std::vector<KatalogMalzemesi> satırlar;
+            const OdbcSonucu odbc =
+                m_bağlantı.Oku(Deyimler::KullanılanMalzemeler(ürün.Grup, ürün.Ad), [&](OdbcSatırı& satır) {
+                    QString malzeme = satır.Metin(2);
+                    if (m_bağlar.Bul(malzeme) != YarıMamulBağları::YOK)
+                        satırlar.push_back({std::move(malzeme), ParaSütunu(satır, 3)});
+                    return true;
+                });
+            if (!odbc.Başarılı()) return true;  // the transaction meets it again
+            for (const KatalogMalzemesi& satır : satırlar) {
+                std::optional<KatalogMalzemesi> katalogdaki;
+                if (!MalzemeyiOku(m_bağlantı, satır.Ad, katalogdaki).Tamam()) return true;
+                if (katalogdaki && katalogdaki->Fiyat != satır.Fiyat) m_yuvarlananlar.push_back({ürün, satır.Ad});
+            }
         }
         return !m_yuvarlananlar.empty();
     }
@@ -329,6 +339,8 @@ Yayılım YarıMamulleriYürüt(OdbcBağlantısı& bağlantı, const VeriDeğiş
 
 İşSonucu YarıMamulBağınıÇöz(OdbcBağlantısı& bağlantı, const QString& malzeme) {
     const İşSonucu sonuç = İşSonucuYap(bağlantı.Çalıştır(Deyimler::YarıMamul::BağSil(malzeme)));
+    if (!sonuç.Tamam()) return sonuç;
     YarıMamulleriUnut();
-    return sonuç;
+    // A circle may be open now: what stood still in it follows again.
+    return YarıMamulleriYürüt(bağlantı, {.Hepsi = true}).Sonuç;
 }

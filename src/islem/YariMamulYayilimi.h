@@ -36,5 +36,5 @@ Yayılım YarıMamulleriYay(OdbcBağlantısı& bağlantı, const VeriDeğişimi&
 // marked in the ties, and the next call makes up for it.
 Yayılım YarıMamulleriYürüt(OdbcBağlantısı& bağlantı, const VeriDeğişimi& değişim);
 
-// Each a transaction of its own, of the tie alone; prices stay.
+// Of the tie alone: the material's price stays. Others follow where the tie had closed a circle.
 İşSonucu YarıMamulBağınıÇöz(OdbcBağlantısı& bağlantı, const QString& malzeme);

@@ -23,6 +23,19 @@ QString DosyaAdı(QString ad, const QString& uzantı) {
     return ad.left(EnUzunDosyaAdı).trimmed() + QLatin1Char('.') + uzantı;
 }
 
+QString SeçilenUzantı(const QFileDialog& kutu, const KayıtTürü& tür, const QString& süzgeç) {
+    const qsizetype sıra = kutu.nameFilters().indexOf(süzgeç);
+    return sıra > 0 ? tür.Diğerleri.value(sıra - 1, tür.Uzantı) : tür.Uzantı;
+}
+
+// A dot in the name alone ("Liste 12.11") makes no kind of file.
+QString UzantıylaBitir(const QString& yol, const KayıtTürü& tür, const QString& uzantı) {
+    if (tür.Diğerleri.isEmpty()) return yol;
+    for (const QString& bilinen : tür.Diğerleri + QStringList(tür.Uzantı))
+        if (yol.endsWith(QLatin1Char('.') + bilinen, Qt::CaseInsensitive)) return yol;
+    return yol + QLatin1Char('.') + uzantı;
+}
+
 bool ÜzerineYazılsınMı(const QString& yol) {
     MesajKutusuOrtala();
     return MesajKutusu::Göster(Simge::Soru, Düğmeler::EvetHayır,
@@ -40,8 +53,10 @@ QString KaydedilecekYer(QWidget& form, const QString& ad, const KayıtTürü& t�
     kutu.setDefaultSuffix(tür.Uzantı);
     kutu.setOption(QFileDialog::DontConfirmOverwrite);
     kutu.selectFile(DosyaAdı(ad, tür.Uzantı));
+    QObject::connect(&kutu, &QFileDialog::filterSelected, &kutu,
+                     [&kutu, &tür](const QString& süzgeç) { kutu.setDefaultSuffix(SeçilenUzantı(kutu, tür, süzgeç)); });
     while (kutu.exec() == QDialog::Accepted) {
-        const QString yol = kutu.selectedFiles().value(0);
+        const QString yol = UzantıylaBitir(kutu.selectedFiles().value(0), tür, kutu.defaultSuffix());
         if (QFileInfo::exists(yol) && !ÜzerineYazılsınMı(yol)) continue;
         klasör = QFileInfo(yol).absolutePath();
         return yol;

@@ -1,9 +1,14 @@
 #include "SutunluListe.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 
 #include "MetinTablosu.h"
 #include "MetinTemsilcisi.h"
+#include "TabloMetni.h"
+#include "TurkceMetin.h"
 
 SütunluListe::SütunluListe(const QList<Sütun>& sütunlar, QWidget* sahip) : TekSeçimli(sahip) {
     setRootIsDecorated(false);
@@ -19,6 +24,7 @@ SütunluListe::SütunluListe(const QList<Sütun>& sütunlar, QWidget* sahip) : T
         if (sütun.Sayı || sütun.Miktar) yerler.Sayılar.append(sıra);
         başlıklar.append(Metin(sütun.Başlık));
         m_bölenler.append(sütun.Bölen);
+        m_sayılar.append(sütun.Sayı || sütun.Miktar);
     }
     setHeaderLabels(başlıklar);
     for (const int sıra : yerler.Sağda) headerItem()->setTextAlignment(sıra, Qt::AlignRight | Qt::AlignVCenter);
@@ -36,6 +42,17 @@ void SütunluListe::SatırlarıKoy(const QList<QTreeWidgetItem*>& satırlar) {
 QString SütunluListe::SeçiliMetin(int sütun) const {
     const QTreeWidgetItem* seçili = SeçiliÖğe();
     return seçili ? seçili->text(sütun) : QString();
+}
+
+void SütunluListe::keyPressEvent(QKeyEvent* olay) {
+    const QTreeWidgetItem* seçili = SeçiliÖğe();
+    if (!olay->matches(QKeySequence::Copy) || !seçili) return TekSeçimli::keyPressEvent(olay);
+    QStringList hücreler;
+    for (int sütun = 0; sütun < columnCount(); ++sütun) {
+        const QString hücre = seçili->text(sütun);
+        hücreler.append(TekSatır(m_sayılar.at(sütun) ? hücre : TabloMetni(hücre)));
+    }
+    QGuiApplication::clipboard()->setText(hücreler.join(QLatin1Char('\t')));
 }
 
 void SütunluListe::resizeEvent(QResizeEvent* olay) {

@@ -30,7 +30,9 @@ class SütunluListe : public TekSeçimli<QTreeWidget> {
 
   protected:
     void resizeEvent(QResizeEvent* olay) override;
+    void keyPressEvent(QKeyEvent* olay) override;  // Ctrl+C copies the marked row, tab between cells
 
   private:
     QList<double> m_bölenler;
+    QList<bool> m_sayılar;  // the columns of figures
 };

@@ -15,6 +15,9 @@ class SütunluSatır : public QTreeWidgetItem {
     // Told with the row's tooltip, and to screen readers.
     void NotKoy(QString metin) { m_not = std::move(metin); }
 
+    // The stored text; empty: none is told.
+    QString Saklanan(int sütun) const { return m_saklananlar.value(sütun); }
+
     QVariant data(int sütun, int rol) const override;
 
   private:

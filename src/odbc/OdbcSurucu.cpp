@@ -69,6 +69,18 @@ bool VeritabanınıSıkıştır(const QString& kaynak, const QString& hedef) {
                                                 QStringLiteral("COMPACT_DB=") + kaynak + QLatin1Char(' ') + hedef});
 }
 
+bool VeriDosyasınıOnar(const QString& kaynak, const QString& hedef, const QString& rapor) {
+    return SürücüKurulumu(Kurulumİsteği::Ekle,
+                          {QStringLiteral("UID=Admin"), ParolaNiteliği(),
+                           QStringLiteral("REPAIR_DB=") + SürücüYolu(kaynak) + QLatin1Char(' ') + SürücüYolu(hedef),
+                           QStringLiteral("REPAIR_REPORT=") + rapor});
+}
+
+QString SürücüYolu(QString yol) {
+    yol.replace(QLatin1Char('%'), QLatin1String("%25"));
+    return yol.replace(QLatin1Char(' '), QLatin1String("%20"));
+}
+
 QStringList SürücüKurulumHataları() {
     constexpr WORD azamiKayıt = 8;
     QStringList iletiler;

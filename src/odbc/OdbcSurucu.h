@@ -37,5 +37,12 @@ bool BoşVeriDosyasıOluştur(const QString& yol);
 // refuses a damaged one. False: the target is as it was.
 bool VeritabanınıSıkıştır(const QString& kaynak, const QString& hedef);
 
+// Asks the driver to save what can be read of a damaged data file into a new one, and to write into `rapor`, a line for
+// each, what could not be. False: nothing was saved.
+bool VeriDosyasınıOnar(const QString& kaynak, const QString& hedef, const QString& rapor);
+
+// A path as the driver takes it in a pair of paths: blanks as %20, percent signs as %25.
+QString SürücüYolu(QString yol);
+
 // The messages of the installer call that has just failed, the driver manager's own first.
 QStringList SürücüKurulumHataları();

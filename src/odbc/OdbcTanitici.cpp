@@ -117,6 +117,29 @@ OdbcSonucu OdbcBağlantısı::TabloVar(const QString& ad, bool& var) {
     return {kod, deyim.HatalarınıAl()};
 }
 
+OdbcSonucu OdbcBağlantısı::Tablolar(QStringList& adlar) {
+    constexpr int adSütunu = 3;
+    adlar.clear();
+    OdbcDeyimi deyim;
+    if (const std::int16_t kod = deyim.Aç(*this)) return Sonuç(kod);
+    std::int16_t kod = deyim.TablolarıBul(QStringLiteral("%"));
+    while (kod == SQL_SUCCESS && (kod = deyim.Getir()) == SQL_SUCCESS) kod = deyim.Oku(adSütunu, adlar.emplaceBack());
+    if (kod == SQL_NO_DATA) return {};
+    return {kod, deyim.HatalarınıAl()};
+}
+
+OdbcSonucu OdbcBağlantısı::Sütunlar(const QString& tablo, QList<OdbcSütunu>& sütunlar) {
+    sütunlar.clear();
+    OdbcDeyimi deyim;
+    if (const std::int16_t kod = deyim.Aç(*this)) return Sonuç(kod);
+    std::int16_t kod = deyim.Çalıştır(QStringLiteral("SELECT * FROM ") + tablo);
+    const int sayı = kod == SQL_SUCCESS ? deyim.SütunSayısı() : 0;
+    for (int sütun = 1; sütun <= sayı && kod == SQL_SUCCESS; ++sütun)
+        kod = deyim.SütunuTanı(sütun, sütunlar.emplaceBack());
+    if (kod == SQL_SUCCESS) return {};
+    return {kod, deyim.HatalarınıAl()};
+}
+
 QList<OdbcHatası> OdbcBağlantısı::HatalarınıAl() const {
     return m_bağlantı ? HataKayıtlarınıAl(m_bağlantı, nullptr) : QList<OdbcHatası>();
 }
@@ -151,6 +174,20 @@ std::int16_t OdbcDeyimi::Getir() {
 int OdbcDeyimi::SütunSayısı() const {
     SQLSMALLINT sayı = 0;
     return SQL_SUCCEEDED(SQLNumResultCols(m_deyim, &sayı)) ? sayı : 0;
+}
+
+std::int16_t OdbcDeyimi::SütunuTanı(int sütun, OdbcSütunu& tanım) {
+    SQLSMALLINT tür = 0;
+    const SQLRETURN sonuç =
+        SQLDescribeCol(m_deyim, static_cast<SQLUSMALLINT>(sütun), reinterpret_cast<SQLCHAR*>(m_tampon.data()),
+                       static_cast<SQLSMALLINT>(m_tampon.size()), nullptr, &tür, nullptr, nullptr, nullptr);
+    if (sonuç != SQL_SUCCESS) return sonuç;
+    tanım.Ad = QString::fromUtf8(m_tampon.data());
+    tanım.Tür = tür == SQL_DECIMAL                                  ? OdbcSütunTürü::Para
+                : tür == SQL_DOUBLE                                 ? OdbcSütunTürü::Ondalık
+                : tür == SQL_TIMESTAMP || tür == SQL_TYPE_TIMESTAMP ? OdbcSütunTürü::Tarih
+                                                                    : OdbcSütunTürü::Metin;
+    return sonuç;
 }
 
 std::int64_t OdbcDeyimi::EtkilenenSatır() const {

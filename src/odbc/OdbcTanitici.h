@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <array>
 #include <cstdint>
 #include <functional>
@@ -16,6 +17,12 @@
 // success). A connection and what belongs to it are used by one thread at a time.
 
 class OdbcSatırı;
+
+enum class OdbcSütunTürü { Metin, Para, Ondalık, Tarih };
+struct OdbcSütunu {
+    QString Ad;
+    OdbcSütunTürü Tür = OdbcSütunTürü::Metin;
+};
 
 // Environment and connection together: they live and die as one.
 class OdbcBağlantısı {
@@ -44,6 +51,10 @@ class OdbcBağlantısı {
 
     // Whether the data file has a table of this name.
     OdbcSonucu TabloVar(const QString& ad, bool& var);
+
+    // The names of all tables of the data file, and a table's columns in their order.
+    OdbcSonucu Tablolar(QStringList& adlar);
+    OdbcSonucu Sütunlar(const QString& tablo, QList<OdbcSütunu>& sütunlar);
 
     // Takes every pending error off the connection, in the order in which the driver keeps them.
     QList<OdbcHatası> HatalarınıAl() const;
@@ -77,11 +88,12 @@ class OdbcDeyimi {
 
     std::int16_t Aç(const OdbcBağlantısı& bağlantı);
     std::int16_t Çalıştır(const QString& sql);
-    std::int16_t TablolarıBul(const QString& ad);  // a row for each table of this name
+    std::int16_t TablolarıBul(const QString& ad);  // a row for each table of this name; "%": for each table
     std::int16_t Getir();                          // the next row; 100 at their end
 
     int SütunSayısı() const;
-    std::int64_t EtkilenenSatır() const;  // -1 when the driver does not tell
+    std::int16_t SütunuTanı(int sütun, OdbcSütunu& tanım);  // from 1
+    std::int64_t EtkilenenSatır() const;                    // -1 when the driver does not tell
 
     // A column (from 1) of the row at hand: UTF-8, good until the next call; NULL is nothing, as a text it is "". A
     // value of more than 1023 bytes, which no column of a data file holds, is cut and gives 1.

@@ -52,17 +52,19 @@ Okuma GününSatırları(const QString& tarih, QList<QTreeWidgetItem*>& satırla
 }  // namespace
 
 MalzemeHareketleriFormu::MalzemeHareketleriFormu(QWidget* sahip)
-    : RaporFormu({QStringLiteral("MalzemeHareketleriFormu"),
-                  QStringLiteral("MalzemeHareketleriListesi"),
-                  MetinNo::HareketlerFormuBaşlığı,
-                  MetinNo::TarihliHareketler,
-                  {{MetinNo::AdıSütunu, 4, false},
-                   {MetinNo::MiktarıSütunu, 6, true},
-                   {MetinNo::FiyatıSütunu, 6, true},
-                   {MetinNo::TutarıSütunu, 5.5, true},
-                   {MetinNo::KullanıldığıÜrünSütunu, 5.5, false}},
-                  MalzemeHareketleriniYaz},
-                 sahip) {
+    : RaporFormu(
+          {QStringLiteral("MalzemeHareketleriFormu"),
+           QStringLiteral("MalzemeHareketleriListesi"),
+           MetinNo::HareketlerFormuBaşlığı,
+           MetinNo::TarihliHareketler,
+           {{MetinNo::AdıSütunu, 4, false},
+            {MetinNo::MiktarıSütunu, 6, true},
+            {MetinNo::FiyatıSütunu, 6, true},
+            {MetinNo::TutarıSütunu, 5.5, true},
+            {MetinNo::KullanıldığıÜrünSütunu, 5.5, false}},
+           MalzemeHareketleriniYaz,
+           {ListeSütunu::Metin, ListeSütunu::Miktar, ListeSütunu::Fiyat, ListeSütunu::Tutar, ListeSütunu::Metin}},
+          sahip) {
     BaşaDüğmeKoy(QStringLiteral("TarihDeğiştirButonu"), MetinNo::TarihDeğiştir, [this] {
         TarihDeğiştirFormu(this).exec();
         PencereKapandı();

@@ -15,7 +15,8 @@ MalzemeListesiFormu::MalzemeListesiFormu(QWidget* sahip)
                   MetinNo::MalzemeListesiBaşlığı,
                   MetinNo::MalzemeListesiEtiketi,
                   {{MetinNo::AdıSütunu, 1.5, false}, {MetinNo::FiyatıSütunu, 3.8, true}},
-                  MalzemeListesiniYaz},
+                  MalzemeListesiniYaz,
+                  {ListeSütunu::Metin, ListeSütunu::Fiyat}},
                  sahip) {}
 
 void MalzemeListesiFormu::Yükle() {

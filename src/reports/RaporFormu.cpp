@@ -5,11 +5,13 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "CizelgeKaydi.h"
 #include "FormParcalari.h"
 #include "MetinTablosu.h"
 #include "SayfaYuzeyi.h"
 
-RaporFormu::RaporFormu(const Tanım& tanım, QWidget* sahip) : QDialog(sahip), m_yaz(tanım.Yaz) {
+RaporFormu::RaporFormu(const Tanım& tanım, QWidget* sahip)
+    : QDialog(sahip), m_yaz(tanım.Yaz), m_aktarılan(tanım.Aktarılan) {
     setObjectName(tanım.Ad);
     setWindowTitle(Metin(tanım.Başlık));
     m_liste = new SütunluListe(tanım.Sütunlar);
@@ -39,8 +41,14 @@ void RaporFormu::DüğmeleriKur() {
         Önizle(*this, Rapor());
         PencereKapandı();
     });
+    m_aktar = DüğmeOluştur(QStringLiteral("TabloyaAktarButonu"), MetinNo::ExcelKaydet, [this] {
+        ÇizelgeyeKaydet(*this, RaporBaşlığı(), [this](const QString& yol) {
+            return ListeyiÇizelgeyeYaz(yol, windowTitle(), *m_liste, m_aktarılan);
+        });
+        PencereKapandı();
+    });
     KomutDüğmesi* kapat = DüğmeOluştur(QStringLiteral("KapatButonu"), MetinNo::Kapat, [this] { reject(); });
-    m_düğmeler = DüğmeSırası({m_yazdır, m_pdfKaydet, m_önizle, nullptr, kapat});
+    m_düğmeler = DüğmeSırası({m_yazdır, m_pdfKaydet, m_önizle, m_aktar, nullptr, kapat});
 }
 
 void RaporFormu::BaşaDüğmeKoy(const QString& ad, MetinNo metin, std::function<void()> komut) {
@@ -69,7 +77,7 @@ void RaporFormu::EtkinliğiAyarla() {
     const bool dolu = !m_liste->Boş();
     const bool listedeydi = focusWidget() == m_liste;
     m_çerçeve->setEnabled(dolu);
-    for (KomutDüğmesi* düğme : {m_yazdır, m_pdfKaydet, m_önizle}) düğme->setEnabled(dolu && m_tamam);
+    for (KomutDüğmesi* düğme : {m_yazdır, m_pdfKaydet, m_önizle, m_aktar}) düğme->setEnabled(dolu && m_tamam);
     if (listedeydi && !dolu) OdağıBaşaAl();
 }
 

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <functional>
 
+#include "ListeCizelgesi.h"
 #include "OdbcModulu.h"
 #include "SutunluListe.h"
 #include "Yazdirma.h"
@@ -15,7 +16,8 @@ class QGroupBox;
 class QHBoxLayout;
 class QTreeWidgetItem;
 
-// What the three report forms share: a framed list that can be printed, saved as PDF and previewed as it is shown.
+// What the three report forms share: a framed list that can be printed, saved as PDF and previewed as it is shown, or
+// written into a spreadsheet.
 class RaporFormu : public QDialog {
   protected:
     // Puts title and list rows on the surface.
@@ -28,6 +30,7 @@ class RaporFormu : public QDialog {
         MetinNo ÇerçeveBaşlığı;  // the frame's
         QList<SütunluListe::Sütun> Sütunlar;
         Çıktı Yaz;
+        QList<ListeSütunu> Aktarılan;  // what the columns hold, for a spreadsheet
     };
     RaporFormu(const Tanım& tanım, QWidget* sahip);
 
@@ -57,6 +60,7 @@ class RaporFormu : public QDialog {
     Yazdırılacak Rapor() const;
 
     Çıktı m_yaz;
+    QList<ListeSütunu> m_aktarılan;
     bool m_tamam = false;  // all rows are there
     SütunluListe* m_liste;
     QGroupBox* m_çerçeve;
@@ -64,4 +68,5 @@ class RaporFormu : public QDialog {
     KomutDüğmesi* m_yazdır;
     KomutDüğmesi* m_pdfKaydet;
     KomutDüğmesi* m_önizle;
+    KomutDüğmesi* m_aktar;
 };

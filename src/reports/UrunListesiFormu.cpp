@@ -12,7 +12,8 @@
                   MetinNo::ÜrünListesiRaporBaşlığı,
                   MetinNo::ÜrünListesiBaşlığı,
                   {{MetinNo::GrubuSütunu, 2, false}, {MetinNo::AdıSütunu, 2.3, false}},
-                  ÜrünListesiniYaz},
+                  ÜrünListesiniYaz,
+                  {ListeSütunu::Grup, ListeSütunu::Metin}},
                  sahip) {}
 
 void ÜrünListesiFormu::Yükle() {

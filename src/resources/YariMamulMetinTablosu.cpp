@@ -82,7 +82,7 @@ constexpr MetinSatırı Tablo[] = {
     {YarıMamulMetni::NotFarklıBirim, "birimi, ürününkinden farklı"},
     {YarıMamulMetni::NotOkunamayan, "okunamayan miktar"},
     {YarıMamulMetni::NotAçılamaz, "açılamadı: %1"},
-    {YarıMamulMetni::AdetGerekli, "Lütfen, adedi sıfırdan büyük bir sayı olarak yazınız!"},
+    {YarıMamulMetni::AdetGerekli, "Adet sıfırdan büyük, saklanabilecek kadar küçük bir sayı olmalı."},
     {YarıMamulMetni::AğaçRaporu, "%1 / %2: %3 adet için malzeme"},
     {YarıMamulMetni::NotTaşıyor, "miktar çok büyük"},
     {YarıMamulMetni::DikkatBağ, "izlemeyen yarı mamul"},

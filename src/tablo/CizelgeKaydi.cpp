@@ -8,16 +8,17 @@
 
 void ÇizelgeyeKaydet(QWidget& form, const QString& ad, const std::function<YazmaSonucu(const QString& yol)>& yaz) {
     const QString yol = KaydedilecekYer(form, ad,
-                                        {QStringLiteral("ExcelDosyasıFormu"), QStringLiteral("xlsx"),
-                                         MetinNo::ExcelFormuBaşlığı, MetinNo::ExcelSüzgeci});
+                                        {QStringLiteral("ExcelDosyasıFormu"),
+                                         QStringLiteral("xlsx"),
+                                         MetinNo::ExcelFormuBaşlığı,
+                                         MetinNo::ExcelSüzgeci,
+                                         {QStringLiteral("csv")}});
     if (yol.isEmpty()) return;
     form.setCursor(Qt::WaitCursor);
     const YazmaSonucu sonuç = yaz(yol);
     form.unsetCursor();
     if (sonuç.Tamam()) return;
-    const QString neden = sonuç.Hata == YazmaHatası::ÇokSatır    ? Metin(MetinNo::ExcelÇokSatır)
-                          : sonuç.Hata == YazmaHatası::UzunMetin ? Metin(MetinNo::ExcelUzunMetin)
-                                                                 : sonuç.Ayrıntı;
+    const QString neden = sonuç.Hata == YazmaHatası::UzunMetin ? Metin(MetinNo::ExcelUzunMetin) : sonuç.Ayrıntı;
     MesajKutusuOrtala();
     MesajKutusu::Göster(MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam,
                         Metin(MetinNo::ExcelYazılamadı).arg(neden) + QLatin1Char('\n') + yol);

@@ -11,6 +11,8 @@
 #include "FormParcalari.h"
 #include "MetinTablosu.h"
 #include "MetinTemsilcisi.h"
+#include "TabloMetni.h"
+#include "TurkceMetin.h"
 
 Tablo::Tablo(const QString& ad, TabloModeli& model, QWidget* sahip) : QTableView(sahip), m_model(model) {
     setObjectName(ad);
@@ -75,8 +77,10 @@ std::optional<std::size_t> Tablo::SeçiliSatır() const {
 
 QString Tablo::SatırMetni(int satır) const {
     QStringList hücreler;
-    for (int sütun = 0; sütun < m_model.columnCount(); ++sütun)
-        hücreler.append(m_model.index(satır, sütun).data().toString().replace(QLatin1Char('\t'), QLatin1Char(' ')));
+    for (int sütun = 0; sütun < m_model.columnCount(); ++sütun) {
+        const QString hücre = m_model.index(satır, sütun).data().toString();
+        hücreler.append(TekSatır(m_model.Sütunlar().at(sütun).Sayı ? hücre : TabloMetni(hücre)));
+    }
     return hücreler.join(QLatin1Char('\t'));
 }
 

@@ -1,4 +1,6 @@
+#include <QComboBox>
 #include <QMenu>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTreeView>
 
@@ -260,8 +262,8 @@ TEST_F(AnaFormu, SekmeOkumaSırasındaGezerTuşlarRaporlarıAçar) {
     Bul(Ağaç).setFocus();
     EXPECT_EQ(SekmeSırası(),
               "ÜrünListesi HaneSayısıKutusu KullanılanMalzemeListesi ListeyeMalzemeEkleButonu ListedenMalzemeSilButonu "
-              "YazdırButonu PdfKaydetButonu ÖnizlemeButonu İşçilikYüzdesiKutusu KarYüzdesiKutusu "
-              "DiğerMaliyetYüzdesiKutusu VadeFarkıYüzdesiKutusu MiktarlarıGösterDüğmesi "
+              "YazdırButonu PdfKaydetButonu ÖnizlemeButonu TabloyaAktarButonu İşçilikYüzdesiKutusu "
+              "KarYüzdesiKutusu DiğerMaliyetYüzdesiKutusu VadeFarkıYüzdesiKutusu MiktarlarıGösterDüğmesi "
               "MalzemeMiktarıveBirimVarnekGösterSeçeneği GünlükMalzemeHareketleriGösterButonu "
               "MalzemeListesiGösterButonu ÜrünListesiGösterButonu ÇıkışButonu");
     for (const auto& [tuş, form] : {std::pair(Qt::Key_F4, "MalzemeHareketleriFormu"),  // not to the drop-down list
@@ -269,6 +271,33 @@ TEST_F(AnaFormu, SekmeOkumaSırasındaGezerTuşlarRaporlarıAçar) {
                                     {Qt::Key_F6, "ÜrünListesiFormu"}}) {
         Modal([&, t = tuş] { QTest::keyClick(&Bul("HaneSayısıKutusu"), t); }, form,
               [] { EXPECT_EQ(QApplication::activePopupWidget(), nullptr); });
+    }
+}
+
+// The data-file tool prints what the main form and the form of amounts show.
+TEST_F(AnaFormu, MaliyetKomutuFormunGösterdiğiniYazar) {
+    Örnek();
+    for (const int basamak : {2, 4}) {
+        QProcess araç;
+        araç.start(QStringLiteral(VARNEK_BIN "/varnek-veri"),
+                   {"maliyet", VeriDosyası(), "--basamak", QString::number(basamak)});
+        ASSERT_TRUE(araç.waitForFinished());
+        QStringList satırlar = QString::fromUtf8(araç.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
+        ASSERT_EQ(satırlar.size(), 4);
+        EXPECT_EQ(satırlar.takeFirst(), "UrunGrubu;UrunAdi;MalzemeMaliyeti;Iscilik;Kar;Diger;Vade;Toplam");
+        Bul<QComboBox>("HaneSayısıKutusu").setCurrentText(QString::number(basamak));
+        for (const QString& satır : satırlar) {
+            const QStringList alanlar = satır.split(';');
+            Seç(alanlar[0], alanlar[1]);
+            QString formun = alanlar[0] + ';' + alanlar[1] + ';';
+            Modal("MiktarlarıGösterDüğmesi", "MiktarGösterFormu", [&] {
+                formun += Yazılar({"MalzemeMaliyetiKutusu", "İşçilikMaliyetiKutusu", "KarMaliyetiKutusu",
+                                   "DiğerVarnekKutusu", "VadeMaliyetiKutusu", "ToplamMaliyetKutusu"})
+                              .replace(' ', ';')
+                              .remove('.');
+            });
+            EXPECT_EQ(satır, formun);
+        }
     }
 }
 

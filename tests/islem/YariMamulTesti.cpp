@@ -136,6 +136,10 @@ TEST_F(YarıMamul, KomutlarınArdındanGelir) {
     Veri().Çalıştır(Deyimler::YüzdeleriKaydet("50", "0", "0", "0", "G", "P1"));
     yürüt({.Ürünler = {{"G", "P1"}}});
     HerŞeyUyuyor();
+    // The same into a product that gives a price itself: the rounded price is not passed on.
+    Veri().Çalıştır(Deyimler::KullanılanMalzemeDeğiştir({"G", "P5", "T4", "2 Adet", "77,7", "#11/23/2026#"}));
+    yürüt({.Ürünler = {{"G", "P5"}}});
+    HerŞeyUyuyor();
     // An emptied product never makes others cheaper, nor does an unreadable quantity; what mends it is followed again.
     const QString önce = Fiyat("T0");
     Veri().Çalıştır(Deyimler::ÜrününMalzemeleriniSil("G", "P0"));
@@ -211,8 +215,9 @@ TEST_F(YarıMamul, DöngüdeFiyatlarDurur) {
     Uygula(Öneri("Tahta", Para::OnBindeBirden(200000)));
     EXPECT_EQ(Fiyat("T1"), önce);
     EXPECT_EQ(Durum("T3"), BağDurumu::Uyuyor);  // depends on the circle, but is not in it
-    Veri().Çalıştır(Deyimler::KullanılanMalzemeÇıkar("G", "P0", "T2"));
-    ASSERT_TRUE(YarıMamulleriYürüt(Bağ(), {.Ürünler = {{"G", "P0"}}}).Sonuç.Tamam());
+    // A dissolved tie opens the circle: the others follow at once.
+    ASSERT_TRUE(YarıMamulBağınıÇöz(Bağ(), "T2").Tamam());
+    EXPECT_NE(Fiyat("T1"), önce);
     HerŞeyUyuyor();
 }
 

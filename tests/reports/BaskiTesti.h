@@ -21,9 +21,9 @@ class BaskıTesti : public FormTesti {
     std::unique_ptr<KayıtYüzeyi> Yazdırılan() { return std::move(m_yazdırılan); }
     // The enabled ones of the controls that a list without rows disables.
     QString YazdırılabilirOlanlar() {
-        return Etkinler({"Çerçeve", "YazdırButonu", "PdfKaydetButonu", "ÖnizlemeButonu"});
+        return Etkinler({"Çerçeve", "YazdırButonu", "PdfKaydetButonu", "ÖnizlemeButonu", "TabloyaAktarButonu"});
     }
-    const char* Hepsi = "Çerçeve YazdırButonu PdfKaydetButonu ÖnizlemeButonu";
+    const char* Hepsi = "Çerçeve YazdırButonu PdfKaydetButonu ÖnizlemeButonu TabloyaAktarButonu";
 
     std::function<void()> Yazdırılırken;
 

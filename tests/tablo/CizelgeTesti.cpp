@@ -321,10 +321,42 @@ TEST_F(Çizelge, YazılamayanEskisiniBozmaz) {
     EXPECT_EQ(uzun.SatırEkle({QString(40'000, u'a')}).Hata, YazmaHatası::UzunMetin);
     EXPECT_EQ(uzun.Bitir().Hata, YazmaHatası::UzunMetin);
     EXPECT_EQ(Oku(), "1: 'eski\n");
-    ÇizelgeYazıcı çok(Yol, {}, {});
-    ASSERT_TRUE(çok.Aç().Tamam());
-    for (qint64 i = 0; i < EnÇokVeriSatırı; ++i) çok.SatırEkle({});
-    EXPECT_EQ(çok.SatırEkle({}).Hata, YazmaHatası::ÇokSatır);
+}
+
+// What does not fit on a sheet goes on on the next one, under the same captions.
+TEST_F(Çizelge, DolanSayfadanSonraYenisiGelir) {
+    ÇizelgeYazıcı yazıcı(Yol, QString(40, u'a'), {{u"Ad"_s}});
+    ASSERT_TRUE(yazıcı.Aç().Tamam());
+    for (qint64 i = 0; i < SayfanınVeriSatırı; ++i) yazıcı.SatırEkle({});
+    yazıcı.SatırEkle({u"son"_s});
+    ASSERT_TRUE(yazıcı.Bitir().Tamam());
+    ÇizelgeOkuyucu okuyucu(Yol);
+    ASSERT_TRUE(okuyucu.Aç().Tamam());
+    ASSERT_EQ(okuyucu.Sayfalar().size(), 2);
+    EXPECT_EQ(okuyucu.Sayfalar()[1].Ad, QString(29, u'a') + u" 2"_s);
+    QStringList metinler;
+    okuyucu.Oku(1, [&](ÇizelgeSatırı&& satır) { return metinler.append(satır.Sütun(0).Metin), true; });
+    EXPECT_EQ(metinler, QStringList({u"Ad"_s, u"son"_s}));
+}
+
+TEST_F(Çizelge, UzantıTürüSeçerDeğerlerBozulmaz) {
+    const auto yaz = [](const QString& yol) {
+        ÇizelgeYazıcı yazıcı(yol, {}, {{u"Ad"_s}, {u"Tutar"_s, 9, ÇizelgeSütunTürü::Para}, {u"Gün"_s}, {u"Sayı"_s}});
+        ASSERT_TRUE(yazıcı.Aç().Tamam());
+        yazıcı.SatırEkle({u"=1;\"a\""_s, Para::OnBindeBirden(-1250'5000), QDate(2026, 3, 5), Ondalık{true, "05", 1}});
+        yazıcı.SatırEkle({u"satır\nsonu"_s, Para::OnBindeBirden(12345678901234567), QDate(1900, 2, 28)});
+        ASSERT_TRUE(yazıcı.Bitir().Tamam());
+    };
+    yaz(Yol);
+    EXPECT_EQ(Oku().substr(Oku().find("3: ")), "3: 'satır\nsonu '1.234.567.890.123,4567 '28.02.1900\n");
+    const QString csv = Yol + u".CSV"_s;
+    yaz(csv);
+    QFile dosya(csv);
+    ASSERT_TRUE(dosya.open(QIODevice::ReadOnly));
+    EXPECT_EQ(dosya.readAll().toStdString(),
+              "\xEF\xBB\xBF"
+              "Ad;Tutar;Gün;Sayı\r\n\"'=1;\"\"a\"\"\";-1250,5;05.03.2026;-0,5\r\n"
+              "\"satır\nsonu\";1234567890123,4567;28.02.1900;\r\n");
 }
 
 }  // namespace

@@ -10,14 +10,8 @@ namespace {
 constexpr double ÖzetinEnAzYeri = 50;  // millimetres that must be left for the summary to start on a page
 constexpr double ÖzetAralığı = 5;
 
-struct ÖzetSatırı {
-    QString Etiket;
-    QString Değer;
-    bool Toplam = false;
-};
-
-QList<ÖzetSatırı> MaliyetSatırları(const MaliyetFişi& fiş) {
-    QList<ÖzetSatırı> satırlar{{Metin(MetinNo::FişMalzemeMaliyeti), fiş.MalzemeMaliyeti}};
+QList<FişÖzeti> MaliyetSatırları(const MaliyetFişi& fiş) {
+    QList<FişÖzeti> satırlar{{Metin(MetinNo::FişMalzemeMaliyeti), fiş.MalzemeMaliyeti}};
     const auto ekle = [&](MetinNo etiket, const QString& yüzdeMetni) {
         if (DoubleOku(yüzdeMetni).value_or(0) <= 0) return;
         const std::optional<double> tutar = YüzdeTutarı(fiş.MalzemeMaliyeti, yüzdeMetni);
@@ -32,8 +26,8 @@ QList<ÖzetSatırı> MaliyetSatırları(const MaliyetFişi& fiş) {
     return satırlar;
 }
 
-QList<ÖzetSatırı> MiktarSatırları(const MaliyetFişi& fiş) {
-    QList<ÖzetSatırı> satırlar;
+QList<FişÖzeti> MiktarSatırları(const MaliyetFişi& fiş) {
+    QList<FişÖzeti> satırlar;
     const auto ekle = [&](MetinNo etiket, const QString& metin) {
         satırlar.append(
             {Metin(etiket) + QLatin1Char(':'), SayıMetniBiçimle(metin, fiş.OndalıkBasamak).value_or(QString())});
@@ -52,12 +46,12 @@ QList<ÖzetSatırı> MiktarSatırları(const MaliyetFişi& fiş) {
 
 void ÖzetiYaz(SayfaDüzeni& düzen, const MaliyetFişi& fiş) {
     SayfaYüzeyi& yüzey = düzen.Yüzey();
-    const QList<ÖzetSatırı> maliyetler = MaliyetSatırları(fiş);
-    const QList<ÖzetSatırı> miktarlar = MiktarSatırları(fiş);
+    const QList<FişÖzeti> maliyetler = MaliyetSatırları(fiş);
+    const QList<FişÖzeti> miktarlar = MiktarSatırları(fiş);
 
     // The summary stays in one piece, also where its lines need more than the usual room.
     double yükseklik = ÖzetAralığı + (miktarlar.isEmpty() ? 0 : ÖzetAralığı);
-    for (const ÖzetSatırı& satır : maliyetler + miktarlar) {
+    for (const FişÖzeti& satır : maliyetler + miktarlar) {
         yüzey.KalınAyarla(satır.Toplam);
         yükseklik += düzen.ÖzetSatırıYüksekliği(satır.Etiket, satır.Değer);
     }
@@ -67,7 +61,7 @@ void ÖzetiYaz(SayfaDüzeni& düzen, const MaliyetFişi& fiş) {
     }
 
     yüzey.YAyarla(yüzey.Y() + ÖzetAralığı);
-    for (const ÖzetSatırı& satır : maliyetler) {
+    for (const FişÖzeti& satır : maliyetler) {
         yüzey.KalınAyarla(satır.Toplam);
         yüzey.AltÇizgiAyarla(satır.Toplam);
         düzen.ÖzetSatırıYaz(satır.Etiket, satır.Değer);
@@ -75,10 +69,14 @@ void ÖzetiYaz(SayfaDüzeni& düzen, const MaliyetFişi& fiş) {
     yüzey.KalınAyarla(false);
     yüzey.AltÇizgiAyarla(false);
     yüzey.YAyarla(yüzey.Y() + ÖzetAralığı);
-    for (const ÖzetSatırı& satır : miktarlar) düzen.ÖzetSatırıYaz(satır.Etiket, satır.Değer);
+    for (const FişÖzeti& satır : miktarlar) düzen.ÖzetSatırıYaz(satır.Etiket, satır.Değer);
 }
 
 }  // namespace
+
+QList<FişÖzeti> FişinÖzeti(const MaliyetFişi& fiş) {
+    return MaliyetSatırları(fiş) + MiktarSatırları(fiş);
+}
 
 void MaliyetFişiniYaz(SayfaYüzeyi& yüzey, const MaliyetFişi& fiş) {
     SayfaDüzeni düzen(yüzey, fiş.Ürün,

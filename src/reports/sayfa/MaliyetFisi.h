@@ -27,6 +27,14 @@ struct MaliyetFişi {
     int OndalıkBasamak = 2;  // of the figures that are formatted for the printout
 };
 
+// A line of the summary below the rows.
+struct FişÖzeti {
+    QString Etiket;
+    QString Değer;
+    bool Toplam = false;
+};
+QList<FişÖzeti> FişinÖzeti(const MaliyetFişi& fiş);
+
 // Prints title, rows and summary. The texts stand on paper as they are given; only the amounts of the percentages are
 // computed here, each on the material cost alone, and quantities and waste are formatted. A figure that cannot be read
 // leaves its place empty.

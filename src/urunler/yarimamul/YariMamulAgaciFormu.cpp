@@ -100,6 +100,7 @@ void YarıMamulAğacıFormu::KontrolleriKur() {
     m_adetKutusu->setText(QStringLiteral("1"));
     connect(m_adetKutusu, &QLineEdit::textChanged, this, [this] { AdetDeğişti(); });
     m_tablo = new Tablo(QStringLiteral("ToplamlarTablosu"), m_model);
+    m_not = TabloNotu(QStringLiteral("ToplamlarNotu"), *m_tablo);
     m_yazdır = DüğmeOluştur(QStringLiteral("YazdırButonu"), MetinNo::Yazdır,
                             [this] { static_cast<void>(Yazdır(*this, *m_yazdır, Rapor())); });
     m_pdf = DüğmeOluştur(QStringLiteral("PdfKaydetButonu"), MetinNo::PdfKaydet,
@@ -184,6 +185,7 @@ void YarıMamulAğacıFormu::AdetDeğişti() {
         m_kaynak.Satırlar = m_açılım.Toplamlar(m_adet);
     }
     m_model.Yenile();
+    NotuYaz(*m_not, *m_tablo, geçerli ? QString() : Metin(YarıMamulMetni::AdetGerekli));
     for (QPushButton* düğme : findChildren<QPushButton*>())
         if (düğme->objectName() != QLatin1String("KapatButonu")) düğme->setEnabled(geçerli);
 }

@@ -6,6 +6,7 @@
 #include "UrunAcilimi.h"
 
 class KomutDüğmesi;
+class QLabel;
 class QTreeWidget;
 class QTreeWidgetItem;
 class SayıKutusu;
@@ -51,6 +52,7 @@ class YarıMamulAğacıFormu : public QDialog {
     QTreeWidget* m_ağaç;
     SayıKutusu* m_adetKutusu;
     Tablo* m_tablo;
+    QLabel* m_not;
     KomutDüğmesi* m_yazdır;
     KomutDüğmesi* m_pdf;
 };

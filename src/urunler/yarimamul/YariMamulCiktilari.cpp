@@ -1,6 +1,7 @@
 #include "YariMamulCiktilari.h"
 
 #include <QStringList>
+#include <cmath>
 
 #include "MetinTablosu.h"
 #include "Ondalik.h"
@@ -11,11 +12,14 @@
 
 namespace {
 
-constexpr int EnÇokBasamak = 6;
+// Six decimals, more for what they would hide.
+int Basamak(double miktar) {
+    return std::abs(miktar) < 0.001 ? 15 : 6;
+}
 
 std::optional<Ondalık> Yuvarlanan(double miktar) {
     const std::optional<Ondalık> sayı = OnBeşHaneyle(miktar);
-    return sayı ? std::optional(Yuvarla(*sayı, EnÇokBasamak, Yarım::SıfırdanUzağa)) : std::nullopt;
+    return sayı ? std::optional(Yuvarla(*sayı, Basamak(miktar), Yarım::SıfırdanUzağa)) : std::nullopt;
 }
 
 }  // namespace
@@ -60,7 +64,7 @@ YazmaSonucu BağlarıÇizelgeyeYaz(const QString& yol, const QString& başlık, 
 QString AçılımMiktarı(double miktar) {
     const std::optional<Ondalık> sayı = Yuvarlanan(miktar);
     if (!sayı) return Metin(YarıMamulMetni::NotTaşıyor);
-    QString metin = SayıBiçimle(*sayı, EnÇokBasamak);
+    QString metin = SayıBiçimle(*sayı, Basamak(miktar));
     if (!metin.contains(QLatin1Char(','))) return metin;
     while (metin.endsWith(QLatin1Char('0'))) metin.chop(1);
     if (metin.endsWith(QLatin1Char(','))) metin.chop(1);

@@ -12,7 +12,7 @@ void BağlarıYaz(SayfaYüzeyi& yüzey, const QString& başlık, const Bağları
 YazmaSonucu BağlarıÇizelgeyeYaz(const QString& yol, const QString& başlık, const BağlarınKaynağı& bağlar,
                                 const TabloModeli& model);
 
-// A quantity of a shopping list: at most six decimals, no needless ones.
+// A quantity of a shopping list: six decimals, more of a very small one, no needless ones.
 QString AçılımMiktarı(double miktar);
 // What has to be known of a sum beside its figure; "" for nothing.
 QString AçılımNotu(const AçılımToplamı& toplam);

@@ -278,10 +278,7 @@ void YarıMamulFormu::Çöz() {
     if (!satır) return;
     const YarıMamulBağı bağ = m_bağKaynağı.Satırlar[*satır].Bağ;
     if (!Sor(Metin(YarıMamulMetni::ÇözmeOnayı).arg(bağ.Malzeme, bağ.Ürün.Grup, bağ.Ürün.Ad))) return;
-    if (const İşSonucu s = YarıMamulBağınıÇöz(ODBCBağlantısı(), bağ.Malzeme); !s.Tamam()) {
-        İşSonucunuGöster(s);
-        return;
-    }
+    İşSonucunuGöster(YarıMamulBağınıÇöz(ODBCBağlantısı(), bağ.Malzeme));
     m_değişti = true;
     static_cast<void>(Yükle());
     m_bağlar->setFocus();

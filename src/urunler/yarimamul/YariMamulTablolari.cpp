@@ -6,8 +6,8 @@
 #include "YariMamulSozleri.h"
 
 QList<TabloSütunu> BağlarınKaynağı::Sütunlar() {
-    return {{MetinNo::MalzemeSütunu, 24},      {MetinNo::GrubuSütunu, 14},        {MetinNo::ÜrünSütunu, 24},
-            {YarıMamulMetni::TutarSütunu, 15}, {MetinNo::FiyatıSütunu, 12, true}, {YarıMamulMetni::DurumSütunu, 20}};
+    return {{MetinNo::MalzemeSütunu, 20},      {MetinNo::GrubuSütunu, 11},        {MetinNo::ÜrünSütunu, 20},
+            {YarıMamulMetni::TutarSütunu, 13}, {MetinNo::FiyatıSütunu, 10, true}, {YarıMamulMetni::DurumSütunu, 14}};
 }
 
 QString BağlarınKaynağı::Hücre(std::size_t satır, int sütun) const {

@@ -1,0 +1,16 @@
+#include "CizelgeMetinleri.h"
+#include "MetinSatirlari.h"
+
+namespace {
+
+constexpr MetinSatırı Tablo[] = {
+    {ÇizelgeMetni::BirimiSütunu, "Birimi"},
+};
+
+static_assert(Sıralı(Tablo));
+
+}  // namespace
+
+const char* ÇizelgeMetniBul(MetinNo numara) {
+    return MetniBul(Tablo, numara);
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "MetinTablosu.h"
+
+// The texts of lists as spreadsheets.
+namespace ÇizelgeMetni {
+
+inline constexpr MetinNo BirimiSütunu{3300};
+
+}  // namespace ÇizelgeMetni

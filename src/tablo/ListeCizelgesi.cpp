@@ -1,0 +1,104 @@
+#include "ListeCizelgesi.h"
+
+#include "CizelgeMetinleri.h"
+#include "CizelgeYazici.h"
+#include "DegiskenModulu.h"
+#include "MalzemeToplami.h"
+#include "SayiMetni.h"
+#include "SutunluListe.h"
+#include "SutunluSatir.h"
+
+namespace {
+
+QList<ÇizelgeSütunu> Sütunlar(const SütunluListe& liste, const QList<ListeSütunu>& türler) {
+    constexpr double ad = 34, miktar = 14, birim = 12, tutar = 16;
+    QList<ÇizelgeSütunu> sütunlar;
+    for (int sıra = 0; sıra < türler.size(); ++sıra) {
+        const QString başlık = liste.headerItem()->text(sıra);
+        switch (türler[sıra]) {
+            case ListeSütunu::Metin:
+            case ListeSütunu::Grup:
+                sütunlar.append({başlık, ad});
+                break;
+            case ListeSütunu::Miktar:
+                sütunlar.append({başlık, miktar, ÇizelgeSütunTürü::Sayı});
+                sütunlar.append({Metin(ÇizelgeMetni::BirimiSütunu), birim});
+                break;
+            case ListeSütunu::Fiyat:
+            case ListeSütunu::Tutar:
+                sütunlar.append({başlık, tutar, ÇizelgeSütunTürü::Para, OndalıkBasamak});
+                break;
+        }
+    }
+    return sütunlar;
+}
+
+// A quantity whose number cannot be read stands whole in the first of its two columns.
+void MiktarEkle(QList<ÇizelgeDeğeri>& değerler, const QString& miktar) {
+    const MiktarParçaları parçalar = MiktarıAyır(miktar);
+    if (const auto sayı = OndalıkOku(parçalar.Sayı, NoktaKuralı::Yerinde)) {
+        değerler.emplaceBack(*sayı);
+        değerler.emplaceBack(parçalar.Kalan.trimmed().toString());
+    } else {
+        değerler.emplaceBack(miktar);
+        değerler.emplaceBack();
+    }
+}
+
+// Beside each other the row's texts; what is stored goes before what is shown.
+class SatırOkuyucu {
+  public:
+    explicit SatırOkuyucu(const QList<ListeSütunu>& türler) : m_türler(türler), m_gruplar(türler.size()) {}
+
+    QList<ÇizelgeDeğeri> Değerler(const QTreeWidgetItem& satır) {
+        const auto* saklayan = dynamic_cast<const SütunluSatır*>(&satır);
+        QList<ÇizelgeDeğeri> değerler;
+        for (int sıra = 0; sıra < m_türler.size(); ++sıra) {
+            const QString gösterilen = satır.text(sıra);
+            const QString saklanan = saklayan ? saklayan->Saklanan(sıra) : QString();
+            const QString& asıl = saklanan.isEmpty() ? gösterilen : saklanan;
+            switch (m_türler[sıra]) {
+                case ListeSütunu::Metin:
+                    değerler.emplaceBack(gösterilen);
+                    break;
+                case ListeSütunu::Grup:
+                    if (!gösterilen.isEmpty()) m_gruplar[sıra] = gösterilen;
+                    değerler.emplaceBack(m_gruplar[sıra]);
+                    break;
+                case ListeSütunu::Miktar:
+                    MiktarEkle(değerler, asıl);
+                    break;
+                case ListeSütunu::Fiyat:
+                    değerler.append(GösterilenDeğer(asıl));
+                    break;
+                case ListeSütunu::Tutar:
+                    değerler.append(GösterilenDeğer(gösterilen));
+                    break;
+            }
+        }
+        return değerler;
+    }
+
+  private:
+    const QList<ListeSütunu>& m_türler;
+    QList<QString> m_gruplar;  // the last one of each column
+};
+
+}  // namespace
+
+ÇizelgeDeğeri GösterilenDeğer(const QString& metin) {
+    const std::optional<Ondalık> sayı = OndalıkOku(metin, NoktaKuralı::Yerinde);
+    return sayı ? ÇizelgeDeğeri(*sayı) : ÇizelgeDeğeri(metin);
+}
+
+YazmaSonucu ListeyiÇizelgeyeYaz(const QString& yol, const QString& sayfaAdı, const SütunluListe& liste,
+                                const QList<ListeSütunu>& sütunlar, const QList<QList<ÇizelgeDeğeri>>& sonra) {
+    ÇizelgeYazıcı yazıcı(yol, sayfaAdı, Sütunlar(liste, sütunlar));
+    YazmaSonucu sonuç = yazıcı.Aç();
+    SatırOkuyucu okuyucu(sütunlar);
+    for (int i = 0; i < liste.topLevelItemCount() && sonuç.Tamam(); ++i)
+        sonuç = yazıcı.SatırEkle(okuyucu.Değerler(*liste.topLevelItem(i)));
+    for (const QList<ÇizelgeDeğeri>& satır : sonra)
+        if (sonuç.Tamam()) sonuç = yazıcı.SatırEkle(satır);
+    return sonuç.Tamam() ? yazıcı.Bitir() : sonuç;
+}
