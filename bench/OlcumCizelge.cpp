@@ -1,6 +1,7 @@
-// What the user waits for when a supplier's price list is read.
+// What the user waits for when a supplier's price list is read, and when a list is written.
 #include <minizip/unzip.h>
 #include <minizip/zip.h>
+#include <xlsxwriter.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -10,6 +11,7 @@
 
 #include "Cift.h"
 #include "CizelgeOkuyucu.h"
+#include "CizelgeYazici.h"
 
 using namespace Qt::StringLiterals;
 
@@ -87,6 +89,49 @@ void ÇıplakOku(benchmark::State& durum, const QByteArray& yol) {
     }
 }
 
+// Five columns as the day's movements have them.
+void ListeyiYaz(benchmark::State& durum, const QString& yol) {
+    for (auto _ : durum) {
+        ÇizelgeYazıcı yazıcı(yol, u"Liste"_s,
+                             {{u"Adı"_s, 34},
+                              {u"Miktarı"_s, 14, ÇizelgeSütunTürü::Sayı},
+                              {u"Birimi"_s},
+                              {u"Fiyatı"_s, 16, ÇizelgeSütunTürü::Para},
+                              {u"Tutarı"_s, 16, ÇizelgeSütunTürü::Para}});
+        yazıcı.Aç();
+        for (int i = 0; i < SatırSayısı; ++i) {
+            QList<ÇizelgeDeğeri> satır;
+            satır.emplaceBack(u"Çam kereste, sınıf %1"_s.arg(i));
+            satır.emplaceBack(Para::OnBindeBirden(i * 1000));
+            satır.emplaceBack(u"Adet"_s);
+            satır.emplaceBack(Para::OnBindeBirden(i * 700));
+            satır.emplaceBack(Para::OnBindeBirden(std::int64_t{i} * 123457));
+            yazıcı.SatırEkle(satır);
+        }
+        if (!yazıcı.Bitir().Tamam()) durum.SkipWithError("the list is not written");
+    }
+}
+
+void ÇıplakYaz(benchmark::State& durum, const QByteArray& yol) {
+    for (auto _ : durum) {
+        lxw_workbook_options seçenekler = {LXW_TRUE, nullptr, LXW_FALSE};
+        lxw_workbook* defter = workbook_new_opt(yol.constData(), &seçenekler);
+        lxw_worksheet* sayfa = workbook_add_worksheet(defter, "Liste");
+        lxw_format* para = workbook_add_format(defter);
+        format_set_num_format(para, "#,##0.00");
+        for (int i = 0; i < SatırSayısı; ++i) {
+            const auto satır = static_cast<lxw_row_t>(i + 1);
+            const QByteArray ad = "Çam kereste, sınıf " + QByteArray::number(i);
+            worksheet_write_string(sayfa, satır, 0, ad.constData(), nullptr);
+            worksheet_write_number(sayfa, satır, 1, i * 0.1, nullptr);
+            worksheet_write_string(sayfa, satır, 2, "Adet", nullptr);
+            worksheet_write_number(sayfa, satır, 3, i * 0.07, para);
+            worksheet_write_number(sayfa, satır, 4, i * 12.3457, para);
+        }
+        if (workbook_close(defter) != LXW_NO_ERROR) durum.SkipWithError("the list is not written");
+    }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -96,5 +141,9 @@ int main(int argc, char** argv) {
     ÇiftEkle(
         "price list of 100,000 / bare", 1.5, [yol](benchmark::State& d) { ListeyiOku(d, yol); },
         [yol](benchmark::State& d) { ÇıplakOku(d, yol); });
+    const QString hedef = klasör.filePath(u"yazilan.xlsx"_s);
+    ÇiftEkle(
+        "spreadsheet of 100,000 / bare", 1.5, [hedef](benchmark::State& d) { ListeyiYaz(d, hedef); },
+        [hedef](benchmark::State& d) { ÇıplakYaz(d, QFile::encodeName(hedef)); });
     return ÇiftleriÖlç(argc, argv);
 }

@@ -52,6 +52,8 @@ QString SayfaAdınaUydur(const QString& ad, qsizetype sıra) {
 // As XML can hold it: what looks like the format's own escape (_x000D_) is not to be taken for one.
 QByteArray XmlMetni(const QString& ham) {
     static const QRegularExpression kaçış(u"_(?=x[0-9A-Fa-f]{4}_)"_s);
+    const auto özel = [](QChar harf) { return harf == u'_' || harf.isSurrogate() || harf >= QChar(0xFFFE); };
+    if (std::none_of(ham.begin(), ham.end(), özel)) return ham.toUtf8();
     QString metin =
         QString::fromUtf8(ham.toUtf8());  // without half characters, in which the pattern would find nothing
     metin.replace(kaçış, u"_x005F_"_s);
@@ -98,11 +100,9 @@ bool SatırlarTam(const QString& yol, const QList<qint64>& sayfalar) {
     ZipArşivi arşiv(yol, gözetim, std::numeric_limits<qint64>::max());
     if (!arşiv.Aç().Tamam()) return false;
     for (qsizetype sayfa = 0; sayfa < sayfalar.size(); ++sayfa) {
-        qint64 satırSayısı = sayfalar[sayfa];
-        XmlParçası parça(arşiv, u"xl/worksheets/sheet%1.xml"_s.arg(sayfa + 1));
-        while (parça.İleri())
-            if (parça.Xml().isStartElement() && parça.Xml().name() == u"row") --satırSayısı;
-        if (!parça.Bitir().Tamam() || satırSayısı != 0) return false;
+        qint64 sayı = 0;
+        const QString ad = u"xl/worksheets/sheet%1.xml"_s.arg(sayfa + 1);
+        if (!arşiv.Say(ad, "<row ", sayı).Tamam() || sayı != sayfalar[sayfa]) return false;
     }
     return true;
 }

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <algorithm>
 #include <array>
+#include <string>
 
 namespace {
 
@@ -101,6 +102,23 @@ OkumaSonucu ZipArşivi::KısaOku(const QString& ad, QByteArray& içerik) {
     içerik.resize(std::max<qint64>(okunan, 0));
     ParçayıKapat();
     return okunan < 0 ? OkumaSonucu{ÇizelgeHatası::BozukArşiv, ad, 0} : OkumaSonucu{};
+}
+
+OkumaSonucu ZipArşivi::Say(const QString& ad, std::string_view aranan, qint64& sayı) {
+    constexpr std::size_t parçaBoyu = 1 << 18;
+    sayı = 0;
+    if (const OkumaSonucu sonuç = ParçayıAç(ad); !sonuç.Tamam()) return sonuç;
+    std::string tampon(parçaBoyu, '\0');
+    std::size_t kalan = 0;  // the end of what was read before, in which the first bytes may stand
+    qint64 okunan = 0;
+    while ((okunan = Oku(tampon.data() + kalan, static_cast<qint64>(parçaBoyu - kalan))) > 0) {
+        const std::string_view metin(tampon.data(), kalan + static_cast<std::size_t>(okunan));
+        for (std::size_t yer = 0; (yer = metin.find(aranan, yer)) != metin.npos; yer += aranan.size()) ++sayı;
+        kalan = std::min(aranan.size() - 1, metin.size());
+        std::copy(metin.end() - static_cast<std::ptrdiff_t>(kalan), metin.end(), tampon.begin());
+    }
+    const bool sağlam = ParçayıKapat();
+    return okunan < 0 || !sağlam ? OkumaSonucu{ÇizelgeHatası::BozukArşiv, ad, 0} : OkumaSonucu{};
 }
 
 void ZipArşivi::Başla(const QStringList& parçalar) {

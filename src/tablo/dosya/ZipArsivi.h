@@ -5,6 +5,7 @@
 #include <QXmlStreamReader>
 #include <functional>
 #include <memory>
+#include <string_view>
 
 #include "Cizelge.h"
 
@@ -21,6 +22,9 @@ class ZipArşivi {
     OkumaSonucu Aç();
     bool Var(const QString& ad) const;  // however the file spells letter case and slashes
     OkumaSonucu KısaOku(const QString& ad, QByteArray& içerik);
+
+    // How often these bytes stand in a part, which has to be sound to its end.
+    OkumaSonucu Say(const QString& ad, std::string_view aranan, qint64& sayı);
 
     // Before a reading of these parts: the count of unpacked bytes and the progress begin anew.
     void Başla(const QStringList& parçalar);
