@@ -42,8 +42,11 @@ QString Neden(const QList<OdbcHatası>& hatalar) {
     return OdbcİletileriniAl(hatalar).value(0);
 }
 
-// Rows together, which makes many of them fast.
-void Doldur(const QString& dosya, const std::function<void(VeriYazıcısı&)>& doldur) {
+}  // namespace
+
+void VeriDosyasınıDoldur(const QString& dosya, const std::function<void(VeriYazıcısı&)>& doldur) {
+    if (!BoşVeriDosyasıOluştur(dosya))
+        throw VeriHatası(u"Veri dosyası oluşturulamadı: "_s + SürücüKurulumHataları().value(0));
     OdbcBağlantısı bağlantı;
     const OdbcSonucu açılış = bağlantı.Aç(BağlantıMetni(dosya));
     if (!bağlantı.Tanıtıcı()) throw VeriHatası(u"ODBC sürücülerine erişilemiyor."_s);
@@ -61,8 +64,6 @@ void Doldur(const QString& dosya, const std::function<void(VeriYazıcısı&)>& d
         yazıcı.Çalıştır(QString::fromUtf16(dizin));
     }
 }
-
-}  // namespace
 
 VeriYazıcısı::VeriYazıcısı(OdbcBağlantısı& bağlantı) {
     if (m_deyim.Aç(bağlantı) != 0) throw VeriHatası(u"Veri dosyası açılamadı: "_s + Neden(bağlantı.HatalarınıAl()));
@@ -92,9 +93,7 @@ void VeriDosyasıYap(const QString& hedef, const std::function<void(VeriYazıcı
         throw VeriHatası(u"%1 klasörüne yazılamıyor; yazma iznini ve diski denetleyin."_s.arg(bilgi.absolutePath()));
     }
     const QString geçici = klasör.filePath(u"Yeni.vtb"_s);
-    if (!BoşVeriDosyasıOluştur(geçici))
-        throw VeriHatası(u"Veri dosyası oluşturulamadı: "_s + SürücüKurulumHataları().value(0));
-    Doldur(geçici, doldur);
+    VeriDosyasınıDoldur(geçici, doldur);
     YarıdaKesildiMi();
     const Dosya::Sonuç taşıma = Dosya::Taşı(QFile::encodeName(geçici).toStdString(),
                                             QFile::encodeName(yol).toStdString(), Dosya::Yerleştirme::Yeni);

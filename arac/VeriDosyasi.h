@@ -30,6 +30,10 @@ class VeriYazıcısı {
 // `doldur` writes the rows, which are written together: without success none of them is kept.
 void VeriDosyasıYap(const QString& hedef, const std::function<void(VeriYazıcısı&)>& doldur);
 
+// Makes the file itself, where no file is yet: the tables, the rows that `doldur` writes in one transaction, and the
+// indexes. Throws VeriHatası; what is there then is to be taken away.
+void VeriDosyasınıDoldur(const QString& dosya, const std::function<void(VeriYazıcısı&)>& doldur);
+
 // Ends the work at the next statement, as a failure. May be called from a signal handler.
 void YarıdaKes() noexcept;
 

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "BuyukVeri.h"
+#include "ErisimKomutu.h"
 #include "OdbcSurucu.h"
 #include "OrnekVeri.h"
 #include "VeriDosyasi.h"
@@ -26,7 +27,9 @@ int KullanımıGöster() {
         u"Varnek veri dosyası aracı\n\n"
         u"  varnek-veri yeni DOSYA      boş bir veri dosyası oluşturur\n"
         u"  varnek-veri ornek DOSYA     örnek bir mobilya atölyesinin verileriyle oluşturur\n"
-        u"  varnek-veri buyuk DOSYA N   ölçme için N kullanılan malzeme satırıyla oluşturur\n\n"
+        u"  varnek-veri buyuk DOSYA N   ölçme için N kullanılan malzeme satırıyla oluşturur\n"
+        u"  varnek-veri erisimden-al DOSYA\n"
+        u"                              bir Access dosyasının verilerini alır (--help ile ayrıntısı)\n\n"
         u"Var olan bir dosyanın üzerine yazılmaz.\n"
         u"Çıkış kodu: 0 başarılı, 1 dosya oluşturulamadı, 2 yanlış kullanım"_s);
     return YanlışKullanım;
@@ -65,5 +68,6 @@ int main(int argc, char** argv) {
             return Oluştur(sözler[1], [&](VeriYazıcısı& yazıcı) { BüyükVeriYaz(yazıcı, satır, bugün); });
         }
     }
+    if (komut == u"erisimden-al") return ErişimKomutu(sözler.mid(1));
     return KullanımıGöster();
 }
