@@ -27,8 +27,9 @@ void Bildir(QLatin1String tür, QString metin) {
 int KullanımıGöster(std::FILE* nereye, int kod) {
     Yaz(nereye,
         u"varnek-veri erisimden-al DOSYA [--hedef YENI]\n\n"
-        u"Bir Access dosyasını (Access 97 - 2003) bu programın veri dosyasına çevirir. Özgün dosya DOSYA.access olarak\n"
-        u"saklanır; olduğu gibi alınamayan değerler DOSYA.access.txt içinde listelenir.\n"
+        u"Bir Access dosyasını (Access 97 - 2003) bu programın veri dosyasına çevirir. Özgün dosya\n"
+        u"DOSYA.access olarak saklanır; olduğu gibi alınamayan değerler DOSYA.access.txt içinde\n"
+        u"listelenir.\n"
         u"--hedef ile DOSYA olduğu gibi kalır, çevrilen veriler YENI adıyla yazılır.\n\n"
         u"Çıkış kodu: 0 alındı, 1 alınamadı (dosya değişmedi), 2 yanlış kullanım"_s);
     return kod;
@@ -44,7 +45,9 @@ Seçenekler Çöz(const QStringList& sözler) {
     Seçenekler seçenekler;
     for (qsizetype i = 0; i < sözler.size(); ++i) {
         const QString& söz = sözler[i];
-        QString* değer = söz == u"--hedef" ? &seçenekler.İstek.Hedef : söz == u"--liste" ? &seçenekler.İstek.Liste : nullptr;
+        QString* değer = söz == u"--hedef"   ? &seçenekler.İstek.Hedef
+                         : söz == u"--liste" ? &seçenekler.İstek.Liste
+                                             : nullptr;
         if (söz == u"--bildir") {
             seçenekler.Bildir = true;
         } else if (değer && i + 1 < sözler.size()) {

@@ -53,17 +53,17 @@ std::string ErişimDosyası(const QTemporaryDir& klasör) {
                             return Satır{Hücre(BüyükMalzemeAdı(i)), AccessÜreteci::Para(i * 7 + 12'345)};
                         }));
     üreteç.SatırlarıKoy("UrunTablosu", döndür(ÜRÜN, [](int i) {
-                            return Satır{Hücre(Grup(i)),           Hücre(BüyükÜrünAdı(i)),
-                                         AccessÜreteci::Ham(12.5), AccessÜreteci::Ham(20.0),
-                                         AccessÜreteci::Ham(-3.25), AccessÜreteci::Ham(4.75)};
+                            return Satır{Hücre(Grup(i)),           Hücre(BüyükÜrünAdı(i)),    AccessÜreteci::Ham(12.5),
+                                         AccessÜreteci::Ham(20.0), AccessÜreteci::Ham(-3.25), AccessÜreteci::Ham(4.75)};
                         }));
-    üreteç.SatırlarıKoy("UrunMalzemeTablosu", döndür(SATIR, [](int i) {
-                            const int ürün = i / BÜYÜK_ÜRÜNÜN_MALZEMESİ;
-                            const int malzeme = static_cast<int>(std::int64_t{i} * 7919 % MALZEME);
-                            return Satır{AccessÜreteci::Ham(İLK_GÜN + ürün % 250), Hücre(Grup(ürün)),
-                                         Hücre(BüyükÜrünAdı(ürün)),                Hücre(BüyükMalzemeAdı(malzeme)),
-                                         Hücre(Miktar(i)), AccessÜreteci::Para(malzeme * 7 + 12'345)};
-                        }));
+    üreteç.SatırlarıKoy(
+        "UrunMalzemeTablosu", döndür(SATIR, [](int i) {
+            const int ürün = i / BÜYÜK_ÜRÜNÜN_MALZEMESİ;
+            const int malzeme = static_cast<int>(std::int64_t{i} * 7919 % MALZEME);
+            return Satır{
+                AccessÜreteci::Ham(İLK_GÜN + ürün % 250), Hücre(Grup(ürün)), Hücre(BüyükÜrünAdı(ürün)),
+                Hücre(BüyükMalzemeAdı(malzeme)),          Hücre(Miktar(i)),  AccessÜreteci::Para(malzeme * 7 + 12'345)};
+        }));
     std::string yol = klasör.filePath(QStringLiteral("ozgun.mdb")).toStdString();
     üreteç.Yaz(yol);
     return yol;
@@ -135,7 +135,8 @@ void ÇıplakEkle(const std::string& yol, const Metinler& m) {
     sqlite3_close(vt);
 }
 
-void Karşılık(benchmark::State& durum, const QTemporaryDir& klasör, const std::string& özgün, const Metinler& metinler) {
+void Karşılık(benchmark::State& durum, const QTemporaryDir& klasör, const std::string& özgün,
+              const Metinler& metinler) {
     for (auto _ : durum) {
         for (const char* tablo : {"UrunTablosu", "MalzemeTablosu", "UrunMalzemeTablosu"}) {
             Çalıştır(QStringLiteral("mdb-export"), {QString::fromStdString(özgün), QLatin1String(tablo)},
@@ -157,8 +158,9 @@ int main(int argc, char** argv) {
         metinler.Gruplar.push_back(Grup(i).toStdString());
         metinler.Ürünler.push_back(BüyükÜrünAdı(i).toStdString());
     }
-    ÇiftEkle("120.000 satırlık Access dosyasını almak, mdb-export ve çıplak eklemeye göre", 3.0,
-             [&](benchmark::State& durum) { Alma(durum, klasör, özgün); },
-             [&](benchmark::State& durum) { Karşılık(durum, klasör, özgün, metinler); });
+    ÇiftEkle(
+        "120.000 satırlık Access dosyasını almak, mdb-export ve çıplak eklemeye göre", 3.0,
+        [&](benchmark::State& durum) { Alma(durum, klasör, özgün); },
+        [&](benchmark::State& durum) { Karşılık(durum, klasör, özgün, metinler); });
     return ÇiftleriÖlç(argc, argv);
 }

@@ -115,7 +115,8 @@ AlmaSonucu ErişimdenAl(const Almaİsteği& istek, const std::function<bool(int)
         return {Tür::Alınamadı, "Access dosyasını alacak araç başlatılamadı; programı yeniden kurun: " + istek.Araç};
     Bildirimler bildirimler;
     const bool vazgeçildi = Dinle(giriş.No(), süreç, ilerleme, bildirimler);
-    while (waitpid(süreç, nullptr, 0) < 0 && errno == EINTR) {}
+    while (waitpid(süreç, nullptr, 0) < 0 && errno == EINTR) {
+    }
     if (bildirimler.Tamam) return {Tür::Alındı, bildirimler.Not};
     if (vazgeçildi) return {Tür::Vazgeçildi, {}};
     if (!bildirimler.Hata.empty()) return {Tür::Alınamadı, bildirimler.Hata};

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QScopeGuard>
+#include <cerrno>
 
 #include "AccessBasligi.h"
 #include "Donusum.h"
@@ -21,7 +22,7 @@ namespace Erişim {
 
 namespace {
 
-constexpr int BÜTÜN = 1000;    // thousandths
+constexpr int BÜTÜN = 1000;     // thousandths
 constexpr int İKİ_OKUMA = 980;  // of the progress; the rest is for keeping the original
 
 QString Ad(const QString& yol) {
@@ -36,8 +37,9 @@ class Kaynak {
         struct stat bilgi {};
         if (!m_dosya.Açık() || fstat(m_dosya.No(), &bilgi) != 0 || !S_ISREG(bilgi.st_mode))
             throw VeriHatası(u"Access dosyası açılamıyor; iznini denetleyin: "_s + Ad(yol));
-        if (!Dosya::Kilitle(m_dosya.No()))
-            throw VeriHatası(u"Access dosyası şu anda başka bir program tarafından alınıyor; biraz sonra tekrar deneyin."_s);
+        if (!Dosya::Kilitle(m_dosya.No()) && errno == EWOULDBLOCK)  // some network drives know no locks
+            throw VeriHatası(
+                u"Access dosyası şu anda başka bir program tarafından alınıyor; biraz sonra tekrar deneyin."_s);
         m_bilgi = bilgi;
         BaşlığıDenetle(yol);
         KilidiDenetle(yol);
@@ -65,8 +67,7 @@ class Kaynak {
                 u"Bu dosya Access 2007 ya da sonrasının biçiminde (.accdb). Access’te \"Access 2002-2003 Veritabanı\" "
                 u"olarak kaydedip o dosyayı kullanın."_s);
         const off_t sayfa = Jet3() ? 2048 : 4096;
-        if (m_bilgi.st_size % sayfa != 0)
-            throw VeriHatası(u"Access dosyası bozuk: sonu eksik. Dosya değişmedi."_s);
+        if (m_bilgi.st_size % sayfa != 0) throw VeriHatası(u"Access dosyası bozuk: sonu eksik. Dosya değişmedi."_s);
     }
 
     // Access keeps such a file as long as somebody has the other one open.
@@ -75,8 +76,9 @@ class Kaynak {
         for (const QString& ek : {u".ldb"_s, u".LDB"_s}) {
             const QString kilit = bilgi.path() + u'/' + bilgi.completeBaseName() + ek;
             if (Dosya::YolVar(QFile::encodeName(kilit).toStdString()))
-                throw VeriHatası(u"Access dosyası açık görünüyor: yanında %1 var. Öbür bilgisayardaki programı kapatın; "
-                                 u"açık değilse bu dosyayı silip yeniden deneyin."_s.arg(Ad(kilit)));
+                throw VeriHatası(
+                    u"Access dosyası açık görünüyor: yanında %1 var. Öbür bilgisayardaki programı kapatın; "
+                    u"açık değilse bu dosyayı silip yeniden deneyin."_s.arg(Ad(kilit)));
         }
     }
 
@@ -109,8 +111,7 @@ class İlerlemeSayacı {
 
 std::string SütunAdları(Tablo tablo) {
     std::string adlar;
-    for (const KaynakSütunu& sütun : TABLOLAR[tablo].Sütunlar)
-        adlar.append(adlar.empty() ? "" : ", ").append(sütun.Ad);
+    for (const KaynakSütunu& sütun : TABLOLAR[tablo].Sütunlar) adlar.append(adlar.empty() ? "" : ", ").append(sütun.Ad);
     return adlar;
 }
 
@@ -226,7 +227,8 @@ AktarımSonucu ErişimDosyasınıAl(const Aktarımİsteği& istek) {
     ZamanıVer(yeniYolu, kaynak.DeğişmeZamanı());
 
     const QString saklanan = yerinde ? ÖzgünüSakla(yol) : QString();
-    const QString listeYolu = yerinde ? saklanan + u".txt"_s : ListeAdı(istek.Liste.isEmpty() ? hedef + u".access.txt"_s : istek.Liste);
+    const QString listeYolu =
+        yerinde ? saklanan + u".txt"_s : ListeAdı(istek.Liste.isEmpty() ? hedef + u".access.txt"_s : istek.Liste);
     if (!liste.Boş()) MetniYaz(listeYolu, liste.Metin());
     if (istek.İlerleme) istek.İlerleme(BÜTÜN);
     YarıdaKesildiMi();

@@ -7,8 +7,8 @@ namespace Erişim {
 
 struct Aktarımİsteği {
     QString Kaynak;
-    QString Hedef;  // empty: the new file takes the Access file's place
-    QString Liste;  // with a target: where the list goes; empty: beside it
+    QString Hedef;                      // empty: the new file takes the Access file's place
+    QString Liste;                      // with a target: where the list goes; empty: beside it
     std::function<void(int)> İlerleme;  // thousandths
 };
 

@@ -15,9 +15,10 @@ namespace {
 constexpr char32_t YER_TUTUCU = 0xFFFD;
 
 // 0x80 to 0x9F of the Turkish code page; 0: not in it.
-constexpr std::array<char16_t, 32> KOD_SAYFASI{
-    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0, 0, 0,
-    0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0, 0, 0x0178};
+constexpr std::array<char16_t, 32> KOD_SAYFASI{0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                               0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0,      0,
+                                               0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                               0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0,      0x0178};
 
 char16_t KodSayfasından(unsigned char bayt) {
     switch (bayt) {
@@ -42,8 +43,8 @@ char16_t KodSayfasından(unsigned char bayt) {
 }
 
 char16_t İkiBayt(std::string_view baytlar, std::size_t yer) {
-    return static_cast<char16_t>(static_cast<unsigned char>(baytlar[yer]) |
-                                 static_cast<unsigned char>(baytlar[yer + 1]) << 8);
+    return static_cast<char16_t>(static_cast<unsigned char>(baytlar[yer]) | static_cast<unsigned char>(baytlar[yer + 1])
+                                                                                << 8);
 }
 
 // Packed texts change between one and two bytes a character at each zero byte, and begin with one.
@@ -74,7 +75,8 @@ std::u16string Birimler(std::string_view baytlar, bool jet3) {
         return metin;
     }
     if (baytlar.starts_with("\xFF\xFE")) return Aç(baytlar.substr(2));
-    for (std::size_t yer = 0; yer + 1 < baytlar.size(); yer += 2) metin += İkiBayt(baytlar, yer);
+    metin.resize(baytlar.size() / 2);
+    std::memcpy(metin.data(), baytlar.data(), metin.size() * 2);  // little-endian, as this machine is
     if (baytlar.size() % 2 != 0) metin += static_cast<char16_t>(YER_TUTUCU);
     return metin;
 }
@@ -102,7 +104,7 @@ template <typename T>
 std::optional<T> Oku(std::string_view baytlar) {
     T sayı{};
     if (baytlar.size() < sizeof sayı) return std::nullopt;
-    std::memcpy(&sayı, baytlar.data(), sizeof sayı);  // little-endian, as all machines are that run this
+    std::memcpy(&sayı, baytlar.data(), sizeof sayı);
     return sayı;
 }
 
@@ -156,6 +158,7 @@ std::optional<Ondalık> Kesirli(const std::optional<T>& değer) {
 ÇözülenMetin MetniÇöz(std::string_view baytlar, bool jet3) {
     const std::u16string birimler = Birimler(baytlar, jet3);
     ÇözülenMetin sonuç;
+    sonuç.Metin.reserve(birimler.size() + birimler.size() / 2);
     for (std::size_t i = 0; i < birimler.size(); ++i) {
         char32_t kod = birimler[i];
         if (kod >= 0xD800 && kod < 0xE000) {

@@ -13,7 +13,7 @@
 namespace Erişim {
 
 struct ÇözülenMetin {
-    std::string Metin;        // UTF-8
+    std::string Metin;          // UTF-8
     bool Değiştirildi = false;  // it held something that is no character
 };
 
@@ -29,7 +29,7 @@ std::optional<double> DoubleÇöz(std::string_view baytlar);
 std::optional<float> TekÇöz(std::string_view baytlar);
 
 struct ÇözülenTarih {
-    std::int64_t Gün = 0;     // yyyymmdd
+    std::int64_t Gün = 0;  // yyyymmdd
     bool SaatiVar = false;
 };
 

@@ -172,9 +172,10 @@ void SatırAkışı::MetniÇevir(Tablo tablo, std::size_t sütun, Değer& değer
     const bool yazılamaz = çözülen.Metin.find_first_of("'\r\n") != std::string::npos;
     değer.Metin = yazılamaz ? YazılabilirYap(çözülen.Metin) : çözülen.Metin;
     if (değer.Metin.size() > EN_UZUN_METİN && Utf16Uzunluğu(değer.Metin) > EN_UZUN_METİN)
-        throw VeriHatası(u"%1 tablosunun %2 sütununda %3 karakterden uzun bir metin var: \"%4…\" Dosya değişmedi."_s.arg(
-            QString::fromUtf8(TABLOLAR[tablo].Ad), QString::fromUtf8(TABLOLAR[tablo].Sütunlar[sütun].Ad),
-            QString::number(EN_UZUN_METİN), QString::fromUtf8(Kısalt(değer.Metin))));
+        throw VeriHatası(
+            u"%1 tablosunun %2 sütununda %3 karakterden uzun bir metin var: \"%4…\" Dosya değişmedi."_s.arg(
+                QString::fromUtf8(TABLOLAR[tablo].Ad), QString::fromUtf8(TABLOLAR[tablo].Sütunlar[sütun].Ad),
+                QString::number(EN_UZUN_METİN), QString::fromUtf8(Kısalt(değer.Metin))));
     if (yazılamaz || çözülen.Değiştirildi) Bildir(Neden::KesmeVeSatır, tablo, sütun, çözülen.Metin, değer.Metin);
 }
 
@@ -206,7 +207,8 @@ void SatırAkışı::YüzdeyiÇevir(Tablo tablo, std::size_t sütun, Değer& de�
     if (tür != HücreTürü::Tek) return;
     const double eski = TekÇöz(*m_ham[sütun]).value_or(0);
     if (eski != *yüzde)
-        Bildir(Neden::TekDuyarlık, tablo, sütun, OndalıkMetni(EnKısaOndalık(eski)), OndalıkMetni(EnKısaOndalık(*yüzde)));
+        Bildir(Neden::TekDuyarlık, tablo, sütun, OndalıkMetni(EnKısaOndalık(eski)),
+               OndalıkMetni(EnKısaOndalık(*yüzde)));
 }
 
 void SatırAkışı::TarihiÇevir(Tablo tablo, std::size_t sütun, Değer& değer) {
@@ -267,7 +269,8 @@ void SatırAkışı::AynıAdlılarıAyır() {
     std::vector<std::uint32_t> sonrakiler;
     for (std::uint32_t i = 0; i < m_malzemeler.size(); ++i)
         if (adlar.BulYaDaEkle(m_malzemeler[i].Ad, i) != i) sonrakiler.push_back(i);
-    std::unordered_map<std::uint32_t, std::vector<std::uint32_t>> aynılar;  // by the first: those with a name of their own
+    // By the first of its name: those that have got a name of their own.
+    std::unordered_map<std::uint32_t, std::vector<std::uint32_t>> aynılar;
     for (const std::uint32_t i : sonrakiler) {
         Malzeme& malzeme = m_malzemeler[i];
         const std::uint32_t ilk = adlar.Bul(malzeme.Ad);
@@ -297,8 +300,9 @@ std::string SatırAkışı::AyrıAd(const Malzeme& malzeme, AdDizini& adlar) con
     for (int sıra = 2;; ++sıra) {
         std::string ad = malzeme.Ad + " (" + std::to_string(sıra) + ")";
         if (Utf16Uzunluğu(ad) > EN_UZUN_METİN)
-            throw VeriHatası(u"MalzemeTablosu tablosunda iki kez duran bir malzemenin adı ayrılamayacak kadar uzun: "
-                             u"\"%1…\" Dosya değişmedi."_s.arg(QString::fromUtf8(Kısalt(malzeme.Ad))));
+            throw VeriHatası(
+                u"MalzemeTablosu tablosunda iki kez duran bir malzemenin adı ayrılamayacak kadar uzun: "
+                u"\"%1…\" Dosya değişmedi."_s.arg(QString::fromUtf8(Kısalt(malzeme.Ad))));
         if (adlar.Bul(ad) == AdDizini::YOK) return ad;
     }
 }

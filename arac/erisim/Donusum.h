@@ -17,11 +17,11 @@ namespace Erişim {
 // A value as the data file stores it.
 struct Değer {
     Anlam Ne = Anlam::Metin;
-    std::string Metin;       // UTF-8
-    std::int64_t Sayı = 0;   // ten-thousandths, or yyyymmdd
+    std::string Metin;      // UTF-8
+    std::int64_t Sayı = 0;  // ten-thousandths, or yyyymmdd
     double Double = 0;
 
-    void YazımEkle(std::string& deyim) const;     // as a literal of a statement
+    void YazımEkle(std::string& deyim) const;  // as a literal of a statement
     bool Aynı(std::string_view okunan) const;  // as the driver gives it back
 };
 using Satır = std::array<Değer, EN_ÇOK_SÜTUN>;

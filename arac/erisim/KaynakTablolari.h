@@ -23,12 +23,15 @@ struct KaynakTablosu {
 
 inline constexpr KaynakSütunu MALZEME_SÜTUNLARI[] = {{"MalzemeAdi", Anlam::Metin}, {"MalzemeFiyati", Anlam::Fiyat}};
 inline constexpr KaynakSütunu ÜRÜN_SÜTUNLARI[] = {
-    {"UrunGrubu", Anlam::Metin},      {"UrunAdi", Anlam::Metin},           {"IscilikYuzdesi", Anlam::Yüzde},
-    {"KarYuzdesi", Anlam::Yüzde},     {"DigerVarnekYuzdesi", Anlam::Yüzde}, {"VadeFarkiYuzdesi", Anlam::Yüzde}};
-inline constexpr KaynakSütunu KULLANIM_SÜTUNLARI[] = {
-    {"KullanimTarihi", Anlam::Tarih},          {"UrunGrubu", Anlam::Metin},
-    {"UrunAdi", Anlam::Metin},                 {"KullanilanMalzemeAdi", Anlam::Metin},
-    {"KullanilanMalzemeMiktari", Anlam::Metin}, {"KullanilanMalzemeFiyati", Anlam::Fiyat}};
+    {"UrunGrubu", Anlam::Metin},          {"UrunAdi", Anlam::Metin},
+    {"IscilikYuzdesi", Anlam::Yüzde},     {"KarYuzdesi", Anlam::Yüzde},
+    {"DigerVarnekYuzdesi", Anlam::Yüzde}, {"VadeFarkiYuzdesi", Anlam::Yüzde}};
+inline constexpr KaynakSütunu KULLANIM_SÜTUNLARI[] = {{"KullanimTarihi", Anlam::Tarih},
+                                                      {"UrunGrubu", Anlam::Metin},
+                                                      {"UrunAdi", Anlam::Metin},
+                                                      {"KullanilanMalzemeAdi", Anlam::Metin},
+                                                      {"KullanilanMalzemeMiktari", Anlam::Metin},
+                                                      {"KullanilanMalzemeFiyati", Anlam::Fiyat}};
 
 // In the order in which they are read: the used rows follow what becomes of the materials.
 enum Tablo : std::size_t { MalzemeTablosu, ÜrünTablosu, KullanımTablosu };

@@ -64,7 +64,8 @@ OkumaSüreci::OkumaSüreci(const std::string& yol) {
 OkumaSüreci::Süreç::~Süreç() {
     if (No <= 0) return;
     kill(No, SIGKILL);
-    while (waitpid(No, nullptr, 0) < 0 && errno == EINTR) {}
+    while (waitpid(No, nullptr, 0) < 0 && errno == EINTR) {
+    }
 }
 
 void OkumaSüreci::Kesildi() {
@@ -85,7 +86,8 @@ void OkumaSüreci::Doldur() {
         if (sonuç > 0) break;
         if (sonuç == 0) bekleme -= aralık;
         if (bekleme <= 0)
-            throw VeriHatası(u"Access dosyası okunamadı: dosya bozuk, okuma bir dakikadır ilerlemiyor. Dosya değişmedi."_s);
+            throw VeriHatası(
+                u"Access dosyası okunamadı: dosya bozuk, okuma bir dakikadır ilerlemiyor. Dosya değişmedi."_s);
     }
     const std::size_t eski = m_tampon.size();
     m_tampon.resize(eski + OKUMA_BOYU);

@@ -57,12 +57,10 @@ QString ÖzgünüSakla(const QString& yol) {
         if (İçeriğiAynı(yol, ad)) return ad;
         if (Var(ad)) continue;
         Dosya::GeçiciDosya kopya(Yol(ad));
-        for (const auto& adım : {+[](Dosya::GeçiciDosya& k, const std::string&) { return k.Aç(); },
-                                 +[](Dosya::GeçiciDosya& k, const std::string& kaynak) { return k.Doldur(kaynak); }}) {
-            const Dosya::Sonuç sonuç = adım(kopya, Yol(yol));
-            if (!sonuç.Tamam()) Yazılamadı(ad, sonuç.Neden);
-        }
-        const Dosya::Sonuç sonuç = kopya.Yerleştir(Dosya::Yerleştirme::Yeni);
+        Dosya::Sonuç sonuç = kopya.Aç();
+        if (sonuç.Tamam()) sonuç = kopya.Doldur(Yol(yol));
+        if (!sonuç.Tamam()) Yazılamadı(ad, sonuç.Neden);
+        sonuç = kopya.Yerleştir(Dosya::Yerleştirme::Yeni);
         if (sonuç.Ne == Dosya::Sonuç::Tür::Var) continue;
         if (!sonuç.Tamam() || !İçeriğiAynı(yol, ad)) Yazılamadı(ad, sonuç.Neden);
         return ad;

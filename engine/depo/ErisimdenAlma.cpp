@@ -10,6 +10,10 @@
 
 namespace Motor {
 
+bool ErişimDosyası(const std::string& yol) {
+    return Erişim::AccessTürünüOku(yol) != Erişim::AccessTürü::Değil;
+}
+
 namespace {
 
 // The folder that holds this code, whichever program has loaded it: never one that PATH or the current folder names.
@@ -26,14 +30,12 @@ std::string AraçYolu() {
 
 void Al(const Erişim::Almaİsteği& istek) {
     const Erişim::AlmaSonucu sonuç = Erişim::ErişimdenAl(istek, [](int) { return true; });
-    if (sonuç.Ne != Erişim::AlmaSonucu::Tür::Alındı) throw Hata(Durum::Bağlanamadı, sonuç.Metin);
+    // Another client may have had the same file taken over just before.
+    if (sonuç.Ne != Erişim::AlmaSonucu::Tür::Alındı && ErişimDosyası(istek.Kaynak))
+        throw Hata(Durum::Bağlanamadı, sonuç.Metin);
 }
 
 }  // namespace
-
-bool ErişimDosyası(const std::string& yol) {
-    return Erişim::AccessTürünüOku(yol) != Erişim::AccessTürü::Değil;
-}
 
 void ErişimdenAl(const std::string& kaynak) {
     Al({AraçYolu(), kaynak, {}, {}});

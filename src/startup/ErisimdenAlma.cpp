@@ -36,8 +36,7 @@ bool Al(const QString& kaynak, const QString& hedef) {
     const QString metin = QString::fromStdString(sonuç.Metin);
     switch (sonuç.Ne) {
         case AlmaSonucu::Tür::Alındı:
-            if (!metin.isEmpty())
-                Bildir(MesajKutusu::Simge::Bilgi, Metin(ErişimMetni::Değiştirilenler).arg(metin));
+            if (!metin.isEmpty()) Bildir(MesajKutusu::Simge::Bilgi, Metin(ErişimMetni::Değiştirilenler).arg(metin));
             return true;
         case AlmaSonucu::Tür::Vazgeçildi:
             Bildir(MesajKutusu::Simge::Bilgi, Metin(ErişimMetni::Vazgeçildi).arg(kaynak));

@@ -60,10 +60,11 @@ AccessÜreteci::Tablo AccessÜreteci::TabloBul(const std::string& ad) const {
             std::string sütunAdı;
             for (std::size_t harf = 0; harf < boy; harf += 2) sütunAdı += m_dosya.at(adYeri + 2 + harf);
             adYeri += 2 + boy;
-            tablo.Sütunlar.push_back({sütunAdı, yer, Oku16(yer + 5), (m_dosya.at(yer + 15) & 1) != 0, Oku16(yer + 7),
-                                      Oku16(yer + 21)});
+            tablo.Sütunlar.push_back(
+                {sütunAdı, yer, Oku16(yer + 5), (m_dosya.at(yer + 15) & 1) != 0, Oku16(yer + 7), Oku16(yer + 21)});
         }
-        std::sort(tablo.Sütunlar.begin(), tablo.Sütunlar.end(), [](const auto& a, const auto& b) { return a.No < b.No; });
+        std::sort(tablo.Sütunlar.begin(), tablo.Sütunlar.end(),
+                  [](const auto& a, const auto& b) { return a.No < b.No; });
         return tablo;
     }
     throw std::runtime_error("no table " + ad);
@@ -166,7 +167,8 @@ void AccessÜreteci::SatırlarıKoy(const std::string& ad, const std::function<s
     const std::size_t sonu =
         sıra == 0 ? haritaSayfası + SAYFA
                   : haritaSayfası + static_cast<std::size_t>(Oku16(haritaSayfası + 12 + sıra * 2) & 0x1FFF);
-    std::fill(m_dosya.begin() + static_cast<std::ptrdiff_t>(yer), m_dosya.begin() + static_cast<std::ptrdiff_t>(sonu), '\0');
+    std::fill(m_dosya.begin() + static_cast<std::ptrdiff_t>(yer), m_dosya.begin() + static_cast<std::ptrdiff_t>(sonu),
+              '\0');
     m_dosya[yer] = 1;
     for (const std::size_t sayfa : sayfalar) {
         const std::size_t no = sayfa / SAYFA;
