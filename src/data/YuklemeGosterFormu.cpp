@@ -63,6 +63,7 @@ void YüklemeGösterFormu::VazgeçilebilirYap(const QString& metin) {
     m_ilerlemeÇubuğu->setRange(0, bütün);
     m_iptalButonu = new QPushButton(Metin(MetinNo::İlerlemeİptali), m_etiket->parentWidget());
     m_iptalButonu->setObjectName(QStringLiteral("İptalButonu"));
+    m_iptalButonu->setAutoDefault(false);  // Enter, pressed on the way, is no giving up
     connect(m_iptalButonu, &QPushButton::clicked, this, [this] { reject(); });
     m_etiket->parentWidget()->layout()->addWidget(m_iptalButonu);
     m_etiket->parentWidget()->layout()->setAlignment(m_iptalButonu, Qt::AlignHCenter);
