@@ -4,6 +4,8 @@
 #include <mdbtools.h>
 #include <sys/mman.h>
 
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
@@ -73,17 +75,43 @@ class Uyarılar {
         std::fflush(stderr);
         if (m_no.Açık()) dup2(m_no.No(), STDERR_FILENO);
     }
-    bool Var() {
+    // Whether anything came since the last time that matters for the table which is defined in this page.
+    bool Var(unsigned long tabloSayfası = 0) {
         std::fflush(stderr);
-        struct stat bilgi {};
-        const off_t önceki = m_boy;
-        m_boy = fstat(STDERR_FILENO, &bilgi) == 0 ? bilgi.st_size : önceki + 1;
-        return m_boy != önceki;
+        std::array<char, 4096> tampon;
+        std::string yeni;
+        for (;;) {
+            const ssize_t okunan = pread(STDERR_FILENO, tampon.data(), tampon.size(), m_okunan);
+            if (okunan < 0) return true;
+            if (okunan == 0) break;
+            m_okunan += okunan;
+            yeni.append(tampon.data(), static_cast<std::size_t>(okunan));
+        }
+        while (!yeni.empty()) {
+            const std::size_t boy = std::min(yeni.find('\n'), yeni.size() - 1) + 1;
+            if (!Zararsız(yeni.substr(0, boy), tabloSayfası)) return true;
+            yeni.erase(0, boy);
+        }
+        return false;
     }
 
   private:
+    // The map of a table's pages may name pages of its long texts and of its indexes as well, which the library passes
+    // over with a warning.
+    static bool Zararsız(const std::string& satır, unsigned long tabloSayfası) {
+        constexpr int veri = 1;
+        constexpr long uzunMetinler = 0x4C41564C;  // "LVAL"
+        unsigned long sayfa = 0;
+        int tür = 0;
+        long sahip = 0;
+        constexpr const char* biçim = "warning: page %lu from map doesn't match: Type=%d, buf[4..7]=%ld";
+        if (std::sscanf(satır.c_str(), biçim, &sayfa, &tür, &sahip) != 3) return false;
+        const bool dizin = tür == 3 || tür == 4;
+        return (tür == veri && sahip == uzunMetinler) || (dizin && sahip == static_cast<long>(tabloSayfası));
+    }
+
     Dosya::Tanıtıcı m_no;
-    off_t m_boy = 0;
+    off_t m_okunan = 0;
 };
 
 bool TürUygun(Anlam anlam, int tür) {
@@ -169,12 +197,14 @@ class Okuyucu {
                 const bool bulundu = mdb_find_row(m_mdb, i, &yer, &boy) == 0;
                 if (yer & GEÇİLEN_SATIR) continue;
                 yer &= KONUM_MASKESİ;
-                if (!bulundu || boy == 0 || mdb_crack_row(tablo, yer, boy, alanlar.data()) < 0) Bozuk(kaynak);
+                if (!bulundu || boy == 0) Bozuk(kaynak);
+                const int sütunlar = mdb_crack_row(tablo, yer, boy, alanlar.data());
+                if (sütunlar < 1 || sütunlar > MDB_MAX_COLS) Bozuk(kaynak);  // by the row itself; not all need be there
                 SatırGönder(kaynak, açık, alanlar, yer + static_cast<int>(boy));
                 ++satır;
             }
         }
-        if (m_uyarılar.Var()) Bozuk(kaynak);
+        if (m_uyarılar.Var(tablo->entry->table_pg)) Bozuk(kaynak);
         if (satır < tablo->num_rows) m_gönderici.Hata(OkumaHatası::SatırEksik, kaynak.Ad);
         m_gönderici.Başla(ÇerçeveTürü::TabloSonu);
         m_gönderici.Bitir();
