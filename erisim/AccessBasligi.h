@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace Erişim {
 
@@ -12,7 +14,11 @@ enum class AccessTürü {
     Yeni   // Access 2007 and later (.accdb), which cannot be taken over
 };
 
-// A file that cannot be read is none.
+inline constexpr std::size_t ACCESS_BAŞLIĞI = 21;  // bytes that tell
+AccessTürü AccessTürünüBul(std::string_view baş);
+
+// A file that cannot be read is none. Not for one that the database library has open in this process: closing it here
+// would take that library's locks away.
 AccessTürü AccessTürünüOku(const std::string& yol);
 
 }  // namespace Erişim

@@ -2,16 +2,30 @@
 
 #include "AccessBasligi.h"
 #include "AlmaSureci.h"
+#include "DosyaSistemi.h"
 #include "Hata.h"
+#include "Sqlite.h"
 
 #include <dlfcn.h>
 
+#include <array>
 #include <filesystem>
 
 namespace Motor {
 
 bool ErişimDosyası(const std::string& yol) {
-    return Erişim::AccessTürünüOku(yol) != Erişim::AccessTürü::Değil;
+    if (!Dosya::OlağanDosyaVar(yol)) return false;
+    // Opened, and no more: reading anything of it as a data file would play a journal back that lies beside it.
+    sqlite3* ham = nullptr;
+    const int sonuç = sqlite3_open_v2(yol.c_str(), &ham, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, nullptr);
+    const SqliteBağlantısı vt(ham);
+    sqlite3_file* dosya = nullptr;
+    if (sonuç != SQLITE_OK || sqlite3_file_control(ham, "main", SQLITE_FCNTL_FILE_POINTER, &dosya) != SQLITE_OK ||
+        !dosya || !dosya->pMethods)
+        return false;
+    std::array<char, Erişim::ACCESS_BAŞLIĞI> baş{};
+    if (dosya->pMethods->xRead(dosya, baş.data(), static_cast<int>(baş.size()), 0) != SQLITE_OK) return false;
+    return Erişim::AccessTürünüBul({baş.data(), baş.size()}) != Erişim::AccessTürü::Değil;
 }
 
 namespace {

@@ -4,7 +4,8 @@
 
 namespace Motor {
 
-// Whether the file is one of Access, by its header.
+// Whether the file is one of Access, by its header. That is read through SQLite: opening and closing the file beside it
+// would take away the locks that connections of this process hold. False too when the file cannot be opened.
 bool ErişimDosyası(const std::string& yol);
 
 // Has the data-file tool take it over, in its place or into a new file: the engine knows no tables. The tool is the one

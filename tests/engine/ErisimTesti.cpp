@@ -6,6 +6,14 @@
 TEST_F(MotorTesti, AccessDosyasınaBağlanıncaOnuAlır) {
     const AccessÜreteci örnek;
     örnek.Yaz(Yol("a.vtb"));
+    // A crash's journal of the file that lay there before must not be played back into this one.
+    {
+        TestVerisi önceki(m_dosya);
+        önceki.ElleOnayla();
+        önceki.Çalıştır(MalzemeEkle("Çıta", "1"));
+        DosyaYaz(Yol("a.vtb-journal"), DosyaOku(m_dosya + "-journal"));
+        ASSERT_GT(DosyaOku(Yol("a.vtb-journal")).size(), 500U);
+    }
     // A host program that waits for no children of its own.
     const auto önceki = std::signal(SIGCHLD, SIG_IGN);
     TestVerisi bağ;
@@ -13,6 +21,15 @@ TEST_F(MotorTesti, AccessDosyasınaBağlanıncaOnuAlır) {
     std::signal(SIGCHLD, önceki);
     EXPECT_EQ(bağ.Tek("SELECT Count(UrunAdi) AS KayitSayisi FROM UrunMalzemeTablosu"), "6");
     EXPECT_EQ(DosyaOku(Yol("a.vtb.access")), örnek.Baytlar());
+
+    // Looking at the header takes no lock away: a second connection of the same process ends, the first keeps writing.
+    bağ.ElleOnayla();
+    bağ.Çalıştır(MalzemeEkle("Çıta", "1"));
+    EXPECT_EQ(TestVerisi().Bağlan(Tanım(Yol("a.vtb"))).Kod, 0);
+    EXPECT_TRUE(AyrıcalıksızSüreçte([this] {
+        return TestVerisi(Yol("a.vtb")).Dene(MalzemeEkle("Öbürü", "1")).Durum == "S1T00";
+    }));
+    bağ.Onayla();
 
     DosyaYaz(Yol("kesik.vtb"), örnek.Baytlar().substr(0, 32 * 4096));
     const std::vector<std::string> önce = Klasördekiler();
