@@ -26,9 +26,8 @@ TEST_F(MotorTesti, AccessDosyasınaBağlanıncaOnuAlır) {
     bağ.ElleOnayla();
     bağ.Çalıştır(MalzemeEkle("Çıta", "1"));
     EXPECT_EQ(TestVerisi().Bağlan(Tanım(Yol("a.vtb"))).Kod, 0);
-    EXPECT_TRUE(AyrıcalıksızSüreçte([this] {
-        return TestVerisi(Yol("a.vtb")).Dene(MalzemeEkle("Öbürü", "1")).Durum == "S1T00";
-    }));
+    EXPECT_TRUE(AyrıcalıksızSüreçte(
+        [this] { return TestVerisi(Yol("a.vtb")).Dene(MalzemeEkle("Öbürü", "1")).Durum == "S1T00"; }));
     bağ.Onayla();
 
     DosyaYaz(Yol("kesik.vtb"), örnek.Baytlar().substr(0, 32 * 4096));
