@@ -21,8 +21,16 @@ QString Neden(const QList<OdbcHatası>& hatalar) {
     return OdbcİletileriniAl(hatalar).value(0);
 }
 
-// Rows together, which makes many of them fast.
-void Doldur(const QString& dosya, const QStringList& tablolar, const std::function<void(VeriYazıcısı&)>& doldur) {
+}  // namespace
+
+void VeriDosyasınıDoldur(const QString& dosya, const std::function<void(VeriYazıcısı&)>& doldur) {
+    VeriDosyasınıDoldur(dosya, Deyimler::TabloTakımları().constFirst(), doldur);
+}
+
+void VeriDosyasınıDoldur(const QString& dosya, const QStringList& tablolar,
+                         const std::function<void(VeriYazıcısı&)>& doldur) {
+    if (!BoşVeriDosyasıOluştur(dosya))
+        throw VeriHatası(u"Veri dosyası oluşturulamadı: "_s + SürücüKurulumHataları().value(0));
     OdbcBağlantısı bağlantı;
     const OdbcSonucu açılış = bağlantı.Aç(BağlantıMetni(dosya));
     if (!bağlantı.Tanıtıcı()) throw VeriHatası(u"ODBC sürücülerine erişilemiyor."_s);
@@ -41,8 +49,6 @@ void Doldur(const QString& dosya, const QStringList& tablolar, const std::functi
         if (Deyimler::HızDizini(bildirim)) yazıcı.Çalıştır(bildirim);
     }
 }
-
-}  // namespace
 
 VeriYazıcısı::VeriYazıcısı(OdbcBağlantısı& bağlantı) : m_bağlantı(bağlantı) {
     if (m_deyim.Aç(bağlantı) != 0) throw VeriHatası(u"Veri dosyası açılamadı: "_s + Neden(bağlantı.HatalarınıAl()));
@@ -90,9 +96,7 @@ void VeriDosyasıYap(const QString& hedef, const QStringList& tablolar,
         throw VeriHatası(u"%1 klasörüne yazılamıyor; yazma iznini ve diski denetleyin."_s.arg(bilgi.absolutePath()));
     }
     const QString geçici = klasör.filePath(u"Yeni.vtb"_s);
-    if (!BoşVeriDosyasıOluştur(geçici))
-        throw VeriHatası(u"Veri dosyası oluşturulamadı: "_s + SürücüKurulumHataları().value(0));
-    Doldur(geçici, tablolar, doldur);
+    VeriDosyasınıDoldur(geçici, tablolar, doldur);
     YarıdaKesildiMi();
     const Dosya::Sonuç taşıma = Dosya::Taşı(QFile::encodeName(geçici).toStdString(),
                                             QFile::encodeName(yol).toStdString(), Dosya::Yerleştirme::Yeni);

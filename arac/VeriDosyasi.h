@@ -38,6 +38,12 @@ void VeriDosyasıYap(const QString& hedef, const std::function<void(VeriYazıcı
 void VeriDosyasıYap(const QString& hedef, const QStringList& tablolar,
                     const std::function<void(VeriYazıcısı&)>& doldur);
 
+// Makes the file itself, where no file is yet: the tables, the rows that `doldur` writes in one transaction, and the
+// indexes. Throws VeriHatası; what is there then is to be taken away.
+void VeriDosyasınıDoldur(const QString& dosya, const std::function<void(VeriYazıcısı&)>& doldur);
+void VeriDosyasınıDoldur(const QString& dosya, const QStringList& tablolar,
+                         const std::function<void(VeriYazıcısı&)>& doldur);
+
 // Ends the work at the next statement, as a failure. May be called from a signal handler.
 void YarıdaKes() noexcept;
 

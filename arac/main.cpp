@@ -2,6 +2,7 @@
 #include <clocale>
 #include <csignal>
 
+#include "ErisimKomutu.h"
 #include "Komut.h"
 #include "OdbcSurucu.h"
 #include "Uc.h"
@@ -11,8 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr const Komut* Komutlar[] = {&YeniKomutu,       &ÖrnekKomutu,   &BüyükKomutu,   &DışarıAktarKomutu,
-                                     &İçeriAktarKomutu, &MaliyetKomutu, &DenetleKomutu, &OnarKomutu};
+constexpr const Komut* Komutlar[] = {&YeniKomutu,        &ÖrnekKomutu,      &BüyükKomutu,
+                                     &DışarıAktarKomutu, &İçeriAktarKomutu, &MaliyetKomutu,
+                                     &DenetleKomutu,     &OnarKomutu,       &ErişimdenAlKomutu};
 
 QString Kullanım(const Komut& komut) {
     return u"varnek-veri %1 %2"_s.arg(komut.Ad, komut.Yazılış);

@@ -1,9 +1,13 @@
 #include "Bakim.h"
 
 #include "DosyaIslemleri.h"
+#include "ErisimdenAlma.h"
 #include "Hata.h"
 #include "Parola.h"
 #include "Veritabani.h"
+
+#include <cstdlib>
+#include <filesystem>
 
 namespace Motor {
 
@@ -34,6 +38,25 @@ void YerindeSıkıştır(sqlite3* vt) {
     SqliteYürüt(vt, "VACUUM");
 }
 
+// A folder beside the target, for a file on the way there.
+class AraKlasör {
+  public:
+    explicit AraKlasör(const std::string& hedef) : m_yol(hedef + ".aliniyor-XXXXXX") {
+        if (!mkdtemp(m_yol.data()))
+            throw Hata(Durum::Genel, "Hedef klasöre yazılamıyor; yazma iznini ve diski denetleyin: " + hedef, errno);
+    }
+    ~AraKlasör() {
+        std::error_code önemsiz;
+        std::filesystem::remove_all(m_yol, önemsiz);
+    }
+    AraKlasör(const AraKlasör&) = delete;
+    AraKlasör& operator=(const AraKlasör&) = delete;
+    std::string Dosya() const { return m_yol + "/Yeni.vtb"; }
+
+  private:
+    std::string m_yol;
+};
+
 }  // namespace
 
 void BütünlüğüDenetle(sqlite3* vt) {
@@ -59,6 +82,12 @@ void VeriDosyasıOluştur(const std::string& yol, std::string_view parola) {
 }
 
 void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hedefYolu, std::string_view parola) {
+    if (ErişimDosyası(kaynak) && !Dosya::AynıDosya(kaynak, hedefYolu)) {
+        const std::string hedef = GerçekYol(hedefYolu);
+        const AraKlasör ara(hedef);
+        ErişimdenAl(GerçekYol(kaynak), ara.Dosya(), hedef + ".access.txt");
+        return VeriDosyasıSıkıştır(ara.Dosya(), hedef, parola);
+    }
     const AçıkDosya dosya = VeriDosyasıAç(kaynak, parola);
     sqlite3* vt = dosya.Vt.get();
     BütünlüğüDenetle(vt);

@@ -1,6 +1,7 @@
 #include "Veritabani.h"
 
 #include "DosyaIslemleri.h"
+#include "ErisimdenAlma.h"
 #include "Hata.h"
 #include "Parola.h"
 
@@ -34,6 +35,7 @@ void BoşGünlüğüSil(sqlite3* vt, const std::string& yol) {
 AçıkDosya VeriDosyasıAç(const std::string& verilen, std::string_view parola) {
     if (!Dosya::OlağanDosyaVar(verilen)) throw Hata(Durum::Bağlanamadı, "Veri dosyası bulunamadı: " + verilen);
     const std::string yol = GerçekYol(verilen);
+    if (ErişimDosyası(yol)) ErişimdenAl(yol);
     GünlükleriDenetle(yol);
     SqliteBağlantısı vt = SqliteAç(yol);
     if (PragmaOku(vt.get(), "PRAGMA application_id") != DosyaKimliği) SqliteHatasıFırlat(SQLITE_NOTADB);

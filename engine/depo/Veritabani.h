@@ -23,9 +23,9 @@ struct AçıkDosya {
     DosyaŞeması Şema;
 };
 
-// Opens an existing data file, checks that it is one, that it holds nothing foreign and that the password is right, and
-// clears what crashes left beside it. Throws Hata (08001, 28000 and what SQLite reports; native SQLITE_CORRUPT or
-// SQLITE_NOTADB for a damaged one).
+// Opens an existing data file (one of Access is taken over first), checks that it is one, that it holds nothing foreign
+// and that the password is right, and clears what crashes left beside it. Throws Hata (08001, 28000 and what SQLite
+// reports; native SQLITE_CORRUPT or SQLITE_NOTADB for a damaged one).
 AçıkDosya VeriDosyasıAç(const std::string& yol, std::string_view parola);
 
 // The rows of a running query.

@@ -5,17 +5,24 @@
 #include <cstdint>
 #include <functional>
 
+class QLabel;
 class QProgressBar;
+class QPushButton;
 
 // The loading form: shows how far a long load has come. It appears once the load has lasted a while, so that it never
-// flashes up on a short one, and ends with the load, failures included. Neither Esc nor its close box ends it; user
+// flashes up on a short one, and ends with the load, failures included. Neither Esc nor its close box ends a load; user
 // input is excluded while the rows load.
 class YüklemeGösterFormu : public QDialog {
   public:
     // Runs the loader and comes back when it has ended; its exceptions pass.
     static void Çalıştır(const std::function<void()>& yükleyici, QWidget* sahip = nullptr);
 
-    void reject() override {}
+    // The same for a long step that can be given up: with a text of its own and "İptal" (Esc). `iş` gets a function
+    // that takes thousandths and answers false once the user has given up.
+    using Vazgeçilebilirİş = std::function<void(const std::function<bool(int)>&)>;
+    static void ÇalıştırVazgeçilebilir(const QString& metin, const Vazgeçilebilirİş& iş, QWidget* sahip = nullptr);
+
+    void reject() override { m_vazgeçildi = m_iptalButonu != nullptr; }
 
   protected:
     void closeEvent(QCloseEvent* olay) override;
@@ -25,8 +32,13 @@ class YüklemeGösterFormu : public QDialog {
     explicit YüklemeGösterFormu(QWidget* sahip);
     ~YüklemeGösterFormu() override;
     void İlerle();
+    void VazgeçilebilirYap(const QString& metin);
+    bool Bildir(int binde);
 
+    QLabel* m_etiket;
     QProgressBar* m_ilerlemeÇubuğu;
+    QPushButton* m_iptalButonu = nullptr;
+    bool m_vazgeçildi = false;
     QElapsedTimer m_sonÇizim;
 };
 

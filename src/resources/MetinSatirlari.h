@@ -31,3 +31,4 @@ const char* KullanımMetniBul(MetinNo numara);
 const char* ArşivMetniBul(MetinNo numara);
 const char* YarıMamulMetniBul(MetinNo numara);
 const char* ÇizelgeMetniBul(MetinNo numara);
+const char* ErişimMetniBul(MetinNo numara);

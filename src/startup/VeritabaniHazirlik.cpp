@@ -6,6 +6,7 @@
 #include "ApilerModulu.h"
 #include "OrtakFonksiyonlarModulu.h"
 #include "DegiskenModulu.h"
+#include "ErisimdenAlma.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "OdbcModulu.h"
@@ -104,6 +105,7 @@ bool VeritabanınıHazırla() {
     // Without the driver nothing can be said about the files; connecting then shows what is wrong.
     if (!SürücüKayıtlı()) return ODBCBağlan();
     if (!DosyaVar(yollar.Dosya) && !EksikDosyayıGeriYükle(yollar)) return false;
+    if (!ErişimDosyasınıAl(yollar)) return false;
     QString neden;
     switch (BoşDosyayıGözet(yollar, neden)) {
         case BoşDosyaSonucu::Sorunsuz:

@@ -1,7 +1,7 @@
 #pragma once
 
-// Puts the data file in its place and opens it: restores it from the backup when it is missing, compacts it into the
-// backup at the first start of a day, and connects. False: the program is to end; why has been shown. No failure loses
-// what was in the data file or in the backup: both are only ever replaced by a complete file, and a backup that holds
-// rows neither by a data file that holds none nor by a damaged one.
+// Puts the data file in its place and opens it: restores it from the backup when it is missing, takes it over when it
+// is one of Access, compacts it into the backup at the first start of a day, and connects. False: the program is to
+// end; why has been shown. No failure loses what was in the data file or in the backup: both are only ever replaced by
+// a complete file, and a backup that holds rows neither by a data file that holds none nor by a damaged one.
 bool VeritabanınıHazırla();

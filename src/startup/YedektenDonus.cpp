@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include "ApilerModulu.h"
+#include "ErisimdenAlma.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "OdbcModulu.h"
@@ -117,6 +118,7 @@ void YarımKalanlarıSil(const VeriYolları& yollar) {
 }
 
 bool EksikDosyayıGeriYükle(const VeriYolları& yollar) {
+    if (YedekErişimDosyası(yollar)) return ErişimYedeğiniGeriYükle(yollar);
     return YedekGeriYüklenebilir(yollar, EKSİKTE) && YedeğiKopyala(yollar, EKSİKTE);
 }
 

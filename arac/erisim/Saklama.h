@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+#include <string>
+
+namespace Erişim {
+
+// Keeps a copy of the Access file beside it, as "<name>.access" or, where that is taken by another content, with the
+// next free number; an equal copy is used again. The copy's path. Throws VeriHatası.
+QString ÖzgünüSakla(const QString& yol);
+
+// The path, with a number where it is taken.
+QString ListeAdı(const QString& yol);
+
+// Writes a text file as a whole. Throws VeriHatası.
+void MetniYaz(const QString& yol, const std::string& metin);
+
+// Gives the new file its name. With `değiştir` it takes another file's place, whose journals are none of its own.
+void YerineKoy(const std::string& yeni, const std::string& hedef, bool değiştir);
+
+// The real path; throws VeriHatası where its folder is not there.
+QString GerçekYoluBul(const QString& yol);
+
+}  // namespace Erişim

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "MetinTablosu.h"
+
+// The texts of taking an Access file over at the start.
+namespace ErişimMetni {
+
+inline constexpr MetinNo Alınıyor{3400};
+inline constexpr MetinNo Alınamadı{3401};
+inline constexpr MetinNo Vazgeçildi{3402};
+inline constexpr MetinNo Değiştirilenler{3403};
+
+}  // namespace ErişimMetni
