@@ -24,7 +24,7 @@ class Denetçi {
     explicit Denetçi(OdbcBağlantısı& bağlantı) : m_bağlantı(bağlantı) {}
 
     void Çalış() {
-        m_bağlantı.TabloVar(u"YariMamulTablosu"_s, m_bağlarVar).Başarılı();
+        ::Denetle(m_bağlantı.TabloVar(u"YariMamulTablosu"_s, m_bağlarVar));
         Ürünler();
         Malzemeler();
         Kullanılanlar();

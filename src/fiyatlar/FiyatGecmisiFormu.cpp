@@ -10,12 +10,14 @@
 #include <limits>
 
 #include "BasamakGrafigi.h"
+#include "CizelgeKaydi.h"
 #include "FiyatMetinleri.h"
 #include "FormParcalari.h"
 #include "GeriAlma.h"
 #include "GirisKutusu.h"
 #include "KatalogKaynagi.h"
 #include "MalzemeDegisimi.h"
+#include "ListeCizelgesi.h"
 #include "MetinTablosu.h"
 #include "OdbcModulu.h"
 #include "Tablo.h"
@@ -181,9 +183,14 @@ void FiyatGeçmişiFormu::Yerleştir() {
     const int solGenişlik = m_malzemeTablosu->sizeHint().width();
     bölen->setSizes({solGenişlik, 1040 - solGenişlik});
     auto* kapat = DüğmeOluştur(QStringLiteral("KapatButonu"), MetinNo::Kapat, [this] { reject(); });
+    auto* aktar = DüğmeOluştur(QStringLiteral("TabloyaAktarButonu"), MetinNo::ExcelKaydet, [this] {
+        ÇizelgeyeKaydet(*this, windowTitle(), [this](const QString& yol) {
+            return TabloyuÇizelgeyeYaz(yol, windowTitle(), *m_geçmişModeli);
+        });
+    });
     auto* düzen = new QVBoxLayout(this);
     düzen->addWidget(bölen, 1);
-    düzen->addLayout(DüğmeSırası({m_geriAl, nullptr, kapat}));
+    düzen->addLayout(DüğmeSırası({m_geriAl, aktar, nullptr, kapat}));
     m_malzemeTablosu->setFocus();
     BoyVer(*this, {1040, 620});
 }

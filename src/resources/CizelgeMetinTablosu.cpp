@@ -5,6 +5,7 @@ namespace {
 
 constexpr MetinSatırı Tablo[] = {
     {ÇizelgeMetni::BirimiSütunu, "Birimi"},
+    {ÇizelgeMetni::DövizTablosunuAktar, "Tablo&ya Aktar..."},
 };
 
 static_assert(Sıralı(Tablo));

@@ -6,5 +6,6 @@
 namespace ÇizelgeMetni {
 
 inline constexpr MetinNo BirimiSütunu{3300};
+inline constexpr MetinNo DövizTablosunuAktar{3301};
 
 }  // namespace ÇizelgeMetni

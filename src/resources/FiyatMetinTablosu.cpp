@@ -105,7 +105,7 @@ constexpr MetinSatırı Tablo[] = {
     {MetinNo::ElleAçıklaması, "Malzeme formunda fiyat değişimi"},
     {MetinNo::GeçmişeYazılamadı, "Yeni fiyat kaydedildi, ancak fiyat geçmişine yazılamadı; bu değişim geri alınamaz."},
     {MetinNo::FiyatGeçmişiDüğmesi, "Fiyat &Geçmişi..."},
-    {MetinNo::ExcelKaydet, "Tabloya &Aktar..."},
+    {MetinNo::ExcelKaydet, "Ta&bloya Aktar..."},
     {MetinNo::ExcelFormuBaşlığı, "Tabloya Aktar"},
     {MetinNo::ExcelSüzgeci, "Excel Dosyaları (*.xlsx);;CSV Dosyaları (*.csv)"},
     {MetinNo::ExcelYazılamadı, "Tablo dosyası yazılamadı! %1"},

@@ -7,6 +7,7 @@
 #include "SayiMetni.h"
 #include "SutunluListe.h"
 #include "SutunluSatir.h"
+#include "TabloModeli.h"
 
 namespace {
 
@@ -84,6 +85,17 @@ class SatırOkuyucu {
     QList<QString> m_gruplar;  // the last one of each column
 };
 
+// As many decimals as the column's figures are shown with.
+int Basamak(const TabloModeli& model, int sütun) {
+    qsizetype basamak = 0;
+    for (int satır = 0; satır < model.rowCount(); ++satır) {
+        const QString metin = model.index(satır, sütun).data().toString();
+        const qsizetype virgül = metin.indexOf(QLatin1Char(','));
+        if (virgül >= 0 && SayıMı(metin)) basamak = qMax(basamak, metin.size() - virgül - 1);
+    }
+    return static_cast<int>(basamak);
+}
+
 }  // namespace
 
 ÇizelgeDeğeri GösterilenDeğer(const QString& metin) {
@@ -100,5 +112,29 @@ YazmaSonucu ListeyiÇizelgeyeYaz(const QString& yol, const QString& sayfaAdı, c
         sonuç = yazıcı.SatırEkle(okuyucu.Değerler(*liste.topLevelItem(i)));
     for (const QList<ÇizelgeDeğeri>& satır : sonra)
         if (sonuç.Tamam()) sonuç = yazıcı.SatırEkle(satır);
+    return sonuç.Tamam() ? yazıcı.Bitir() : sonuç;
+}
+
+YazmaSonucu TabloyuÇizelgeyeYaz(const QString& yol, const QString& sayfaAdı, const TabloModeli& model) {
+    QList<ÇizelgeSütunu> sütunlar;
+    for (const TabloSütunu& sütun : model.Sütunlar()) {
+        const int sıra = static_cast<int>(sütunlar.size());
+        sütunlar.append({Metin(sütun.Başlık), sütun.Harf * 1.2,
+                         sütun.Sayı ? ÇizelgeSütunTürü::Para : ÇizelgeSütunTürü::Metin,
+                         sütun.Sayı ? Basamak(model, sıra) : 0});
+    }
+    ÇizelgeYazıcı yazıcı(yol, sayfaAdı, sütunlar);
+    YazmaSonucu sonuç = yazıcı.Aç();
+    for (int satır = 0; satır < model.rowCount() && sonuç.Tamam(); ++satır) {
+        QList<ÇizelgeDeğeri> değerler;
+        for (int sütun = 0; sütun < model.columnCount(); ++sütun) {
+            const QString metin = model.index(satır, sütun).data().toString();
+            if (model.Sütunlar().at(sütun).Sayı)
+                değerler.append(GösterilenDeğer(metin));
+            else
+                değerler.emplaceBack(metin);
+        }
+        sonuç = yazıcı.SatırEkle(değerler);
+    }
     return sonuç.Tamam() ? yazıcı.Bitir() : sonuç;
 }

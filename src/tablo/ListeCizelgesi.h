@@ -6,6 +6,7 @@
 #include "CizelgeHedefi.h"
 
 class SütunluListe;
+class TabloModeli;
 
 // What a column of a list holds, for a spreadsheet.
 enum class ListeSütunu {
@@ -20,6 +21,9 @@ enum class ListeSütunu {
 // texts.
 YazmaSonucu ListeyiÇizelgeyeYaz(const QString& yol, const QString& sayfaAdı, const SütunluListe& liste,
                                 const QList<ListeSütunu>& sütunlar, const QList<QList<ÇizelgeDeğeri>>& sonra = {});
+
+// Writes the shown rows of a table as they are shown, figures as numbers.
+YazmaSonucu TabloyuÇizelgeyeYaz(const QString& yol, const QString& sayfaAdı, const TabloModeli& model);
 
 // A shown figure as a value: its number; its text where it is none.
 ÇizelgeDeğeri GösterilenDeğer(const QString& metin);

@@ -17,7 +17,8 @@ TEST_F(ListeRaporları, MalzemeListesi) {
     // A key pressed too often on the way here prints nothing.
     Tuş(Qt::Key_Space);
     EXPECT_FALSE(Yazdırılan());
-    EXPECT_EQ(SekmeSırası(), "MalzemeListesi YazdırButonu PdfKaydetButonu ÖnizlemeButonu TabloyaAktarButonu KapatButonu");
+    EXPECT_EQ(SekmeSırası(),
+              "MalzemeListesi YazdırButonu PdfKaydetButonu ÖnizlemeButonu TabloyaAktarButonu KapatButonu");
     QTest::keyClick(&Form(), Qt::Key_Y, Qt::AltModifier);
     const auto yazdırılan = Yazdırılan();
     ASSERT_TRUE(yazdırılan);
