@@ -8,8 +8,7 @@ set -euo pipefail
 
 paketler=(build-essential cmake ninja-build pkg-config qt6-base-dev libqt6gui6 libgl-dev libodbc2 libodbcinst2
     unixodbc-dev libsqlite3-dev nettle-dev libminizip-dev libxlsxwriter-dev mdbtools-dev libgtest-dev
-    libbenchmark-dev mdbtools
-    libsqliteodbc fonts-dejavu-core fonts-liberation qt6-translations-l10n)
+    libbenchmark-dev mdbtools libsqliteodbc fonts-dejavu-core fonts-liberation qt6-translations-l10n)
 for kume in "$@"; do
     case $kume in
         test) paketler+=(xvfb xauth locales cups-daemon cups-client cups-core-drivers poppler-utils) ;;

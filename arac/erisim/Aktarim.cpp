@@ -226,14 +226,21 @@ AktarımSonucu ErişimDosyasınıAl(const Aktarımİsteği& istek) {
     const std::string yeniYolu = QFile::encodeName(yeni).toStdString();
     ZamanıVer(yeniYolu, kaynak.DeğişmeZamanı());
 
-    const QString saklanan = yerinde ? ÖzgünüSakla(yol) : QString();
-    const QString listeYolu =
-        yerinde ? saklanan + u".txt"_s : ListeAdı(istek.Liste.isEmpty() ? hedef + u".access.txt"_s : istek.Liste);
+    const Saklanan saklanan = yerinde ? ÖzgünüSakla(yol) : Saklanan();
+    const QString listeYolu = yerinde                 ? saklanan.Yol + u".txt"_s
+                              : istek.Liste.isEmpty() ? ListeAdı(hedef + u".access.txt"_s)
+                                                      : ListeAdı(istek.Liste);
+    const bool listeYeni = !liste.Boş() && !QFileInfo::exists(listeYolu);
+    auto geriAl = qScopeGuard([&] {
+        if (saklanan.Yeni) QFile::remove(saklanan.Yol);
+        if (listeYeni) QFile::remove(listeYolu);
+    });
     if (!liste.Boş()) MetniYaz(listeYolu, liste.Metin());
     if (istek.İlerleme) istek.İlerleme(BÜTÜN);
     YarıdaKesildiMi();
     kaynak.DeğişmediMi();
     YerineKoy(yeniYolu, hedefYolu, yerinde);
+    geriAl.dismiss();
     return Sonuç(yazılan, liste, listeYolu);
 }
 

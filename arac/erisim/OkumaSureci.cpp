@@ -22,6 +22,7 @@ namespace {
 
 constexpr int EN_UZUN_SESSİZLİK = 60'000;  // milliseconds
 constexpr rlim_t EN_ÇOK_BELLEK = rlim_t{2} << 30;
+constexpr rlim_t EN_ÇOK_UYARI = rlim_t{16} << 20;  // bytes that the library may print
 constexpr std::uint32_t EN_UZUN_ÇERÇEVE = 1 << 17;
 constexpr std::size_t OKUMA_BOYU = 1 << 16;
 
@@ -30,6 +31,8 @@ constexpr std::size_t OKUMA_BOYU = 1 << 16;
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     const rlimit çekirdek{0, 0};
     setrlimit(RLIMIT_CORE, &çekirdek);
+    const rlimit uyarılar{EN_ÇOK_UYARI, EN_ÇOK_UYARI};
+    setrlimit(RLIMIT_FSIZE, &uyarılar);
 #if !defined(__SANITIZE_ADDRESS__)  // which reserves far more than it uses
     const rlimit bellek{EN_ÇOK_BELLEK, EN_ÇOK_BELLEK};
     setrlimit(RLIMIT_AS, &bellek);

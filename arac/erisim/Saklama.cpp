@@ -51,10 +51,10 @@ bool Var(const QString& yol) {
 
 }  // namespace
 
-QString ÖzgünüSakla(const QString& yol) {
+Saklanan ÖzgünüSakla(const QString& yol) {
     for (int sıra = 1;; ++sıra) {
         const QString ad = Numaralı(yol + u".access"_s, {}, sıra);
-        if (İçeriğiAynı(yol, ad)) return ad;
+        if (İçeriğiAynı(yol, ad)) return {ad, false};
         if (Var(ad)) continue;
         Dosya::GeçiciDosya kopya(Yol(ad));
         Dosya::Sonuç sonuç = kopya.Aç();
@@ -63,7 +63,7 @@ QString ÖzgünüSakla(const QString& yol) {
         sonuç = kopya.Yerleştir(Dosya::Yerleştirme::Yeni);
         if (sonuç.Ne == Dosya::Sonuç::Tür::Var) continue;
         if (!sonuç.Tamam() || !İçeriğiAynı(yol, ad)) Yazılamadı(ad, sonuç.Neden);
-        return ad;
+        return {ad, true};
     }
 }
 

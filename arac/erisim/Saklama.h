@@ -6,8 +6,12 @@
 namespace Erişim {
 
 // Keeps a copy of the Access file beside it, as "<name>.access" or, where that is taken by another content, with the
-// next free number; an equal copy is used again. The copy's path. Throws VeriHatası.
-QString ÖzgünüSakla(const QString& yol);
+// next free number; an equal copy is used again. Throws VeriHatası.
+struct Saklanan {
+    QString Yol;
+    bool Yeni = false;  // made by this call
+};
+Saklanan ÖzgünüSakla(const QString& yol);
 
 // The path, with a number where it is taken.
 QString ListeAdı(const QString& yol);

@@ -52,10 +52,23 @@ class AraKlasör {
     AraKlasör(const AraKlasör&) = delete;
     AraKlasör& operator=(const AraKlasör&) = delete;
     std::string Dosya() const { return m_yol + "/Yeni.vtb"; }
+    std::string Liste() const { return m_yol + "/Yeni.txt"; }
 
   private:
     std::string m_yol;
 };
+
+// Puts the list of what could not be stored as it stood beside the target; its path, "" when there is none.
+std::string ListeyiKoy(const std::string& liste, const std::string& hedef) {
+    if (!Dosya::OlağanDosyaVar(liste)) return {};
+    for (int sıra = 1;; ++sıra) {
+        const std::string ad = hedef + ".access" + (sıra == 1 ? "" : "-" + std::to_string(sıra)) + ".txt";
+        const Dosya::Sonuç sonuç = Dosya::Taşı(liste, ad, Dosya::Yerleştirme::Yeni);
+        if (sonuç.Yapıldı()) return ad;
+        if (sonuç.Ne != Dosya::Sonuç::Tür::Var)
+            throw Hata(Durum::Genel, "Dosya yazılamadı; klasörün yazma iznini ve diski denetleyin: " + ad, sonuç.Neden);
+    }
+}
 
 }  // namespace
 
@@ -85,8 +98,14 @@ void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hede
     if (ErişimDosyası(kaynak) && !Dosya::AynıDosya(kaynak, hedefYolu)) {
         const std::string hedef = GerçekYol(hedefYolu);
         const AraKlasör ara(hedef);
-        ErişimdenAl(GerçekYol(kaynak), ara.Dosya(), hedef + ".access.txt");
-        return VeriDosyasıSıkıştır(ara.Dosya(), hedef, parola);
+        ErişimdenAl(GerçekYol(kaynak), ara.Dosya(), ara.Liste());
+        const std::string liste = ListeyiKoy(ara.Liste(), hedef);
+        try {
+            return VeriDosyasıSıkıştır(ara.Dosya(), hedef, parola);
+        } catch (...) {
+            if (!liste.empty()) Dosya::Sil(liste);
+            throw;
+        }
     }
     const AçıkDosya dosya = VeriDosyasıAç(kaynak, parola);
     sqlite3* vt = dosya.Vt.get();

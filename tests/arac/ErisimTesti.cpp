@@ -94,11 +94,16 @@ TEST_F(ErişimTesti, TheGenuineFileIsTakenOverAsItStands) {
     EXPECT_EQ(veri.Oku("SELECT * FROM UrunMalzemeTablosu").value(1),
               (QStringList{u"2004-03-07 00:00:00"_s, u"MASA"_s, u"Çalışma Masası"_s, u"Vida 4x40"_s, u"48 Adet"_s,
                            u"0.35"_s}));
-    // It is one of ours now. Another Access file in its place keeps its own copy, an equal one uses that again.
+    // It is one of ours now. Another Access file in its place, here with a deleted row, keeps its own copy; an equal
+    // one uses that again.
+    std::string silinmiş = örnek.Baytlar();
+    silinmiş[34 * 4096 + 14 + 2 * 2 + 1] |= '\xC0';
+    silinmiş[28 * 4096 + 16] = 5;
     EXPECT_TRUE(Al(1).contains(u"Access dosyası değil"_s));
     for (int kez = 0; kez < 2; ++kez) {
-        Koy(örnek.Baytlar() + std::string(4096, '\0'));
+        Koy(silinmiş);
         Al(0);
+        EXPECT_EQ(TestVerisi(Yol()).Oku("SELECT * FROM UrunMalzemeTablosu").size(), 5);
         EXPECT_EQ(Klasördekiler(), (QStringList{u"Varnek.vtb"_s, u"Varnek.vtb.access"_s, u"Varnek.vtb.access-2"_s}));
     }
 }

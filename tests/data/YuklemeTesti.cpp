@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QListWidget>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QTest>
 #include <stdexcept>
 
@@ -31,6 +32,27 @@ TEST_F(Yükleme, KısaYüklemedeFormHiçGörünmez) {
     });
     ASSERT_EQ(liste.count(), 3);
     EXPECT_EQ(liste.item(1)->text(), QStringLiteral("Çivi"));
+}
+
+TEST_F(Yükleme, VazgeçilebilirİşYalnızİptalleBırakılır) {
+    const auto görünsün = [](const std::function<bool(int)>& ilerleme) {
+        QElapsedTimer geçen;
+        geçen.start();
+        while (!YüklemeFormu() && geçen.elapsed() < 5000) EXPECT_TRUE(ilerleme(450));
+        return YüklemeFormu();
+    };
+    YüklemeGösterFormu::ÇalıştırVazgeçilebilir(QStringLiteral("Alınıyor"), [&](const auto& ilerleme) {
+        QWidget* form = görünsün(ilerleme);
+        ASSERT_TRUE(form);
+        EXPECT_EQ(form->findChild<QProgressBar*>(QStringLiteral("İlerlemeÇubuğu"))->value(), 450);
+        QTest::keyClick(form, Qt::Key_Return);
+        form->close();
+        EXPECT_TRUE(ilerleme(500));
+        QTest::mouseClick(form->findChild<QPushButton*>(QStringLiteral("İptalButonu")), Qt::LeftButton);
+        EXPECT_FALSE(ilerleme(550));
+        EXPECT_TRUE(form->isVisible()) << "until the work has ended";
+    });
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(Yükleme, UzunYüklemedeFormİlerlerVeKapatılamaz) {
