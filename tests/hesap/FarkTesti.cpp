@@ -53,7 +53,7 @@ TEST(FarkAyrımı, ParçalarSırasıylaAyrılır) {
         {Satır("Çam", "m", 2, "100"), Satır("Vida", "Adet", 10, "1"), Satır("Boya", "Litre", 1, "50")},
         {Tutar("10"), {}, {}, {}}};
     // The screws are gone, more of dearer wood, the paint by another measure, glue, more labour.
-    const FarkTarafı yeni{{Satır("ÇAM", "M", 3, "120"), Satır("Boya", "Kutu", 1, "50"), Satır("Tutkal", "Kg", 1, "5")},
+    const FarkTarafı yeni{{Satır("ÇAM", "m", 3, "120"), Satır("Boya", "Kutu", 1, "50"), Satır("Tutkal", "Kg", 1, "5")},
                           {Tutar("20"), {}, {}, {}}};
     const FarkAyrımı ayrım = FarkıAyır(eski, yeni);
     QStringList parçalar;
