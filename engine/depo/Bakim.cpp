@@ -7,13 +7,13 @@
 
 namespace Motor {
 
-namespace {
-
 void BütünlüğüDenetle(sqlite3* vt) {
     SqliteDeyimi denetle(vt, "PRAGMA integrity_check(1)");
     const bool sağlam = denetle.Adım() && denetle.Metin(0) == "ok";
     if (!sağlam) SqliteHatasıFırlat(SQLITE_CORRUPT);
 }
+
+namespace {
 
 // A journal beside the target belongs to the target's present content and must never meet the new one. If it is a
 // crash's, SQLite undoes the half transaction first: should this run be cut off before the new file is in place, the

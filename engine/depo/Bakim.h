@@ -1,9 +1,14 @@
 #pragma once
 
+#include "Sqlite.h"
+
 #include <string>
 #include <string_view>
 
 namespace Motor {
+
+// Reads every page; throws Hata (native SQLITE_CORRUPT) when something does not agree.
+void BütünlüğüDenetle(sqlite3* vt);
 
 // Creates an empty data file with this password. An existing file is never overwritten. Throws Hata; nothing is left
 // behind then.

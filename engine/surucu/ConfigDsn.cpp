@@ -2,10 +2,12 @@
 #include "Bakim.h"
 #include "BaglantiMetni.h"
 #include "Tani.h"
+#include "Yedekleme.h"
 
 #include <odbcinst.h>
 
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -23,12 +25,37 @@ std::string YoluÇöz(std::string_view yol) {
     return çözülen;
 }
 
-bool Sıkıştır(const std::string& yollar, const std::string& parola) {
+std::pair<std::string, std::string> YolÇifti(const std::string& istek, const std::string& yollar) {
     const std::size_t boşluk = yollar.find(' ');
     if (boşluk == 0 || boşluk == std::string::npos || yollar.find(' ', boşluk + 1) != std::string::npos)
-        throw Hata(Durum::Genel, "COMPACT_DB için araları boşluklu iki dosya yolu gerekiyor.");
+        throw Hata(Durum::Genel, istek + " için araları boşluklu iki dosya yolu gerekiyor.");
     const std::string_view görünüm(yollar);
-    VeriDosyasıSıkıştır(YoluÇöz(görünüm.substr(0, boşluk)), YoluÇöz(görünüm.substr(boşluk + 1)), parola);
+    return {YoluÇöz(görünüm.substr(0, boşluk)), YoluÇöz(görünüm.substr(boşluk + 1))};
+}
+
+bool Sıkıştır(const std::string& yollar, const std::string& parola) {
+    const auto [kaynak, hedef] = YolÇifti("COMPACT_DB", yollar);
+    VeriDosyasıSıkıştır(kaynak, hedef, parola);
+    return true;
+}
+
+// The requests about backups; false: it is none of them. STOP names the file whose appearance ends the work.
+bool YedekİsteğiniYürüt(const Öznitelikler& öznitelikler) {
+    const std::string parola = öznitelikler.Değer("PWD");
+    const std::string dur = YoluÇöz(öznitelikler.Değer("STOP"));
+    if (const std::string* yol = öznitelikler.Bul("CHECK_DB")) {
+        VeriDosyasıDenetle(YoluÇöz(*yol), parola, dur);
+    } else if (const std::string* yeni = öznitelikler.Bul("MARK_DB")) {
+        VeriDosyasıDamgala(YoluÇöz(*yeni), parola);
+    } else if (const std::string* yollar = öznitelikler.Bul("BACKUP_DB")) {
+        const auto [kaynak, hedef] = YolÇifti("BACKUP_DB", *yollar);
+        VeriDosyasıYedekle(kaynak, hedef, parola, dur);
+    } else if (const std::string* dönüş = öznitelikler.Bul("RESTORE_DB")) {
+        const auto [kaynak, hedef] = YolÇifti("RESTORE_DB", *dönüş);
+        VeriDosyasıGeriYükle(kaynak, hedef, parola);
+    } else {
+        return false;
+    }
     return true;
 }
 
@@ -44,6 +71,7 @@ bool VeriKaynağınıYaz(const Öznitelikler& öznitelikler, const char* sürüc
 
 bool İsteğiYürüt(WORD istek, const char* sürücü, const Öznitelikler& öznitelikler) {
     if (istek == ODBC_REMOVE_DSN) return SQLRemoveDSNFromIni(öznitelikler.Değer("DSN").c_str());
+    if (YedekİsteğiniYürüt(öznitelikler)) return true;
     if (const std::string* yollar = öznitelikler.Bul("COMPACT_DB")) return Sıkıştır(*yollar, öznitelikler.Değer("PWD"));
     if (const std::string* yol = öznitelikler.Bul("CREATE_DB")) {
         VeriDosyasıOluştur(*yol, öznitelikler.Değer("PWD"));

@@ -97,6 +97,8 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void MalzemeKullanımınıGöster(const QString& malzeme);
     void MaliyetArşivi();
 
+    void Yedekler();
+
     void FiyatMenüsünüKur();
     void ToplucaFiyatDeğiştir();
     void FiyatlarDeğişti();

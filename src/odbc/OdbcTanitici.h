@@ -45,6 +45,9 @@ class OdbcBağlantısı {
     // Whether the data file has a table of this name.
     OdbcSonucu TabloVar(const QString& ad, bool& var);
 
+    // How many statements that change something this program has run, over all its connections.
+    static std::uint64_t Değişiklikler();
+
     // Takes every pending error off the connection, in the order in which the driver keeps them.
     QList<OdbcHatası> HatalarınıAl() const;
 

@@ -30,3 +30,4 @@ const char* ÜrünMetniBul(MetinNo numara);
 const char* KullanımMetniBul(MetinNo numara);
 const char* ArşivMetniBul(MetinNo numara);
 const char* YarıMamulMetniBul(MetinNo numara);
+const char* YedekMetniBul(MetinNo numara);

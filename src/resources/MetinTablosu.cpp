@@ -315,7 +315,8 @@ static_assert(Sıralı(Tablo));
 
 QString Metin(MetinNo numara) {
     const char* metin = MetniBul(Tablo, numara);
-    for (const auto bul : {FiyatMetniBul, ÜrünMetniBul, KullanımMetniBul, ArşivMetniBul, YarıMamulMetniBul})
+    for (const auto bul :
+         {FiyatMetniBul, ÜrünMetniBul, KullanımMetniBul, ArşivMetniBul, YarıMamulMetniBul, YedekMetniBul})
         if (!metin) metin = bul(numara);
     if (!metin) {
         Q_ASSERT_X(false, "Metin", "unknown text number");
