@@ -4,7 +4,7 @@
 
 #include "Cift.h"
 #include "OdbcSurucu.h"
-#include "OdbcYedek.h"
+#include "KopyaYazma.h"
 #include "OlcumFormOrtami.h"
 #include "OrtakFonksiyonlarModulu.h"
 
@@ -19,11 +19,12 @@ QString Dosya() {
 }
 
 void Tarihli(benchmark::State& durum) {
-    const QString hedef = Dosya() + QStringLiteral(".kopya");
+    const Kopyaİşi iş{Dosya() + QStringLiteral(".kopyalar/"), Dosya(), QDateTime::currentDateTime(), {}, {}, {}};
     for (auto _ : durum) {
-        if (!VeriDosyasınıYedekle(Dosya(), hedef)) durum.SkipWithError("not copied");
+        const KopyaSonucu sonuç = KopyaYaz(iş);
+        if (sonuç.Ne != KopyaSonucu::Tür::Yazıldı) durum.SkipWithError("not copied");
         durum.PauseTiming();
-        QFile::remove(hedef);
+        QFile::remove(sonuç.Yol);
         durum.ResumeTiming();
     }
 }

@@ -144,7 +144,7 @@ std::int16_t OdbcDeyimi::Aç(const OdbcBağlantısı& bağlantı) {
 std::int16_t OdbcDeyimi::Çalıştır(const QString& sql) {
     QByteArray metin = Baytlar(sql);
     const SQLRETURN sonuç = SQLExecDirect(m_deyim, SqlMetni(metin), static_cast<SQLINTEGER>(metin.size()));
-    if (SQL_SUCCEEDED(sonuç) && !metin.startsWith("SELECT")) ++değişiklikler;
+    if (SQL_SUCCEEDED(sonuç) && !metin.startsWith("SELECT") && EtkilenenSatır() > 0) ++değişiklikler;
     return sonuç;
 }
 

@@ -30,7 +30,8 @@ void ArkadaYürüt(MetinNo metin, std::int64_t azami, QWidget* sahip, const std:
             if (bitti) döngü.quit();
         });
         saat.start(aralık);
-        döngü.exec();
+        // What the user does reaches nobody until the box stands in front of the windows; the box itself asks for it.
+        döngü.exec(QEventLoop::ExcludeUserInputEvents);
         if (!bitti) durum.Durdur();  // the program is to end
     }
     işçi.join();

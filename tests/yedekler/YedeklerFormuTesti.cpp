@@ -45,6 +45,23 @@ TEST_F(YedeklerFormuTesti, GeriYüklenenFormdaGörünürEskisiSaklanır) {
         Kutular().Yanıtla(Yanıt::Tamam);
         Tıkla("ŞimdiYedekleButonu");
         EXPECT_EQ(Denetlenenler(), "elle|1|1|1|sağlam|bu veri dosyası");
+        // Another version's, and a damaged one, are listed and cannot be used.
+        const Kopya kopya = KopyalarıOku(KopyaYerleri(m_yollar.YedekKlasörü).at(0).Klasör).at(0);
+        QByteArray baytlar = Baytlar(kopya.Yol);
+        DosyaYaz(QString(kopya.Yol).replace("000001", "000003"), baytlar.replace(63, 1, "\x09"));
+        DosyaYaz(QString(kopya.Yol).replace("000001", "000002"), Baytlar(kopya.Yol).left(20000));
+    });
+    Modal("YedeklerMenüsü", "YedeklerFormu", [this] {
+        EXPECT_EQ(Denetlenenler(),
+                  "elle||||başka sürüm|bu veri dosyası; elle||||BOZUK|bu veri dosyası; "
+                  "elle|1|1|1|sağlam|bu veri dosyası");
+        for (const int satır : {0, 1}) {
+            Tıkla(TABLO, Bul<QAbstractItemView>(TABLO).model()->index(satır, 0));
+            Kutular().Yanıtla(Yanıt::Tamam);
+            Tıkla("GeriYükleButonu");
+        }
+        for (const Kopya& kopya : KopyalarıOku(KopyaYerleri(m_yollar.YedekKlasörü).at(0).Klasör))
+            if (kopya.Ad.Sıra > 1) QFile::remove(kopya.Yol);
     });
     ÜrünEkle("MASA", "Kitaplık");
     MalzemeEkle("Tutkal", "1");

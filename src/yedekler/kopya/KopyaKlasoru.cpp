@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <algorithm>
 
 #include "ApilerModulu.h"
@@ -32,10 +33,10 @@ QString KopyaKlasörü(const QString& kök, const QString& dosya, const QString&
 
 bool KopyaKlasörünüYap(const QString& klasör, const QString& dosya) {
     if (!KlasörYap(klasör)) return false;
-    if (QFileInfo::exists(klasör + NOT_ADI)) return true;
-    QFile not_(klasör + NOT_ADI);
+    if (QFileInfo(klasör + NOT_ADI).size() > 0) return true;
+    QSaveFile not_(klasör + NOT_ADI);
     const QByteArray yol = dosya.toUtf8() + '\n';
-    return not_.open(QIODevice::WriteOnly | QIODevice::NewOnly) && not_.write(yol) == yol.size() && not_.flush();
+    return not_.open(QIODevice::WriteOnly) && not_.write(yol) == yol.size() && not_.flush() && not_.commit();
 }
 
 std::vector<Kopya> KopyalarıOku(const QString& klasör) {

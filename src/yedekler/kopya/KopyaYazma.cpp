@@ -128,7 +128,10 @@ KopyaSonucu KopyaYaz(const Kopyaİşi& iş) {
     YarımlarıSil(klasör);
     const std::vector<Kopya> kopyalar = KopyalarıOku(klasör);
     const Kopya* önceki = iş.Tür == KopyaTürü::Günlük ? SonGünlük(kopyalar) : nullptr;
-    if (!iş.Hazır.isEmpty() && önceki && İçerikleriAynı(iş.Hazır, önceki->Yol)) return {Tür::Aynı, önceki->Yol, {}};
+    if (!iş.Hazır.isEmpty() && önceki && İçerikleriAynı(iş.Hazır, önceki->Yol)) {
+        FazlalıklarıSil(klasör, önceki->Ad.Sıra);  // its bytes are those of a file that was checked just now
+        return {Tür::Aynı, önceki->Yol, {}};
+    }
     const qint64 dosyaBoyu = QFileInfo(iş.Dosya).size();
     const qint64 kopyaBoyu = iş.Hazır.isEmpty() ? dosyaBoyu : QFileInfo(iş.Hazır).size();
     if (!YerVar(klasör, kopyaBoyu, dosyaBoyu)) return {Tür::YerYok, {}, klasör};
@@ -141,7 +144,7 @@ KopyaSonucu KopyaYaz(const Kopyaİşi& iş) {
         QFile::remove(hedef);
         return {Tür::Aynı, önceki->Yol, {}};
     }
-    FazlalıklarıSil(klasör, sıra);
+    if (iş.Tür != KopyaTürü::Günlük || !iş.Hazır.isEmpty()) FazlalıklarıSil(klasör, sıra);
     return sonuç;
 }
 

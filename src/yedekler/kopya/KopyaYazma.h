@@ -29,7 +29,8 @@ struct KopyaSonucu {
 };
 
 // Writes a dated copy and checks it before it gets its name; then takes away what thinning no longer needs, each only
-// if the copy that stays in its place is sound at this moment. Whatever fails, what was there stays, and no half file.
+// if the copy that stays in its place is sound at this moment. After a daily copy of the data file itself, at the end
+// of a run, nobody waits for that: the next start's does it. Whatever fails, what was there stays, and no half file.
 // A copy is written only if the data file's size stays free on the disk afterwards.
 KopyaSonucu KopyaYaz(const Kopyaİşi& iş);
 

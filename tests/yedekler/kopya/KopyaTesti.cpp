@@ -1,3 +1,4 @@
+#include "DisKopya.h"
 #include "DoluDisk.h"
 #include "HazirlikTesti.h"
 #include "KopyaYazma.h"
@@ -176,6 +177,7 @@ TEST_F(Kopyalar, OlmayanKopyaİzBırakmazEskileriDeSilmez) {
 TEST_F(Kopyalar, YerineKalanBozuksaSilinmez) {
     DosyaYap(VeriDosyası(), QStringLiteral("Eski"), ÖncekiGün);
     Kopyaİşi iş = İş();
+    iş.Hazır = VeriDosyası();
     const auto yaz = [&](int gün, int saat) {
         MalzemeEkle(QStringLiteral("%1.%2").arg(gün).arg(saat));
         iş.Değişme = QDateTime(QDate(2026, 11, gün), QTime(saat, 0));
@@ -193,6 +195,38 @@ TEST_F(Kopyalar, YerineKalanBozuksaSilinmez) {
     yaz(12, 8);
     EXPECT_EQ(Adlar().join(' ').count("000001.ydk"), 0);
     EXPECT_EQ(Adlar().size(), 4);
+}
+
+TEST_F(Kopyalar, BaşkaDiskteYarımDosyaKalmaz) {
+    const QString kaynak = Klasör() + QStringLiteral("kaynak");
+    const QString klasör = Klasör() + QStringLiteral("bellek/");
+    QDir().mkpath(klasör);
+    DosyaYaz(kaynak, QByteArray(3 << 20, 'v'));
+    DosyaYaz(klasör + "a.ydk.yeni1", "başkasının");
+    const auto yaz = [&](int azami) {
+        int adım = 0;
+        return Dosya::DışarıKopyala(kaynak.toStdString(), (klasör + "a.ydk").toStdString(),
+                                    [&](std::int64_t) { return ++adım < azami; });
+    };
+    for (int azami = 1; azami <= 6; ++azami) EXPECT_EQ(yaz(azami), Dosya::DisKopyaSonucu::Durduruldu) << azami;
+    {
+        const DoluDisk dolu(1500000);
+        EXPECT_EQ(yaz(100), Dosya::DisKopyaSonucu::Yazılamadı);
+    }
+    EXPECT_EQ(QDir(klasör).entryList(QDir::Files), QStringList("a.ydk.yeni1"));
+    // Changed on the disk while it was written: what is read back is something else.
+    int adım = 0;
+    const auto boz = [&](std::int64_t) {
+        if (++adım != 3) return true;
+        QFile yazılan(klasör + "a.ydk.yeni2");
+        return yazılan.open(QIODevice::ReadWrite) && yazılan.putChar('x');
+    };
+    EXPECT_EQ(Dosya::DışarıKopyala(kaynak.toStdString(), (klasör + "a.ydk").toStdString(), boz),
+              Dosya::DisKopyaSonucu::Tutmadı);
+    EXPECT_EQ(yaz(100), Dosya::DisKopyaSonucu::Yazıldı);
+    EXPECT_EQ(Baytlar(klasör + "a.ydk"), Baytlar(kaynak));
+    EXPECT_EQ(yaz(100), Dosya::DisKopyaSonucu::Var);
+    EXPECT_EQ(Baytlar(klasör + "a.ydk.yeni1"), "başkasının");
 }
 
 TEST_F(Kopyalar, GeriYüklemeBaşkasınınİşiniEzmez) {
