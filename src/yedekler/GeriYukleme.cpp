@@ -1,6 +1,7 @@
 #include "GeriYukleme.h"
 
 #include <QFileInfo>
+#include <QLocale>
 #include <optional>
 
 #include "ArkaIs.h"
@@ -46,10 +47,14 @@ bool Onaylanır(const YedekSatırı& satır, const Hazırlık& hazırlık) {
     const VeriSayıları& yedekteki = hazırlık.Yedek.Sayılar;
     const bool bilinen = hazırlık.Şimdiki.has_value();
     QString soru = Metin(bilinen ? YedekMetni::GeriYüklemeSorusu : YedekMetni::GeriYüklemeSorusuBilinmeyen);
-    soru = soru.arg(GünMetni(satır)).arg(yedekteki.Ürün).arg(yedekteki.Malzeme).arg(yedekteki.Satır);
+    const QLocale yazım(QLocale::Turkish);
+    const auto ekle = [&](std::int64_t sayı) { soru = soru.arg(yazım.toString(static_cast<qlonglong>(sayı))); };
+    soru = soru.arg(GünMetni(satır));
+    for (const std::int64_t sayı : {yedekteki.Ürün, yedekteki.Malzeme, yedekteki.Satır}) ekle(sayı);
     if (bilinen) {
-        soru = soru.arg(hazırlık.Şimdiki->Ürün).arg(hazırlık.Şimdiki->Malzeme).arg(hazırlık.Şimdiki->Satır);
-        soru = soru.arg(hazırlık.Fark.Ürün).arg(hazırlık.Fark.Malzeme);
+        for (const std::int64_t sayı : {hazırlık.Şimdiki->Ürün, hazırlık.Şimdiki->Malzeme, hazırlık.Şimdiki->Satır,
+                                        hazırlık.Fark.Ürün, hazırlık.Fark.Malzeme})
+            ekle(sayı);
     }
     MesajKutusuOrtala();
     return MesajKutusu::Göster(Simge::Soru, Düğmeler::EvetHayır, soru, {}, MesajKutusu::Yanıt::Hayır) ==

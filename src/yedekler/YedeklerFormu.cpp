@@ -66,6 +66,8 @@ QString YedeklerFormu::Damga() const {
 // What has been checked stays so as long as the file is the same.
 void YedeklerFormu::Yükle() {
     m_denetim.Durdur();
+    const std::optional<std::size_t> seçili = m_tablo->SeçiliSatır();
+    const QString seçiliYol = seçili ? m_kaynak.Satırlar[*seçili].Yol : QString();
     std::vector<YedekSatırı> önceki = std::move(m_kaynak.Satırlar);
     m_kaynak.Satırlar = YedekleriBul(m_yollar, Damga());
     for (const YedekSatırı& eski : önceki)
@@ -79,7 +81,9 @@ void YedeklerFormu::Yükle() {
     }
     m_model.Yenile();
     NotuYaz(*m_not, *m_tablo, m_kaynak.Satırlar.empty() ? Metin(YedekMetni::YedekYok) : QString());
-    m_tablo->SatırıSeç([](std::size_t) { return true; });
+    // Another row must not come under the hand of who tries again.
+    m_tablo->SatırıSeç(
+        [&](std::size_t satır) { return seçili ? m_kaynak.Satırlar[satır].Yol == seçiliYol : satır == 0; });
     SeçimDeğişti();
     Denetle();
 }
