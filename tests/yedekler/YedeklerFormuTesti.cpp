@@ -1,6 +1,8 @@
 #include <QAbstractItemView>
 
 #include "AnaFormOrtami.h"
+#include "Deyimler.h"
+#include "DoluDisk.h"
 #include "KopyaYazma.h"
 #include "OdbcModulu.h"
 #include "VeriYollari.h"
@@ -98,8 +100,28 @@ TEST_F(YedeklerFormuTesti, GeriYüklenenFormdaGörünürEskisiSaklanır) {
     EXPECT_TRUE(KopyaAdları().join(' ').contains("once.ydk"));
 }
 
+TEST_F(YedeklerFormuTesti, KapanıştaDeğişenYedeklenir) {
+    m_veri.reset();
+    ODBCBağlantısınıKapat();
+    {
+        const DoluDisk dolu;
+        Kutular().Yanıtla(Yanıt::Tamam);
+        KapanıştaYedekle();
+        EXPECT_EQ(KopyaAdları(), QStringList());
+    }
+    KapanıştaYedekle();
+    EXPECT_EQ(KopyaAdları(), QStringList("000001.ydk"));
+    KapanıştaYedekle();
+    EXPECT_EQ(KopyaAdları(), QStringList("000001.ydk"));
+    // Another row, and the next copy has it.
+    TestVerisi(VeriDosyası()).Çalıştır(Deyimler::MalzemeEkle("Tutkal", "1"));
+    KapanıştaYedekle();
+    EXPECT_EQ(KopyaAdları(), QStringList({"000002.ydk", "000001.ydk"}));
+    EXPECT_FALSE(QFile::exists(m_yollar.Yedek)) << "the one backup is the start's alone";
+}
+
 // The file is damaged, and dated copies are there: the start offers them, keeps the damaged bytes and their journal.
-TEST_F(YedeklerFormuTesti, BozukDosyaninYerineKopyaSunulur) {
+TEST_F(YedeklerFormuTesti, BozukDosyanınYerineKopyaSunulur) {
     ASSERT_EQ(
         KopyaYaz({m_yollar.YedekKlasörü, m_yollar.GerçekDosya, QDateTime::currentDateTime(), KopyaTürü::Günlük, {}, {}})
             .Ne,
