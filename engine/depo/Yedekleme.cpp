@@ -20,8 +20,14 @@ void DurdurulurYap(sqlite3* vt, const std::string& dur) {
     sqlite3_progress_handler(vt, adım, durdu, const_cast<char*>(dur.c_str()));
 }
 
+// A check looks each row up in each index. Without memory for them the pages would be read again and again.
+void BellekVer(sqlite3* vt) {
+    SqliteYürüt(vt, "PRAGMA cache_size=-131072");  // at most so many KiB
+}
+
 void OkuyarakDenetle(const std::string& yol, std::string_view parola, const std::string& dur) {
     const AçıkDosya dosya = DosyayıTanı(SqliteOkumayaAç(yol), parola);
+    BellekVer(dosya.Vt.get());
     DurdurulurYap(dosya.Vt.get(), dur);
     BütünlüğüDenetle(dosya.Vt.get());
 }
@@ -56,6 +62,7 @@ void VeriDosyasıYedekle(const std::string& kaynak, const std::string& hedefYolu
         throw Hata(Durum::Genel, "Bu adda bir dosya zaten var; üzerine yazılmadı: " + hedefYolu);
     const AçıkDosya dosya = VeriDosyasıAç(kaynak, parola);
     DurdurulurYap(dosya.Vt.get(), dur);
+    BellekVer(dosya.Vt.get());
     BütünlüğüDenetle(dosya.Vt.get());
     GeçiciDosya geçici(GerçekYol(hedefYolu));
     {
@@ -69,6 +76,7 @@ void VeriDosyasıYedekle(const std::string& kaynak, const std::string& hedefYolu
 
 void VeriDosyasıGeriYükle(const std::string& kaynak, const std::string& hedefYolu, std::string_view parola) {
     const AçıkDosya yedek = VeriDosyasıAç(kaynak, parola);
+    BellekVer(yedek.Vt.get());
     BütünlüğüDenetle(yedek.Vt.get());
     const std::string hedef = GerçekYol(hedefYolu);
     if (Dosya::AynıDosya(kaynak, hedef)) throw Hata(Durum::Genel, "Yedek ile veri dosyası aynı dosya.");
