@@ -38,7 +38,7 @@ QString Sayı(std::int64_t sayı) {
 }  // namespace
 
 QList<TabloSütunu> YedekSütunlarınıVer() {
-    return {{YedekMetni::GünSütunu, 16},       {YedekMetni::TürSütunu, 20},          {YedekMetni::BoySütunu, 10, true},
+    return {{YedekMetni::GünSütunu, 16},       {YedekMetni::TürSütunu, 24},          {YedekMetni::BoySütunu, 10, true},
             {YedekMetni::ÜrünSütunu, 7, true}, {YedekMetni::MalzemeSütunu, 8, true}, {YedekMetni::SatırSütunu, 9, true},
             {YedekMetni::DenetimSütunu, 14},   {YedekMetni::YerSütunu, 24}};
 }
