@@ -105,7 +105,8 @@ bool VeritabanınıHazırla(const YedekSunumu& sun) {
     const bool yedekKlasörüVar = KlasörYap(yollar.YedekKlasörü);
     yollar.GerçekYedek = GerçekYol(yollar.Yedek);
     YarımAçılmışlarıSil(yollar.YedekKlasörü);
-    if (sun && KopyaVar(yollar) && BaşlangıçBiter(yollar)) sun();
+    // An Access file is taken over first, with progress: looking at it would do so without.
+    if (sun && KopyaVar(yollar) && !ErişimDosyasıVar(yollar) && BaşlangıçBiter(yollar)) sun();
     if (!YerlerUygun(yollar)) return false;
     YarımKalanlarıSil(yollar);
     // Without the driver nothing can be said about the files; connecting then shows what is wrong.
