@@ -16,6 +16,7 @@
 #include "SurumKaydi.h"
 #include "TekKopya.h"
 #include "Yardim.h"
+#include "YedekIsi.h"
 
 namespace {
 
@@ -51,6 +52,7 @@ int main(int argc, char** argv) {
     std::unique_ptr<AnaForm> anaForm;
     std::unique_ptr<BitirmeDinleyicisi> bitirmeDinleyicisi;
     bool bitiyor = false;
+    bool oturumBitiyor = false;
     // Settings and connection first; then every open form and box is left where it is.
     const auto sormadanBitir = [&anaForm, &bitiyor] {
         if (std::exchange(bitiyor, true)) return;
@@ -58,12 +60,23 @@ int main(int argc, char** argv) {
         QApplication::exit();
     };
     BaşlatmaBağları bağlar;
+    bağlar.YedekleriSun = YedekleriSun;
     bağlar.ProgramKlasörü = QApplication::applicationDirPath();
     bağlar.AnaFormuYükle = [&](std::function<void()> karşılamayıKapat) {
-        anaForm = std::make_unique<AnaForm>(AnaFormBağları{std::move(karşılamayıKapat), ÇıkışıYürüt});
+        // The end of the session does not wait for a copy; the next start makes it.
+        const auto kapanış = [&oturumBitiyor](bool simgeDurumunda, QPoint solÜst) {
+            if (!ÇıkışıYürüt(simgeDurumunda, solÜst)) return false;
+            if (!oturumBitiyor) KapanıştaYedekle();
+            return true;
+        };
+        anaForm = std::make_unique<AnaForm>(AnaFormBağları{std::move(karşılamayıKapat), kapanış});
         bitirmeDinleyicisi = std::make_unique<BitirmeDinleyicisi>(sormadanBitir);
-        OturumSonunuDinle(uygulama, {[&] { return bitiyor = anaForm->close(); },
-                                     [&] { AyarlarıKaydet(anaForm->isMinimized(), anaForm->pos()); }, sormadanBitir});
+        const auto sorupKapat = [&] {
+            oturumBitiyor = true;
+            return oturumBitiyor = bitiyor = anaForm->close();
+        };
+        OturumSonunuDinle(uygulama,
+                          {sorupKapat, [&] { AyarlarıKaydet(anaForm->isMinimized(), anaForm->pos()); }, sormadanBitir});
         anaForm->Yükle();
     };
     switch (Main(kopya, bağlar)) {

@@ -10,6 +10,7 @@ std::vector<Sahne> KatalogSahneleri();
 std::vector<Sahne> RaporSahneleri();
 std::vector<Sahne> ÜrünSahneleri();
 std::vector<Sahne> FiyatSahneleri();
+std::vector<Sahne> YedekSahneleri();
 
 // Opens the group and clicks the node of this name on the main form's tree, as a user does.
 void ÜrünSeç(QWidget& anaForm, const QString& ad);

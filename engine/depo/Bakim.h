@@ -7,7 +7,7 @@
 
 namespace Motor {
 
-// Throws Hata (native SQLITE_CORRUPT) unless the file is whole.
+// Reads every page; throws Hata (native SQLITE_CORRUPT) when something does not agree.
 void BütünlüğüDenetle(sqlite3* vt);
 
 // Creates an empty data file with this password. An existing file is never overwritten. Throws Hata; nothing is left

@@ -58,6 +58,10 @@ GeçiciDosya::GeçiciDosya(const std::string& hedef) : m_hedef(hedef), m_dosya(h
     Denetle(m_dosya.Aç(), Yol());
 }
 
+void GeçiciDosya::Doldur(const std::string& kaynak) {
+    Denetle(m_dosya.Doldur(kaynak), m_hedef);
+}
+
 void GeçiciDosya::Yerleştir(Dosya::Yerleştirme biçim) {
     Denetle(m_dosya.Yerleştir(biçim), m_hedef);
 }

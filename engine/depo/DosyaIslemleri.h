@@ -20,6 +20,7 @@ class GeçiciDosya {
     // `hedef` is a real path.
     explicit GeçiciDosya(const std::string& hedef);
     const std::string& Yol() const { return m_dosya.Yol(); }
+    void Doldur(const std::string& kaynak);
     void Yerleştir(Dosya::Yerleştirme biçim);
 
   private:

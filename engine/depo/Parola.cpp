@@ -4,8 +4,10 @@
 #include "DosyaSemasi.h"
 
 #include <nettle/pbkdf2.h>
+#include <nettle/sha2.h>
 
 #include <algorithm>
+#include <array>
 #include <random>
 #include <string>
 
@@ -31,18 +33,43 @@ std::string Tablo() {
     return Tırnakla(DosyaŞeması::GizliTablo);
 }
 
-}  // namespace
-
-void ParolayıYaz(sqlite3* vt, std::string_view parola) {
+void SatırıEkle(sqlite3* vt, std::string_view parola) {
     std::string tuz(TuzBoyu, '\0');
     std::random_device rastgele;
     std::generate(tuz.begin(), tuz.end(), [&rastgele] { return static_cast<char>(rastgele()); });
-    SqliteYürüt(vt, std::string(DosyaŞeması::GizliTabloSql).c_str());
     SqliteDeyimi ekle(vt, "INSERT INTO " + Tablo() + " VALUES (?1, ?2, ?3)");
     ekle.BağlaBayt(1, tuz);
     ekle.Bağla(2, YeniTekrar);
     ekle.BağlaBayt(3, Özet(parola, tuz, YeniTekrar));
     ekle.Adım();
+}
+
+}  // namespace
+
+void ParolayıYaz(sqlite3* vt, std::string_view parola) {
+    SqliteYürüt(vt, std::string(DosyaŞeması::GizliTabloSql).c_str());
+    SatırıEkle(vt, parola);
+}
+
+void ParolayıYenile(sqlite3* vt, std::string_view parola) {
+    SqliteYürüt(vt, ("DELETE FROM " + Tablo()).c_str());
+    SatırıEkle(vt, parola);
+}
+
+std::string DosyaDamgası(sqlite3* vt) {
+    constexpr std::size_t damgaBoyu = 8;
+    constexpr std::string_view onaltılık = "0123456789abcdef";
+    SqliteDeyimi oku(vt, "SELECT Tuz FROM " + Tablo());
+    if (!oku.Adım()) ParolaBilgisiBozuk();
+    const std::string_view tuz = oku.Bayt(0);
+    std::array<std::uint8_t, damgaBoyu> özet{};
+    sha256_ctx hesap;
+    sha256_init(&hesap);
+    sha256_update(&hesap, tuz.size(), reinterpret_cast<const std::uint8_t*>(tuz.data()));
+    sha256_digest(&hesap, özet.size(), özet.data());
+    std::string damga;
+    for (const std::uint8_t bayt : özet) damga.append({onaltılık[bayt >> 4], onaltılık[bayt & 15]});
+    return damga;
 }
 
 void ParolaBilgisiBozuk() {

@@ -75,7 +75,9 @@ void SqliteHatasıFırlat(int kod) {
     throw TemelHata(kod);
 }
 
-SqliteBağlantısı SqliteAç(const std::string& yol) {
+namespace {
+
+SqliteBağlantısı Aç(const std::string& yol, const std::string& ad, int biçim) {
     // SQLite's own limit, whose breach it would report as a matter of permissions.
     const auto enUzun = static_cast<std::size_t>(sqlite3_vfs_find(nullptr)->mxPathname);
     if (yol.size() + GünlükEki > enUzun)
@@ -83,8 +85,8 @@ SqliteBağlantısı SqliteAç(const std::string& yol) {
                                            " bayt olabilir. Dosyayı daha kısa adlı bir klasöre koyun.");
     sqlite3* ham = nullptr;
     // The driver manager lets one call at a time into a connection, so SQLite's own locks are not needed.
-    constexpr int bayraklar = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
-    const int sonuç = sqlite3_open_v2(yol.c_str(), &ham, bayraklar, nullptr);
+    const int bayraklar = biçim | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
+    const int sonuç = sqlite3_open_v2(ad.c_str(), &ham, bayraklar, nullptr);
     SqliteBağlantısı vt(ham);
     Denetle(sonuç);
     Denetle(sqlite3_busy_timeout(ham, KilitBekleme));
@@ -95,6 +97,25 @@ SqliteBağlantısı SqliteAç(const std::string& yol) {
     // and undo a confirmed statement.
     SqliteYürüt(ham, "PRAGMA synchronous=EXTRA; PRAGMA temp_store=MEMORY; PRAGMA cell_size_check=ON");
     return vt;
+}
+
+}  // namespace
+
+SqliteBağlantısı SqliteAç(const std::string& yol) {
+    return Aç(yol, yol, SQLITE_OPEN_READWRITE);
+}
+
+SqliteBağlantısı SqliteOkumayaAç(const std::string& yol) {
+    constexpr std::string_view onaltılık = "0123456789ABCDEF";
+    std::string adres = "file:";
+    for (const char harf : yol) {
+        const auto bayt = static_cast<unsigned char>(harf);
+        if (harf == '%' || harf == '?' || harf == '#')
+            (adres += '%').append({onaltılık[bayt >> 4], onaltılık[bayt & 15]});
+        else
+            adres += harf;
+    }
+    return Aç(yol, adres + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
 }
 
 std::string Tırnakla(std::string_view ad) {

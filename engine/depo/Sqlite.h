@@ -25,6 +25,9 @@ inline constexpr int KilitBekleme = 2000;
 // read from the file yet. `yol` is a real path (GerçekYol). Throws Hata.
 SqliteBağlantısı SqliteAç(const std::string& yol);
 
+// The same for reading alone: nothing beside the file is looked at either. Nobody may write to it meanwhile.
+SqliteBağlantısı SqliteOkumayaAç(const std::string& yol);
+
 // A name of the file as SQL takes it.
 std::string Tırnakla(std::string_view ad);
 

@@ -3,7 +3,6 @@
 #include "DosyaIslemleri.h"
 #include "ErisimdenAlma.h"
 #include "Hata.h"
-#include "Parola.h"
 
 #include <filesystem>
 #include <new>
@@ -32,22 +31,26 @@ void BoşGünlüğüSil(sqlite3* vt, const std::string& yol) {
 
 }  // namespace
 
-AçıkDosya VeriDosyasıAç(const std::string& verilen, std::string_view parola) {
-    if (!Dosya::OlağanDosyaVar(verilen)) throw Hata(Durum::Bağlanamadı, "Veri dosyası bulunamadı: " + verilen);
-    const std::string yol = GerçekYol(verilen);
-    if (ErişimDosyası(yol)) ErişimdenAl(yol);
-    GünlükleriDenetle(yol);
-    SqliteBağlantısı vt = SqliteAç(yol);
+AçıkDosya DosyayıTanı(SqliteBağlantısı vt, std::string_view parola) {
     if (PragmaOku(vt.get(), "PRAGMA application_id") != DosyaKimliği) SqliteHatasıFırlat(SQLITE_NOTADB);
     if (PragmaOku(vt.get(), "PRAGMA user_version") != DosyaSürümü)
         throw Hata(Durum::Bağlanamadı, "Veri dosyasını programın başka bir sürümü yazmış; bu sürüm onu okuyamıyor.");
     DosyaŞeması şema(vt.get());
     if (!şema.ParolaTablosuVar()) ParolaBilgisiBozuk();
     if (!ParolaDoğru(vt.get(), parola)) throw Hata(Durum::YetkiYok, "Veri dosyasının parolası yanlış.");
+    return {std::move(vt), std::move(şema)};
+}
+
+AçıkDosya VeriDosyasıAç(const std::string& verilen, std::string_view parola) {
+    if (!Dosya::OlağanDosyaVar(verilen)) throw Hata(Durum::Bağlanamadı, "Veri dosyası bulunamadı: " + verilen);
+    const std::string yol = GerçekYol(verilen);
+    if (ErişimDosyası(yol)) ErişimdenAl(yol);
+    GünlükleriDenetle(yol);
+    AçıkDosya dosya = DosyayıTanı(SqliteAç(yol), parola);
     // What cannot be cleared is in nobody's way; the next one to make such a file is told.
     static_cast<void>(Dosya::GeçiciDosya::KalıntıyıSil(yol));
-    BoşGünlüğüSil(vt.get(), yol);
-    return {std::move(vt), std::move(şema)};
+    BoşGünlüğüSil(dosya.Vt.get(), yol);
+    return dosya;
 }
 
 std::optional<std::string_view> Sorgu::Metin(std::size_t sütun, DeğerTamponu tampon) const {

@@ -3,6 +3,7 @@
 #include "Ceviri.h"
 #include "DegerMetni.h"
 #include "DosyaSemasi.h"
+#include "Parola.h"
 #include "Sqlite.h"
 
 #include <atomic>
@@ -27,6 +28,9 @@ struct AçıkDosya {
 // and that the password is right, and clears what crashes left beside it. Throws Hata (08001, 28000 and what SQLite
 // reports; native SQLITE_CORRUPT or SQLITE_NOTADB for a damaged one).
 AçıkDosya VeriDosyasıAç(const std::string& yol, std::string_view parola);
+
+// The same checks of a file that is open already; nothing is cleared.
+AçıkDosya DosyayıTanı(SqliteBağlantısı vt, std::string_view parola);
 
 // The rows of a running query.
 class Sorgu {
@@ -79,6 +83,9 @@ class Veritabanı : private Şema {
     bool HareketAçık() const { return sqlite3_get_autocommit(m_vt.get()) == 0; }
     void Onayla();
     void GeriAl();
+
+    // Tells this data file and its copies from all others; 16 hex digits.
+    std::string Damga() const { return DosyaDamgası(m_vt.get()); }
 
     bool SaltOkunur() const { return sqlite3_db_readonly(m_vt.get(), "main") == 1; }
 

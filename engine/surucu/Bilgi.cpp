@@ -7,6 +7,8 @@ namespace Motor {
 
 namespace {
 
+constexpr SQLUSMALLINT DAMGA_BİLGİSİ = 1000;  // the driver's own: the data file's mark
+
 struct SayısalBilgi {
     SQLUSMALLINT Bilgi;
     bool Kısa;  // a 16-bit value, otherwise 32 bits
@@ -130,6 +132,8 @@ SQLRETURN BağlantıNesnesi::BilgiVer(SQLUSMALLINT bilgi, SQLPOINTER değer, SQL
             return MetinVer(Tanı, m_veriKaynağı, değer, boy, uzunluk);
         case SQL_DATABASE_NAME:
             return MetinVer(Tanı, m_yol, değer, boy, uzunluk);
+        case DAMGA_BİLGİSİ:
+            return MetinVer(Tanı, m_veri ? m_veri->Damga() : std::string(), değer, boy, uzunluk);
         default:
             throw Hata("S1096", "Bu bilgi türü desteklenmiyor.");
     }

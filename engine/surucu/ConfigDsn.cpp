@@ -3,10 +3,12 @@
 #include "BaglantiMetni.h"
 #include "Onarim.h"
 #include "Tani.h"
+#include "Yedekleme.h"
 
 #include <odbcinst.h>
 
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -25,12 +27,7 @@ std::string YoluÇöz(std::string_view yol) {
     return çözülen;
 }
 
-struct YolÇifti {
-    std::string Kaynak;
-    std::string Hedef;
-};
-
-YolÇifti YollarıAyır(const std::string& istek, const std::string& yollar) {
+std::pair<std::string, std::string> YolÇifti(const std::string& istek, const std::string& yollar) {
     const std::size_t boşluk = yollar.find(' ');
     if (boşluk == 0 || boşluk == std::string::npos || yollar.find(' ', boşluk + 1) != std::string::npos)
         throw Hata(Durum::Genel, istek + " için araları boşluklu iki dosya yolu gerekiyor.");
@@ -39,14 +36,34 @@ YolÇifti YollarıAyır(const std::string& istek, const std::string& yollar) {
 }
 
 bool Sıkıştır(const std::string& yollar, const std::string& parola) {
-    const YolÇifti çift = YollarıAyır("COMPACT_DB", yollar);
-    VeriDosyasıSıkıştır(çift.Kaynak, çift.Hedef, parola);
+    const auto [kaynak, hedef] = YolÇifti("COMPACT_DB", yollar);
+    VeriDosyasıSıkıştır(kaynak, hedef, parola);
     return true;
 }
 
 bool Onar(const std::string& yollar, const Öznitelikler& öznitelikler) {
-    const YolÇifti çift = YollarıAyır("REPAIR_DB", yollar);
-    VeriDosyasıOnar(çift.Kaynak, çift.Hedef, öznitelikler.Değer("PWD"), öznitelikler.Değer("REPAIR_REPORT"));
+    const auto [kaynak, hedef] = YolÇifti("REPAIR_DB", yollar);
+    VeriDosyasıOnar(kaynak, hedef, öznitelikler.Değer("PWD"), öznitelikler.Değer("REPAIR_REPORT"));
+    return true;
+}
+
+// The requests about backups; false: it is none of them. STOP names the file whose appearance ends the work.
+bool YedekİsteğiniYürüt(const Öznitelikler& öznitelikler) {
+    const std::string parola = öznitelikler.Değer("PWD");
+    const std::string dur = YoluÇöz(öznitelikler.Değer("STOP"));
+    if (const std::string* yol = öznitelikler.Bul("CHECK_DB")) {
+        VeriDosyasıDenetle(YoluÇöz(*yol), parola, dur);
+    } else if (const std::string* yeni = öznitelikler.Bul("MARK_DB")) {
+        VeriDosyasıDamgala(YoluÇöz(*yeni), parola);
+    } else if (const std::string* yollar = öznitelikler.Bul("BACKUP_DB")) {
+        const auto [kaynak, hedef] = YolÇifti("BACKUP_DB", *yollar);
+        VeriDosyasıYedekle(kaynak, hedef, parola, dur);
+    } else if (const std::string* dönüş = öznitelikler.Bul("RESTORE_DB")) {
+        const auto [kaynak, hedef] = YolÇifti("RESTORE_DB", *dönüş);
+        VeriDosyasıGeriYükle(kaynak, hedef, parola);
+    } else {
+        return false;
+    }
     return true;
 }
 
@@ -62,6 +79,7 @@ bool VeriKaynağınıYaz(const Öznitelikler& öznitelikler, const char* sürüc
 
 bool İsteğiYürüt(WORD istek, const char* sürücü, const Öznitelikler& öznitelikler) {
     if (istek == ODBC_REMOVE_DSN) return SQLRemoveDSNFromIni(öznitelikler.Değer("DSN").c_str());
+    if (YedekİsteğiniYürüt(öznitelikler)) return true;
     if (const std::string* yollar = öznitelikler.Bul("COMPACT_DB")) return Sıkıştır(*yollar, öznitelikler.Değer("PWD"));
     if (const std::string* yollar = öznitelikler.Bul("REPAIR_DB")) return Onar(*yollar, öznitelikler);
     if (const std::string* yol = öznitelikler.Bul("CREATE_DB")) {

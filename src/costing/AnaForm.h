@@ -98,6 +98,8 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
     void MaliyetArşivi();
     void SatışFiyatListesi();
 
+    void Yedekler();
+
     void FiyatMenüsünüKur();
     void ToplucaFiyatDeğiştir();
     void FiyatlarDeğişti();

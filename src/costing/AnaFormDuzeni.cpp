@@ -30,6 +30,7 @@
 #include "Saat.h"
 #include "UrunAgaci.h"
 #include "Yardim.h"
+#include "YedekMetinleri.h"
 
 namespace {
 
@@ -141,6 +142,8 @@ void AnaForm::MenüleriKur() {
     girişEkle(program, QStringLiteral("ÜrünEkleSilMenüsü"), MetinNo::ÜrünEkleSilMenüsü, [this] { ÜrünEkleSil(); });
     girişEkle(program, QStringLiteral("MalzemeEkleSilMenüsü"), MetinNo::MalzemeEkleSilMenüsü,
               [this] { MalzemeEkleSil(); });
+    çizgiEkle(program, 8);
+    girişEkle(program, QStringLiteral("YedeklerMenüsü"), YedekMetni::YedeklerMenüsü, [this] { Yedekler(); });
     çizgiEkle(program, 1);
     // The entry has a caption of its own and shows no key.
     QAction* çıkış = program->addAction(Metin(MetinNo::ÇıkışMenüsü), m_komutlar.Çıkış, &QAction::trigger);

@@ -5,6 +5,8 @@
 #include <sql.h>
 #include <sqlext.h>
 
+#include <atomic>
+
 #include "Utf8.h"
 
 namespace {
@@ -16,6 +18,8 @@ QByteArray Baytlar(const QString& metin) {
 SQLCHAR* SqlMetni(QByteArray& metin) {
     return reinterpret_cast<SQLCHAR*>(metin.data());
 }
+
+std::atomic<std::uint64_t> değişiklikler = 0;
 
 // Exactly one of the handles is given.
 QList<OdbcHatası> HataKayıtlarınıAl(void* bağlantı, void* deyim) {
@@ -59,7 +63,7 @@ std::int16_t OdbcBağlantısı::Bağlan(const QString& bağlantıMetni) {
         SQLDriverConnect(m_bağlantı, nullptr, SqlMetni(metin), static_cast<SQLSMALLINT>(metin.size()), nullptr, 0,
                          nullptr, SQL_DRIVER_COMPLETE);
     m_bağlı = SQL_SUCCEEDED(sonuç);
-    static std::uint64_t açılışlar = 0;
+    static std::atomic<std::uint64_t> açılışlar = 0;
     if (m_bağlı) m_açılış = ++açılışlar;
     return sonuç;
 }
@@ -140,6 +144,10 @@ OdbcSonucu OdbcBağlantısı::Sütunlar(const QString& tablo, QList<OdbcSütunu>
     return {kod, deyim.HatalarınıAl()};
 }
 
+std::uint64_t OdbcBağlantısı::Değişiklikler() {
+    return değişiklikler;
+}
+
 QList<OdbcHatası> OdbcBağlantısı::HatalarınıAl() const {
     return m_bağlantı ? HataKayıtlarınıAl(m_bağlantı, nullptr) : QList<OdbcHatası>();
 }
@@ -158,7 +166,9 @@ std::int16_t OdbcDeyimi::Aç(const OdbcBağlantısı& bağlantı) {
 
 std::int16_t OdbcDeyimi::Çalıştır(const QString& sql) {
     QByteArray metin = Baytlar(sql);
-    return SQLExecDirect(m_deyim, SqlMetni(metin), static_cast<SQLINTEGER>(metin.size()));
+    const SQLRETURN sonuç = SQLExecDirect(m_deyim, SqlMetni(metin), static_cast<SQLINTEGER>(metin.size()));
+    if (SQL_SUCCEEDED(sonuç) && !metin.startsWith("SELECT") && EtkilenenSatır() > 0) ++değişiklikler;
+    return sonuç;
 }
 
 std::int16_t OdbcDeyimi::TablolarıBul(const QString& ad) {

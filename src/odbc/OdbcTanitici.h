@@ -55,6 +55,8 @@ class OdbcBağlantısı {
     // The names of all tables of the data file, and a table's columns in their order.
     OdbcSonucu Tablolar(QStringList& adlar);
     OdbcSonucu Sütunlar(const QString& tablo, QList<OdbcSütunu>& sütunlar);
+    // How many statements that change something this program has run, over all its connections.
+    static std::uint64_t Değişiklikler();
 
     // Takes every pending error off the connection, in the order in which the driver keeps them.
     QList<OdbcHatası> HatalarınıAl() const;

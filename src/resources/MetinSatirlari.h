@@ -32,3 +32,4 @@ const char* ArşivMetniBul(MetinNo numara);
 const char* YarıMamulMetniBul(MetinNo numara);
 const char* ÇizelgeMetniBul(MetinNo numara);
 const char* ErişimMetniBul(MetinNo numara);
+const char* YedekMetniBul(MetinNo numara);

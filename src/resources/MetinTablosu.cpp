@@ -316,7 +316,7 @@ static_assert(Sıralı(Tablo));
 QString Metin(MetinNo numara) {
     const char* metin = MetniBul(Tablo, numara);
     for (const auto bul : {FiyatMetniBul, ÜrünMetniBul, KullanımMetniBul, ArşivMetniBul, YarıMamulMetniBul,
-                           ÇizelgeMetniBul, ErişimMetniBul})
+                           ÇizelgeMetniBul, ErişimMetniBul, YedekMetniBul})
         if (!metin) metin = bul(numara);
     if (!metin) {
         Q_ASSERT_X(false, "Metin", "unknown text number");

@@ -14,7 +14,6 @@
 #include "OdbcSurucu.h"
 #include "SurumKaydi.h"
 #include "TekKopya.h"
-#include "VeritabaniHazirlik.h"
 #include "XpModulu.h"
 
 namespace {
@@ -113,7 +112,7 @@ BaşlatmaSonucu Main(TekKopya& kopya, const BaşlatmaBağları& bağlar) {
     SürücüyüTanıt(bağlar.ProgramKlasörü);
     VeriKaynaklarınıAyır();
     if (!VeriDosyasınıAl(kopya, bağlar.ProgramKlasörü)) return BaşlatmaSonucu::Başlayamadı;
-    if (!VeritabanınıHazırla()) return BaşlatmaSonucu::Başlayamadı;
+    if (!VeritabanınıHazırla(bağlar.YedekleriSun)) return BaşlatmaSonucu::Başlayamadı;
     QCoreApplication::processEvents();
     bağlar.AnaFormuYükle([form = QPointer<QWidget>(&karşılama)] {
         if (form) form->close();

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "ApilerModulu.h"
+#include "VeritabaniHazirlik.h"
 
 class TekKopya;
 
@@ -13,7 +14,8 @@ struct BaşlatmaBağları {
     // folder.
     QString ProgramKlasörü;
     std::function<void(std::function<void()> karşılamayıKapat)> AnaFormuYükle;  // shows the main form
-    std::function<int()> EkranGenişliğiAl = EkranGenişliği;                     // pixels
+    YedekSunumu YedekleriSun;
+    std::function<int()> EkranGenişliğiAl = EkranGenişliği;  // pixels
     std::function<bool(SistemSürümü&)> SürümAl = SistemSürümünüAl;
 };
 

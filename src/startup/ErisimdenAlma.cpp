@@ -58,6 +58,10 @@ bool YedekErişimDosyası(const VeriYolları& yollar) {
     return ErişimDosyası(yollar.GerçekYedek);
 }
 
+bool ErişimDosyasıVar(const VeriYolları& yollar) {
+    return ErişimDosyası(yollar.GerçekDosya) || YedekErişimDosyası(yollar);
+}
+
 bool ErişimYedeğiniGeriYükle(const VeriYolları& yollar) {
     return Al(yollar.Yedek, yollar.GerçekDosya);
 }

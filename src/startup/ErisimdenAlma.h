@@ -8,4 +8,7 @@ bool ErişimDosyasınıAl(const VeriYolları& yollar);
 
 // Puts what a backup in Access format holds in the place of a data file that is missing; the backup stays as it is.
 bool YedekErişimDosyası(const VeriYolları& yollar);
+
+// Whether data file or backup is one.
+bool ErişimDosyasıVar(const VeriYolları& yollar);
 bool ErişimYedeğiniGeriYükle(const VeriYolları& yollar);

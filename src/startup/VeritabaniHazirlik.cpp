@@ -13,6 +13,8 @@
 #include "Saat.h"
 #include "VeriYollari.h"
 #include "YedektenDonus.h"
+#include "TarihliKopya.h"
+#include "YedekOkuma.h"
 
 namespace {
 
@@ -60,9 +62,11 @@ void Sıkıştır(const VeriYolları& yollar) {
         return;
     }
     const QString dosya = KısaYolAl(yollar.GerçekDosya);
+    const QDateTime değişme = QFileInfo(yollar.GerçekDosya).lastModified();
     SonDönüşKodu = VeritabanınıSıkıştır(dosya, KısaYolAl(yollar.GerçekYedek));
     if (SonDönüşKodu != 0) {
         VeritabanınıSıkıştır(dosya, dosya);
+        GünlükKopyaAl(yollar, değişme);
     } else {
         YedekAlınamadı(yollar, SürücüKurulumHatası());
     }
@@ -96,10 +100,13 @@ bool YerlerUygun(const VeriYolları& yollar) {
 
 }  // namespace
 
-bool VeritabanınıHazırla() {
+bool VeritabanınıHazırla(const YedekSunumu& sun) {
     VeriYolları yollar = VeriYollarınıBul();
     const bool yedekKlasörüVar = KlasörYap(yollar.YedekKlasörü);
     yollar.GerçekYedek = GerçekYol(yollar.Yedek);
+    YarımAçılmışlarıSil(yollar.YedekKlasörü);
+    // An Access file is taken over first, with progress: looking at it would do so without.
+    if (sun && KopyaVar(yollar) && !ErişimDosyasıVar(yollar) && BaşlangıçBiter(yollar)) sun();
     if (!YerlerUygun(yollar)) return false;
     YarımKalanlarıSil(yollar);
     // Without the driver nothing can be said about the files; connecting then shows what is wrong.

@@ -36,6 +36,7 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     const char* arşiv = "MaliyetArşiviMenüsü";
     for (const auto& [açan, form] : {std::pair("ÜrünEkleSilMenüsü", "ÜrünEkleSilFormu"),
                                      {"MalzemeEkleSilMenüsü", "MalzemeEkleSilFormu"},
+                                     {"YedeklerMenüsü", "YedeklerFormu"},
                                      {"ListeyeMalzemeEkleButonu", "MalzemeListesiOluşturFormu"},
                                      {"MiktarlarıGösterDüğmesi", "MiktarGösterFormu"},
                                      {tarih, "MalzemeHareketleriFormu"},
@@ -85,7 +86,8 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     QStringList sayfalar;
     for (const QUrl& adres : m_açılanlar) sayfalar += adres.fileName().remove(".html");
     EXPECT_EQ(sayfalar.join(' '),
-              "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu MalzemeListesiOlusturFormu MiktarGosterFormu "
+              "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu YedeklerFormu MalzemeListesiOlusturFormu "
+              "MiktarGosterFormu "
               "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu MaliyetTablosuFormu "
               "MaliyetDagilimiFormu UrunKopyalaFormu NeredeKullaniliyorFormu MalzemeDegistirFormu "
               "DegisimOnizlemeFormu YariMamulFormu YariMamulAgaciFormu MaliyetArsiviFormu ArsivFoyuFormu "

@@ -1,6 +1,8 @@
 #include "CocukSureci.h"
 #include "HazirlikTesti.h"
+#include "KopyaKlasoru.h"
 #include "MetinTablosu.h"
+#include "OdbcYedek.h"
 
 namespace {
 
@@ -50,6 +52,13 @@ class KesintiTesti : public HazırlıkTesti {
         EXPECT_EQ(QDir(YedekKlasörü()).entryList(QDir::Files), QStringList(QStringLiteral("Varnek.ydk")));
     }
 
+    // Whatever a cut-off run left, each dated copy is whole.
+    void KopyalarSağlam() {
+        for (const KopyaYeri& yer : KopyaYerleri(YedekKlasörü()))
+            for (const Kopya& kopya : KopyalarıOku(yer.Klasör))
+                EXPECT_TRUE(VeriDosyasıSağlam(kopya.Yol)) << kopya.Yol.toStdString();
+    }
+
     const QString m_eskiKalıp = Klasör() + QStringLiteral("eski");
     const QString m_yeniKalıp = Klasör() + QStringLiteral("yeni");
     Satırlar m_eski;
@@ -69,6 +78,7 @@ TEST_F(KesintiTesti, SıkıştırırkenÖldürülürse) {
             EXPECT_EQ(Oku(VeriDosyası()), m_yeni);
             const Satırlar yedek = Oku(Yedek());
             EXPECT_TRUE(yedek == m_eski || yedek == m_yeni);
+            KopyalarSağlam();
             YenidenBaşlat(m_yeni);
         },
         20);

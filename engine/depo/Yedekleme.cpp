@@ -1,0 +1,100 @@
+#include "Yedekleme.h"
+
+#include <unistd.h>
+
+#include "Bakim.h"
+#include "DosyaIslemleri.h"
+#include "Hata.h"
+#include "Parola.h"
+#include "Veritabani.h"
+
+namespace Motor {
+
+namespace {
+
+// Lets the connection's long work end when the file appears. `dur` outlives the work.
+void DurdurulurYap(sqlite3* vt, const std::string& dur) {
+    constexpr int adım = 100000;  // instructions of SQLite between two looks
+    if (dur.empty()) return;
+    const auto durdu = [](void* yol) -> int { return access(static_cast<const char*>(yol), F_OK) == 0 ? 1 : 0; };
+    sqlite3_progress_handler(vt, adım, durdu, const_cast<char*>(dur.c_str()));
+}
+
+// A check looks each row up in each index. Without memory for them the pages would be read again and again.
+void BellekVer(sqlite3* vt) {
+    SqliteYürüt(vt, "PRAGMA cache_size=-131072");  // at most so many KiB
+}
+
+void OkuyarakDenetle(const std::string& yol, std::string_view parola, const std::string& dur) {
+    const AçıkDosya dosya = DosyayıTanı(SqliteOkumayaAç(yol), parola);
+    BellekVer(dosya.Vt.get());
+    DurdurulurYap(dosya.Vt.get(), dur);
+    BütünlüğüDenetle(dosya.Vt.get());
+}
+
+// A file too damaged to be locked is in no client's transaction either.
+SqliteBağlantısı HedefiKilitle(const std::string& hedef) {
+    if (!Dosya::OlağanDosyaVar(hedef)) return {};
+    GünlükleriDenetle(hedef);
+    try {
+        SqliteBağlantısı vt = SqliteAç(hedef);
+        SqliteYürüt(vt.get(), "BEGIN EXCLUSIVE");
+        return vt;
+    } catch (const Hata& hata) {
+        const int ana = hata.Yerel() & 0xFF;
+        if (ana != SQLITE_CORRUPT && ana != SQLITE_NOTADB) throw;
+    }
+    return {};
+}
+
+}  // namespace
+
+void VeriDosyasıDenetle(const std::string& verilen, std::string_view parola, const std::string& dur) {
+    if (!Dosya::OlağanDosyaVar(verilen)) throw Hata(Durum::Bağlanamadı, "Veri dosyası bulunamadı: " + verilen);
+    const std::string yol = GerçekYol(verilen);
+    if (Dosya::GünlükVar(yol)) SqliteHatasıFırlat(SQLITE_READONLY_ROLLBACK);
+    OkuyarakDenetle(yol, parola, dur);
+}
+
+void VeriDosyasıYedekle(const std::string& kaynak, const std::string& hedefYolu, std::string_view parola,
+                        const std::string& dur) {
+    if (Dosya::YolVar(hedefYolu))
+        throw Hata(Durum::Genel, "Bu adda bir dosya zaten var; üzerine yazılmadı: " + hedefYolu);
+    const AçıkDosya dosya = VeriDosyasıAç(kaynak, parola);
+    DurdurulurYap(dosya.Vt.get(), dur);
+    BellekVer(dosya.Vt.get());
+    BütünlüğüDenetle(dosya.Vt.get());
+    GeçiciDosya geçici(GerçekYol(hedefYolu));
+    {
+        SqliteDeyimi sıkıştır(dosya.Vt.get(), "VACUUM INTO ?1");
+        sıkıştır.Bağla(1, geçici.Yol());
+        sıkıştır.Adım();
+    }
+    OkuyarakDenetle(geçici.Yol(), parola, dur);
+    geçici.Yerleştir(Dosya::Yerleştirme::Yeni);
+}
+
+void VeriDosyasıGeriYükle(const std::string& kaynak, const std::string& hedefYolu, std::string_view parola) {
+    const AçıkDosya yedek = VeriDosyasıAç(kaynak, parola);
+    BellekVer(yedek.Vt.get());
+    BütünlüğüDenetle(yedek.Vt.get());
+    const std::string hedef = GerçekYol(hedefYolu);
+    if (Dosya::AynıDosya(kaynak, hedef)) throw Hata(Durum::Genel, "Yedek ile veri dosyası aynı dosya.");
+    if (Dosya::YolVar(hedef) && !Dosya::Yazılabilir(hedef))
+        throw Hata(Durum::Genel, "Veri dosyası salt okunur; üzerine yazılmadı: " + hedefYolu);
+    const SqliteBağlantısı kilit = HedefiKilitle(hedef);
+    GeçiciDosya geçici(hedef);
+    geçici.Doldur(GerçekYol(kaynak));
+    // A journal of the old content must never meet the new one.
+    if (!Dosya::GünlükleriSil(hedef) || !Dosya::KlasörüEşitle(hedef)) SqliteHatasıFırlat(SQLITE_IOERR);
+    geçici.Yerleştir(Dosya::Yerleştirme::Değiştir);
+}
+
+void VeriDosyasıDamgala(const std::string& yol, std::string_view parola) {
+    const AçıkDosya dosya = VeriDosyasıAç(yol, parola);
+    SqliteYürüt(dosya.Vt.get(), "BEGIN IMMEDIATE");
+    ParolayıYenile(dosya.Vt.get(), parola);
+    SqliteYürüt(dosya.Vt.get(), "COMMIT");
+}
+
+}  // namespace Motor

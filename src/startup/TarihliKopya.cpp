@@ -1,0 +1,55 @@
+#include "TarihliKopya.h"
+
+#include <algorithm>
+
+#include "KopyaYazma.h"
+#include "MesajKutusu.h"
+#include "OdbcSurucu.h"
+#include "OrtakFonksiyonlarModulu.h"
+#include "Saat.h"
+#include "YedekMetinleri.h"
+#include "YedekOkuma.h"
+
+namespace {
+
+void GündeBirUyar(const QString& metin) {
+    const QString bölüm = QStringLiteral("Ayarlar");
+    const QString anahtar = QStringLiteral("TarihliYedekUyarisi");
+    const QString bugün = AyMetni(Bugün());
+    if (AyarOku(bölüm, anahtar, {}) == bugün) return;
+    AyarYaz(bölüm, anahtar, bugün);
+    MesajKutusuOrtala();
+    MesajKutusu::Göster(MesajKutusu::Simge::Ünlem, MesajKutusu::Düğmeler::Tamam, metin);
+}
+
+// The driver's numbers for damage; the lower eight bits count.
+bool HasarMı(const OdbcHatası& hata) {
+    constexpr int bozuk = 11;
+    constexpr int veriDosyasıDeğil = 26;
+    const int yerel = hata.Yerel & 0xFF;
+    return yerel == bozuk || yerel == veriDosyasıDeğil;
+}
+
+}  // namespace
+
+void GünlükKopyaAl(const VeriYolları& yollar, const QDateTime& değişme) {
+    const KopyaSonucu sonuç =
+        KopyaYaz({yollar.YedekKlasörü, yollar.GerçekDosya, değişme, KopyaTürü::Günlük, yollar.GerçekYedek, {}});
+    if (sonuç.Ne == KopyaSonucu::Tür::YerYok) GündeBirUyar(Metin(YedekMetni::YedekYeriYok).arg(sonuç.Neden));
+    if (sonuç.Ne == KopyaSonucu::Tür::Olmadı) GündeBirUyar(Metin(YedekMetni::YedekAlınamadı).arg(sonuç.Neden));
+}
+
+bool KopyaVar(const VeriYolları& yollar) {
+    return !KopyaYerleri(yollar.YedekKlasörü).empty();
+}
+
+bool BaşlangıçBiter(const VeriYolları& yollar) {
+    if (!SürücüKayıtlı()) return false;
+    if (DosyaVar(yollar.Dosya)) {
+        OdbcBağlantısı bağlantı;
+        const OdbcSonucu sonuç = bağlantı.Aç(BağlantıMetni(yollar.Dosya));
+        return std::any_of(sonuç.Hatalar.begin(), sonuç.Hatalar.end(), HasarMı);
+    }
+    return !DosyaVar(yollar.Yedek) ||
+           AçılmışYedek(yollar.GerçekYedek, yollar.YedekKlasörü).Denetle().Durum == YedekDurumu::Bozuk;
+}

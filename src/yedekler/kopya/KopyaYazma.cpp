@@ -1,0 +1,163 @@
+#include "KopyaYazma.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStorageInfo>
+#include <algorithm>
+#include <map>
+
+#include "ApilerModulu.h"
+#include "GeciciDosya.h"
+#include "OdbcSurucu.h"
+#include "OdbcYedek.h"
+#include "Seyreltme.h"
+#include "YedekOkuma.h"
+
+namespace {
+
+using Tür = KopyaSonucu::Tür;
+
+std::string Bayt(const QString& yol) {
+    return QFile::encodeName(yol).toStdString();
+}
+
+// Mark and figures of the data file.
+struct Kaynak {
+    OdbcSonucu Sonuç;
+    QString Damga;
+    VeriSayıları Sayılar;
+};
+
+Kaynak KaynağıOku(const QString& yol) {
+    Kaynak kaynak;
+    OdbcBağlantısı bağlantı;
+    kaynak.Sonuç = bağlantı.Aç(BağlantıMetni(yol));
+    if (!kaynak.Sonuç.Başarılı()) return kaynak;
+    kaynak.Damga = VeriDosyasıDamgası(bağlantı);
+    kaynak.Sonuç = VeriSayılarınıOku(bağlantı, kaynak.Sayılar);
+    return kaynak;
+}
+
+bool YerVar(const QString& klasör, qint64 kopya, qint64 dosya) {
+    const QStorageInfo disk(klasör);
+    return !disk.isValid() || disk.bytesAvailable() >= kopya + dosya;
+}
+
+// A compacted file becomes the copy, byte by byte.
+KopyaSonucu HazırıKopyala(const Kopyaİşi& iş, const QString& hedef) {
+    Dosya::GeçiciDosya eş(Bayt(hedef));
+    const QString yarım = QFile::decodeName(QByteArray::fromStdString(eş.Yol()));
+    if (!eş.Aç().Tamam() || !eş.Doldur(Bayt(iş.Hazır)).Tamam()) return {Tür::Olmadı, {}, hedef};
+    if (!VeriDosyasıSağlam(yarım, iş.Dur)) return {Tür::Olmadı, {}, SürücüKurulumHataları().value(0)};
+    if (!eş.Yerleştir(Dosya::Yerleştirme::Yeni).Tamam()) return {Tür::Olmadı, {}, hedef};
+    return {Tür::Yazıldı, hedef, {}};
+}
+
+KopyaSonucu Sıkıştırarak(const Kopyaİşi& iş, const QString& hedef) {
+    if (VeriDosyasınıYedekle(iş.Dosya, hedef, iş.Dur)) return {Tür::Yazıldı, hedef, {}};
+    const QString neden = SürücüKurulumHataları().value(0);
+    return {!iş.Dur.isEmpty() && QFileInfo::exists(iş.Dur) ? Tür::Durduruldu : Tür::Olmadı, {}, neden};
+}
+
+const Kopya* SonGünlük(const std::vector<Kopya>& kopyalar) {
+    const auto yer = std::find_if(kopyalar.begin(), kopyalar.end(),
+                                  [](const Kopya& kopya) { return kopya.Ad.Tür == KopyaTürü::Günlük; });
+    return yer == kopyalar.end() ? nullptr : &*yer;
+}
+
+void YarımlarıSil(const QString& klasör) {
+    const QFileInfoList yarımlar = QDir(klasör).entryInfoList({QStringLiteral("*.ydk.yeni")}, QDir::Files);
+    for (const QFileInfo& yarım : yarımlar) YarımKopyayıSil(yarım.filePath().chopped(5));
+}
+
+int SonrakiSıra(const std::vector<Kopya>& kopyalar) {
+    return kopyalar.empty() ? 1 : kopyalar.front().Ad.Sıra + 1;
+}
+
+// The header's counters: changes of the file (24), of its schema (40), and the change at which the library's version
+// was noted, with that version (92, 96).
+void SayaçlarıSil(QByteArray& başlık) {
+    constexpr int boy = 4;
+    for (const int yer : {24, 40, 92, 96}) başlık.replace(yer, boy, QByteArray(boy, '\0'));
+}
+
+}  // namespace
+
+bool İçerikleriAynı(const QString& a, const QString& b) {
+    constexpr qint64 parça = 1 << 16;
+    QFile ilk(a);
+    QFile ikinci(b);
+    if (!ilk.open(QIODevice::ReadOnly) || !ikinci.open(QIODevice::ReadOnly) || ilk.size() != ikinci.size())
+        return false;
+    bool baş = true;
+    while (!ilk.atEnd()) {
+        QByteArray x = ilk.read(parça);
+        QByteArray y = ikinci.read(parça);
+        if (baş && x.size() >= 100 && y.size() >= 100) {
+            SayaçlarıSil(x);
+            SayaçlarıSil(y);
+        }
+        baş = false;
+        if (x.isEmpty() || x != y) return false;
+    }
+    return ikinci.atEnd();
+}
+
+void FazlalıklarıSil(const QString& klasör, int yeni) {
+    std::map<int, QString> yollar;
+    std::vector<KopyaAdı> adlar;
+    for (const Kopya& kopya : KopyalarıOku(klasör)) {
+        yollar[kopya.Ad.Sıra] = kopya.Yol;
+        adlar.push_back(kopya.Ad);
+    }
+    std::map<int, bool> sağlam{{yeni, true}};
+    for (const Fazlalık& fazlalık : Seyrelt(adlar)) {
+        const auto [kalan, ilk] = sağlam.try_emplace(fazlalık.YerineKalan, false);
+        if (ilk) kalan->second = VeriDosyasıSağlam(yollar[fazlalık.YerineKalan]);
+        if (kalan->second) QFile::remove(yollar[fazlalık.Sıra]);
+    }
+}
+
+KopyaSonucu KopyaYaz(const Kopyaİşi& iş) {
+    const Kaynak kaynak = KaynağıOku(iş.Hazır.isEmpty() ? iş.Dosya : iş.Hazır);
+    if (!kaynak.Sonuç.Başarılı()) return {Tür::Olmadı, {}, OdbcİletileriniAl(kaynak.Sonuç.Hatalar).value(0)};
+    if (iş.Tür != KopyaTürü::Önce && kaynak.Sayılar.Ürün == 0 && kaynak.Sayılar.Malzeme == 0) return {Tür::Boş, {}, {}};
+    const QString klasör = KopyaKlasörü(iş.Kök, iş.Dosya, kaynak.Damga);
+    if (!KopyaKlasörünüYap(klasör, iş.Dosya)) return {Tür::Olmadı, {}, klasör};
+    YarımlarıSil(klasör);
+    const std::vector<Kopya> kopyalar = KopyalarıOku(klasör);
+    const Kopya* önceki = iş.Tür == KopyaTürü::Günlük ? SonGünlük(kopyalar) : nullptr;
+    if (!iş.Hazır.isEmpty() && önceki && İçerikleriAynı(iş.Hazır, önceki->Yol)) {
+        FazlalıklarıSil(klasör, önceki->Ad.Sıra);  // its bytes are those of a file that was checked just now
+        return {Tür::Aynı, önceki->Yol, {}};
+    }
+    const qint64 dosyaBoyu = QFileInfo(iş.Dosya).size();
+    const qint64 kopyaBoyu = iş.Hazır.isEmpty() ? dosyaBoyu : QFileInfo(iş.Hazır).size();
+    if (!YerVar(klasör, kopyaBoyu, dosyaBoyu)) return {Tür::YerYok, {}, klasör};
+    const int sıra = SonrakiSıra(kopyalar);
+    const QString hedef = klasör + KopyaAdınıYaz({iş.Değişme, sıra, iş.Tür});
+    if (!VeriDosyasıYoluSığıyor(hedef)) return {Tür::Olmadı, {}, hedef};
+    const KopyaSonucu sonuç = iş.Hazır.isEmpty() ? Sıkıştırarak(iş, hedef) : HazırıKopyala(iş, hedef);
+    if (sonuç.Ne != Tür::Yazıldı) return sonuç;
+    if (önceki && İçerikleriAynı(hedef, önceki->Yol)) {
+        QFile::remove(hedef);
+        return {Tür::Aynı, önceki->Yol, {}};
+    }
+    if (iş.Tür != KopyaTürü::Günlük || !iş.Hazır.isEmpty()) FazlalıklarıSil(klasör, sıra);
+    return sonuç;
+}
+
+QString HamınıSakla(const QString& kök, const QString& dosya) {
+    // Not even opened for its mark, which could already change something: the path alone says whose it is.
+    const QString klasör = KopyaKlasörü(kök, dosya, {});
+    if (!KopyaKlasörünüYap(klasör, dosya)) return {};
+    const int sıra = SonrakiSıra(KopyalarıOku(klasör));
+    const QString hedef = klasör + KopyaAdınıYaz({QFileInfo(dosya).lastModified(), sıra, KopyaTürü::Ham});
+    const QString ek = QStringLiteral("-journal");
+    // The journal second: it would not outlive the copying of its file.
+    if (DosyaKopyala(dosya, hedef) && (!QFileInfo::exists(dosya + ek) || DosyaKopyala(dosya + ek, hedef + ek)))
+        return hedef;
+    QFile::remove(hedef);
+    return {};
+}
