@@ -16,6 +16,10 @@ int Karşılaştır(QStringView a, QStringView b) noexcept;
 // The same for UTF-8 texts, without conversion or allocation; bytes that are no UTF-8 are ordered after all letters.
 int Karşılaştır(std::string_view a, std::string_view b) noexcept;
 
+inline bool Aynı(QStringView a, QStringView b) noexcept {
+    return Karşılaştır(a, b) == 0;
+}
+
 // True when `metin` begins with `ön` by the same rules; an empty `ön` begins every text.
 bool İleBaşlar(QStringView metin, QStringView ön) noexcept;
 

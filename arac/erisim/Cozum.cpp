@@ -7,40 +7,13 @@
 #include <cstring>
 
 #include "SayiCozumu.h"
+#include "Windows1254.h"
 
 namespace Erişim {
 
 namespace {
 
 constexpr char32_t YER_TUTUCU = 0xFFFD;
-
-// 0x80 to 0x9F of the Turkish code page; 0: not in it.
-constexpr std::array<char16_t, 32> KOD_SAYFASI{0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                               0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0,      0,
-                                               0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                               0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0,      0x0178};
-
-char16_t KodSayfasından(unsigned char bayt) {
-    switch (bayt) {
-        case 0xD0:
-            return u'Ğ';
-        case 0xDD:
-            return u'İ';
-        case 0xDE:
-            return u'Ş';
-        case 0xF0:
-            return u'ğ';
-        case 0xFD:
-            return u'ı';
-        case 0xFE:
-            return u'ş';
-        default:
-            break;
-    }
-    if (bayt < 0x80 || bayt >= 0xA0) return bayt;
-    const char16_t harf = KOD_SAYFASI[bayt - 0x80U];
-    return harf != 0 ? harf : static_cast<char16_t>(YER_TUTUCU);
-}
 
 char16_t İkiBayt(std::string_view baytlar, std::size_t yer) {
     return static_cast<char16_t>(static_cast<unsigned char>(baytlar[yer]) | static_cast<unsigned char>(baytlar[yer + 1])
@@ -71,7 +44,7 @@ std::u16string Aç(std::string_view baytlar) {
 std::u16string Birimler(std::string_view baytlar, bool jet3) {
     std::u16string metin;
     if (jet3) {
-        for (const char bayt : baytlar) metin += KodSayfasından(static_cast<unsigned char>(bayt));
+        for (const char bayt : baytlar) metin += Windows1254Harfi(static_cast<unsigned char>(bayt));
         return metin;
     }
     if (baytlar.starts_with("\xFF\xFE")) return Aç(baytlar.substr(2));

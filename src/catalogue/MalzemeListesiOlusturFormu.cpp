@@ -172,7 +172,7 @@ void MalzemeListesiOluşturFormu::TürüHatırla(const QString& tür) {
 bool MalzemeListesiOluşturFormu::ZatenEklenmiş(const QString& malzeme) const {
     for (int sıra = 0; sıra < m_eklenecek->topLevelItemCount(); ++sıra) {
         const QString ad = m_eklenecek->topLevelItem(sıra)->text(AdSütunu);
-        if (Türkçe::Karşılaştır(QStringView(ad), QStringView(malzeme)) == 0) return true;
+        if (Türkçe::Aynı(ad, malzeme)) return true;
     }
     return false;
 }

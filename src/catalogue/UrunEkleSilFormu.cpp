@@ -22,13 +22,7 @@ using MesajKutusu::Düğmeler;
 using MesajKutusu::Simge;
 using MesajKutusu::Yanıt;
 
-namespace {
-
-bool Aynı(const QString& a, const QString& b) {
-    return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) == 0;
-}
-
-}  // namespace
+namespace {}  // namespace
 
 ÜrünEkleSilFormu::ÜrünEkleSilFormu(AnaFormErişimi& anaForm, QWidget* sahip) : QDialog(sahip), m_anaForm(anaForm) {
     setObjectName(QStringLiteral("ÜrünEkleSilFormu"));
@@ -205,9 +199,9 @@ void ÜrünEkleSilFormu::SilineniKaldır(const QString& grup, const QString& ür
     bool grupGitti = false;
     for (int sıra = m_ağaç->topLevelItemCount() - 1; sıra >= 0; --sıra) {
         QTreeWidgetItem* düğüm = m_ağaç->topLevelItem(sıra);
-        if (!Aynı(düğüm->text(0), grup)) continue;
+        if (!Türkçe::Aynı(düğüm->text(0), grup)) continue;
         for (int çocuk = düğüm->childCount() - 1; çocuk >= 0; --çocuk) {
-            if (grupMu || Aynı(düğüm->child(çocuk)->text(0), ürün)) delete düğüm->takeChild(çocuk);
+            if (grupMu || Türkçe::Aynı(düğüm->child(çocuk)->text(0), ürün)) delete düğüm->takeChild(çocuk);
         }
         if (düğüm->childCount() > 0) continue;
         delete m_ağaç->takeTopLevelItem(sıra);

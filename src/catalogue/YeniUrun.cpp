@@ -30,7 +30,7 @@ QString KayıtlıGrup(const GrupKutusu& grup) {
     const QString yazılan = grup.currentText();
     for (int sıra = 0; sıra < grup.count(); ++sıra) {
         const QString kayıtlı = grup.itemText(sıra);
-        if (Türkçe::Karşılaştır(QStringView(kayıtlı), QStringView(yazılan)) == 0) return kayıtlı;
+        if (Türkçe::Aynı(kayıtlı, yazılan)) return kayıtlı;
     }
     return yazılan;
 }

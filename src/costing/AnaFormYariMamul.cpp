@@ -46,10 +46,7 @@ void AnaForm::YarıMamulAğacı() {
 // A product that is not there any more leaves everything as it is.
 void AnaForm::YarıMamuleGit(const QString& malzeme) {
     const YarıMamulBağları* bağlar = nullptr;
-    if (const İşSonucu sonuç = YarıMamulleriAl(ODBCBağlantısı(), bağlar); !sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return;
-    }
+    if (!İşSonucunuGöster(YarıMamulleriAl(ODBCBağlantısı(), bağlar))) return;
     const YarıMamulBağı* bağ = bağlar->Bağı(malzeme);
     if (!bağ) return;
     const ÜrünAdı ürün = bağ->Ürün;

@@ -55,10 +55,6 @@ class AdTemsilcisi : public MetinTemsilcisi {
 
 constexpr qsizetype EnÇokSayılanÜrün = 10;  // products that a message box names
 
-bool Aynı(const QString& a, const QString& b) {
-    return Türkçe::Karşılaştır(a, b) == 0;
-}
-
 struct TürkçeÖnce {
     bool operator()(const QString& a, const QString& b) const { return Türkçe::Karşılaştır(a, b) < 0; }
 };
@@ -122,10 +118,10 @@ bool ÜrünAğacı::SırayıSeç(std::int32_t sıra) {
 
 bool ÜrünAğacı::ÜrünüSeç(const QString& grup, const QString& ürün) {
     for (int i = 0; i < topLevelItemCount(); ++i) {
-        if (!Aynı(topLevelItem(i)->text(0), grup)) continue;
+        if (!Türkçe::Aynı(topLevelItem(i)->text(0), grup)) continue;
         for (int j = 0; j < topLevelItem(i)->childCount(); ++j) {
             QTreeWidgetItem* düğüm = topLevelItem(i)->child(j);
-            if (!Aynı(düğüm->text(0), ürün)) continue;
+            if (!Türkçe::Aynı(düğüm->text(0), ürün)) continue;
             SessizceSeç(düğüm);
             scrollToItem(düğüm);
             return true;
@@ -229,12 +225,12 @@ void ÜrünAğacı::Adlandır(QTreeWidgetItem* düğüm, const QString& yeni) {
 // The data file takes names that differ in their letters' case for one: another group's rows bear its name as it is
 // written there, so that those which join them belong to the same node.
 QString ÜrünAğacı::GrubunYazımı(const QTreeWidgetItem* grup, const QString& yeni) const {
-    if (Aynı(grup->text(0), yeni)) return yeni;
+    if (Türkçe::Aynı(grup->text(0), yeni)) return yeni;
     QString yazım;
     for (int i = 0; i < topLevelItemCount(); ++i) {
         const QString ad = topLevelItem(i)->text(0);
         if (ad == yeni) return yeni;
-        if (yazım.isEmpty() && Aynı(ad, yeni)) yazım = ad;
+        if (yazım.isEmpty() && Türkçe::Aynı(ad, yeni)) yazım = ad;
     }
     return yazım.isEmpty() ? yeni : yazım;
 }
@@ -242,7 +238,7 @@ QString ÜrünAğacı::GrubunYazımı(const QTreeWidgetItem* grup, const QString
 // Products that both groups have become one, which nothing takes apart again: the user is asked. True without a
 // question where there are none.
 bool ÜrünAğacı::Birleşsin(const QTreeWidgetItem* grup, const QString& yeni) const {
-    if (Aynı(grup->text(0), yeni)) return true;
+    if (Türkçe::Aynı(grup->text(0), yeni)) return true;
     const QStringList buradakiler = GrubunÜrünleri(grup->text(0));
     const std::set<QString, TürkçeÖnce> buradaki(buradakiler.begin(), buradakiler.end());
     QStringList ortaklar = GrubunÜrünleri(yeni);
@@ -260,7 +256,7 @@ QStringList ÜrünAğacı::GrubunÜrünleri(const QString& ad) const {
     QStringList ürünler;
     for (int i = 0; i < topLevelItemCount(); ++i) {
         const QTreeWidgetItem* grup = topLevelItem(i);
-        if (!Aynı(grup->text(0), ad)) continue;
+        if (!Türkçe::Aynı(grup->text(0), ad)) continue;
         for (int j = 0; j < grup->childCount(); ++j) ürünler.append(grup->child(j)->text(0));
     }
     return ürünler;
@@ -276,8 +272,8 @@ void ÜrünAğacı::AdıYerleştir(QTreeWidgetItem* düğüm, const QString& yen
     if (!yenidenKur) return;
 
     Seçim seçim = ŞimdikiSeçim();
-    if (!düğüm->parent() && Aynı(seçim.Grup, eski)) seçim.Grup = yeni;
-    if (düğüm->parent() && Aynı(seçim.Ürün, eski) && seçim.Grup == düğüm->parent()->text(0)) seçim.Ürün = yeni;
+    if (!düğüm->parent() && Türkçe::Aynı(seçim.Grup, eski)) seçim.Grup = yeni;
+    if (düğüm->parent() && Türkçe::Aynı(seçim.Ürün, eski) && seçim.Grup == düğüm->parent()->text(0)) seçim.Ürün = yeni;
     QSet<QString> açıkGruplar;
     for (int i = 0; i < topLevelItemCount(); ++i) {
         if (topLevelItem(i)->isExpanded()) açıkGruplar.insert(topLevelItem(i)->text(0));
@@ -299,7 +295,7 @@ bool ÜrünAğacı::BaşkaDüğümüEtkiler(const QTreeWidgetItem* düğüm, con
     const QTreeWidgetItem* üst = düğüm->parent() ? düğüm->parent() : invisibleRootItem();
     for (int i = 0; i < üst->childCount(); ++i) {
         const QTreeWidgetItem* öteki = üst->child(i);
-        if (öteki != düğüm && (öteki->text(0) == yeni || Aynı(öteki->text(0), düğüm->text(0)))) return true;
+        if (öteki != düğüm && (öteki->text(0) == yeni || Türkçe::Aynı(öteki->text(0), düğüm->text(0)))) return true;
     }
     return false;
 }

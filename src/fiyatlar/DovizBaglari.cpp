@@ -187,10 +187,7 @@ bool DövizBağları::BağlanırMı(const KatalogMalzemesi& malzeme, const std::
 // A price follows either a rate or a product.
 bool DövizBağları::YarıMamulDeğil(const QString& ad) {
     const YarıMamulBağları* bağlar = nullptr;
-    if (const İşSonucu s = YarıMamulleriAl(ODBCBağlantısı(), bağlar); !s.Tamam()) {
-        İşSonucunuGöster(s);
-        return false;
-    }
+    if (!İşSonucunuGöster(YarıMamulleriAl(ODBCBağlantısı(), bağlar))) return false;
     const YarıMamulBağı* bağ = bağlar->Bağı(ad);
     return !bağ ||
            Uyar(Metin(YarıMamulMetni::DövizMalzemesiYarıMamul).arg(ad, bağ->Ürün.Grup, bağ->Ürün.Ad), *m_adaylar);
@@ -226,10 +223,7 @@ void DövizBağları::Bağla() {
         bağ.Fiyat = *fiyat;
         sonuç = BağıYaz(ODBCBağlantısı(), bağ);
     }
-    if (!sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return;
-    }
+    if (!İşSonucunuGöster(sonuç)) return;
     m_fiyat->clear();
     m_değişti();
     m_süz->setFocus();
@@ -238,9 +232,6 @@ void DövizBağları::Bağla() {
 void DövizBağları::Çöz() {
     const QString malzeme = SeçiliBağ();
     if (malzeme.isEmpty()) return;
-    if (const İşSonucu sonuç = BağıSil(ODBCBağlantısı(), malzeme); !sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return;
-    }
+    if (!İşSonucunuGöster(BağıSil(ODBCBağlantısı(), malzeme))) return;
     m_değişti();
 }

@@ -138,10 +138,7 @@ bool DövizKurlarıFormu::Yükle() {
     const QString kod = SeçiliKod();
     m_bağlar->SeçimiSakla();
     DövizVerisi veri;
-    if (const İşSonucu sonuç = veri.Oku(ODBCBağlantısı()); !sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return false;
-    }
+    if (!İşSonucunuGöster(veri.Oku(ODBCBağlantısı()))) return false;
     m_yenileniyor = true;
     m_veri = std::move(veri);
     m_model.Yenile();
@@ -193,10 +190,7 @@ bool DövizKurlarıFormu::KodUygun(const QString& kod) {
     if (kod.size() < EN_KISA_KOD) return Uyar(MetinNo::DövizKoduKısa, *m_kod);
     if (kod == u"TL" || kod == u"TRY") return Uyar(MetinNo::DövizKoduTL, *m_kod);
     bool var = false;
-    if (const İşSonucu sonuç = DövizVar(ODBCBağlantısı(), kod, var); !sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return false;
-    }
+    if (!İşSonucunuGöster(DövizVar(ODBCBağlantısı(), kod, var))) return false;
     return !var || Uyar(Metin(MetinNo::DövizListedeVar).arg(kod), *m_kod);
 }
 
@@ -205,10 +199,7 @@ void DövizKurlarıFormu::DövizEkle() {
     if (!KodUygun(kod)) return;
     const std::optional<GirilenKur> girilen = Girilen();
     if (!girilen) return;
-    if (const İşSonucu sonuç = ::DövizEkle(ODBCBağlantısı(), {kod, girilen->Kur, girilen->Gün}); !sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return;
-    }
+    if (!İşSonucunuGöster(::DövizEkle(ODBCBağlantısı(), {kod, girilen->Kur, girilen->Gün}))) return;
     m_kod->clear();
     m_kur->clear();
     if (!Yükle()) return;
@@ -227,10 +218,7 @@ void DövizKurlarıFormu::DövizSil() {
         return;
     }
     if (sonuç.Tamam()) sonuç = ::DövizSil(ODBCBağlantısı(), kod);
-    if (!sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return;
-    }
+    if (!İşSonucunuGöster(sonuç)) return;
     static_cast<void>(Yükle());
 }
 

@@ -200,10 +200,7 @@ bool FiyatGeçmişiFormu::Yükle(const QString& malzeme) {
     std::vector<Deyimler::Fiyat::İşlem> işlemler;  // the shown rows point to the former ones
     İşSonucu sonuç = katalog.Oku(ODBCBağlantısı());
     if (sonuç.Tamam()) sonuç = İşlemleriOku(ODBCBağlantısı(), işlemler);
-    if (!sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return false;
-    }
+    if (!İşSonucunuGöster(sonuç)) return false;
     m_işlemler = std::move(işlemler);
     m_değiştirmeVar = std::any_of(m_işlemler.begin(), m_işlemler.end(), MalzemeDeğişimiMi);
     m_işlemYerleri.clear();

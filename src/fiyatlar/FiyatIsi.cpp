@@ -40,10 +40,7 @@ bool SonuncuyuYürüt(std::optional<İşlem> (*bul)(const std::vector<İşlem>&)
                     const DeğişimÇevirici& çevir, QWidget* sahip) {
     std::vector<İşlem> işlemler;
     const İşSonucu sonuç = İşlemleriOku(ODBCBağlantısı(), işlemler);
-    if (!sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return false;
-    }
+    if (!İşSonucunuGöster(sonuç)) return false;
     const std::optional<İşlem> işlem = bul(işlemler);
     if (!işlem) {
         Bildir(yok);
@@ -54,10 +51,36 @@ bool SonuncuyuYürüt(std::optional<İşlem> (*bul)(const std::vector<İşlem>&)
 
 }  // namespace
 
-void İşSonucunuGöster(const İşSonucu& sonuç) {
-    if (sonuç.Son != İşSonu::Olmadı) return;
-    const QStringList iletiler = OdbcİletileriniAl(sonuç.Odbc.Hatalar);
-    HatalarıGöster(iletiler.isEmpty() ? QStringList{QString()} : iletiler);
+bool İşSonucunuGöster(const İşSonucu& sonuç) {
+    if (sonuç.Son == İşSonu::Olmadı) {
+        const QStringList iletiler = OdbcİletileriniAl(sonuç.Odbc.Hatalar);
+        HatalarıGöster(iletiler.isEmpty() ? QStringList{QString()} : iletiler);
+    }
+    return sonuç.Tamam();
+}
+
+ÖnizlemeAdımı UygulamayıBildir(const UygulamaSonucu& sonuç, MetinNo yazılamadı) {
+    const auto bildir = [](MesajKutusu::Simge simge, const QString& metin) {
+        MesajKutusuOrtala();
+        MesajKutusu::Göster(simge, MesajKutusu::Düğmeler::Tamam, metin);
+    };
+    switch (sonuç.Son) {
+        case UygulamaSonu::Tamam:
+            return ÖnizlemeAdımı::Kabul;
+        case UygulamaSonu::Vazgeçildi:
+            break;  // everything is as it was
+        case UygulamaSonu::Olmadı:
+            bildir(MesajKutusu::Simge::Kritik,
+                   Metin(yazılamadı).arg(OdbcİletileriniAl(sonuç.Odbc.Hatalar).join(QLatin1Char('\n'))));
+            break;
+        case UygulamaSonu::Değişmiş:
+            bildir(MesajKutusu::Simge::Ünlem, Metin(MetinNo::VerilerDeğişmiş).arg(sonuç.Malzeme));
+            return ÖnizlemeAdımı::YenidenKur;
+        case UygulamaSonu::İşlemDeğişmiş:
+            bildir(MesajKutusu::Simge::Ünlem, Metin(MetinNo::İşlemDeğişmiş));
+            return ÖnizlemeAdımı::Ret;
+    }
+    return ÖnizlemeAdımı::Kal;
 }
 
 bool FiyatİşiniYürüt(const Fiyatİşi& iş, QWidget* sahip) {

@@ -8,6 +8,7 @@
 #include "FiyatIslemi.h"
 #include "FiyatPlani.h"
 
+enum class MetinNo : int;
 class QWidget;
 
 // What all ways to new prices hand over: where the new prices come from, and how the operation is to be recorded. They
@@ -24,10 +25,15 @@ bool FiyatİşiniYürüt(const Fiyatİşi& iş, QWidget* sahip);
 // such operations supplies it. True: carried out.
 using DeğişimÇevirici = std::function<bool(const Deyimler::Fiyat::İşlem& işlem, İşlemTürü tür, QWidget* sahip)>;
 
+// Tells what became of carrying out a plan that a preview shows, and what the preview has to do. `yazılamadı`: the text
+// for a failure, with a place for the reasons.
+enum class ÖnizlemeAdımı { Kabul, Kal, YenidenKur, Ret };
+ÖnizlemeAdımı UygulamayıBildir(const UygulamaSonucu& sonuç, MetinNo yazılamadı);
+
 // "Geri Al" and "Yinele" for one operation; where there is nothing to be done a message says so.
 bool İşlemiGeriAl(const Deyimler::Fiyat::İşlem& işlem, const DeğişimÇevirici& çevir, QWidget* sahip);
 bool SonİşlemiGeriAl(const DeğişimÇevirici& çevir, QWidget* sahip);
 bool SonGeriAlınanıYinele(const DeğişimÇevirici& çevir, QWidget* sahip);
 
-// Shows why reading or writing failed, a box for each error. Nothing for success and where the user gave up.
-void İşSonucunuGöster(const İşSonucu& sonuç);
+// Whether it was done. Shows why reading or writing failed, a box for each error; nothing where the user gave up.
+bool İşSonucunuGöster(const İşSonucu& sonuç);

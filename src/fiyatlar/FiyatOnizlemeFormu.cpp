@@ -16,6 +16,7 @@
 #include "Saat.h"
 #include "SayfaDuzeni.h"
 #include "Tablo.h"
+#include "YariMamulMetinleri.h"
 #include "Yazdirma.h"
 
 FiyatÖnizlemeFormu::FiyatÖnizlemeFormu(const Fiyatİşi& iş, QWidget* sahip)
@@ -84,10 +85,7 @@ bool FiyatÖnizlemeFormu::PlanıKur() {
         sonuç = m_plan.Kur(ODBCBağlantısı(), std::move(teklif), OndalıkBasamak,
                            [&kutu](std::int64_t okunan) { return kutu.Bildir(okunan); });
     if (sonuç.Tamam()) sonuç = BugünDeğişenleriSay();
-    if (!sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return false;
-    }
+    if (!İşSonucunuGöster(sonuç)) return false;
     m_malzemeModeli->Yenile();
     m_ürünTablosu->sortByColumn(ÜFark, Qt::DescendingOrder);
     m_ürünModeli->Yenile();
@@ -109,6 +107,7 @@ void FiyatÖnizlemeFormu::ÖzetiYaz() {
     const PlanÖzeti özet = m_plan.Özet();
     QStringList satırlar{m_iş.Bilgi.Açıklama,
                          Metin(MetinNo::PlanÖzeti).arg(özet.Malzeme).arg(özet.Satır).arg(özet.Ürün)};
+    if (özet.YayılanSatır > 0) satırlar.append(Metin(YarıMamulMetni::YayılanSatırSayısı).arg(özet.YayılanSatır));
     if (özet.Eklenen > 0) satırlar.append(Metin(MetinNo::EklenecekSayısı).arg(özet.Eklenen));
     if (özet.Silinen > 0) satırlar.append(Metin(MetinNo::SilinecekSayısı).arg(özet.Silinen));
     if (const auto& kur = m_plan.DövizKuru())
@@ -137,30 +136,19 @@ void FiyatÖnizlemeFormu::Uygula() {
         sonuç = FiyatlarıUygula(ODBCBağlantısı(), m_plan, m_iş.Bilgi, ŞimdikiZaman(),
                                 [&kutu](std::int64_t biten) { return kutu.Bildir(biten); });
     }
-    switch (sonuç.Son) {
-        case UygulamaSonu::Tamam:
+    switch (UygulamayıBildir(sonuç, MetinNo::FiyatlarYazılamadı)) {
+        case ÖnizlemeAdımı::Kabul:
             accept();
             return;
-        case UygulamaSonu::Vazgeçildi:
-            return;  // everything is as it was, the preview stays
-        case UygulamaSonu::Olmadı:
-            MesajKutusuOrtala();
-            MesajKutusu::Göster(
-                MesajKutusu::Simge::Kritik, MesajKutusu::Düğmeler::Tamam,
-                Metin(MetinNo::FiyatlarYazılamadı).arg(OdbcİletileriniAl(sonuç.Odbc.Hatalar).join(QLatin1Char('\n'))));
+        case ÖnizlemeAdımı::Kal:
             return;
-        case UygulamaSonu::Değişmiş:
-            MesajKutusuOrtala();
-            MesajKutusu::Göster(MesajKutusu::Simge::Ünlem, MesajKutusu::Düğmeler::Tamam,
-                                Metin(MetinNo::VerilerDeğişmiş).arg(sonuç.Malzeme));
-            if (!PlanıKur()) reject();
-            return;
-        case UygulamaSonu::İşlemDeğişmiş:
-            MesajKutusuOrtala();
-            MesajKutusu::Göster(MesajKutusu::Simge::Ünlem, MesajKutusu::Düğmeler::Tamam, Metin(MetinNo::İşlemDeğişmiş));
-            reject();
-            return;
+        case ÖnizlemeAdımı::YenidenKur:
+            if (PlanıKur()) return;
+            break;
+        case ÖnizlemeAdımı::Ret:
+            break;
     }
+    reject();
 }
 
 Yazdırılacak FiyatÖnizlemeFormu::Rapor() const {

@@ -182,10 +182,7 @@ void TopluFiyatFormu::Yerleştir() {
 
 bool TopluFiyatFormu::Yükle() {
     MalzemeKataloğu katalog;
-    if (const İşSonucu sonuç = katalog.Oku(ODBCBağlantısı()); !sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return false;
-    }
+    if (!İşSonucunuGöster(katalog.Oku(ODBCBağlantısı()))) return false;
     m_kaynak->Satırlar.clear();
     for (KatalogMalzemesi& malzeme : katalog.Malzemeler)
         m_kaynak->Satırlar.push_back({std::move(malzeme), false, false, {}});
@@ -201,10 +198,7 @@ bool TopluFiyatFormu::Boş() const {
 
 bool TopluFiyatFormu::SonDeğişimleriOku() {
     std::vector<SonDeğişim> değişimler;
-    if (const İşSonucu sonuç = SonDeğişimleri(ODBCBağlantısı(), değişimler); !sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return false;
-    }
+    if (!İşSonucunuGöster(SonDeğişimleri(ODBCBağlantısı(), değişimler))) return false;
     AdDizini yerler;
     for (std::uint32_t i = 0; i < değişimler.size(); ++i) yerler.BulYaDaEkle(değişimler[i].Malzeme.toStdString(), i);
     for (MalzemeKaynağı::Satır& satır : m_kaynak->Satırlar) {
@@ -219,10 +213,7 @@ bool TopluFiyatFormu::KullanılanlarıOku() {
     İlerlemeKutusu kutu(MetinNo::PlanKuruluyor, 0, this);
     const İşSonucu sonuç =
         KullanılanAdlar(ODBCBağlantısı(), kullanılanlar, [&kutu](std::int64_t okunan) { return kutu.Bildir(okunan); });
-    if (!sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return false;
-    }
+    if (!İşSonucunuGöster(sonuç)) return false;
     for (MalzemeKaynağı::Satır& satır : m_kaynak->Satırlar)
         satır.Kullanılıyor = kullanılanlar.Bul(satır.Malzeme.Ad.toStdString()) != AdDizini::YOK;
     return true;

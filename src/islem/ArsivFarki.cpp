@@ -85,7 +85,7 @@ std::int64_t Eksikler(const std::optional<Başlık>& arşiv, std::int64_t okunan
 // An archive writes an apostrophe as ’.
 bool AynıAdlı(const QString& a, const QString& b) {
     const auto yazım = [](const QString& ad) { return QString(ad).replace(QLatin1Char('\''), QChar(u'’')); };
-    return Türkçe::Karşılaştır(yazım(a), yazım(b)) == 0;
+    return Türkçe::Aynı(yazım(a), yazım(b));
 }
 
 bool AynıÜrün(const FöyYeri& a, const FöyYeri& b) {

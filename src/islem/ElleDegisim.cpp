@@ -10,11 +10,7 @@ namespace {
 
 std::optional<std::int64_t> Say(OdbcBağlantısı& bağlantı, const QString& deyim) {
     std::int64_t sayı = 0;
-    const OdbcSonucu sonuç = bağlantı.Oku(deyim, [&sayı](OdbcSatırı& satır) {
-        sayı = SaklananSayı(satır.Baytlar(1).value_or(""));
-        return false;
-    });
-    return sonuç.Başarılı() ? std::optional(sayı) : std::nullopt;
+    return SayımıOku(bağlantı, deyim, sayı).Başarılı() ? std::optional(sayı) : std::nullopt;
 }
 
 }  // namespace

@@ -71,10 +71,7 @@ class Yazıcı {
 
     bool Say(const QString& deyim, std::int64_t beklenen) {
         std::int64_t sayı = -1;
-        m_sonuç.Odbc = m_bağlantı.Oku(deyim, [&sayı](OdbcSatırı& satır) {
-            sayı = SaklananSayı(satır.Baytlar(1).value_or(""));
-            return false;
-        });
+        m_sonuç.Odbc = SayımıOku(m_bağlantı, deyim, sayı);
         if (!m_sonuç.Odbc.Başarılı())
             m_sonuç.Son = UygulamaSonu::Olmadı;
         else if (sayı != beklenen)

@@ -26,9 +26,8 @@ std::uint64_t SatırÖzeti(const KullanılanSatır& satır) {
 
 // As the data file compares them.
 bool AynıSatır(const KullanılanSatır& a, const KullanılanSatır& b) {
-    const auto aynı = [](const QString& x, const QString& y) { return Türkçe::Karşılaştır(x, y) == 0; };
-    return a.Fiyat == b.Fiyat && a.Tarih == b.Tarih && aynı(a.Miktar, b.Miktar) && aynı(a.Ürün, b.Ürün) &&
-           aynı(a.Grup, b.Grup);
+    return a.Fiyat == b.Fiyat && a.Tarih == b.Tarih && Türkçe::Aynı(a.Miktar, b.Miktar) &&
+           Türkçe::Aynı(a.Ürün, b.Ürün) && Türkçe::Aynı(a.Grup, b.Grup);
 }
 
 }  // namespace
@@ -327,6 +326,7 @@ void FiyatPlanı::YayılımıYenile() {
     const auto etkiler = m_yayılım.Yenile([this](std::uint32_t malzeme) { return m_malzemeler[malzeme].İşaretli; });
     for (const PlanYayılımı::Etki& etki : etkiler) {
         m_hesaplar[etki.Ürün].Sonra += etki.Fark;
+        m_yayılanSatır += etki.İşaret;
         m_işaretliler[etki.Ürün] += static_cast<std::uint32_t>(etki.İşaret);
     }
     for (const PlanYayılımı::Etki& etki : etkiler) SonrayıHesapla(etki.Ürün);
@@ -373,6 +373,7 @@ PlanÖzeti FiyatPlanı::Özet() const {
         for (std::size_t satır = m_ilkSatır[i]; satır < m_ilkSatır[i + 1]; ++satır)
             özet.ÜrünsüzSatır += m_satırlar[satır].Ürün == AdDizini::YOK;
     }
+    özet.YayılanSatır = m_yayılanSatır;
     özet.Ürün = std::count_if(m_işaretliler.begin(), m_işaretliler.end(), [](std::uint32_t sayı) { return sayı > 0; });
     return özet;
 }

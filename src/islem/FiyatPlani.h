@@ -108,6 +108,7 @@ struct PlanÖzeti {
     std::int64_t Silinen = 0;
     std::int64_t Satır = 0;
     std::int64_t Ürün = 0;
+    std::int64_t YayılanSatır = 0;  // beside those rows: of materials whose price follows a product
     std::int64_t ÜrünsüzSatır = 0;  // of those rows, whose product is not in the product table
     std::int64_t AyrıSatır = 0;     // of those rows, whose price is another than the catalogue's
 };
@@ -155,6 +156,7 @@ class FiyatPlanı {
     std::optional<KurDeğişimi> m_kur;
     std::optional<YarıMamulBağı> m_bağ;
     PlanYayılımı m_yayılım;
+    std::int64_t m_yayılanSatır = 0;
     std::vector<PlanMalzemesi> m_malzemeler;
     std::vector<PlanÜrünü> m_ürünler;
     std::vector<ÜrünHesabı> m_hesaplar;        // beside m_ürünler

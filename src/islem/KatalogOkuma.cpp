@@ -41,6 +41,13 @@ std::int64_t SaklananSayı(std::string_view baytlar) {
     return sayı;
 }
 
+OdbcSonucu SayımıOku(OdbcBağlantısı& bağlantı, const QString& deyim, std::int64_t& sayı) {
+    return bağlantı.Oku(deyim, [&sayı](OdbcSatırı& satır) {
+        sayı = SayıSütunu(satır, 1);
+        return false;
+    });
+}
+
 Para ParaSütunu(OdbcSatırı& satır, int sütun) {
     return SaklananPara(satır.Baytlar(sütun).value_or("")).value_or(Para());
 }

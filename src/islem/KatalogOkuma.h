@@ -55,6 +55,9 @@ std::optional<Para> SaklananPara(std::string_view baytlar);
 // Reads a stored count or number without decimals.
 std::int64_t SaklananSayı(std::string_view baytlar);
 
+// What a Count statement gives.
+OdbcSonucu SayımıOku(OdbcBağlantısı& bağlantı, const QString& deyim, std::int64_t& sayı);
+
 // The same of the row at hand; 0 for what is none such.
 Para ParaSütunu(OdbcSatırı& satır, int sütun);
 std::int64_t SayıSütunu(OdbcSatırı& satır, int sütun);

@@ -34,10 +34,6 @@ bool SıfırMı(const Ondalık& sayı) {
     return sayı.Rakamlar.find_first_not_of('0') == std::string::npos;
 }
 
-bool Aynı(const QString& a, const QString& b) {
-    return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) == 0;
-}
-
 bool HepsiYazılabilir(const std::vector<KullanılanSatır>& satırlar) {
     return std::all_of(satırlar.begin(), satırlar.end(), [](const KullanılanSatır& s) {
         return Deyimler::Yazılabilir(s.Grup) && Deyimler::Yazılabilir(s.Ürün) && Deyimler::Yazılabilir(s.Malzeme) &&
@@ -64,7 +60,7 @@ DeğişimNedeni MiktarıBul(const DeğişenÜrün& ürün, const DeğişimKural�
         if (!sayı) return DeğişimNedeni::MiktarOkunamaz;
         if (i > 0 && parçalar.Kalan != birim) return DeğişimNedeni::BirimFarklı;
         birim = parçalar.Kalan.toString();
-        const bool eski = Aynı(satır.Malzeme, kural.Eski);
+        const bool eski = Türkçe::Aynı(satır.Malzeme, kural.Eski);
         toplam = Topla(toplam, eski ? Çarp(*sayı, Ölçekten(kural.Çarpan.OnBindeBir())) : *sayı);
     }
     toplam = Yuvarla(toplam, MİKTAR_BASAMAĞI, Yarım::SıfırdanUzağa);
@@ -103,7 +99,7 @@ void DeğişimPlanı::Değiştir(DeğişenÜrün& ürün, const DeğişimKuralı
     if (sonuç.Tamam()) sonuç = katalog.Oku(bağlantı, ilerleme);
     if (!sonuç.Tamam()) return sonuç;
     const std::uint32_t yeni = katalog.Dizin.Bul(kural.Yeni.toStdString());
-    m_yeniYok = yeni == AdDizini::YOK || Aynı(kural.Eski, kural.Yeni);
+    m_yeniYok = yeni == AdDizini::YOK || Türkçe::Aynı(kural.Eski, kural.Yeni);
     if (m_yeniYok) return sonuç;
     m_yeni = katalog.Malzemeler[yeni];
     m_malzemeler = {kural.Eski, m_yeni->Ad};

@@ -23,15 +23,11 @@ T Sözcükten(const char* const (&sözcükler)[N], const QString& sözcük, T yo
     return yoksa;
 }
 
-bool Aynı(const QString& a, const QString& b) {
-    return Türkçe::Karşılaştır(QStringView(a), QStringView(b)) == 0;
-}
-
-bool Aynı(const ÜrünAdı& a, const ÜrünAdı& b) {
-    return Aynı(a.Ad, b.Ad) && Aynı(a.Grup, b.Grup);
-}
-
 }  // namespace
+
+bool AynıÜrün(const ÜrünAdı& a, const ÜrünAdı& b) {
+    return Türkçe::Aynı(a.Ad, b.Ad) && Türkçe::Aynı(a.Grup, b.Grup);
+}
 
 Deyimler::YarıMamul::Bağ Saklanan(const YarıMamulBağı& bağ) {
     return {bağ.Malzeme, bağ.Ürün.Grup, bağ.Ürün.Ad, QString::fromLatin1(TÜRLER[static_cast<int>(bağ.Tür)]),
@@ -154,7 +150,7 @@ bool YarıMamulBağları::ÜrününBağıVar(const ÜrünAdı& ürün) const {
 std::vector<std::uint32_t> YarıMamulBağları::ÜrününBağları(const ÜrünAdı& ürün) const {
     std::vector<std::uint32_t> yerler;
     for (std::uint32_t i = 0; i < m_bağlar.size(); ++i)
-        if (ürün.Ad.isEmpty() ? Aynı(m_bağlar[i].Ürün.Grup, ürün.Grup) : Aynı(m_bağlar[i].Ürün, ürün))
+        if (ürün.Ad.isEmpty() ? Türkçe::Aynı(m_bağlar[i].Ürün.Grup, ürün.Grup) : AynıÜrün(m_bağlar[i].Ürün, ürün))
             yerler.push_back(i);
     return yerler;
 }
@@ -217,12 +213,14 @@ YarıMamulBağları::Sıra YarıMamulBağları::SırayaKoy() const {
 }
 
 QStringList YarıMamulBağları::Zincir(const QStringList& malzemeler, const ÜrünAdı& hedef) const {
-    return ZinciriBul(malzemeler,
-                      [&](const QString&, std::uint32_t bağ) { return bağ != YOK && Aynı(m_bağlar[bağ].Ürün, hedef); });
+    return ZinciriBul(malzemeler, [&](const QString&, std::uint32_t bağ) {
+        return bağ != YOK && AynıÜrün(m_bağlar[bağ].Ürün, hedef);
+    });
 }
 
 QStringList YarıMamulBağları::Zincir(const QStringList& malzemeler, const QString& hedefMalzeme) const {
-    return ZinciriBul(malzemeler, [&](const QString& malzeme, std::uint32_t) { return Aynı(malzeme, hedefMalzeme); });
+    return ZinciriBul(malzemeler,
+                      [&](const QString& malzeme, std::uint32_t) { return Türkçe::Aynı(malzeme, hedefMalzeme); });
 }
 
 // Each tie is looked into once, in breadth, so the chain is a shortest one.

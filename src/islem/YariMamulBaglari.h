@@ -21,9 +21,11 @@ struct YarıMamulBağı {
 Deyimler::YarıMamul::Bağ Saklanan(const YarıMamulBağı& bağ);
 QString DurumSözcüğü(BağDurumu durum);  // as it is stored
 
+bool AynıÜrün(const ÜrünAdı& a, const ÜrünAdı& b);  // as the data file compares names
+bool Yazılabilir(const ÜrünAdı& ürün);              // a statement can name it
+
 // Names of materials that a product uses, in the main form's order; one that it uses twice stands twice. A name that no
 // statement can name has none.
-bool Yazılabilir(const ÜrünAdı& ürün);
 İşSonucu ÜrününMalzemeleri(OdbcBağlantısı& bağlantı, const ÜrünAdı& ürün, QStringList& malzemeler);
 
 // The product's percentages with as many decimals as kept prices are reckoned with. Nothing: there is no such product.

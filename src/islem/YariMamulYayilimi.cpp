@@ -6,7 +6,6 @@
 #include "FiyatDeyimleri.h"
 #include "OdbcHareketi.h"
 #include "OdbcTanitici.h"
-#include "TurkceSira.h"
 
 namespace {
 
@@ -30,14 +29,17 @@ Bellek bellek;
 class Yayıcı {
   public:
     Yayıcı(OdbcBağlantısı& bağlantı, const VeriDeğişimi& değişim)
-        : m_bağlantı(bağlantı), m_değişim(değişim), m_bağlar(bellek.Bağlar) {}
+        : m_bağlantı(bağlantı),
+          m_değişim(değişim),
+          m_hepsi(değişim.Hepsi || bellek.Onarılacak),
+          m_bağlar(bellek.Bağlar) {}
 
     // Which ties the change concerns by itself. Writes nothing.
     bool İlgiliVar() {
         const auto işaretle = [this](const std::vector<std::uint32_t>& bağlar) {
             for (const std::uint32_t bağ : bağlar) m_kirli[bağ] = true;
         };
-        m_kirli.assign(m_bağlar.Bağlar().size(), m_değişim.Hepsi);
+        m_kirli.assign(m_bağlar.Bağlar().size(), m_hepsi);
         for (const ÜrünAdı& ürün : m_değişim.Ürünler)
             if (m_değişim.Ürünler.size() == 1 || ürün.Ad.isEmpty() || m_bağlar.ÜrününBağıVar(ürün))
                 işaretle(m_bağlar.ÜrününBağları(ürün));
@@ -129,9 +131,8 @@ class Yayıcı {
             if (!Var(Deyimler::ÜrünVarMı(eski.Ürün.Grup, eski.Ürün.Ad), eskisiVar) ||
                 !Var(Deyimler::ÜrünVarMı(yeni.Grup, yeni.Ad), yenisiVar))
                 return false;
-            const bool yalnızYazım =
-                Türkçe::Karşılaştır(eski.Ürün.Ad, yeni.Ad) == 0 && Türkçe::Karşılaştır(eski.Ürün.Grup, yeni.Grup) == 0;
-            if (!yenisiVar || (eskisiVar && !yalnızYazım)) continue;
+            // Where only the spelling changed, the old name finds the new one.
+            if (!yenisiVar || (eskisiVar && !AynıÜrün(eski.Ürün, yeni))) continue;
             if (!Çalıştır(Deyimler::YarıMamul::ÜrünüYaz(eski.Malzeme, yeni.Grup, yeni.Ad))) return false;
             m_bağlar.ÜrünüKoy(bağ, yeni);
             m_kirli[bağ] = true;
@@ -220,7 +221,7 @@ class Yayıcı {
         const QString yazılan = Deyimler::SaklanacakSayı(fiyat.Fiyat);
         if (farklı && !Çalıştır(Deyimler::FiyatDeğiştir(malzeme, yazılan))) return false;
         bool satırlarFarklı = farklı;
-        if (!farklı && (m_değişim.Hepsi || Dokunuldu(malzeme)) && !SatırlarFarklı(malzeme, fiyat.Fiyat, satırlarFarklı))
+        if (!farklı && (m_hepsi || Dokunuldu(malzeme)) && !SatırlarFarklı(malzeme, fiyat.Fiyat, satırlarFarklı))
             return false;
         if (!satırlarFarklı) return true;
         if (!Çalıştır(Deyimler::ÜrünlerdeFiyatDeğiştir(malzeme, yazılan))) return false;
@@ -237,14 +238,8 @@ class Yayıcı {
     bool SatırlarFarklı(const QString& malzeme, Para fiyat, bool& farklı) {
         std::int64_t hepsi = 0;
         std::int64_t aynılar = 0;
-        const auto say = [this](const QString& deyim, std::int64_t& sayı) {
-            return Tamam(m_bağlantı.Oku(deyim, [&sayı](OdbcSatırı& satır) {
-                sayı = SayıSütunu(satır, 1);
-                return false;
-            }));
-        };
-        if (!say(Deyimler::KullanılanSayısı(malzeme), hepsi) ||
-            !say(Deyimler::KullanılanSayısı(malzeme, fiyat), aynılar))
+        if (!Tamam(SayımıOku(m_bağlantı, Deyimler::KullanılanSayısı(malzeme), hepsi)) ||
+            !Tamam(SayımıOku(m_bağlantı, Deyimler::KullanılanSayısı(malzeme, fiyat), aynılar)))
             return false;
         farklı = hepsi != aynılar;
         return true;
@@ -265,6 +260,7 @@ class Yayıcı {
 
     OdbcBağlantısı& m_bağlantı;
     const VeriDeğişimi& m_değişim;
+    const bool m_hepsi;  // whatever there is; also to make up for what was left undone
     YarıMamulBağları& m_bağlar;
     std::vector<bool> m_kirli;  // beside the ties: to be reckoned anew
     std::vector<Yuvarlanan> m_yuvarlananlar;
@@ -298,9 +294,7 @@ Yayılım YarıMamulleriYay(OdbcBağlantısı& bağlantı, const VeriDeğişimi&
     Yayılım yayılım;
     yayılım.Sonuç = Hazırla(bağlantı);
     if (!yayılım.Sonuç.Tamam() || bellek.Bağlar.Boş()) return yayılım;
-    VeriDeğişimi bütünü = değişim;
-    bütünü.Hepsi = değişim.Hepsi || bellek.Onarılacak;
-    Yayıcı yayıcı(bağlantı, bütünü);
+    Yayıcı yayıcı(bağlantı, değişim);
     if (!yayıcı.İlgiliVar()) return yayılım;
     yayılım = yayıcı.Yay();
     if (!yayılım.Sonuç.Tamam()) YarıMamulleriUnut();
@@ -312,9 +306,7 @@ Yayılım YarıMamulleriYürüt(OdbcBağlantısı& bağlantı, const VeriDeğiş
     // Whether there are any is not known: what cannot be read is told by those who show it.
     if (!Hazırla(bağlantı).Tamam()) bellek.Onarılacak = true;
     if (bellek.Bağlar.Boş()) return yayılım;
-    VeriDeğişimi bütünü = değişim;
-    bütünü.Hepsi = değişim.Hepsi || bellek.Onarılacak;
-    Yayıcı yayıcı(bağlantı, bütünü);
+    Yayıcı yayıcı(bağlantı, değişim);
     if (!yayıcı.İlgiliVar()) return yayılım;
 
     const QStringList ilgililer = yayıcı.Kirliler();

@@ -110,7 +110,6 @@ constexpr MetinSatırı Tablo[] = {
     {MetinNo::ExcelSüzgeci, "Excel Dosyaları (*.xlsx);;CSV Dosyaları (*.csv)"},
     {MetinNo::ExcelYazılamadı, "Tablo dosyası yazılamadı! %1"},
     {MetinNo::ExcelUzunMetin, "Bir metin, Excel dosyasının alabileceğinden uzun."},
-    {MetinNo::ExcelÇokSatır, "Satırlar, Excel dosyasının alabileceğinden çok."},
     {MetinNo::TürSütunu, "Tür"},
     {MetinNo::ÖnceSütunu, "Önce"},
     {MetinNo::SonraSütunu, "Sonra"},

@@ -24,7 +24,8 @@ inline const char* MetniBul(std::span<const MetinSatırı> tablo, MetinNo numara
     return satır == tablo.end() || satır->Numara != numara ? nullptr : satır->Metin;
 }
 
-// The tables of other subjects.
+// The tables; a number stands in one of them only.
+const char* AnaMetniBul(MetinNo numara);
 const char* FiyatMetniBul(MetinNo numara);
 const char* ÜrünMetniBul(MetinNo numara);
 const char* KullanımMetniBul(MetinNo numara);
@@ -33,3 +34,6 @@ const char* YarıMamulMetniBul(MetinNo numara);
 const char* ÇizelgeMetniBul(MetinNo numara);
 const char* ErişimMetniBul(MetinNo numara);
 const char* YedekMetniBul(MetinNo numara);
+inline constexpr const char* (*Bulucular[])(MetinNo) = {AnaMetniBul,      FiyatMetniBul,  ÜrünMetniBul,
+                                                        KullanımMetniBul, ArşivMetniBul,  YarıMamulMetniBul,
+                                                        ÇizelgeMetniBul,  ErişimMetniBul, YedekMetniBul};

@@ -313,10 +313,13 @@ static_assert(Sıralı(Tablo));
 
 }  // namespace
 
+const char* AnaMetniBul(MetinNo numara) {
+    return MetniBul(Tablo, numara);
+}
+
 QString Metin(MetinNo numara) {
-    const char* metin = MetniBul(Tablo, numara);
-    for (const auto bul : {FiyatMetniBul, ÜrünMetniBul, KullanımMetniBul, ArşivMetniBul, YarıMamulMetniBul,
-                           ÇizelgeMetniBul, ErişimMetniBul, YedekMetniBul})
+    const char* metin = nullptr;
+    for (const auto bul : Bulucular)
         if (!metin) metin = bul(numara);
     if (!metin) {
         Q_ASSERT_X(false, "Metin", "unknown text number");

@@ -65,12 +65,12 @@ constexpr MetinSatırı Tablo[] = {
      "\"%1\" malzemesinin fiyatını \"%2 / %3\" ürünü belirliyor; bir malzeme hem dövize hem ürüne bağlanamaz. Önce "
      "Ürünler "
      "menüsündeki Yarı Mamuller formunda bağı çözünüz."},
-    {YarıMamulMetni::YarıMamullerOkunuyor, "Yarı mamuller okunuyor..."},
     {YarıMamulMetni::YarıMamulYok,
      "Henüz yarı mamul yok. Aşağıdan malzemeyi, fiyatını verecek ürünü ve tutarı seçip \"Bağla\"ya basınız."},
     {YarıMamulMetni::KopyaDöngüsü,
      "Kopyanın adı \"%1\" olamaz, çünkü ürün dolaylı olarak kendisinden yapılmış olurdu:\n%2"},
     {YarıMamulMetni::NedenYarıMamulünden, "yarı mamulünün fiyatı değişir"},
+    {YarıMamulMetni::YayılanSatırSayısı, "Yarı mamulün fiyatıyla değişecek satır: %1"},
     {YarıMamulMetni::AğaçBaşlığı, "Yarı Mamul Ağacı"},
     {YarıMamulMetni::AğaçÜrünü, "%1 / %2"},
     {YarıMamulMetni::AdetEtiketi, "&Adet"},

@@ -58,7 +58,6 @@ constexpr MetinSatırı Tablo[] = {
     {YedekMetni::DışarıTutmadı, "Yazılan yedek geri okunduğunda tutmadı ve silindi; bellek bozuk olabilir.\n%1"},
     {YedekMetni::DosyaAçBaşlığı, "Yedek Dosyası Aç"},
     {YedekMetni::DosyaSüzgeci, "Yedekler ve veri dosyaları (*.ydk *.vtb *.vtb.access);;Bütün dosyalar (*)"},
-    {YedekMetni::YedekSeçiniz, "Önce bir yedek seçiniz."},
     {YedekMetni::YedekKullanılamaz, "Bu yedek kullanılamaz: %1\n%2"},
     {YedekMetni::GeriYüklemeSorusu,
      "%1 tarihli yedek, şimdiki verilerin yerine konacak.\n\nYedekte: %2 ürün, %3 malzeme, %4 malzeme satırı.\nŞimdi: "
@@ -76,7 +75,6 @@ constexpr MetinSatırı Tablo[] = {
      "Veri dosyasına yeniden bağlanılamadı. Lütfen, programı kapatıp yeniden başlatınız."},
     {YedekMetni::BaşlangıçtaSunum,
      "Veri dosyanız açılamıyor; ama tarihli yedekler var. Bunlardan birini geri yüklemek ister misiniz?"},
-    {YedekMetni::ÖzetMetni, "%1 yedek, %2"},
     {YedekMetni::TabloAçıklaması, "%1\n%2"},
 };
 

@@ -53,7 +53,6 @@ inline constexpr MetinNo DışarıYazılamadı{3244};
 inline constexpr MetinNo DışarıTutmadı{3245};
 inline constexpr MetinNo DosyaAçBaşlığı{3246};
 inline constexpr MetinNo DosyaSüzgeci{3247};
-inline constexpr MetinNo YedekSeçiniz{3248};
 inline constexpr MetinNo YedekKullanılamaz{3249};
 inline constexpr MetinNo GeriYüklemeSorusu{3250};
 inline constexpr MetinNo GeriYüklemeSorusuBilinmeyen{3251};
@@ -63,7 +62,6 @@ inline constexpr MetinNo GeriYüklendi{3254};
 inline constexpr MetinNo GeriYüklendiSaklanansız{3255};
 inline constexpr MetinNo BağlantıKurulamadı{3256};
 inline constexpr MetinNo BaşlangıçtaSunum{3257};
-inline constexpr MetinNo ÖzetMetni{3258};
 inline constexpr MetinNo TabloAçıklaması{3259};
 
 }  // namespace YedekMetni

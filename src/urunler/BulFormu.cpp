@@ -10,7 +10,8 @@
 #include "IlerlemeKutusu.h"
 #include "KesmesizKutu.h"
 #include "MetinTablosu.h"
-#include "OkumaSonucu.h"
+#include "FiyatIsi.h"
+#include "OdbcModulu.h"
 #include "Tablo.h"
 #include "UrunMetinleri.h"
 
@@ -76,7 +77,8 @@ void BulFormu::Yerleştir() {
 
 bool BulFormu::Yükle() {
     İlerlemeKutusu kutu(ÜrünMetni::AdlarOkunuyor, 0, parentWidget());
-    return OlduysaBil(m_arama.Oku(ODBCBağlantısı(), [&kutu](std::int64_t okunan) { return kutu.Bildir(okunan); }));
+    return İşSonucunuGöster(
+        m_arama.Oku(ODBCBağlantısı(), [&kutu](std::int64_t okunan) { return kutu.Bildir(okunan); }));
 }
 
 void BulFormu::Ara() {

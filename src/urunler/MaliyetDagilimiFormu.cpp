@@ -12,7 +12,8 @@
 #include "FormParcalari.h"
 #include "KisalanEtiket.h"
 #include "MetinTablosu.h"
-#include "OkumaSonucu.h"
+#include "FiyatIsi.h"
+#include "OdbcModulu.h"
 #include "ResimKaydi.h"
 #include "Tablo.h"
 #include "UrunMetinleri.h"
@@ -113,7 +114,7 @@ void MaliyetDağılımıFormu::Yerleştir() {
 
 bool MaliyetDağılımıFormu::Yükle() {
     std::optional<SaklananÜrün> saklanan;
-    if (!OlduysaBil(SaklananÜrünüOku(ODBCBağlantısı(), m_dağılım.Ürün, saklanan))) return false;
+    if (!İşSonucunuGöster(SaklananÜrünüOku(ODBCBağlantısı(), m_dağılım.Ürün, saklanan))) return false;
     if (!saklanan) return Uyar(ÜrünMetni::ÜrünArtıkYok, *this);
     m_dağılım.Hesapla(*saklanan, OndalıkBasamak);
     m_kalemModeli.Yenile();

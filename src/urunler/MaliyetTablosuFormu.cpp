@@ -9,6 +9,7 @@
 
 #include "CizelgeKaydi.h"
 #include "DegiskenModulu.h"
+#include "FiyatIsi.h"
 #include "FormParcalari.h"
 #include "GirisKutusu.h"
 #include "IlerlemeKutusu.h"
@@ -103,10 +104,7 @@ bool MaliyetTablosuFormu::Yükle() {
     İlerlemeKutusu kutu(ÜrünMetni::MaliyetlerOkunuyor, 0, parentWidget());
     const İşSonucu sonuç = MaliyetTablosunuOku(ODBCBağlantısı(), OndalıkBasamak, satırlar,
                                                [&kutu](std::int64_t okunan) { return kutu.Bildir(okunan); });
-    if (!sonuç.Tamam()) {
-        if (sonuç.Son == İşSonu::Olmadı) HatalarıGöster(OdbcİletileriniAl(sonuç.Odbc.Hatalar));
-        return false;
-    }
+    if (!İşSonucunuGöster(sonuç)) return false;
     m_kaynak.Satırlar = std::move(satırlar);
     m_gidilecek = nullptr;
     if (sonGörünüm.Sütun >= 0) m_tablo->sortByColumn(sonGörünüm.Sütun, sonGörünüm.Yön);

@@ -142,10 +142,7 @@ bool SatışFiyatListesiFormu::Yükle() {
     İlerlemeKutusu kutu(ÜrünMetni::MaliyetlerOkunuyor, 0, parentWidget());
     const İşSonucu sonuç = MaliyetTablosunuOku(ODBCBağlantısı(), OndalıkBasamak, satırlar,
                                                [&kutu](std::int64_t okunan) { return kutu.Bildir(okunan); });
-    if (!sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return false;
-    }
+    if (!İşSonucunuGöster(sonuç)) return false;
     m_kaynak.Al(satırlar);
     m_kaynak.Hesapla(m_yuvarlama.Seçilen(), Oran());
     Süz();

@@ -9,7 +9,8 @@
 #include "KisalanEtiket.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
-#include "OkumaSonucu.h"
+#include "FiyatIsi.h"
+#include "OdbcModulu.h"
 #include "Saat.h"
 #include "UrunMetinleri.h"
 #include "YariMamulBaglari.h"
@@ -72,7 +73,7 @@ bool ÜrünKopyalaFormu::Yükle() {
 
 bool ÜrünKopyalaFormu::ÜrünüOku() {
     std::optional<SaklananÜrün> saklanan;
-    if (!OlduysaBil(SaklananÜrünüOku(ODBCBağlantısı(), m_eski, saklanan))) return false;
+    if (!İşSonucunuGöster(SaklananÜrünüOku(ODBCBağlantısı(), m_eski, saklanan))) return false;
     if (!saklanan) return Uyar(ÜrünMetni::ÜrünArtıkYok, *m_ad);
     m_saklanan = std::move(*saklanan);
     m_açıklama->setText(Metin(ÜrünMetni::Kopyalanan).arg(m_saklanan.Satırlar.size()));
@@ -101,7 +102,7 @@ void ÜrünKopyalaFormu::Kopyala() {
             Uyar(ÜrünMetni::KopyalananDeğişmiş, *m_tamam);
             return;
         case KopyaSonu::Yazılamadı:
-            OlduysaBil({İşSonu::Olmadı, sonuç.Odbc});
+            İşSonucunuGöster({İşSonu::Olmadı, sonuç.Odbc});
             return;
     }
 }

@@ -8,6 +8,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "MetinSatirlari.h"
 #include "AcilirGirisKutusu.h"
 #include "DegiskenModulu.h"
 #include "DuzenlemeDenetcisi.h"
@@ -89,6 +90,15 @@ class GirişKutuları : public VarnekTesti {
 
     ÖrnekForm Form;
 };
+
+// Tables stand apart, so that nothing else sees a number that two of them have: one text would be shown for the other.
+TEST(Metinler, NumaraTekTablodadır) {
+    for (int no = 0; no < 10000; ++no)
+        EXPECT_LE(std::count_if(std::begin(Bulucular), std::end(Bulucular),
+                                [no](const auto bul) { return bul(static_cast<MetinNo>(no)) != nullptr; }),
+                  1)
+            << no;
+}
 
 TEST_F(GirişKutuları, TuşlardanYalnızSayıyaYarayanlarGeçer) {
     for (const QStringList& satır : Tablo(

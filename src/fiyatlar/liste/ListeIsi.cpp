@@ -49,10 +49,7 @@ QStringList İşaretliler(const FiyatListesi& liste) {
 
 bool FiyatListesiAlFormu::Yükle() {
     const İşSonucu sonuç = TedarikçileriOku(ODBCBağlantısı(), m_tedarikçiler);
-    if (!sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return false;
-    }
+    if (!İşSonucunuGöster(sonuç)) return false;
     QStringList adlar;
     for (const Tedarikçi& tedarikçi : m_tedarikçiler) adlar.append(tedarikçi.Ad);
     m_tedarikçi->Doldur(adlar);
@@ -346,10 +343,7 @@ void FiyatListesiAlFormu::Önizle() {
     if (!m_tedarikçiAdı.isEmpty()) {
         İşSonucu sonuç = TedarikçiyiYaz(ODBCBağlantısı(), SeçilenTercih());
         if (sonuç.Tamam()) sonuç = TedarikçileriOku(ODBCBağlantısı(), m_tedarikçiler);
-        if (!sonuç.Tamam()) {
-            İşSonucunuGöster(sonuç);
-            return;
-        }
+        if (!İşSonucunuGöster(sonuç)) return;
     }
     if (!FiyatİşiniYürüt(İş(), this)) return;
     m_uygulandı = true;

@@ -12,7 +12,7 @@
 
 const Deyimler::Tedarikçi::Tedarikçi* FiyatListesiAlFormu::KayıtlıTedarikçi() const {
     for (const Tedarikçi& tedarikçi : m_tedarikçiler)
-        if (Türkçe::Karşılaştır(tedarikçi.Ad, m_tedarikçiAdı) == 0) return &tedarikçi;
+        if (Türkçe::Aynı(tedarikçi.Ad, m_tedarikçiAdı)) return &tedarikçi;
     return nullptr;
 }
 

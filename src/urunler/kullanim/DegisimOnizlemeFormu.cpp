@@ -17,17 +17,6 @@
 #include "UrunMetinleri.h"
 #include "Yazdirma.h"
 
-using MesajKutusu::Simge;
-
-namespace {
-
-void Bildir(Simge simge, const QString& metin) {
-    MesajKutusuOrtala();
-    MesajKutusu::Göster(simge, MesajKutusu::Düğmeler::Tamam, metin);
-}
-
-}  // namespace
-
 DeğişimÖnizlemeFormu::DeğişimÖnizlemeFormu(const Değişimİşi& iş, QWidget* sahip)
     : QDialog(sahip), m_iş(iş), m_kaynak(m_plan), m_model(m_kaynak, DeğişimSütunlarınıVer()) {
     setObjectName(QStringLiteral("DeğişimÖnizlemeFormu"));
@@ -78,11 +67,8 @@ bool DeğişimÖnizlemeFormu::PlanıKur() {
         sonuç = m_iş.PlanıKur(m_plan, [&kutu](std::int64_t okunan) { return kutu.Bildir(okunan); });
     }
     m_model.Yenile();
-    if (!sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return false;
-    }
-    if (m_plan.YeniYok()) Bildir(Simge::Ünlem, Metin(KullanımMetni::YeniMalzemeKatalogdaYok));
+    if (!İşSonucunuGöster(sonuç)) return false;
+    if (m_plan.YeniYok()) YarımKaldı(KullanımMetni::YeniMalzemeKatalogdaYok);
     ÖzetiYaz();
     return !m_plan.YeniYok();
 }
@@ -105,29 +91,19 @@ void DeğişimÖnizlemeFormu::Uygula() {
         sonuç = DeğişimiUygula(ODBCBağlantısı(), m_plan, m_iş.Bilgi, ŞimdikiZaman(),
                                [&kutu](std::int64_t biten) { return kutu.Bildir(biten); });
     }
-    SonucuGöster(sonuç);
-}
-
-void DeğişimÖnizlemeFormu::SonucuGöster(const UygulamaSonucu& sonuç) {
-    switch (sonuç.Son) {
-        case UygulamaSonu::Tamam:
+    switch (UygulamayıBildir(sonuç, KullanımMetni::DeğişimYazılamadı)) {
+        case ÖnizlemeAdımı::Kabul:
             accept();
             return;
-        case UygulamaSonu::Vazgeçildi:
-            return;  // everything is as it was, the preview stays
-        case UygulamaSonu::Olmadı:
-            Bildir(Simge::Kritik, Metin(KullanımMetni::DeğişimYazılamadı)
-                                      .arg(OdbcİletileriniAl(sonuç.Odbc.Hatalar).join(QLatin1Char('\n'))));
+        case ÖnizlemeAdımı::Kal:
             return;
-        case UygulamaSonu::Değişmiş:
-            Bildir(Simge::Ünlem, Metin(MetinNo::VerilerDeğişmiş).arg(sonuç.Malzeme));
-            if (!PlanıKur()) reject();
-            return;
-        case UygulamaSonu::İşlemDeğişmiş:
-            Bildir(Simge::Ünlem, Metin(MetinNo::İşlemDeğişmiş));
-            reject();
-            return;
+        case ÖnizlemeAdımı::YenidenKur:
+            if (PlanıKur()) return;
+            break;
+        case ÖnizlemeAdımı::Ret:
+            break;
     }
+    reject();
 }
 
 Yazdırılacak DeğişimÖnizlemeFormu::Rapor() const {

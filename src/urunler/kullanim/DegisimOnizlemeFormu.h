@@ -24,7 +24,6 @@ class DeğişimÖnizlemeFormu : public QDialog {
     void Yerleştir();
     void ÖzetiYaz();
     void Uygula();
-    void SonucuGöster(const UygulamaSonucu& sonuç);
     void Çizelgeye();
     Yazdırılacak Rapor() const;
 

@@ -57,14 +57,11 @@ void MalzemeDeğiştirFormu::Yerleştir() {
 bool MalzemeDeğiştirFormu::Yükle() {
     MalzemeKataloğu katalog;
     const İşSonucu sonuç = katalog.Oku(ODBCBağlantısı());
-    if (!sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return false;
-    }
+    if (!İşSonucunuGöster(sonuç)) return false;
     m_adlar.clear();
     QList<MalzemeKutusu::Öğe> öğeler;
     for (const KatalogMalzemesi& malzeme : katalog.Malzemeler) {
-        if (Türkçe::Karşılaştır(QStringView(malzeme.Ad), QStringView(m_eski)) == 0) continue;
+        if (Türkçe::Aynı(malzeme.Ad, m_eski)) continue;
         m_adlar.append(malzeme.Ad);
         öğeler.append({malzeme.Ad, {}});
     }

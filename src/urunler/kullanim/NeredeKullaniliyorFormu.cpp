@@ -71,10 +71,7 @@ bool NeredeKullanılıyorFormu::Yükle(const QString& malzeme) {
         sonuç = kullanım.Oku(ODBCBağlantısı(), OndalıkBasamak,
                              [&kutu](std::int64_t okunan) { return kutu.Bildir(okunan); });
     }
-    if (!sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return false;
-    }
+    if (!İşSonucunuGöster(sonuç)) return false;
     m_gidilecek = nullptr;
     m_kullanım = std::move(kullanım);
     QList<MalzemeKutusu::Öğe> öğeler;

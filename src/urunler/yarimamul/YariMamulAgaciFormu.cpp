@@ -142,10 +142,7 @@ void YarıMamulAğacıFormu::Yerleştir() {
 }
 
 bool YarıMamulAğacıFormu::Yükle() {
-    if (const İşSonucu sonuç = m_açılım.Oku(ODBCBağlantısı(), m_ürün); !sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return false;
-    }
+    if (!İşSonucunuGöster(m_açılım.Oku(ODBCBağlantısı(), m_ürün))) return false;
     AdetDeğişti();
     return true;
 }

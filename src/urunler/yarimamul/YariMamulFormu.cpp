@@ -142,10 +142,7 @@ bool YarıMamulFormu::Yükle() {
             ürünler.push_back({satır.Metin(1), satır.Metin(2)});
             return true;
         }));
-    if (!sonuç.Tamam()) {
-        İşSonucunuGöster(sonuç);
-        return false;
-    }
+    if (!İşSonucunuGöster(sonuç)) return false;
     m_bağKaynağı.Satırlar.clear();
     for (const YarıMamulBağı& bağ : bağlar->Bağlar()) {
         const std::uint32_t yer = katalog.Dizin.Bul(bağ.Malzeme.toStdString());
@@ -192,10 +189,7 @@ bool YarıMamulFormu::DövizeBağlıDeğil(const YarıMamulBağı& bağ) {
 
 bool YarıMamulFormu::DöngüOlmaz(const YarıMamulBağları& bağlar, const YarıMamulBağı& bağ) {
     QStringList malzemeler;
-    if (const İşSonucu s = ÜrününMalzemeleri(ODBCBağlantısı(), bağ.Ürün, malzemeler); !s.Tamam()) {
-        İşSonucunuGöster(s);
-        return false;
-    }
+    if (!İşSonucunuGöster(ÜrününMalzemeleri(ODBCBağlantısı(), bağ.Ürün, malzemeler))) return false;
     QStringList zincir = bağlar.Zincir(malzemeler, bağ.Malzeme);
     if (zincir.isEmpty()) return true;
     zincir.removeLast();  // the material itself, which the text ends with
@@ -206,10 +200,7 @@ bool YarıMamulFormu::DöngüOlmaz(const YarıMamulBağları& bağlar, const Yar
 
 bool YarıMamulFormu::FiyatıVar(const YarıMamulBağı& bağ) {
     YarıMamulFiyatı fiyat;
-    if (const İşSonucu s = ÜrününFiyatınıHesapla(ODBCBağlantısı(), bağ.Ürün, bağ.Tür, fiyat); !s.Tamam()) {
-        İşSonucunuGöster(s);
-        return false;
-    }
+    if (!İşSonucunuGöster(ÜrününFiyatınıHesapla(ODBCBağlantısı(), bağ.Ürün, bağ.Tür, fiyat))) return false;
     return fiyat.Durum == BağDurumu::Uyuyor ||
            Uyar(Metin(YarıMamulMetni::FiyatHesaplanamıyor)
                     .arg(bağ.Ürün.Grup, bağ.Ürün.Ad, TutarTürüMetni(bağ.Tür), DurumMetni(fiyat.Durum)),
@@ -221,10 +212,7 @@ bool YarıMamulFormu::Bağlanır(const YarıMamulBağı& bağ) {
     for (const QString& ad : {bağ.Malzeme, bağ.Ürün.Grup, bağ.Ürün.Ad})
         if (!Deyimler::Yazılabilir(ad)) return Uyar(Metin(YarıMamulMetni::KesmeliBağlanmaz).arg(ad), *m_malzemeTablosu);
     const YarıMamulBağları* bağlar = nullptr;
-    if (const İşSonucu s = YarıMamulleriAl(ODBCBağlantısı(), bağlar); !s.Tamam()) {
-        İşSonucunuGöster(s);
-        return false;
-    }
+    if (!İşSonucunuGöster(YarıMamulleriAl(ODBCBağlantısı(), bağlar))) return false;
     if (const YarıMamulBağı* eski = bağlar->Bağı(bağ.Malzeme))
         return Uyar(Metin(YarıMamulMetni::ZatenBağlı).arg(eski->Malzeme, eski->Ürün.Grup, eski->Ürün.Ad), *m_bağlar);
     return DövizeBağlıDeğil(bağ) && DöngüOlmaz(*bağlar, bağ) && FiyatıVar(bağ);
