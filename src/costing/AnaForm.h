@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "AnaFormErisimi.h"
+#include "FiyatIsi.h"
 
 enum class MetinNo : int;
 class KomutDüğmesi;
@@ -102,7 +103,11 @@ class AnaForm : public QMainWindow, private AnaFormErişimi {
 
     void FiyatMenüsünüKur();
     void ToplucaFiyatDeğiştir();
+    void YazılanıKoru(const std::function<bool()>& yükle);
     void FiyatlarDeğişti();
+    void ÜrünlerDeğişti();
+    DeğişimÇevirici İşlemÇevirici();
+    bool İşlemiÇevir(const Deyimler::Fiyat::İşlem& işlem, İşlemTürü tür, QWidget* sahip);
 
     void RaporKomutlarınıKur();
     void YazdırmayaİzinVer(bool izin);

@@ -5,7 +5,6 @@
 #include <QMenuBar>
 
 #include "AnaForm.h"
-#include "DegisimIsi.h"
 #include "DovizKurlariFormu.h"
 #include "FiyatGecmisiFormu.h"
 #include "FiyatIsi.h"
@@ -24,7 +23,7 @@ void AnaForm::FiyatMenüsünüKur() {
     };
     const auto değişirse = [this](bool (*iş)(const DeğişimÇevirici&, QWidget*)) {
         return [this, iş] {
-            if (iş(DeğişimiÇevir, this)) FiyatlarDeğişti();
+            if (iş(İşlemÇevirici(), this)) FiyatlarDeğişti();
         };
     };
     girişEkle(QStringLiteral("TopluFiyatMenüsü"), MetinNo::TopluFiyatMenüsü, [this] { ToplucaFiyatDeğiştir(); });
@@ -39,13 +38,19 @@ void AnaForm::FiyatMenüsünüKur() {
         if (form.Uygulandı()) FiyatlarDeğişti();
     });
     girişEkle(QStringLiteral("FiyatGeçmişiMenüsü"), MetinNo::FiyatGeçmişiMenüsü, [this] {
-        FiyatGeçmişiFormu form(DeğişimiÇevir, this);
+        FiyatGeçmişiFormu form(İşlemÇevirici(), this);
         if (form.Yükle()) form.exec();
         if (form.Uygulandı()) FiyatlarDeğişti();
     });
     menü->addSeparator()->setObjectName(QStringLiteral("MenüÇizgisi4"));
     girişEkle(QStringLiteral("GeriAlMenüsü"), MetinNo::GeriAlMenüsü, değişirse(SonİşlemiGeriAl));
     girişEkle(QStringLiteral("YineleMenüsü"), MetinNo::YineleMenüsü, değişirse(SonGeriAlınanıYinele));
+}
+
+DeğişimÇevirici AnaForm::İşlemÇevirici() {
+    return [this](const Deyimler::Fiyat::İşlem& işlem, İşlemTürü tür, QWidget* sahip) {
+        return İşlemiÇevir(işlem, tür, sahip);
+    };
 }
 
 void AnaForm::ToplucaFiyatDeğiştir() {
@@ -61,17 +66,34 @@ void AnaForm::ToplucaFiyatDeğiştir() {
     if (form.Uygulandı()) FiyatlarDeğişti();
 }
 
-// As after a price that was changed in the material's form. Percentages that are typed and not saved stay typed.
-void AnaForm::FiyatlarDeğişti() {
-    const std::int32_t sıra = m_ağaç->SeçiliSıra();
-    if (sıra < 0) return;
+// Percentages that are typed and not saved stay typed where `yükle` has the same product loaded again.
+void AnaForm::YazılanıKoru(const std::function<bool()>& yükle) {
     const bool kaydedilmemiş = m_komutlar.DeğişiklikleriKaydet->isEnabled();
     const MaliyetGirdisi yazılan = m_maliyet->Girdi();
-    DüğümüSeç(sıra);
-    if (!kaydedilmemiş || !m_ürünYüklendi) return;
+    if (!yükle() || !kaydedilmemiş || !m_ürünYüklendi) return;
     m_maliyet->YüzdeleriKoy(yazılan);
     ToplamMaliyetHesapla();
     m_komutlar.DeğişiklikleriKaydet->setEnabled(true);
+}
+
+// As after a price that was changed in the material's form.
+void AnaForm::FiyatlarDeğişti() {
+    const std::int32_t sıra = m_ağaç->SeçiliSıra();
+    if (sıra < 0) return;
+    YazılanıKoru([this, sıra] {
+        DüğümüSeç(sıra);
+        return true;
+    });
+}
+
+// Products have come, gone or become others.
+void AnaForm::ÜrünlerDeğişti() {
+    const QString grup = m_ağaç->SeçiliGrup();
+    const QString ürün = m_ağaç->SeçiliÜrün();
+    YazılanıKoru([&] {
+        AğacıYenidenYükle();
+        return ÜrüneGit(grup, ürün);
+    });
 }
 
 // From the material form: for looking only.

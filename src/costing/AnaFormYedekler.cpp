@@ -1,6 +1,8 @@
 // The main form's way to the backups.
 
 #include "AnaForm.h"
+#include "DegisimIsi.h"
+#include "SecerekGetirme.h"
 #include "UrunAgaci.h"
 #include "YedeklerFormu.h"
 
@@ -8,9 +10,21 @@
 // file.
 void AnaForm::Yedekler() {
     YedeklerFormu form(YedeklerFormu::Açılış::Program, this);
+    form.SeçmedenÖnce([this] { return KaydedilmemişiSor(); });
     form.Yükle();
     form.exec();
-    if (!form.GeriYüklendi()) return;
-    VeriDeğişti({.Hepsi = true});
-    AğacıYenidenYükle();
+    if (form.GeriYüklendi()) {
+        VeriDeğişti({.Hepsi = true});
+        AğacıYenidenYükle();
+    } else if (form.Getirildi()) {
+        ÜrünlerDeğişti();
+    }
+}
+
+// Products may come and go with what was brought in from a backup.
+bool AnaForm::İşlemiÇevir(const Deyimler::Fiyat::İşlem& işlem, İşlemTürü tür, QWidget* sahip) {
+    if (SözcüğünTürü(işlem.Tür) != İşlemTürü::Getir) return DeğişimiÇevir(işlem, tür, sahip);
+    if (!KaydedilmemişiSor() || !GetirmeyiÇevir(işlem, tür, sahip)) return false;
+    ÜrünlerDeğişti();
+    return true;
 }

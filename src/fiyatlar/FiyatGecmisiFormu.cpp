@@ -202,7 +202,7 @@ bool FiyatGeçmişiFormu::Yükle(const QString& malzeme) {
     if (sonuç.Tamam()) sonuç = İşlemleriOku(ODBCBağlantısı(), işlemler);
     if (!İşSonucunuGöster(sonuç)) return false;
     m_işlemler = std::move(işlemler);
-    m_değiştirmeVar = std::any_of(m_işlemler.begin(), m_işlemler.end(), MalzemeDeğişimiMi);
+    m_değiştirmeVar = std::any_of(m_işlemler.begin(), m_işlemler.end(), ÜrünleriDeğiştirir);
     m_işlemYerleri.clear();
     for (std::size_t i = 0; i < m_işlemler.size(); ++i) m_işlemYerleri[m_işlemler[i].No] = i;
     const std::uint32_t seçilen = malzeme.isEmpty() ? AdDizini::YOK : katalog.Dizin.Bul(malzeme.toStdString());
@@ -257,9 +257,14 @@ const Deyimler::Fiyat::İşlem* FiyatGeçmişiFormu::İşlemiBul(std::int64_t no
     if (!m_değiştirmeVar) return {};
     std::vector<std::int64_t> işlemler;
     const İşSonucu sonuç = MalzemeninDeğiştirmeleri(ODBCBağlantısı(), malzeme, işlemler);
-    for (const std::int64_t no : işlemler)
-        if (const Deyimler::Fiyat::İşlem* işlem = İşlemiBul(no))
-            m_geçmiş->Satırlar.push_back({{no, malzeme, {}, {}}, işlem, false});
+    const std::size_t fiyatlar = m_geçmiş->Satırlar.size();
+    for (const std::int64_t no : işlemler) {
+        const auto fiyatlı = std::any_of(m_geçmiş->Satırlar.begin() + static_cast<std::ptrdiff_t>(ilk),
+                                         m_geçmiş->Satırlar.begin() + static_cast<std::ptrdiff_t>(fiyatlar),
+                                         [no](const auto& satır) { return satır.Değişim.İşlem == no; });
+        const Deyimler::Fiyat::İşlem* işlem = İşlemiBul(no);
+        if (işlem && !fiyatlı) m_geçmiş->Satırlar.push_back({{no, malzeme, {}, {}}, işlem, false});
+    }
     const auto sıra = [](const GeçmişKaynağı::Satır& satır) {
         return satır.İşlem ? satır.Değişim.İşlem : std::numeric_limits<std::int64_t>::max();
     };
@@ -274,7 +279,7 @@ void FiyatGeçmişiFormu::HerDeğiştirmeyiEkle() {
     const std::int64_t son = m_fazlaVar ? satırlar.back().Değişim.İşlem : 0;
     for (const Deyimler::Fiyat::İşlem& işlem : m_işlemler) {
         const Deyimler::Fiyat::İşlem* asıl = işlem.Karşılığı == 0 ? &işlem : İşlemiBul(işlem.Karşılığı);
-        if (işlem.No >= son && asıl && MalzemeDeğişimiMi(*asıl))
+        if (işlem.No >= son && asıl && ÜrünleriDeğiştirir(*asıl))
             satırlar.push_back({{işlem.No, {}, {}, {}}, &işlem, false});
     }
     std::stable_sort(satırlar.begin(), satırlar.end(),

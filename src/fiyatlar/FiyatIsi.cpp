@@ -22,7 +22,7 @@ void Bildir(MetinNo metin) {
 }
 
 bool GeriAlYaDaYinele(const İşlem& işlem, İşlemTürü tür, const DeğişimÇevirici& çevir, QWidget* sahip) {
-    if (MalzemeDeğişimiMi(işlem)) return çevir(işlem, tür, sahip);
+    if (ÜrünleriDeğiştirir(işlem)) return çevir(işlem, tür, sahip);
     const MetinNo açıklama = tür == İşlemTürü::GeriAlma ? MetinNo::GeriAlmaAçıklaması : MetinNo::YinelemeAçıklaması;
     const Fiyatİşi iş{{tür, Metin(açıklama).arg(işlem.No).arg(işlem.Açıklama), işlem.No, işlem.GeriAlan},
                       [işlem, tür](FiyatTeklifi& teklif, QStringList& notlar) {

@@ -21,8 +21,8 @@ struct Fiyatİşi {
 // Makes the plan, shows it, carries it out if the user wants it. True: carried out.
 bool FiyatİşiniYürüt(const Fiyatİşi& iş, QWidget* sahip);
 
-// Takes back (GeriAlma) or puts forward (Yineleme) an operation that changed used rows and no prices. The room that has
-// such operations supplies it. True: carried out.
+// Takes back (GeriAlma) or puts forward (Yineleme) an operation that changed products' rows themselves
+// (ÜrünleriDeğiştirir). The rooms that have such operations supply it. True: carried out.
 using DeğişimÇevirici = std::function<bool(const Deyimler::Fiyat::İşlem& işlem, İşlemTürü tür, QWidget* sahip)>;
 
 // Tells what became of carrying out a plan that a preview shows, and what the preview has to do. `yazılamadı`: the text

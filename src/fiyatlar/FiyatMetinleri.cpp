@@ -5,6 +5,7 @@
 #include "MetinTablosu.h"
 #include "SayiMetni.h"
 #include "YariMamulMetinleri.h"
+#include "GetirmeMetinleri.h"
 
 namespace {
 
@@ -100,6 +101,8 @@ QString TürMetni(const QString& sözcük) {
             return Metin(YarıMamulMetni::TürYarıMamul);
         case İşlemTürü::Değiştir:
             return Metin(KullanımMetni::TürDeğiştir);
+        case İşlemTürü::Getir:
+            return Metin(GetirmeMetni::TürGetir);
         case İşlemTürü::Yineleme:
             break;
     }

@@ -131,17 +131,6 @@ UygulamaSonucu Olmadı(const OdbcSonucu& odbc) {
     return {UygulamaSonu::Olmadı, odbc, {}};
 }
 
-UygulamaSonucu MalzemeleriYaz(Yazıcı& yazıcı, const FiyatPlanı& plan, const İlerleme& ilerleme) {
-    std::int64_t biten = 0;
-    for (const PlanMalzemesi& malzeme : plan.Malzemeler()) {
-        if (!malzeme.İşaretli) continue;
-        UygulamaSonucu sonuç = yazıcı.MalzemeyiYaz(malzeme);
-        if (sonuç.Son != UygulamaSonu::Tamam) return sonuç;
-        if (ilerleme && !ilerleme(++biten)) return {UygulamaSonu::Vazgeçildi, {}, {}};
-    }
-    return {};
-}
-
 OdbcSonucu BağıYaz(OdbcBağlantısı& bağlantı, const FiyatPlanı& plan, bool tabloVar) {
     const YarıMamulBağı* bağ = plan.Bağ();
     if (!bağ) return {};
@@ -175,6 +164,19 @@ UygulamaSonucu KuruYaz(OdbcBağlantısı& bağlantı, const FiyatPlanı& plan, s
 }
 
 }  // namespace
+
+UygulamaSonucu FiyatlarıYaz(OdbcBağlantısı& bağlantı, const FiyatPlanı& plan, std::int64_t işlem,
+                            const İlerleme& ilerleme) {
+    Yazıcı yazıcı(bağlantı, işlem);
+    std::int64_t biten = 0;
+    for (const PlanMalzemesi& malzeme : plan.Malzemeler()) {
+        if (!malzeme.İşaretli) continue;
+        UygulamaSonucu sonuç = yazıcı.MalzemeyiYaz(malzeme);
+        if (sonuç.Son != UygulamaSonu::Tamam) return sonuç;
+        if (ilerleme && !ilerleme(++biten)) return {UygulamaSonu::Vazgeçildi, {}, {}};
+    }
+    return {};
+}
 
 UygulamaSonucu İşlemiAç(OdbcBağlantısı& bağlantı, OdbcHareketi& hareket, const İşlemBilgisi& bilgi,
                         Deyimler::Fiyat::İşlem& işlem) {
@@ -215,8 +217,7 @@ UygulamaSonucu FiyatlarıUygula(OdbcBağlantısı& bağlantı, const FiyatPlanı
     if (UygulamaSonucu s = İşlemiAç(bağlantı, hareket, bilgi, işlem); s.Son != UygulamaSonu::Tamam) return s;
     if (plan.DövizKuru())
         if (UygulamaSonucu s = KuruYaz(bağlantı, plan, işlem.No); s.Son != UygulamaSonu::Tamam) return s;
-    Yazıcı yazıcı(bağlantı, işlem.No);
-    if (UygulamaSonucu s = MalzemeleriYaz(yazıcı, plan, ilerleme); s.Son != UygulamaSonu::Tamam) return s;
+    if (UygulamaSonucu s = FiyatlarıYaz(bağlantı, plan, işlem.No, ilerleme); s.Son != UygulamaSonu::Tamam) return s;
     if (const OdbcSonucu s = BağıYaz(bağlantı, plan, bağTablosuVar); !s.Başarılı()) return Olmadı(s);
     VeriDeğişimi değişim;
     değişim.FiyatlarTam = true;

@@ -36,6 +36,11 @@ struct [[nodiscard]] UygulamaSonucu {
 UygulamaSonucu İşlemiAç(OdbcBağlantısı& bağlantı, OdbcHareketi& hareket, const İşlemBilgisi& bilgi,
                         Deyimler::Fiyat::İşlem& işlem);
 
+// The ticked materials of the plan, with what the operation's record keeps of them, within the transaction that is
+// under way; stops at the first that is not as planned.
+UygulamaSonucu FiyatlarıYaz(OdbcBağlantısı& bağlantı, const FiyatPlanı& plan, std::int64_t işlem,
+                            const İlerleme& ilerleme = {});
+
 // `zaman`: local, "yyyy-MM-dd HH:mm:ss". `ilerleme` is told how many materials are done; it is not asked any more once
 // committing has begun.
 UygulamaSonucu FiyatlarıUygula(OdbcBağlantısı& bağlantı, const FiyatPlanı& plan, const İşlemBilgisi& bilgi,

@@ -7,7 +7,7 @@
 namespace {
 
 // The stored words are part of the file format.
-constexpr const char* SÖZCÜKLER[] = {"elle", "toplu", "liste", "kur", "geri", "yine", "yari", "degistir"};
+constexpr const char* SÖZCÜKLER[] = {"elle", "toplu", "liste", "kur", "geri", "yine", "yari", "degistir", "getir"};
 
 }  // namespace
 
@@ -19,6 +19,11 @@ std::optional<İşlemTürü> SözcüğünTürü(const QString& sözcük) {
     for (int i = 0; i < static_cast<int>(std::size(SÖZCÜKLER)); ++i)
         if (sözcük == QLatin1String(SÖZCÜKLER[i])) return static_cast<İşlemTürü>(i);
     return std::nullopt;
+}
+
+bool ÜrünleriDeğiştirir(const Deyimler::Fiyat::İşlem& işlem) {
+    const std::optional<İşlemTürü> tür = SözcüğünTürü(işlem.Tür);
+    return tür == İşlemTürü::Değiştir || tür == İşlemTürü::Getir;
 }
 
 İşSonucu FiyatTablolarıVar(OdbcBağlantısı& bağlantı, bool& var) {

@@ -18,10 +18,14 @@ enum class İşlemTürü {
     GeriAlma,
     Yineleme,   // putting forward again what was taken back
     YarıMamul,  // the price with which a material was tied to its product
-    Değiştir    // a material put in another one's place; it changes used rows, and no price of the catalogue
+    Değiştir,   // a material put in another one's place; it changes used rows, and no price of the catalogue
+    Getir       // products and prices brought in from a backup
 };
 QString TürSözcüğü(İşlemTürü tür);  // as it is stored
 std::optional<İşlemTürü> SözcüğünTürü(const QString& sözcük);
+
+// Whether the operation changed products' rows themselves, so that its way back has a plan and a preview of its own.
+bool ÜrünleriDeğiştirir(const Deyimler::Fiyat::İşlem& işlem);
 
 // Whether the tables are there; without them nothing has been recorded yet.
 İşSonucu FiyatTablolarıVar(OdbcBağlantısı& bağlantı, bool& var);

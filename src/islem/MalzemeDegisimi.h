@@ -124,10 +124,7 @@ bool AynıSatırlar(const std::vector<KullanılanSatır>& a, const std::vector<K
 // none.
 std::optional<KullanılanSatır> KullanılanSatırıAl(OdbcSatırı& satır, int ilk = 1);
 
-// Whether the operation changed used rows itself.
-bool MalzemeDeğişimiMi(const Deyimler::Fiyat::İşlem& işlem);
-
-// To be asked where there is such an operation: the numbers of those that replaced the material or put it in another
-// one's place, and of those that took them back or put them forward.
+// To be asked where there is an operation that changed products' rows (ÜrünleriDeğiştirir): the numbers of those that
+// deleted or wrote rows of the material, and of those that took them back or put them forward.
 İşSonucu MalzemeninDeğiştirmeleri(OdbcBağlantısı& bağlantı, const QString& malzeme,
                                   std::vector<std::int64_t>& işlemler);

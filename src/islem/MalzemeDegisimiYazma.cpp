@@ -133,10 +133,6 @@ std::optional<KullanılanSatır> KullanılanSatırıAl(OdbcSatırı& satır, int
                            satır.Metin(ilk + 3), TarihYazımı(tarih),   *fiyat};
 }
 
-bool MalzemeDeğişimiMi(const Deyimler::Fiyat::İşlem& işlem) {
-    return SözcüğünTürü(işlem.Tür) == İşlemTürü::Değiştir;
-}
-
 İşSonucu MalzemeninDeğiştirmeleri(OdbcBağlantısı& bağlantı, const QString& malzeme,
                                   std::vector<std::int64_t>& işlemler) {
     işlemler.clear();

@@ -34,6 +34,7 @@ const char* YarıMamulMetniBul(MetinNo numara);
 const char* ÇizelgeMetniBul(MetinNo numara);
 const char* ErişimMetniBul(MetinNo numara);
 const char* YedekMetniBul(MetinNo numara);
-inline constexpr const char* (*Bulucular[])(MetinNo) = {AnaMetniBul,      FiyatMetniBul,  ÜrünMetniBul,
-                                                        KullanımMetniBul, ArşivMetniBul,  YarıMamulMetniBul,
-                                                        ÇizelgeMetniBul,  ErişimMetniBul, YedekMetniBul};
+const char* GetirmeMetniBul(MetinNo numara);
+inline constexpr const char* (*Bulucular[])(MetinNo) = {
+    AnaMetniBul,       FiyatMetniBul,   ÜrünMetniBul,   KullanımMetniBul, ArşivMetniBul,
+    YarıMamulMetniBul, ÇizelgeMetniBul, ErişimMetniBul, YedekMetniBul,    GetirmeMetniBul};

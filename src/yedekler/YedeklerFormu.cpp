@@ -9,8 +9,10 @@
 
 #include "FormParcalari.h"
 #include "GeriYukleme.h"
+#include "GetirmeMetinleri.h"
 #include "OdbcModulu.h"
 #include "OdbcYedek.h"
+#include "SecerekGetirme.h"
 #include "Tablo.h"
 #include "YedekIsi.h"
 #include "YedekMetinleri.h"
@@ -46,14 +48,16 @@ void YedeklerFormu::Yerleştir() {
     auto* şimdi = DüğmeOluştur(QStringLiteral("ŞimdiYedekleButonu"), YedekMetni::ŞimdiYedekle, [this] { Yedekle(); });
     auto* başka = DüğmeOluştur(QStringLiteral("BaşkaKlasöreButonu"), YedekMetni::BaşkaKlasöre, [this] { DışarıYaz(); });
     m_geriYükle = DüğmeOluştur(QStringLiteral("GeriYükleButonu"), YedekMetni::GeriYükle, [this] { GeriYükle(); });
+    m_seçerekGetir = DüğmeOluştur(QStringLiteral("SeçerekGetirButonu"), GetirmeMetni::SeçerekGetir, [this] { Seç(); });
     auto* aç = DüğmeOluştur(QStringLiteral("DosyaAçButonu"), YedekMetni::DosyaAç, [this] { DosyaAç(); });
     auto* kapat = DüğmeOluştur(QStringLiteral("KapatButonu"), MetinNo::Kapat, [this] { reject(); });
     auto* düzen = new QVBoxLayout(this);
     düzen->addWidget(TabloBölümü(1, YedekMetni::YedeklerEtiketi, m_tablo), 1);
-    düzen->addLayout(DüğmeSırası({şimdi, başka, m_geriYükle, aç, nullptr, kapat}));
+    düzen->addLayout(DüğmeSırası({şimdi, başka, m_geriYükle, m_seçerekGetir, aç, nullptr, kapat}));
     const bool program = m_açılış == Açılış::Program;
     şimdi->setVisible(program);
     başka->setVisible(program);
+    m_seçerekGetir->setVisible(program);
     m_tablo->setFocus();
     BoyVer(*this, {1150, 560});
 }
@@ -102,6 +106,7 @@ void YedeklerFormu::Denetle() {
 
 void YedeklerFormu::SeçimDeğişti() {
     m_geriYükle->setEnabled(m_tablo->SeçiliSatır().has_value());
+    m_seçerekGetir->setEnabled(m_tablo->SeçiliSatır().has_value());
 }
 
 void YedeklerFormu::Yedekle() {
@@ -142,5 +147,14 @@ void YedeklerFormu::GeriYükle() {
         accept();
         return;
     }
+    Yükle();
+}
+
+void YedeklerFormu::Seç() {
+    const std::optional<std::size_t> seçili = m_tablo->SeçiliSatır();
+    if (!seçili || (m_seçmedenÖnce && !m_seçmedenÖnce())) return;
+    m_denetim.Durdur();
+    const YedekSatırı satır = m_kaynak.Satırlar[*seçili];
+    m_getirildi |= SeçerekGetir(m_yollar, satır, this);
     Yükle();
 }

@@ -22,6 +22,10 @@ class YedeklerFormu : public QDialog {
 
     void Yükle();
     bool GeriYüklendi() const { return m_geriYüklendi; }
+    bool Getirildi() const { return m_getirildi; }  // something from a backup
+
+    // Asked before anything is picked from a backup; false: not now.
+    void SeçmedenÖnce(std::function<bool()> sor) { m_seçmedenÖnce = std::move(sor); }
 
   private:
     void Yerleştir();
@@ -31,6 +35,7 @@ class YedeklerFormu : public QDialog {
     void DışarıYaz();
     void DosyaAç();
     void GeriYükle();
+    void Seç();
     QString Damga() const;
 
     Açılış m_açılış;
@@ -40,6 +45,9 @@ class YedeklerFormu : public QDialog {
     Tablo* m_tablo;
     QLabel* m_not;
     KomutDüğmesi* m_geriYükle;
+    KomutDüğmesi* m_seçerekGetir;
+    std::function<bool()> m_seçmedenÖnce;
     bool m_geriYüklendi = false;
+    bool m_getirildi = false;
     SıralıDenetim m_denetim;  // the last to be made, the first to go
 };

@@ -168,7 +168,7 @@ TEST_F(MalzemeDeğişimi, UygulanırGeriAlınırYinelenir) {
     std::vector<Deyimler::Fiyat::İşlem> işlemler;
     ASSERT_TRUE(İşlemleriOku(Bağ(), işlemler).Tamam());
     ASSERT_EQ(GeriAlınacakİşlem(işlemler)->No, 1);
-    EXPECT_TRUE(MalzemeDeğişimiMi(işlemler[0]));
+    EXPECT_TRUE(ÜrünleriDeğiştirir(işlemler[0]));
     const DeğişimPlanı geri = Dönüş(1, true);
     EXPECT_EQ(geri.Özet().Ürün, özet.Ürün);
     for (const DeğişenÜrün& ü : geri.Ürünler()) {

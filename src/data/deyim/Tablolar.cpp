@@ -4,6 +4,7 @@
 #include "DegisimDeyimleri.h"
 #include "DovizDeyimleri.h"
 #include "FiyatDeyimleri.h"
+#include "GetirmeDeyimleri.h"
 #include "TedarikciDeyimleri.h"
 #include "YariMamulDeyimleri.h"
 
@@ -39,6 +40,7 @@ QList<QStringList> TabloTakımları() {
     return {AnaTablolar(),
             Fiyat::TablolarıOluştur(),
             Değiştirme::TabloyuOluştur(),
+            Getirme::TabloyuOluştur(),
             Döviz::TablolarıOluştur(),
             Tedarikçi::TablolarıOluştur(),
             YarıMamul::TablolarıOluştur(),
