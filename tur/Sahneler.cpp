@@ -160,8 +160,9 @@ std::vector<Sahne> Sahneler() {
     for (Sahne& sahne : KatalogSahneleri()) sahneler.push_back(std::move(sahne));
     for (Sahne& sahne : RaporSahneleri()) sahneler.push_back(std::move(sahne));
     for (Sahne& sahne : ÜrünSahneleri()) sahneler.push_back(std::move(sahne));
+    // The last ones: they change the data.
+    for (Sahne& sahne : FiyatSahneleri()) sahneler.push_back(std::move(sahne));
     for (Sahne& sahne : YedekSahneleri()) sahneler.push_back(std::move(sahne));
-    for (Sahne& sahne : FiyatSahneleri()) sahneler.push_back(std::move(sahne));  // last: they change the data
     return sahneler;
 }
 

@@ -32,11 +32,11 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     Tıkla("İçindekilerMenüsü");
     const char* tarih = "GünlükMalzemeHareketleriGösterButonu";
     const char* nerede = "NeredeKullanılıyorMenüsü";
+    const char* yedekler = "YedeklerMenüsü";
     const char* toplu = "TopluFiyatMenüsü";
     const char* arşiv = "MaliyetArşiviMenüsü";
     for (const auto& [açan, form] : {std::pair("ÜrünEkleSilMenüsü", "ÜrünEkleSilFormu"),
                                      {"MalzemeEkleSilMenüsü", "MalzemeEkleSilFormu"},
-                                     {"YedeklerMenüsü", "YedeklerFormu"},
                                      {"ListeyeMalzemeEkleButonu", "MalzemeListesiOluşturFormu"},
                                      {"MiktarlarıGösterDüğmesi", "MiktarGösterFormu"},
                                      {tarih, "MalzemeHareketleriFormu"},
@@ -56,9 +56,10 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                                      {"DövizKurlarıMenüsü", "DövizKurlarıFormu"},
                                      {"FiyatGeçmişiMenüsü", "FiyatGeçmişiFormu"},
                                      {"HakkındaMenüsü", "HakkındaFormu"},
-                                     {"HataBildirmeMenüsü", "HataBildirmeFormu"}}) {
+                                     {"HataBildirmeMenüsü", "HataBildirmeFormu"},
+                                     {yedekler, "YedeklerFormu"}}) {
         SCOPED_TRACE(form);
-        Modal(açan, form, [this, açan = açan, tarih, toplu, arşiv, nerede] {
+        Modal(açan, form, [this, açan = açan, tarih, toplu, arşiv, nerede, yedekler] {
             FormuOku();
             if (açan == tarih) Modal("TarihDeğiştirButonu", "TarihDeğiştirFormu", [this] { FormuOku(); });
             if (açan == arşiv) {
@@ -70,6 +71,13 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
                     Bul<QTabWidget>("BölümSayfaları").setCurrentIndex(sayfa);
                     ErişimiDenetle(Form());
                 }
+            }
+            if (açan == yedekler) {
+                Kutular().Yanıtla(Yanıt::Tamam);
+                Tıkla("ŞimdiYedekleButonu");
+                Veri().Çalıştır("DELETE FROM UrunTablosu WHERE UrunAdi= 'Sehpa'");
+                m_veri.reset();
+                Modal("SeçerekGetirButonu", "SeçerekGetirFormu", [this] { FormuOku(); });
             }
             if (açan == nerede)
                 Modal("DeğiştirButonu", "MalzemeDeğiştirFormu", [this] {
@@ -86,13 +94,13 @@ TEST_F(YardımMenüsü, EkranOkuyucuHerFormuOkurVeF1SayfasınıAçar) {
     QStringList sayfalar;
     for (const QUrl& adres : m_açılanlar) sayfalar += adres.fileName().remove(".html");
     EXPECT_EQ(sayfalar.join(' '),
-              "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu YedeklerFormu MalzemeListesiOlusturFormu "
+              "AnaForm AnaForm UrunEkleSilFormu MalzemeEkleSilFormu MalzemeListesiOlusturFormu "
               "MiktarGosterFormu "
               "MalzemeHareketleriFormu TarihDegistirFormu MalzemeListesiFormu UrunListesiFormu MaliyetTablosuFormu "
               "MaliyetDagilimiFormu UrunKopyalaFormu NeredeKullaniliyorFormu MalzemeDegistirFormu "
               "DegisimOnizlemeFormu YariMamulFormu YariMamulAgaciFormu MaliyetArsiviFormu ArsivFoyuFormu "
               "SatisFiyatListesiFormu BulFormu TopluFiyatFormu FiyatOnizlemeFormu FiyatListesiAlFormu "
-              "DovizKurlariFormu FiyatGecmisiFormu HakkindaFormu HataBildirmeFormu");
+              "DovizKurlariFormu FiyatGecmisiFormu HakkindaFormu HataBildirmeFormu YedeklerFormu SecerekGetirFormu");
 }
 
 }  // namespace

@@ -100,6 +100,55 @@ TEST_F(YedeklerFormuTesti, GeriYüklenenFormdaGörünürEskisiSaklanır) {
     EXPECT_TRUE(KopyaAdları().join(' ').contains("once.ydk"));
 }
 
+TEST_F(YedeklerFormuTesti, SeçilenGelirAğaçtaGörünürGeriAlınır) {
+    ÜrünEkle("MASA", "Kitaplık");
+    Aç();
+    Seç("MASA", "Kitaplık");
+    Modal("YedeklerMenüsü", "YedeklerFormu", [this] {
+        Kutular().Yanıtla(Yanıt::Tamam);
+        Tıkla("ŞimdiYedekleButonu");
+        Denetlenenler();
+        // The same as the data: there is nothing to pick from.
+        Kutular().Yanıtla(Yanıt::Tamam);
+        Tıkla("SeçerekGetirButonu");
+        Çalıştır(Deyimler::ÜrünüSil("MASA", "Sehpa"));
+        Çalıştır(Deyimler::ÜrününMalzemeleriniSil("MASA", "Sehpa"));
+        Çalıştır(Deyimler::MalzemeSil("Çam Kereste"));
+        m_veri.reset();
+        const QModelIndex satır = Bul<QAbstractItemView>(TABLO).model()->index(0, 0);
+        Tıkla(TABLO, satır, Qt::ControlModifier);
+        EXPECT_FALSE(Etkin("SeçerekGetirButonu")) << "nothing is selected";
+        Tıkla(TABLO, satır);
+        Modal("SeçerekGetirButonu", "SeçerekGetirFormu", [this] {
+            EXPECT_FALSE(Etkin("GetirButonu"));
+            auto& model = *Bul<QAbstractItemView>("FarkTablosu").model();
+            EXPECT_TRUE(model.setData(model.index(0, 0), Qt::Checked, Qt::CheckStateRole));
+            EXPECT_EQ(Satırlar("FarkTablosu"),
+                      "ürün|MASA|Sehpa|şimdi yok|10,00||10,00|; "
+                      "malzeme||Çam Kereste|şimdi yok|4,00||4,00|ürünle birlikte kataloğa eklenir");
+            // What comes along cannot be left behind.
+            model.setData(model.index(1, 0), Qt::Unchecked, Qt::CheckStateRole);
+            EXPECT_EQ(model.index(1, 0).data(Qt::CheckStateRole).toInt(), Qt::Checked);
+            {
+                const DoluDisk dolu;
+                Kutular().Yanıtla(Yanıt::Tamam);
+                Tıkla("GetirButonu");
+            }
+            EXPECT_EQ(Oku("SELECT UrunAdi FROM UrunTablosu"), "Kitaplık");
+            m_veri.reset();
+            Kutular().Yanıtla(Yanıt::Tamam);
+            Tıkla("GetirButonu");
+        });
+    });
+    EXPECT_EQ(Satırlar(Ağaç), "MASA; -Kitaplık; -Sehpa");
+    EXPECT_EQ(Oku("SELECT UrunAdi, KullanilanMalzemeAdi FROM UrunMalzemeTablosu"), "Sehpa|Çam Kereste");
+    EXPECT_EQ(KopyaAdları().filter("once").size(), 1);
+    m_veri.reset();
+    Modal("GeriAlMenüsü", "SeçerekGetirFormu", [this] { Tıkla("GetirButonu"); });
+    EXPECT_EQ(Satırlar(Ağaç), "MASA; -Kitaplık");
+    EXPECT_EQ(Oku("SELECT MalzemeAdi FROM MalzemeTablosu"), "");
+}
+
 TEST_F(YedeklerFormuTesti, KapanıştaDeğişenYedeklenir) {
     m_veri.reset();
     ODBCBağlantısınıKapat();
