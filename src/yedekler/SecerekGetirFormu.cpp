@@ -82,8 +82,8 @@ void SeçerekGetirFormu::KontrolleriKur() {
 void SeçerekGetirFormu::Yerleştir() {
     m_getir = DüğmeOluştur(QStringLiteral("GetirButonu"), m_istek.Yedek ? GetirmeMetni::Getir : GetirmeMetni::Uygula,
                            [this] { Getir(); });
-    auto* hepsi = DüğmeOluştur(QStringLiteral("TümünüSeçButonu"), MetinNo::GörünenleriİşaretleDüğmesi,
-                               [this] { Görünenleriİşaretle(); });
+    auto* hepsi =
+        DüğmeOluştur(QStringLiteral("TümünüSeçButonu"), GetirmeMetni::Tümünüİşaretle, [this] { Tümünüİşaretle(); });
     auto* aktar = DüğmeOluştur(QStringLiteral("TabloyaAktarButonu"), ÜrünMetni::TabloyaAktar, [this] { Çizelgeye(); });
     auto* iptal = DüğmeOluştur(QStringLiteral("İptalButonu"), MetinNo::Vazgeç, [this] { reject(); });
     auto* bölen = new QSplitter(Qt::Vertical);
@@ -161,8 +161,8 @@ void SeçerekGetirFormu::AyrıntıyıYaz() {
     m_ayrıntıModeli.Yenile();
 }
 
-// Ticks the shown rows; once all of them are, takes their ticks away.
-void SeçerekGetirFormu::Görünenleriİşaretle() {
+// Ticks all rows; once all of them are, takes their ticks away.
+void SeçerekGetirFormu::Tümünüİşaretle() {
     bool hepsi = true;
     for (const GetirmeKalemi& kalem : m_plan.Kalemler()) hepsi = hepsi && (kalem.İşaretli || !Uygulanır(kalem.Neden));
     m_model.Görünenleriİşaretle(!hepsi);

@@ -26,7 +26,7 @@ class SeçerekGetirFormu : public QDialog {
     void Dene();
     void ÖzetiYaz();
     void AyrıntıyıYaz();
-    void Görünenleriİşaretle();
+    void Tümünüİşaretle();
     void Getir();
     UygulamaSonucu Yürüt(QStringList& çözülenler);
     void Çizelgeye();
