@@ -7,11 +7,13 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "CizelgeKaydi.h"
 #include "FormParcalari.h"
 #include "GeriYukleme.h"
 #include "OdbcModulu.h"
 #include "OdbcYedek.h"
 #include "Tablo.h"
+#include "UrunMetinleri.h"
 #include "YedekIsi.h"
 #include "YedekMetinleri.h"
 
@@ -50,7 +52,8 @@ void YedeklerFormu::Yerleştir() {
     auto* kapat = DüğmeOluştur(QStringLiteral("KapatButonu"), MetinNo::Kapat, [this] { reject(); });
     auto* düzen = new QVBoxLayout(this);
     düzen->addWidget(TabloBölümü(1, YedekMetni::YedeklerEtiketi, m_tablo), 1);
-    düzen->addLayout(DüğmeSırası({şimdi, başka, m_geriYükle, aç, nullptr, kapat}));
+    auto* aktar = TabloyaAktarDüğmesi(ÜrünMetni::TabloyaAktar, m_model);
+    düzen->addLayout(DüğmeSırası({şimdi, başka, m_geriYükle, aç, aktar, nullptr, kapat}));
     const bool program = m_açılış == Açılış::Program;
     şimdi->setVisible(program);
     başka->setVisible(program);
