@@ -8,6 +8,7 @@
 #include "ListeCizelgesi.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
+#include "TabloModeli.h"
 
 void ÇizelgeyeKaydet(QWidget& form, const QString& ad, const std::function<YazmaSonucu(const QString& yol)>& yaz) {
     const QString yol = KaydedilecekYer(form, ad,
@@ -35,5 +36,12 @@ KomutDüğmesi* TabloyaAktarDüğmesi(MetinNo metin, const TabloModeli& model, c
         const QString sayfa = başlık ? başlık() : form.windowTitle();
         ÇizelgeyeKaydet(form, sayfa, [&](const QString& yol) { return TabloyuÇizelgeyeYaz(yol, sayfa, model); });
     });
+    DoluykenEtkin(**düğme, model);
     return *düğme;
+}
+
+void DoluykenEtkin(KomutDüğmesi& düğme, const TabloModeli& model) {
+    const auto ayarla = [&düğme, &model] { düğme.setEnabled(model.rowCount() > 0); };
+    QObject::connect(&model, &QAbstractItemModel::modelReset, &düğme, ayarla);
+    ayarla();
 }

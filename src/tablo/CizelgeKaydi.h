@@ -14,7 +14,11 @@ enum class MetinNo : int;
 // stood there.
 void ÇizelgeyeKaydet(QWidget& form, const QString& ad, const std::function<YazmaSonucu(const QString& yol)>& yaz);
 
-// The button that does so with the shown rows of a table. `başlık`: name of file and sheet; empty: the form's title.
+// The button that does so with the shown rows of a table; enabled while there are some. `başlık`: name of file and
+// sheet; empty: the form's title.
 KomutDüğmesi* TabloyaAktarDüğmesi(MetinNo metin, const TabloModeli& model,
                                   const QString& ad = QStringLiteral("TabloyaAktarButonu"),
                                   const std::function<QString()>& başlık = {});
+
+// A button that is enabled while the table shows rows.
+void DoluykenEtkin(KomutDüğmesi& düğme, const TabloModeli& model);

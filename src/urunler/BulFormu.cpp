@@ -74,6 +74,7 @@ void BulFormu::Yerleştir() {
     düzen->addLayout(liste);
     düzen->addWidget(m_tablo, 1);
     auto* aktar = DüğmeOluştur(QStringLiteral("TabloyaAktarButonu"), ÜrünMetni::TabloyaAktar, [this] { Çizelgeye(); });
+    DoluykenEtkin(*aktar, m_model);
     düzen->addLayout(DüğmeSırası({m_git, aktar, nullptr, kapat}));
     m_kutu->setFocus();
     BoyVer(*this, {640, 460});
