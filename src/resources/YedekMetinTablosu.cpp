@@ -75,6 +75,9 @@ constexpr MetinSatırı Tablo[] = {
      "Veri dosyasına yeniden bağlanılamadı. Lütfen, programı kapatıp yeniden başlatınız."},
     {YedekMetni::BaşlangıçtaSunum,
      "Veri dosyanız açılamıyor; ama tarihli yedekler var. Bunlardan birini geri yüklemek ister misiniz?"},
+    {YedekMetni::GeriYüklendiDoğrulanamadı,
+     "Yedek veri dosyasının yerine kondu, ama diskte kaldığı doğrulanamadı. Önceki verilerin saklandığı yer aşağıdaki "
+     "son satırda.\n%1\n%2"},
     {YedekMetni::TabloAçıklaması, "%1\n%2"},
 };
 

@@ -7,6 +7,8 @@
 #include "OrtakFonksiyonlarModulu.h"
 #include "DegiskenModulu.h"
 #include "ErisimdenAlma.h"
+#include "GundeBir.h"
+#include "KopyaYazma.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "OdbcModulu.h"
@@ -29,12 +31,7 @@ void KutuGöster(MesajKutusu::Simge simge, MetinNo metin, const QString& yol) {
 
 // A backup that cannot be made is told once a day.
 void GündeBirUyar(const QString& metin) {
-    const QString bölüm = QStringLiteral("Ayarlar");
-    const QString anahtar = QStringLiteral("YedekUyarisi");
-    const QString bugün = AyMetni(Bugün());
-    if (AyarOku(bölüm, anahtar, {}) == bugün) return;
-    AyarYaz(bölüm, anahtar, bugün);
-    KutuGöster(MesajKutusu::Simge::Ünlem, metin);
+    ::GündeBirUyar(QStringLiteral("YedekUyarisi"), metin);
 }
 
 QString YedekAlınamadıMetni(const VeriYolları& yollar, const QString& neden) {
@@ -105,6 +102,7 @@ bool VeritabanınıHazırla(const YedekSunumu& sun) {
     const bool yedekKlasörüVar = KlasörYap(yollar.YedekKlasörü);
     yollar.GerçekYedek = GerçekYol(yollar.Yedek);
     YarımAçılmışlarıSil(yollar.YedekKlasörü);
+    YarımKopyalarıSil(yollar.YedekKlasörü);
     // An Access file is taken over first, with progress: looking at it would do so without.
     if (sun && KopyaVar(yollar) && !ErişimDosyasıVar(yollar) && BaşlangıçBiter(yollar)) sun();
     if (!YerlerUygun(yollar)) return false;

@@ -1,6 +1,6 @@
 #include "SecerekGetirFormu.h"
 
-#include <QFile>
+#include <QDateTime>
 #include <QFileInfo>
 #include <QItemSelectionModel>
 #include <QLabel>
@@ -16,7 +16,6 @@
 #include "GetirmeMetinleri.h"
 #include "IlerlemeKutusu.h"
 #include "KopyaYazma.h"
-#include "ListeCizelgesi.h"
 #include "MesajKutusu.h"
 #include "OdbcModulu.h"
 #include "Saat.h"
@@ -84,7 +83,7 @@ void SeçerekGetirFormu::Yerleştir() {
                            [this] { Getir(); });
     auto* hepsi =
         DüğmeOluştur(QStringLiteral("TümünüSeçButonu"), GetirmeMetni::Tümünüİşaretle, [this] { Tümünüİşaretle(); });
-    auto* aktar = DüğmeOluştur(QStringLiteral("TabloyaAktarButonu"), ÜrünMetni::TabloyaAktar, [this] { Çizelgeye(); });
+    auto* aktar = TabloyaAktarDüğmesi(ÜrünMetni::TabloyaAktar, m_model);
     auto* iptal = DüğmeOluştur(QStringLiteral("İptalButonu"), MetinNo::Vazgeç, [this] { reject(); });
     auto* bölen = new QSplitter(Qt::Vertical);
     bölen->setObjectName(QStringLiteral("Bölen"));
@@ -190,14 +189,24 @@ UygulamaSonucu SeçerekGetirFormu::Yürüt(QStringList& çözülenler) {
     return sonuç.Uygulama;
 }
 
+// What was kept goes again where surely nothing was written.
+void SeçerekGetirFormu::SaklananıBağla(const QString& saklanan, bool getirildi, bool yazılmadı) {
+    if (saklanan.isEmpty() || (!getirildi && !yazılmadı)) return;
+    ArkadaYürüt(GetirmeMetni::Getiriliyor, 0, this, [&](ArkaDurum&) { ÖncekiKopyayıBağla(saklanan, getirildi); });
+}
+
 void SeçerekGetirFormu::Getir() {
     QString saklanan;
     if (m_istek.Yedek && !ÖncekiniSakla(m_istek.Yollar, saklanan, this)) return;
     const GetirmeÖzeti özet = m_plan.Özet();
     QStringList çözülenler;
+    const auto dosya = [yol = m_istek.Yollar.GerçekDosya] {
+        const QFileInfo bilgi(yol);
+        return std::pair(bilgi.lastModified(), bilgi.size());
+    };
+    const auto önce = dosya();
     const UygulamaSonucu sonuç = Yürüt(çözülenler);
-    // Nothing was changed, so nothing is kept of it.
-    if (sonuç.Son != UygulamaSonu::Tamam && !saklanan.isEmpty()) QFile::remove(saklanan);
+    SaklananıBağla(saklanan, sonuç.Son == UygulamaSonu::Tamam, dosya() == önce);
     switch (UygulamayıBildir(sonuç, GetirmeMetni::Getirilemedi)) {
         case ÖnizlemeAdımı::Kabul:
             if (m_istek.Yedek)
@@ -215,9 +224,4 @@ void SeçerekGetirFormu::Getir() {
             break;
     }
     reject();
-}
-
-void SeçerekGetirFormu::Çizelgeye() {
-    ÇizelgeyeKaydet(*this, windowTitle(),
-                    [this](const QString& yol) { return TabloyuÇizelgeyeYaz(yol, windowTitle(), m_model); });
 }

@@ -29,7 +29,7 @@ class SeçerekGetirFormu : public QDialog {
     void Tümünüİşaretle();
     void Getir();
     UygulamaSonucu Yürüt(QStringList& çözülenler);
-    void Çizelgeye();
+    void SaklananıBağla(const QString& saklanan, bool getirildi, bool yazılmadı);
 
     Getirmeİsteği m_istek;
     GetirmeOrtamı m_ortam;

@@ -18,6 +18,9 @@ namespace {
 
 using Tür = KopyaSonucu::Tür;
 
+const QString GÜNLÜK_EKİ = QStringLiteral("-journal");
+const QString YARIM_EKİ = QStringLiteral(".yeni");
+
 std::string Bayt(const QString& yol) {
     return QFile::encodeName(yol).toStdString();
 }
@@ -67,8 +70,10 @@ const Kopya* SonGünlük(const std::vector<Kopya>& kopyalar) {
 }
 
 void YarımlarıSil(const QString& klasör) {
-    const QFileInfoList yarımlar = QDir(klasör).entryInfoList({QStringLiteral("*.ydk.yeni")}, QDir::Files);
-    for (const QFileInfo& yarım : yarımlar) YarımKopyayıSil(yarım.filePath().chopped(5));
+    const QString kopya = QStringLiteral("*.ydk");
+    const QFileInfoList yarımlar =
+        QDir(klasör).entryInfoList({kopya + YARIM_EKİ, kopya + GÜNLÜK_EKİ + YARIM_EKİ}, QDir::Files);
+    for (const QFileInfo& yarım : yarımlar) YarımKopyayıSil(yarım.filePath().chopped(YARIM_EKİ.size()));
 }
 
 int SonrakiSıra(const std::vector<Kopya>& kopyalar) {
@@ -102,6 +107,11 @@ bool İçerikleriAynı(const QString& a, const QString& b) {
         if (x.isEmpty() || x != y) return false;
     }
     return ikinci.atEnd();
+}
+
+void YarımKopyalarıSil(const QString& kök) {
+    for (const QFileInfo& klasör : QDir(kök).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot))
+        YarımlarıSil(klasör.filePath());
 }
 
 void FazlalıklarıSil(const QString& klasör, int yeni) {
@@ -144,8 +154,20 @@ KopyaSonucu KopyaYaz(const Kopyaİşi& iş) {
         QFile::remove(hedef);
         return {Tür::Aynı, önceki->Yol, {}};
     }
-    if (iş.Tür != KopyaTürü::Günlük || !iş.Hazır.isEmpty()) FazlalıklarıSil(klasör, sıra);
+    if (iş.Tür == KopyaTürü::Elle || !iş.Hazır.isEmpty()) FazlalıklarıSil(klasör, sıra);
     return sonuç;
+}
+
+void ÖncekiKopyayıBağla(const QString& kopya, bool geriYüklendi) {
+    if (kopya.isEmpty()) return;
+    const QFileInfo dosya(kopya);
+    const std::optional<KopyaAdı> ad = KopyaAdınıOku(dosya.fileName());
+    if (!geriYüklendi) {
+        QFile::remove(kopya);
+        QFile::remove(kopya + GÜNLÜK_EKİ);
+    } else if (ad && ad->Tür == KopyaTürü::Önce) {
+        FazlalıklarıSil(dosya.path() + QDir::separator(), ad->Sıra);
+    }
 }
 
 QString HamınıSakla(const QString& kök, const QString& dosya) {
@@ -154,9 +176,9 @@ QString HamınıSakla(const QString& kök, const QString& dosya) {
     if (!KopyaKlasörünüYap(klasör, dosya)) return {};
     const int sıra = SonrakiSıra(KopyalarıOku(klasör));
     const QString hedef = klasör + KopyaAdınıYaz({QFileInfo(dosya).lastModified(), sıra, KopyaTürü::Ham});
-    const QString ek = QStringLiteral("-journal");
     // The journal second: it would not outlive the copying of its file.
-    if (DosyaKopyala(dosya, hedef) && (!QFileInfo::exists(dosya + ek) || DosyaKopyala(dosya + ek, hedef + ek)))
+    if (DosyaKopyala(dosya, hedef) &&
+        (!QFileInfo::exists(dosya + GÜNLÜK_EKİ) || DosyaKopyala(dosya + GÜNLÜK_EKİ, hedef + GÜNLÜK_EKİ)))
         return hedef;
     QFile::remove(hedef);
     return {};

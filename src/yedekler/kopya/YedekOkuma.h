@@ -46,5 +46,5 @@ class AçılmışYedek {
     QString m_neden;  // why it could not be copied
 };
 
-// Folders that a killed run left behind, after a day.
+// Folders that a killed run left of opened backups and of copies for another disk, after a day.
 void YarımAçılmışlarıSil(const QString& kök);
