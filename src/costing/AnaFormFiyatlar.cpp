@@ -69,9 +69,9 @@ void AnaForm::ToplucaFiyatDeğiştir() {
 // Percentages that are typed and not saved stay typed where `yükle` has the same product loaded again.
 void AnaForm::YazılanıKoru(const std::function<bool()>& yükle) {
     const bool kaydedilmemiş = m_komutlar.DeğişiklikleriKaydet->isEnabled();
-    const MaliyetGirdisi yazılan = m_maliyet->Girdi();
+    const MaliyetAlanı::Yazılanlar yazılan = m_maliyet->Yazılan();
     if (!yükle() || !kaydedilmemiş || !m_ürünYüklendi) return;
-    m_maliyet->YüzdeleriKoy(yazılan);
+    m_maliyet->YazılanıKoy(yazılan);
     ToplamMaliyetHesapla();
     m_komutlar.DeğişiklikleriKaydet->setEnabled(true);
 }

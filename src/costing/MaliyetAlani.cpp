@@ -95,20 +95,35 @@ bool MaliyetAlanı::YüzdeleriYükle(const QString& grup, const QString& ürün)
     });
     if (kayıt != Kayıt::Var) return false;
     for (int i = İşçilik; i <= Vade; ++i) m_yüzdeler[i]->setText(YüzdeMetni(saklanan[i], OndalıkBasamak));
+    GösterileniTut();
     return true;
 }
 
-void MaliyetAlanı::YüzdeleriKoy(const MaliyetGirdisi& girdi) {
-    const QString metinler[] = {girdi.İşçilik, girdi.Kâr, girdi.Diğer, girdi.Vade};
-    for (int i = İşçilik; i <= Vade; ++i) m_yüzdeler[i]->setText(metinler[i]);
+void MaliyetAlanı::GösterileniTut() {
+    for (std::size_t i = 0; i < m_yüzdeler.size(); ++i) m_saklanan[i] = m_yüzdeler[i]->text();
+}
+
+MaliyetAlanı::Yazılanlar MaliyetAlanı::Yazılan() const {
+    Yazılanlar yazılan;
+    for (std::size_t i = 0; i < m_yüzdeler.size(); ++i)
+        if (m_yüzdeler[i]->text() != m_saklanan[i]) yazılan[i] = m_yüzdeler[i]->text();
+    return yazılan;
+}
+
+void MaliyetAlanı::YazılanıKoy(const Yazılanlar& yazılan) {
+    for (std::size_t i = 0; i < m_yüzdeler.size(); ++i)
+        if (yazılan[i]) m_yüzdeler[i]->setText(*yazılan[i]);
 }
 
 bool MaliyetAlanı::YüzdeleriKaydet(const QString& grup, const QString& ürün) {
     const bool saklanır =
         std::all_of(m_yüzdeler.begin(), m_yüzdeler.end(), [](SayıKutusu* kutu) { return kutu->Saklanır(); });
     const MaliyetGirdisi yüzdeler = Girdi();
-    return saklanır && DeyimiYürüt(Deyimler::YüzdeleriKaydet(yüzdeler.İşçilik, yüzdeler.Kâr, yüzdeler.Diğer,
-                                                             yüzdeler.Vade, grup, ürün));
+    if (!saklanır || !DeyimiYürüt(Deyimler::YüzdeleriKaydet(yüzdeler.İşçilik, yüzdeler.Kâr, yüzdeler.Diğer,
+                                                            yüzdeler.Vade, grup, ürün)))
+        return false;
+    GösterileniTut();
+    return true;
 }
 
 void MaliyetAlanı::ToplamMaliyetHesapla() {

@@ -3,6 +3,7 @@
 #include <QFrame>
 #include <array>
 #include <functional>
+#include <optional>
 
 #include "MaliyetHesabi.h"
 
@@ -25,8 +26,10 @@ class MaliyetAlanı : public QFrame {
     // Stores the boxes' percentages as the product's. False: they are not stored, and the user has been told.
     bool YüzdeleriKaydet(const QString& grup, const QString& ürün);
 
-    // Puts back what the user had typed.
-    void YüzdeleriKoy(const MaliyetGirdisi& girdi);
+    // The boxes whose text is not the one that was loaded or stored last; and such texts put back.
+    using Yazılanlar = std::array<std::optional<QString>, 4>;
+    Yazılanlar Yazılan() const;
+    void YazılanıKoy(const Yazılanlar& yazılan);
 
     void ToplamMaliyetHesapla();
     void Boşalt();
@@ -40,9 +43,11 @@ class MaliyetAlanı : public QFrame {
     void MalzemeMaliyetiDeğişti(const QString& metin);
     void ToplamıGöster(const QString& toplam, bool düzenlendi);
     QString Toplam() const;
+    void GösterileniTut();
 
     std::function<void(bool)> m_değişince;
     QLineEdit* m_malzeme;
     std::array<SayıKutusu*, 4> m_yüzdeler;  // labour, profit, other, maturity
+    std::array<QString, 4> m_saklanan;      // what they showed when they were loaded or stored
     QLineEdit* m_toplam;
 };

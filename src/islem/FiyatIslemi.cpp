@@ -49,7 +49,7 @@ class Yazıcı {
                        Ekle(Deyimler::MalzemeEkle(malzeme.Malzeme, Deyimler::SaklanacakSayı(malzeme.Yeni)));
             case Varlık::Silindi:
                 return Değiştir(Deyimler::FiyatıylaSil(malzeme.Malzeme, malzeme.Eski), 1) &&
-                       Say(Deyimler::KullanılanSayısı(malzeme.Malzeme), 0);
+                       Say(Deyimler::KullanılanSayısı(malzeme.Malzeme), malzeme.Satır);
             case Varlık::Aynı:
                 break;
         }

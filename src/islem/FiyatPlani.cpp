@@ -63,7 +63,11 @@ class FiyatPlanı::Okuyucu {
             const QByteArray ad = plan.m_malzemeler[i].Malzeme.toUtf8();
             const std::uint32_t yer = malzemeler.Dizin.Bul(Baytları(ad));
             PlanMalzemesi& m = plan.m_malzemeler[i];
-            if (yer != AdDizini::YOK && m.Malzemenin == Varlık::Eklendi) Bırak(m, PlanNedeni::KatalogdaVar);
+            if (m.Malzemenin == Varlık::Eklendi) {
+                if (yer != AdDizini::YOK) Bırak(m, PlanNedeni::KatalogdaVar);
+                m_eklenenler.BulYaDaEkle(Baytları(ad), i);
+                m_eklenenVar = true;
+            }
             if (yer != AdDizini::YOK) m_sıklar[yer] = {m.Eski, m.Yeni, 0, i, m.HerSatır && m.Tekler.empty()};
             for (std::size_t t = 0; t < m.Tekler.size(); ++t)
                 m_tekler.emplace(SatırÖzeti(m.Tekler[t].Satır), Tek{i, t});
@@ -80,7 +84,9 @@ class FiyatPlanı::Okuyucu {
         }
         for (PlanMalzemesi& malzeme : m_plan.m_malzemeler) {
             for (const FiyatlıSatırlar& satırlar : malzeme.Dağılım) malzeme.Satır += satırlar.Sayı;
-            if (malzeme.Malzemenin == Varlık::Silindi && malzeme.Satır > 0) Bırak(malzeme, PlanNedeni::Kullanılıyor);
+            // Rows that used it before it was added stay as they were then.
+            if (malzeme.Malzemenin == Varlık::Silindi && malzeme.Satır > malzeme.DeğişenSatır)
+                Bırak(malzeme, PlanNedeni::Kullanılıyor);
         }
     }
 
@@ -93,6 +99,7 @@ class FiyatPlanı::Okuyucu {
         const std::uint32_t malzeme = m_malzemeler.Dizin.Bul(aranan);
         if (ürün != AdDizini::YOK) ÜrüneEkle(m_ürünler.Ürünler[ürün], tutar, malzeme != AdDizini::YOK);
         const std::uint32_t planda = malzeme == AdDizini::YOK ? malzeme : m_sıklar[malzeme].Planda;
+        if (malzeme == AdDizini::YOK && m_eklenenVar && fiyat) EkleneninSatırı(satır, *fiyat);
         std::optional<Para> hedef;
         if (planda != AdDizini::YOK && fiyat)
             hedef = PlanaEkle(satır, m_sıklar[malzeme], {ürün, planda, 0}, miktar, *fiyat, tutar);
@@ -175,6 +182,12 @@ class FiyatPlanı::Okuyucu {
 
     static std::int64_t Ondalığı(std::optional<Para> tutar) { return tutar.value_or(Para()).OnBindeBir(); }
 
+    // A row that uses a material before it is added: it is recorded, so that it does not stand in the way back.
+    void EkleneninSatırı(OdbcSatırı& satır, Para fiyat) {
+        const std::uint32_t yer = m_eklenenler.Bul(Baytlar(satır, 3));
+        if (yer != AdDizini::YOK) m_plan.m_malzemeler[yer].Ayrılar.push_back(SatırıAl(satır, fiyat));
+    }
+
     // Whether rows of this price get the new one.
     static bool DağılımaEkle(PlanMalzemesi& malzeme, Para fiyat) {
         for (FiyatlıSatırlar& satırlar : malzeme.Dağılım) {
@@ -222,6 +235,8 @@ class FiyatPlanı::Okuyucu {
     const MalzemeKataloğu& m_malzemeler;
     std::vector<Sık> m_sıklar;                             // beside the catalogue's materials
     std::unordered_multimap<std::uint64_t, Tek> m_tekler;  // not found yet
+    AdDizini m_eklenenler;                                 // places in the plan
+    bool m_eklenenVar = false;
     std::string m_sonGrup;
     std::string m_sonAd;
     std::uint32_t m_sonÜrün = AdDizini::YOK;
@@ -279,7 +294,7 @@ void FiyatPlanı::SatırlarıDiz(std::deque<Satır>& satırlar) {
 // The price of a tied material is its product's alone.
 void FiyatPlanı::BağlılarıBırak(const YarıMamulBağları& bağlar) {
     for (PlanMalzemesi& malzeme : m_malzemeler) {
-        if (!Uygulanır(malzeme.Neden) || !bağlar.Bağı(malzeme.Malzeme)) continue;
+        if (!Uygulanır(malzeme.Neden) || malzeme.BağıBekler || !bağlar.Bağı(malzeme.Malzeme)) continue;
         malzeme.Neden = PlanNedeni::YarıMamul;
         malzeme.İşaretli = false;
     }
@@ -369,7 +384,7 @@ PlanÖzeti FiyatPlanı::Özet() const {
         özet.Eklenen += malzeme.Malzemenin == Varlık::Eklendi;
         özet.Silinen += malzeme.Malzemenin == Varlık::Silindi;
         özet.Satır += malzeme.DeğişenSatır;
-        özet.AyrıSatır += static_cast<std::int64_t>(malzeme.Ayrılar.size());
+        if (malzeme.Malzemenin == Varlık::Aynı) özet.AyrıSatır += static_cast<std::int64_t>(malzeme.Ayrılar.size());
         for (std::size_t satır = m_ilkSatır[i]; satır < m_ilkSatır[i + 1]; ++satır)
             özet.ÜrünsüzSatır += m_satırlar[satır].Ürün == AdDizini::YOK;
     }

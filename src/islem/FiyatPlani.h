@@ -60,6 +60,7 @@ struct FiyatÖnerisi {
     std::vector<Para> Fiyatlar{};  // these prices
     std::vector<TekSatır> Tekler{};
     Varlık Malzemenin = Varlık::Aynı;
+    bool BağıBekler = false;  // added though a tie bears its name: its price follows at once
 };
 
 // A rate that goes with the prices. Of its ties those are written whose material gets the price, or has it already.
@@ -89,7 +90,8 @@ struct PlanMalzemesi : FiyatÖnerisi {
     std::int64_t Satır = 0;                  // used rows
     std::int64_t DeğişenSatır = 0;           // those that the plan reaches
     std::vector<FiyatlıSatırlar> Dağılım{};  // how many of the used rows have which price
-    std::vector<KullanılanSatır> Ayrılar{};  // reached ones whose price is another than the catalogue's
+    // Reached ones whose price is another than the catalogue's; of an added material the rows that used it before.
+    std::vector<KullanılanSatır> Ayrılar{};
 };
 
 // A product that the plan's materials reach.

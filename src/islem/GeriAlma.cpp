@@ -157,13 +157,19 @@ std::optional<İşlem> YinelenecekİşlemiBul(const std::vector<İşlem>& işlem
             teklif.Öneriler.push_back(Öneri(değişim, katalog.Malzemeler[yer], geri));
         yeniFiyatlar.push_back(değişim.Yeni);
     }
-    for (KullanılanSatır& satır : tekler) {
+    for (const KullanılanSatır& satır : tekler) {
         const std::uint32_t yer = yerler.Bul(satır.Malzeme.toStdString());
         if (yer == AdDizini::YOK) continue;
         FiyatÖnerisi& öneri = teklif.Öneriler[yer];
         const Para önceki = satır.Fiyat;
-        if (geri) satır.Fiyat = yeniFiyatlar[yer];
-        öneri.Tekler.push_back({satır, geri ? önceki : öneri.Yeni});
+        if (öneri.Malzemenin == Varlık::Eklendi) continue;
+        // Rows that used a material before it was added have kept their price.
+        if (öneri.Malzemenin == Varlık::Silindi)
+            öneri.Tekler.push_back({satır, önceki});
+        else
+            öneri.Tekler.push_back(
+                {{satır.Grup, satır.Ürün, satır.Malzeme, satır.Miktar, satır.Tarih, geri ? yeniFiyatlar[yer] : önceki},
+                 geri ? önceki : öneri.Yeni});
     }
     return sonuç;
 }

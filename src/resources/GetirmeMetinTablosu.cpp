@@ -62,6 +62,8 @@ constexpr MetinSatırı Tablo[] = {
     {GetirmeMetni::GelecekMiktar, "Gelecek miktar"},
     {GetirmeMetni::GelecekGün, "Gelecek gün"},
     {GetirmeMetni::Tümünüİşaretle, "Tümünü İ&şaretle"},
+    {GetirmeMetni::NedenEksik, "sayılmayan satırı var, toplamı eksik"},
+    {GetirmeMetni::YerYok, "Diskte yeterince boş yer yok: %1"},
 };
 
 static_assert(Sıralı(Tablo));

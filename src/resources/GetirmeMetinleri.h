@@ -62,5 +62,7 @@ inline constexpr MetinNo BağlarÇözüldü{3553};
 inline constexpr MetinNo GelecekMiktar{3554};
 inline constexpr MetinNo GelecekGün{3555};
 inline constexpr MetinNo Tümünüİşaretle{3556};
+inline constexpr MetinNo NedenEksik{3557};
+inline constexpr MetinNo YerYok{3558};
 
 }  // namespace GetirmeMetni

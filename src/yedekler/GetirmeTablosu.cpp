@@ -39,12 +39,14 @@ QString NedenMetni(const GetirmeKalemi& kalem) {
             return NedenMetni(kalem.FiyatNedeni);
     }
     if (kalem.FiyatNedeni != PlanNedeni::Yok) return NedenMetni(kalem.FiyatNedeni);
+    if (kalem.Eksik) return Metin(GetirmeMetni::NedenEksik);
     return kalem.Birlikte ? Metin(GetirmeMetni::NedenBirlikte) : QString();
 }
 
-QString DurumMetni(const GetirmeKalemi& kalem) {
+QString DurumMetni(const GetirmePlanı& plan, const GetirmeKalemi& kalem) {
     if (!kalem.Şimdiki) return Metin(GetirmeMetni::DurumŞimdiYok);
-    return Metin(Gelir(kalem) && !kalem.Sonraki ? GetirmeMetni::DurumSilinecek : GetirmeMetni::DurumFarklı);
+    const bool silinecek = plan.Denendi() && Gelir(kalem) && !kalem.Sonraki;
+    return Metin(silinecek ? GetirmeMetni::DurumSilinecek : GetirmeMetni::DurumFarklı);
 }
 
 // A date literal as the user writes it.
@@ -63,13 +65,13 @@ std::vector<KullanılanSatır> Sıralı(std::vector<KullanılanSatır> satırlar
 }  // namespace
 
 QList<TabloSütunu> GetirmeSütunlarınıVer(bool yedekten) {
-    QList<TabloSütunu> sütunlar{{GetirmeMetni::NeSütunu, 9},
-                                {GetirmeMetni::GrupSütunu, 14},
-                                {GetirmeMetni::AdSütunu, 24},
-                                {GetirmeMetni::DurumSütunu, 10},
-                                {GetirmeMetni::YedekteSütunu, 12, true},
-                                {GetirmeMetni::ŞimdiSütunu, 12, true},
-                                {GetirmeMetni::SonraSütunu, 12, true},
+    QList<TabloSütunu> sütunlar{{GetirmeMetni::NeSütunu, 8},
+                                {GetirmeMetni::GrupSütunu, 11},
+                                {GetirmeMetni::AdSütunu, 20},
+                                {GetirmeMetni::DurumSütunu, 9},
+                                {GetirmeMetni::YedekteSütunu, 11, true},
+                                {GetirmeMetni::ŞimdiSütunu, 11, true},
+                                {GetirmeMetni::SonraSütunu, 11, true},
                                 {MetinNo::NedenSütunu, 28}};
     if (!yedekten) {
         sütunlar.removeAt(GYedekte);
@@ -88,7 +90,7 @@ QString GetirmeSatırları::Hücre(std::size_t satır, int sütun) const {
         case GAd:
             return kalem.Ad;
         case GDurum:
-            return DurumMetni(kalem);
+            return DurumMetni(m_plan, kalem);
         case GYedekte:
             return TutarMetni(kalem, kalem.Yedekteki);
         case GŞimdi:

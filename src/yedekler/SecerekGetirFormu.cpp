@@ -43,7 +43,10 @@ bool ÖncekiniSakla(const VeriYolları& yollar, QString& yol, QWidget* sahip) {
     });
     yol = kopya.Yol;
     if (kopya.Ne == KopyaSonucu::Tür::YerYok || kopya.Ne == KopyaSonucu::Tür::Olmadı)
-        Bildir(MesajKutusu::Simge::Kritik, Metin(GetirmeMetni::Saklanamadı).arg(kopya.Neden));
+        Bildir(MesajKutusu::Simge::Kritik,
+               Metin(GetirmeMetni::Saklanamadı)
+                   .arg(kopya.Ne == KopyaSonucu::Tür::YerYok ? Metin(GetirmeMetni::YerYok).arg(kopya.Neden)
+                                                             : kopya.Neden));
     return kopya.Ne == KopyaSonucu::Tür::Yazıldı || kopya.Ne == KopyaSonucu::Tür::Boş;
 }
 

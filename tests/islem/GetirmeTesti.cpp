@@ -41,7 +41,7 @@ class Getirme : public VarnekTesti {
         ASSERT_TRUE(QFile::copy(VeriDosyası(), Klasör() + "yedek.vtb"));
         Çalıştır("DELETE FROM UrunTablosu WHERE UrunAdi= 'Sehpa'");
         // One of its rows was left behind.
-        for (const char* ad : {"Vida", "Hiçbiri"}) Çalıştır(Deyimler::KullanılanMalzemeÇıkar("MASA", "Sehpa", ad));
+        for (const char* ad : {"Çam", "Hiçbiri"}) Çalıştır(Deyimler::KullanılanMalzemeÇıkar("MASA", "Sehpa", ad));
         for (const char* ad : {"Vida", "Ayak"}) Çalıştır(Deyimler::MalzemeSil(ad));
         Çalıştır("DELETE FROM UrunMalzemeTablosu WHERE UrunAdi= 'Karışım' AND KullanilanMalzemeAdi= 'Ayak'");
         for (const char* ad : {"Çam", "Meşe", "Cam"}) {
@@ -160,11 +160,21 @@ TEST_F(Getirme, GösterilenNeyseOGelirVeGeriDöner) {
     ASSERT_EQ(Uygula(yine, İşlemTürü::Yineleme).Uygulama.Son, UygulamaSonu::Tamam);
     EXPECT_EQ(Veriler(), sonra);
 
-    // A later price of today comes along, a product that was worked on stays as it is.
-    Çalıştır(Deyimler::ÜrünlerdeFiyatDeğiştir("Vida", "12"));
+    // What was worked on stays as it is; what comes back takes today's prices, never those between.
     KullanımEkle("YARI", "Karışım", "Cam", "1 m", "25");
+    Çalıştır(Deyimler::ÜrünlerdeFiyatDeğiştir("Vida", "12"));
     EXPECT_EQ(Kalemler(DönüşPlanı(1, İşlemTürü::GeriAlma)).mid(0, 2).join("; "),
-              "Sehpa |yok|75.9|75.9; Karışım -|yok|45|60");
+              "Sehpa x|yok|75.9|yok; Karışım -|yok|45|60");
+    Çalıştır(Deyimler::KullanılanMalzemeÇıkar("YARI", "Karışım", "Cam"));
+    Çalıştır(Deyimler::FiyatDeğiştir("Meşe", "30"));
+    Çalıştır(Deyimler::ÜrünlerdeFiyatDeğiştir("Meşe", "30"));
+    GetirmePlanı& sonraki = DönüşPlanı(1, İşlemTürü::GeriAlma);
+    İşaretle(sonraki, "Karışım");
+    EXPECT_TRUE(sonraki.Dene().Tamam());
+    ASSERT_EQ(Uygula(sonraki, İşlemTürü::GeriAlma).Uygulama.Son, UygulamaSonu::Tamam);
+    EXPECT_EQ(Oku("SELECT KullanilanMalzemeAdi, KullanilanMalzemeFiyati FROM UrunMalzemeTablosu WHERE UrunAdi= "
+                  "'Karışım'"),
+              "Meşe|30");
 }
 
 TEST_F(Getirme, ÇemberKapanacaksaHiçbiriGelmez) {

@@ -1,5 +1,6 @@
 // The way back from what was brought in, and forward again: the plan from the operation's record.
 
+#include <QHash>
 #include <algorithm>
 
 #include "DegisimDeyimleri.h"
@@ -9,6 +10,40 @@
 #include "MalzemeDegisimi.h"
 #include "OdbcTanitici.h"
 #include "TurkceSira.h"
+
+namespace {
+
+// The rows whose price was not the catalogue's when the operation began.
+class AyrıSatırlar {
+  public:
+    İşSonucu Oku(OdbcBağlantısı& bağlantı, std::int64_t işlem) {
+        return İşSonucuYap(bağlantı.Oku(Deyimler::Fiyat::İşleminAyrıSatırları(işlem), [this](OdbcSatırı& satır) {
+            const Para fiyat = ParaSütunu(satır, 6);
+            ++m_sayılar[Anahtar(
+                {satır.Metin(1), satır.Metin(2), satır.Metin(3), satır.Metin(5), TarihYazımı(satır.Metin(4)), fiyat})];
+            return true;
+        }));
+    }
+    std::vector<bool> Bul(const ÜrünHali& hal) {
+        std::vector<bool> bulunanlar;
+        for (const KullanılanSatır& satır : hal.Satırlar) {
+            int& sayı = m_sayılar[Anahtar(satır)];
+            bulunanlar.push_back(sayı > 0);
+            if (sayı > 0) --sayı;
+        }
+        return bulunanlar;
+    }
+
+  private:
+    static QString Anahtar(const KullanılanSatır& s) {
+        return QStringList{s.Grup, s.Ürün, s.Malzeme, s.Miktar, s.Tarih, Deyimler::SaklanacakSayı(s.Fiyat)}.join(
+            QChar(u'\x1f'));
+    }
+
+    QHash<QString, int> m_sayılar;
+};
+
+}  // namespace
 
 // What the operation wrote about a product.
 struct GetirmePlanı::Kayıt {
@@ -57,25 +92,27 @@ struct GetirmePlanı::Kayıt {
     std::vector<Kayıt> kayıtlar;
     İşSonucu sonuç = m_şimdi.Oku(deneme, basamak, ilerleme);
     if (sonuç.Tamam()) sonuç = KaydıOku(işlem.No, geri, kayıtlar);
+    AyrıSatırlar ayrılar;
+    if (sonuç.Tamam()) sonuç = ayrılar.Oku(deneme, işlem.No);
     if (!sonuç.Tamam()) return sonuç;
     for (Kayıt& kayıt : kayıtlar) {
         GetirmeKalemi kalem{.Grup = kayıt.Ürün.Grup, .Ad = kayıt.Ürün.Ad};
         const TarananÜrün* şimdiki = m_şimdi.Bul(kalem.Grup, kalem.Ad);
         if (şimdiki) kalem.Şimdiki = kalem.Sonraki = şimdiki->Toplam;
+        kalem.Eksik = şimdiki && şimdiki->Eksik;
         ÜrünDeğişimi değişim{kayıt.Ürün, {}, std::move(kayıt.Gelecek)};
         bool okunamaz = false;
         sonuç = ÜrünHaliniOku(deneme, kayıt.Ürün, değişim.Önce, okunamaz);
         if (!sonuç.Tamam()) return sonuç;
-        // What is put forward again takes the catalogue's prices in any case.
-        const bool fiyatlarıyla = AynıHal(değişim.Önce, kayıt.Duran, geri);
         if (şimdiki && şimdiki->İkiKez)
             kalem.Neden = GetirmeNedeni::İkiKez;
         else if (okunamaz)
             kalem.Neden = GetirmeNedeni::SatırOkunamaz;
-        else if (!fiyatlarıyla)
-            kalem.Neden = geri && AynıHal(değişim.Önce, kayıt.Duran, false) ? GetirmeNedeni::FiyatlarıDeğişmiş
-                                                                            : GetirmeNedeni::SonradanDeğişmiş;
-        değişim.KendiFiyatıyla = geri && fiyatlarıyla;
+        else if (!AynıHal(değişim.Önce, kayıt.Duran, false))
+            kalem.Neden = GetirmeNedeni::SonradanDeğişmiş;
+        else if (geri && değişim.Sonra.Var && !AynıHal(değişim.Önce, kayıt.Duran, true))
+            kalem.Neden = GetirmeNedeni::FiyatlarıDeğişmiş;
+        if (geri) değişim.KendiFiyatıyla = ayrılar.Bul(değişim.Sonra);
         kalem.İşaretli = kalem.Neden == GetirmeNedeni::Yok;
         ÜrünEkle(std::move(kalem));
         m_değişimler.back() = std::move(değişim);

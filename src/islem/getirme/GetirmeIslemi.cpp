@@ -24,8 +24,9 @@ class Yazıcı {
         : m_bağlantı(bağlantı), m_iş(iş), m_işlem(işlem), m_ilerleme(ilerleme) {}
 
     GetirmeSonucu Yaz() {
-        static_cast<void>(TablolarıOluştur() && Karşılaştır() && (m_iş.ÖnceÜrünler || FiyatlarıDeğiştir()) &&
-                          ÜrünleriYaz() && (!m_iş.ÖnceÜrünler || FiyatlarıDeğiştir()) && Yay() && SonrakileriKaydet());
+        static_cast<void>(TablolarıOluştur() && Karşılaştır() && ÖncekileriKaydet() &&
+                          (m_iş.ÖnceÜrünler || FiyatlarıDeğiştir()) && ÜrünleriYaz() &&
+                          (!m_iş.ÖnceÜrünler || FiyatlarıDeğiştir()) && Yay() && SonrakileriKaydet());
         return m_sonuç;
     }
 
@@ -110,9 +111,9 @@ class Yazıcı {
     bool ÜrünüYaz(const ÜrünDeğişimi& değişim) {
         const ÜrünAdı& ürün = değişim.Ürün;
         const auto çalıştır = [&](const QString& deyim, std::size_t satır) { return Çalıştır(deyim, satır, ürün); };
-        ÜrünHali önce;  // read again: the prices may have changed just now
+        const ÜrünHali& önce = değişim.Önce;
         ÜrünHali sonra = değişim.Sonra;
-        if (!ŞimdikiniOku(ürün, önce) || (!değişim.KendiFiyatıyla && !FiyatlarıKoy(sonra))) return false;
+        if (!FiyatlarıKoy(sonra, değişim.KendiFiyatıyla)) return false;
         if (!önce.Satırlar.empty() &&
             !çalıştır(Deyimler::ÜrününMalzemeleriniSil(ürün.Grup, ürün.Ad), önce.Satırlar.size()))
             return false;
@@ -120,11 +121,27 @@ class Yazıcı {
         if (!önce.Var && sonra.Var && !çalıştır(Deyimler::ÜrünEkle(ürün.Grup, ürün.Ad), 1)) return false;
         m_silindi |= önce.Var && !sonra.Var;
         if (sonra.Var && !çalıştır(YüzdeDeyimi(ürün, sonra), 1)) return false;
-        return std::all_of(sonra.Satırlar.begin(), sonra.Satırlar.end(),
-                           [&](const KullanılanSatır& satır) {
-                               return çalıştır(Deyimler::KullanılanıEkle(satır, satır.Fiyat), 1);
-                           }) &&
-               HaliKaydet(ürün, önce, false);
+        return std::all_of(sonra.Satırlar.begin(), sonra.Satırlar.end(), [&](const KullanılanSatır& satır) {
+            return çalıştır(Deyimler::KullanılanıEkle(satır, satır.Fiyat), 1);
+        });
+    }
+
+    // As they stood before anything was done, with the rows whose price is not the catalogue's.
+    bool ÖncekileriKaydet() {
+        return std::all_of(m_iş.Ürünler.begin(), m_iş.Ürünler.end(), [this](const ÜrünDeğişimi& değişim) {
+            return HaliKaydet(değişim.Ürün, değişim.Önce, false) && AyrılarıKaydet(değişim);
+        });
+    }
+    bool AyrılarıKaydet(const ÜrünDeğişimi& değişim) {
+        for (const KullanılanSatır& satır : değişim.Önce.Satırlar) {
+            std::optional<Para> fiyat;
+            if (!KataloğunFiyatı(satır.Malzeme, fiyat)) return false;
+            if (fiyat != satır.Fiyat && !Çalıştır(Deyimler::Fiyat::AyrıSatırEkle(m_işlem, satır), 1, değişim.Ürün))
+                return false;
+        }
+        m_fiyatDizini = {};  // the prices are about to change
+        m_fiyatlar.clear();
+        return true;
     }
 
     // As they stand at the end: sub-assemblies' prices have followed.
@@ -154,18 +171,27 @@ class Yazıcı {
         });
     }
 
-    // The catalogue's prices at this moment; what it does not have keeps its own.
-    bool FiyatlarıKoy(ÜrünHali& hal) {
-        for (KullanılanSatır& satır : hal.Satırlar) {
-            const std::string ad = satır.Malzeme.toStdString();
-            const auto yeni = static_cast<std::uint32_t>(m_fiyatlar.size());
-            const std::uint32_t yer = m_fiyatDizini.BulYaDaEkle(ad, yeni);
-            if (yer == yeni) {
-                std::optional<KatalogMalzemesi> malzeme;
-                if (!Bak(MalzemeyiOku(m_bağlantı, satır.Malzeme, malzeme))) return false;
-                m_fiyatlar.push_back(malzeme ? std::optional(malzeme->Fiyat) : std::nullopt);
-            }
-            satır.Fiyat = m_fiyatlar[yer].value_or(satır.Fiyat);
+    // The catalogue's price at this moment; nothing: it does not have the material.
+    bool KataloğunFiyatı(const QString& ad, std::optional<Para>& fiyat) {
+        const auto yeni = static_cast<std::uint32_t>(m_fiyatlar.size());
+        const std::uint32_t yer = m_fiyatDizini.BulYaDaEkle(ad.toStdString(), yeni);
+        if (yer == yeni) {
+            std::optional<KatalogMalzemesi> malzeme;
+            if (!Bak(MalzemeyiOku(m_bağlantı, ad, malzeme))) return false;
+            m_fiyatlar.push_back(malzeme ? std::optional(malzeme->Fiyat) : std::nullopt);
+        }
+        fiyat = m_fiyatlar[yer];
+        return true;
+    }
+
+    // What the catalogue does not have keeps its own.
+    bool FiyatlarıKoy(ÜrünHali& hal, const std::vector<bool>& kendi) {
+        for (std::size_t i = 0; i < hal.Satırlar.size(); ++i) {
+            KullanılanSatır& satır = hal.Satırlar[i];
+            std::optional<Para> fiyat;
+            if (i < kendi.size() && kendi[i]) continue;
+            if (!KataloğunFiyatı(satır.Malzeme, fiyat)) return false;
+            satır.Fiyat = fiyat.value_or(satır.Fiyat);
         }
         return true;
     }

@@ -24,9 +24,10 @@ bool AynıHal(const ÜrünHali& a, const ÜrünHali& b, bool fiyatıyla);
 
 struct ÜrünDeğişimi {
     ÜrünAdı Ürün;
-    ÜrünHali Önce;                // what stands now; anything else stops the operation
-    ÜrünHali Sonra;               // Var false: the product is deleted
-    bool KendiFiyatıyla = false;  // its rows keep the prices that they bring; else they take the catalogue's
+    ÜrünHali Önce;   // what stands now; anything else stops the operation
+    ÜrünHali Sonra;  // Var false: the product is deleted
+    // Beside Sonra.Satırlar, or empty: rows that keep the price that they bring. All others take the catalogue's.
+    std::vector<bool> KendiFiyatıyla{};
 };
 
 struct Getirmeİşi {

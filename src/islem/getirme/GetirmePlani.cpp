@@ -19,6 +19,12 @@ QString Yazımı(const QString& ad, const MalzemeKataloğu& katalog, const Malze
     return ad;
 }
 
+std::uint64_t ToplamÖzeti(const MaliyetTablosuSatırı& ürün) {
+    const std::string ad = ürün.Ad.toStdString();
+    return Türkçe::Özet(ad,
+                        Türkçe::Özet(ürün.Grup.toStdString(), static_cast<std::uint64_t>(ürün.Toplam.OnBindeBir())));
+}
+
 UygulamaSonucu Sonucu(const İşSonucu& s) {
     if (s.Son == İşSonu::Vazgeçildi) return {UygulamaSonu::Vazgeçildi, {}, {}};
     return s.Tamam() ? UygulamaSonucu() : UygulamaSonucu{UygulamaSonu::Olmadı, s.Odbc, {}};
@@ -61,6 +67,7 @@ void GetirmePlanı::FarklarıBul(const KatalogTaraması& yedekteki) {
         const std::uint32_t grup = gruplar.Bul(ürün.Grup.toStdString());
         GetirmeKalemi kalem{.Grup = grup == AdDizini::YOK ? ürün.Grup : m_şimdi.Ürünler[grup].Grup, .Ad = ürün.Ad};
         kalem.Yedekteki = ürün.Toplam;
+        kalem.Eksik = ürün.Eksik || (şimdiki && şimdiki->Eksik);
         if (şimdiki) {
             kalem.Grup = şimdiki->Grup;
             kalem.Ad = şimdiki->Ad;
@@ -89,6 +96,7 @@ void GetirmePlanı::MalzemeleriBul(const KatalogTaraması& yedekteki) {
         kalem.Yedekteki = malzeme.Fiyat;
         FiyatÖnerisi öneri{malzeme.Ad, {}, malzeme.Fiyat};
         öneri.Malzemenin = Varlık::Eklendi;
+        öneri.BağıBekler = true;
         if (şimdiki) {
             kalem.Ad = şimdiki->Ad;
             kalem.Şimdiki = kalem.Sonraki = şimdiki->Fiyat;
@@ -115,7 +123,9 @@ void GetirmePlanı::MalzemeleriBul(const KatalogTaraması& yedekteki) {
         if (yer != AdDizini::YOK && Uygulanır(m_kalemler[yer].Neden)) m_kalemler[yer].Neden = neden;
     };
     for (const Deyimler::Döviz::Bağ& bağ : dövizBağları) koy(bağ.Malzeme, GetirmeNedeni::DövizeBağlı);
-    for (const YarıMamulBağı& bağ : bağlar->Bağlar()) koy(bağ.Malzeme, GetirmeNedeni::YarıMamul);
+    for (const YarıMamulBağı& bağ : bağlar->Bağlar())
+        if (m_şimdi.Malzemeler.Dizin.Bul(bağ.Malzeme.toStdString()) != AdDizini::YOK)
+            koy(bağ.Malzeme, GetirmeNedeni::YarıMamul);
     return sonuç;
 }
 
@@ -192,12 +202,15 @@ Getirmeİşi GetirmePlanı::İşiYap() const {
 struct GetirmePlanı::Sonrakiler {
     std::vector<std::optional<Para>> Tutarlar;
     std::int64_t Diğer = 0;
+    std::uint64_t DiğerÖzeti = 0;  // of all other products and their totals
+    std::vector<bool> Eksik;       // beside the items: the total leaves rows out
 };
 
 İşSonucu GetirmePlanı::SonrakileriOku(OdbcBağlantısı& bağlantı, Sonrakiler& sonrakiler,
                                       const İlerleme& ilerleme) const {
     sonrakiler = {};
     sonrakiler.Tutarlar.resize(m_kalemler.size());
+    sonrakiler.Eksik.resize(m_kalemler.size());
     std::vector<MaliyetTablosuSatırı> ürünler;
     MalzemeKataloğu malzemeler;
     İşSonucu sonuç = MaliyetTablosunuOku(bağlantı, m_basamak, ürünler, ilerleme);
@@ -207,8 +220,10 @@ struct GetirmePlanı::Sonrakiler {
         const std::uint32_t yer = m_ürünDizini.Bul(ürün.Grup.toStdString(), ürün.Ad.toStdString());
         if (yer != AdDizini::YOK) {
             sonrakiler.Tutarlar[yer] = ürün.Toplam;
+            sonrakiler.Eksik[yer] = ToplamıEksik(ürün);
             continue;
         }
+        sonrakiler.DiğerÖzeti += ToplamÖzeti(ürün);
         const TarananÜrün* önceki = m_şimdi.Bul(ürün.Grup, ürün.Ad);
         if (!önceki || önceki->Toplam != ürün.Toplam) ++sonrakiler.Diğer;
     }
@@ -222,19 +237,26 @@ struct GetirmePlanı::Sonrakiler {
 
 GetirmeSonucu GetirmePlanı::Dene(const İlerleme& ilerleme) {
     GetirmeSonucu sonuç{Sonucu(BirlikteGelenler(ilerleme))};
-    Sonrakiler sonrakiler{std::vector<std::optional<Para>>(m_kalemler.size()), 0};
+    Sonrakiler sonrakiler{std::vector<std::optional<Para>>(m_kalemler.size()), 0, 0,
+                          std::vector<bool>(m_kalemler.size())};
     const GetirmeÖzeti özet = Özet();
     if (sonuç.Tamam() && özet.Ürün + özet.Malzeme == 0) {
-        for (std::size_t i = 0; i < m_kalemler.size(); ++i) sonrakiler.Tutarlar[i] = m_kalemler[i].Şimdiki;
+        for (std::size_t i = 0; i < m_kalemler.size(); ++i) {
+            sonrakiler.Tutarlar[i] = m_kalemler[i].Şimdiki;
+            sonrakiler.Eksik[i] = m_kalemler[i].Eksik;
+        }
     } else if (sonuç.Tamam()) {
         const auto bak = [&](const GetirmeSonucu&) { return Sonucu(SonrakileriOku(*m_deneme, sonrakiler, ilerleme)); };
         sonuç = Getir(*m_deneme, İşiYap(), {}, {}, bak, ilerleme);
     }
     m_kalanlar = sonuç.Kalanlar;
     m_diğer = sonrakiler.Diğer;
+    m_diğerÖzeti = sonrakiler.DiğerÖzeti;
+    m_denendi = sonuç.Tamam();
     for (std::size_t i = 0; i < m_kalemler.size(); ++i) {
         GetirmeKalemi& kalem = m_kalemler[i];
         kalem.Sonraki = sonrakiler.Tutarlar[i];
+        kalem.Eksik |= sonrakiler.Eksik[i];
         if (kalem.Ürün || kalem.Neden == GetirmeNedeni::Fiyatta || kalem.Neden == GetirmeNedeni::FiyatEngeli) continue;
         const auto kalan = std::find_if(m_kalanlar.begin(), m_kalanlar.end(),
                                         [&](const KalanFiyat& k) { return Türkçe::Aynı(k.Malzeme, kalem.Ad); });
@@ -252,6 +274,7 @@ GetirmeSonucu GetirmePlanı::Uygula(OdbcBağlantısı& bağlantı, const İşlem
         if (!s.Tamam()) return Sonucu(s);
         for (std::size_t i = 0; i < m_kalemler.size(); ++i)
             if (sonrakiler.Tutarlar[i] != m_kalemler[i].Sonraki) return {UygulamaSonu::Değişmiş, {}, m_kalemler[i].Ad};
+        if (sonrakiler.DiğerÖzeti != m_diğerÖzeti) return {UygulamaSonu::Değişmiş, {}, QStringLiteral("...")};
         if (olan.Kalanlar == m_kalanlar) return {};
         const std::vector<KalanFiyat>& kalanlar = olan.Kalanlar.empty() ? m_kalanlar : olan.Kalanlar;
         return {UygulamaSonu::Değişmiş, {}, kalanlar.front().Malzeme};

@@ -8,7 +8,6 @@
 #include "FiyatKayitlari.h"
 #include "GetirmeIslemi.h"
 #include "KatalogTaramasi.h"
-#include "MaliyetTablosu.h"
 
 // What a backup has and the data lack or have differently, to be picked from; and the way back from what was brought
 // in.
@@ -42,6 +41,7 @@ struct GetirmeKalemi {
     std::optional<Para> Sonraki{};  // once the ticked ones are brought in
     GetirmeNedeni Neden = GetirmeNedeni::Yok;
     PlanNedeni FiyatNedeni = PlanNedeni::Yok;  // also why a ticked price is left as it is
+    bool Eksik = false;                        // a product's row does not count in one of the totals
     bool İşaretli = false;
     bool Birlikte = false;  // comes along, as a ticked product uses it and the catalogue does not have it
 };
@@ -70,6 +70,7 @@ class GetirmePlanı {
 
     const std::vector<GetirmeKalemi>& Kalemler() const { return m_kalemler; }  // products, then materials
     bool Yedekten() const { return m_yedek != nullptr; }
+    bool Denendi() const { return m_denendi; }                  // the amounts afterwards are known
     const QStringList& Eksikler() const { return m_eksikler; }  // materials of the operation that are gone
     GetirmeÖzeti Özet() const;
 
@@ -117,4 +118,6 @@ class GetirmePlanı {
     QStringList m_eksikler;
     std::vector<KalanFiyat> m_kalanlar;  // as tried out
     std::int64_t m_diğer = 0;
+    std::uint64_t m_diğerÖzeti = 0;
+    bool m_denendi = false;
 };

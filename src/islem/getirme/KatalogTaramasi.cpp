@@ -4,7 +4,6 @@
 #include <functional>
 
 #include "FiyatDeyimleri.h"
-#include "MaliyetTablosu.h"
 #include "OdbcTanitici.h"
 #include "TurkceSira.h"
 
@@ -25,6 +24,10 @@ std::uint64_t Karıştır(std::uint64_t özet) {
 
 }  // namespace
 
+bool ToplamıEksik(const MaliyetTablosuSatırı& satır) {
+    return (satır.Dikkat & (OkunamayanMiktar | TutarTaşıyor)) != 0;
+}
+
 İşSonucu KatalogTaraması::Oku(OdbcBağlantısı& bağlantı, int basamak, const İlerleme& ilerleme) {
     *this = {};
     std::vector<MaliyetTablosuSatırı> tablo;
@@ -35,6 +38,7 @@ std::uint64_t Karıştır(std::uint64_t özet) {
     for (MaliyetTablosuSatırı& satır : tablo) {
         TarananÜrün& ürün = Ürünler.emplace_back();
         ürün.Toplam = satır.Toplam;
+        ürün.Eksik = ToplamıEksik(satır);
         ürün.Yazılamaz = !Deyimler::Yazılabilir(satır.Grup) || !Deyimler::Yazılabilir(satır.Ad);
         m_dizin.BulYaDaEkle(satır.Grup.toStdString(), satır.Ad.toStdString(),
                             static_cast<std::uint32_t>(Ürünler.size() - 1));

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "KatalogOkuma.h"
+#include "MaliyetTablosu.h"
 
 // A product as a data file has it: enough to see whether another file has the same.
 struct TarananÜrün {
@@ -18,9 +19,13 @@ struct TarananÜrün {
     bool İkiKez = false;     // another product has the same group and name
     bool Yazılamaz = false;  // no statement can name it or something that it uses
     bool Okunamaz = false;   // a row has no price or no date
+    bool Eksik = false;      // the total leaves rows out
 
     bool Aynı(const TarananÜrün& b) const { return Yüzdeler == b.Yüzdeler && Satır == b.Satır && Özet == b.Özet; }
 };
+
+// Whether the total leaves rows out: their quantity cannot be read, or an amount is beyond money.
+bool ToplamıEksik(const MaliyetTablosuSatırı& satır);
 
 // What a data file holds, read in one pass over each table. Names are one as the data file compares them.
 struct KatalogTaraması {
