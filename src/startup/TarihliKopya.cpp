@@ -51,5 +51,5 @@ bool BaşlangıçBiter(const VeriYolları& yollar) {
         return std::any_of(sonuç.Hatalar.begin(), sonuç.Hatalar.end(), HasarMı);
     }
     return !DosyaVar(yollar.Yedek) ||
-           AçılmışYedek(yollar.GerçekYedek, yollar.YedekKlasörü).Denetle().Durum == YedekDurumu::Bozuk;
+           AçılmışYedek(yollar.GerçekYedek, yollar.YedekKlasörü).Denetle().Durum != YedekDurumu::Sağlam;
 }

@@ -6,6 +6,7 @@
 #include "ApilerModulu.h"
 #include "OrtakFonksiyonlarModulu.h"
 #include "DegiskenModulu.h"
+#include "ErisimMetinleri.h"
 #include "ErisimdenAlma.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
@@ -61,6 +62,10 @@ void Sıkıştır(const VeriYolları& yollar) {
         YedekAlınamadı(yollar, Metin(MetinNo::YedekYoluUzun));
         return;
     }
+    if (!ErişimYedeğiniSakla(yollar)) {
+        YedekAlınamadı(yollar, Metin(ErişimMetni::YedekSaklanamadı));
+        return;
+    }
     const QString dosya = KısaYolAl(yollar.GerçekDosya);
     const QDateTime değişme = QFileInfo(yollar.GerçekDosya).lastModified();
     SonDönüşKodu = VeritabanınıSıkıştır(dosya, KısaYolAl(yollar.GerçekYedek));
@@ -78,6 +83,15 @@ void Yedekle(const VeriYolları& yollar, bool yedekKlasörüVar) {
     } else if (SıkıştırmaGünü(yollar)) {
         Sıkıştır(yollar);
     }
+}
+
+// Puts a data file that is missing or one of Access into its place; where that cannot be, the user may choose a dated
+// copy.
+bool YerineGetir(const VeriYolları& yollar, const YedekSunumu& sun) {
+    const bool eksik = !DosyaVar(yollar.Dosya);
+    if (eksik && !YedekErişimDosyası(yollar)) return EksikDosyayıGeriYükle(yollar);
+    const ErişimSonu son = eksik ? ErişimYedeğiniGeriYükle(yollar) : ErişimDosyasınıAl(yollar);
+    return son == ErişimSonu::Alındı || (son == ErişimSonu::Alınamadı && sun && KopyaVar(yollar) && sun());
 }
 
 // What has to be right before the data file is touched.
@@ -106,13 +120,13 @@ bool VeritabanınıHazırla(const YedekSunumu& sun) {
     yollar.GerçekYedek = GerçekYol(yollar.Yedek);
     YarımAçılmışlarıSil(yollar.YedekKlasörü);
     // An Access file is taken over first, with progress: looking at it would do so without.
-    if (sun && KopyaVar(yollar) && !ErişimDosyasıVar(yollar) && BaşlangıçBiter(yollar)) sun();
+    const bool erişim = DosyaVar(yollar.Dosya) ? DosyaErişimDosyası(yollar) : YedekErişimDosyası(yollar);
+    if (sun && KopyaVar(yollar) && !erişim && BaşlangıçBiter(yollar)) sun();
     if (!YerlerUygun(yollar)) return false;
     YarımKalanlarıSil(yollar);
     // Without the driver nothing can be said about the files; connecting then shows what is wrong.
     if (!SürücüKayıtlı()) return ODBCBağlan();
-    if (!DosyaVar(yollar.Dosya) && !EksikDosyayıGeriYükle(yollar)) return false;
-    if (!ErişimDosyasınıAl(yollar)) return false;
+    if (!YerineGetir(yollar, sun)) return false;
     QString neden;
     switch (BoşDosyayıGözet(yollar, neden)) {
         case BoşDosyaSonucu::Sorunsuz:
