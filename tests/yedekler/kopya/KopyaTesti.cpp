@@ -255,11 +255,16 @@ TEST_F(Kopyalar, GeriYüklemeBaşkasınınİşiniEzmez) {
     }
     EXPECT_EQ(Baytlar(VeriDosyası()), önce);
     EXPECT_EQ(QDir(ProgramKlasörü()).entryList(QDir::Files), QStringList("Varnek.vtb"));
-    // An idle client goes on with what is there now; one with an open transaction of reading alone is told.
+    // An idle client is told, and then goes on with what is there now. Whom the former file let in, the new one does.
+    ASSERT_TRUE(QFile::setPermissions(VeriDosyası(), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup));
+    const auto izinler = QFileInfo(VeriDosyası()).permissions();
     TestVerisi boşta(VeriDosyası());
     boşta.Oku("SELECT MalzemeAdi FROM MalzemeTablosu");
     ASSERT_TRUE(VeriDosyasınıGeriYükle(yedek, VeriDosyası())) << SürücüKurulumHatası().toStdString();
+    EXPECT_TRUE(QString::fromStdString(boşta.Dene("SELECT MalzemeAdi FROM MalzemeTablosu").Mesaj)
+                    .contains("bir yedek geri yüklenmiş olabilir"));
     EXPECT_EQ(boşta.HerSatır(), yedekteki);
+    EXPECT_EQ(QFileInfo(VeriDosyası()).permissions(), izinler);
     EXPECT_EQ(DeğişmeZamanı(VeriDosyası()), ÖncekiGün);
     // What is too damaged to be opened is replaced as well.
     DosyaYaz(VeriDosyası(), QByteArray(5000, 'x'));
