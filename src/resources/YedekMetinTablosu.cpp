@@ -75,7 +75,12 @@ constexpr MetinSatırı Tablo[] = {
      "Veri dosyasına yeniden bağlanılamadı. Lütfen, programı kapatıp yeniden başlatınız."},
     {YedekMetni::BaşlangıçtaSunum,
      "Veri dosyanız açılamıyor; ama tarihli yedekler var. Bunlardan birini geri yüklemek ister misiniz?"},
+    {YedekMetni::ZatenSaklı,
+     "Veriler, elle alınan son yedekten beri değişmemiş; yeni bir yedek gerekmedi. Bu durum şurada saklı:\n%1"},
     {YedekMetni::TabloAçıklaması, "%1\n%2"},
+    {YedekMetni::ErişimdenDeğişenler, "Yedek bir Access dosyası. %1\nListe:\n%2"},
+    {YedekMetni::ErişimdenDeğişenlerListesiz,
+     "Yedek bir Access dosyası. %1\nBunların listesi veri dosyasının yanına yazılamadı."},
 };
 
 static_assert(Sıralı(Tablo));

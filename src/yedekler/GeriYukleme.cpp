@@ -112,6 +112,14 @@ bool SonucuGöster(const Dönüş& dönüş) {
 
 }  // namespace
 
+void ErişimdenDeğişenleriBildir(const AçılmışYedek& yedek, const VeriYolları& yollar) {
+    const QString değişenler = yedek.Değişenler();
+    if (değişenler.isEmpty()) return;
+    const QString liste = yedek.DeğişenleriSakla(yollar.GerçekDosya);
+    Bildir(Simge::Bilgi, liste.isEmpty() ? Metin(YedekMetni::ErişimdenDeğişenlerListesiz).arg(değişenler)
+                                         : Metin(YedekMetni::ErişimdenDeğişenler).arg(değişenler, liste));
+}
+
 bool YedeğiGeriYükle(const VeriYolları& yollar, const YedekSatırı& satır, bool bağlı, QWidget* sahip) {
     std::optional<AçılmışYedek> yedek;
     Hazırlık hazırlık;
@@ -130,10 +138,13 @@ bool YedeğiGeriYükle(const VeriYolları& yollar, const YedekSatırı& satır, 
     if (!Onaylanır(satır, hazırlık)) return false;
     if (bağlı) ODBCBağlantısınıKapat();
     Dönüş dönüş;
-    ArkadaYürüt(YedekMetni::GeriYükleniyor, 0, sahip,
-                [&](ArkaDurum& durum) { dönüş = YerineKoy(yollar, *yedek, bağlı, durum.DurYolu()); });
+    ArkadaYürüt(YedekMetni::GeriYükleniyor, 0, sahip, [&](ArkaDurum& durum) {
+        dönüş = YerineKoy(yollar, *yedek, bağlı, durum.DurYolu());
+        if (dönüş.Ne == Dönüş::Tür::Tamam) FazlalıklarıSil(dönüş.Saklanan);
+    });
     const bool bağlandı = !bağlı || ODBCBağlan();
     const bool geriYüklendi = SonucuGöster(dönüş);
+    if (geriYüklendi) ErişimdenDeğişenleriBildir(*yedek, yollar);
     if (!bağlandı) Bildir(Simge::Kritik, Metin(YedekMetni::BağlantıKurulamadı));
     return geriYüklendi;
 }

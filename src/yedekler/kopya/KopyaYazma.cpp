@@ -6,6 +6,7 @@
 #include <QStorageInfo>
 #include <algorithm>
 #include <map>
+#include <optional>
 
 #include "ApilerModulu.h"
 #include "GeciciDosya.h"
@@ -17,6 +18,8 @@
 namespace {
 
 using Tür = KopyaSonucu::Tür;
+
+const QString GÜNLÜK_EKİ = QStringLiteral("-journal");
 
 std::string Bayt(const QString& yol) {
     return QFile::encodeName(yol).toStdString();
@@ -60,10 +63,18 @@ KopyaSonucu Sıkıştırarak(const Kopyaİşi& iş, const QString& hedef) {
     return {!iş.Dur.isEmpty() && QFileInfo::exists(iş.Dur) ? Tür::Durduruldu : Tür::Olmadı, {}, neden};
 }
 
-const Kopya* SonGünlük(const std::vector<Kopya>& kopyalar) {
-    const auto yer = std::find_if(kopyalar.begin(), kopyalar.end(),
-                                  [](const Kopya& kopya) { return kopya.Ad.Tür == KopyaTürü::Günlük; });
+// The newest of its kind; what is kept before a restore is kept in any case.
+const Kopya* Sonuncu(const std::vector<Kopya>& kopyalar, KopyaTürü tür) {
+    if (tür == KopyaTürü::Önce) return nullptr;
+    const auto yer =
+        std::find_if(kopyalar.begin(), kopyalar.end(), [tür](const Kopya& kopya) { return kopya.Ad.Tür == tür; });
     return yer == kopyalar.end() ? nullptr : &*yer;
+}
+
+// As raw ones are as a rule: nothing sound is lost with it. Its folder stands in the backups'.
+bool HamVeBozuk(const Kopya& kopya) {
+    const QString kök = QFileInfo(QFileInfo(kopya.Yol).path()).path() + QDir::separator();
+    return kopya.Ad.Tür == KopyaTürü::Ham && AçılmışYedek(kopya.Yol, kök).Denetle().Durum == YedekDurumu::Bozuk;
 }
 
 void YarımlarıSil(const QString& klasör) {
@@ -105,18 +116,27 @@ bool İçerikleriAynı(const QString& a, const QString& b) {
 }
 
 void FazlalıklarıSil(const QString& klasör, int yeni) {
-    std::map<int, QString> yollar;
+    std::map<int, Kopya> kopyalar;
     std::vector<KopyaAdı> adlar;
     for (const Kopya& kopya : KopyalarıOku(klasör)) {
-        yollar[kopya.Ad.Sıra] = kopya.Yol;
+        kopyalar[kopya.Ad.Sıra] = kopya;
         adlar.push_back(kopya.Ad);
     }
     std::map<int, bool> sağlam{{yeni, true}};
     for (const Fazlalık& fazlalık : Seyrelt(adlar)) {
+        const auto yerineKalan = kopyalar.find(fazlalık.YerineKalan);
+        if (yerineKalan == kopyalar.end()) continue;
         const auto [kalan, ilk] = sağlam.try_emplace(fazlalık.YerineKalan, false);
-        if (ilk) kalan->second = VeriDosyasıSağlam(yollar[fazlalık.YerineKalan]);
-        if (kalan->second) QFile::remove(yollar[fazlalık.Sıra]);
+        if (ilk) kalan->second = VeriDosyasıSağlam(yerineKalan->second.Yol);
+        const Kopya& giden = kopyalar[fazlalık.Sıra];
+        if ((kalan->second || HamVeBozuk(giden)) && QFile::remove(giden.Yol)) QFile::remove(giden.Yol + GÜNLÜK_EKİ);
     }
+}
+
+void FazlalıklarıSil(const QString& kopya) {
+    const QFileInfo dosya(kopya);
+    const std::optional<KopyaAdı> ad = KopyaAdınıOku(dosya.fileName());
+    if (ad) FazlalıklarıSil(dosya.path() + QDir::separator(), ad->Tür == KopyaTürü::Ham ? 0 : ad->Sıra);
 }
 
 KopyaSonucu KopyaYaz(const Kopyaİşi& iş) {
@@ -127,7 +147,7 @@ KopyaSonucu KopyaYaz(const Kopyaİşi& iş) {
     if (!KopyaKlasörünüYap(klasör, iş.Dosya)) return {Tür::Olmadı, {}, klasör};
     YarımlarıSil(klasör);
     const std::vector<Kopya> kopyalar = KopyalarıOku(klasör);
-    const Kopya* önceki = iş.Tür == KopyaTürü::Günlük ? SonGünlük(kopyalar) : nullptr;
+    const Kopya* önceki = Sonuncu(kopyalar, iş.Tür);
     if (!iş.Hazır.isEmpty() && önceki && İçerikleriAynı(iş.Hazır, önceki->Yol)) {
         FazlalıklarıSil(klasör, önceki->Ad.Sıra);  // its bytes are those of a file that was checked just now
         return {Tür::Aynı, önceki->Yol, {}};
@@ -144,7 +164,7 @@ KopyaSonucu KopyaYaz(const Kopyaİşi& iş) {
         QFile::remove(hedef);
         return {Tür::Aynı, önceki->Yol, {}};
     }
-    if (iş.Tür != KopyaTürü::Günlük || !iş.Hazır.isEmpty()) FazlalıklarıSil(klasör, sıra);
+    if (iş.Tür == KopyaTürü::Elle || !iş.Hazır.isEmpty()) FazlalıklarıSil(klasör, sıra);
     return sonuç;
 }
 
@@ -154,9 +174,9 @@ QString HamınıSakla(const QString& kök, const QString& dosya) {
     if (!KopyaKlasörünüYap(klasör, dosya)) return {};
     const int sıra = SonrakiSıra(KopyalarıOku(klasör));
     const QString hedef = klasör + KopyaAdınıYaz({QFileInfo(dosya).lastModified(), sıra, KopyaTürü::Ham});
-    const QString ek = QStringLiteral("-journal");
     // The journal second: it would not outlive the copying of its file.
-    if (DosyaKopyala(dosya, hedef) && (!QFileInfo::exists(dosya + ek) || DosyaKopyala(dosya + ek, hedef + ek)))
+    if (DosyaKopyala(dosya, hedef) &&
+        (!QFileInfo::exists(dosya + GÜNLÜK_EKİ) || DosyaKopyala(dosya + GÜNLÜK_EKİ, hedef + GÜNLÜK_EKİ)))
         return hedef;
     QFile::remove(hedef);
     return {};

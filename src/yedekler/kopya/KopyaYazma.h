@@ -17,7 +17,7 @@ struct Kopyaİşi {
 struct KopyaSonucu {
     enum class Tür {
         Yazıldı,
-        Aynı,  // nothing has changed since the newest daily copy
+        Aynı,  // nothing has changed since the newest copy of this kind, which `Yol` names
         Boş,   // neither products nor materials: nothing to keep
         YerYok,
         Durduruldu,
@@ -30,12 +30,16 @@ struct KopyaSonucu {
 
 // Writes a dated copy and checks it before it gets its name; then takes away what thinning no longer needs, each only
 // if the copy that stays in its place is sound at this moment. After a daily copy of the data file itself, at the end
-// of a run, nobody waits for that: the next start's does it. Whatever fails, what was there stays, and no half file.
+// of a run, nobody waits for that: the next start's does it. What is kept before something else is done makes room only
+// when that was done. Whatever fails, what was there stays, and no half file.
 // A copy is written only if the data file's size stays free on the disk afterwards.
 KopyaSonucu KopyaYaz(const Kopyaİşi& iş);
 
 // What thinning leaves after a sound copy with this number was written.
 void FazlalıklarıSil(const QString& klasör, int yeni);
+
+// The same after that was done for which this copy, perhaps a raw one, was kept.
+void FazlalıklarıSil(const QString& kopya);
 
 // The data file's bytes as they stand, and its journal's. "": neither could be kept.
 QString HamınıSakla(const QString& kök, const QString& dosya);

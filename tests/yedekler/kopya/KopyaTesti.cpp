@@ -1,3 +1,4 @@
+#include "AccessUreteci.h"
 #include "DisKopya.h"
 #include "DoluDisk.h"
 #include "HazirlikTesti.h"
@@ -54,10 +55,12 @@ TEST(Seyreltme, GünHaftaVeAySonlarıKalır) {
              {QStringList{"2026-11-22 0900", "2026-11-22 1000", "2020-01-01 0900", "2020-01-02 0900",
                           "2020-01-02 1000"},
               "1>2"},
-             // Those asked for stand apart, the newest ten of them; a damaged file's bytes stay.
+             // Those asked for stand apart, the newest ten of them, a damaged file's bytes included; such bytes alone
+             // push nothing else out.
              {QStringList{"2026-11-22 0900 ham"} + QStringList(11, "2026-11-22 0900 elle") +
                   QStringList{"2026-11-22 0900 once", "2026-11-22 0900"},
-              "2>4 3>4"},
+              "1>4 2>4 3>4"},
+             {QStringList{"2026-11-22 0900 elle"} + QStringList(11, "2026-11-22 0900 ham"), "1>0 2>3"},
          })
         EXPECT_EQ(Gidenler(kopyalar), gidenler) << kopyalar.join(", ").toStdString();
     for (const char* yabancı : {"Varnek 2026-11-31 1803 000001.ydk", "Varnek 2026-11-22 2503 000001.ydk",
@@ -195,6 +198,52 @@ TEST_F(Kopyalar, YerineKalanBozuksaSilinmez) {
     yaz(12, 8);
     EXPECT_EQ(Adlar().join(' ').count("000001.ydk"), 0);
     EXPECT_EQ(Adlar().size(), 4);
+}
+
+// What is kept before a restore makes room only when that was done; what was asked for twice is one copy.
+TEST_F(Kopyalar, SaklananlarAncakİşBitinceYerAçar) {
+    DosyaYap(VeriDosyası(), QStringLiteral("İlk"), ÖncekiGün);
+    const KopyaSonucu elle = KopyaYaz(İş(KopyaTürü::Elle));
+    ASSERT_EQ(elle.Ne, Tür::Yazıldı);
+    QString son;
+    for (int i = 0; i < 10; ++i) son = KopyaYaz(İş(KopyaTürü::Önce)).Yol;
+    const KopyaSonucu yine = KopyaYaz(İş(KopyaTürü::Elle));
+    EXPECT_EQ(yine.Ne, Tür::Aynı);
+    EXPECT_EQ(yine.Yol, elle.Yol);
+    EXPECT_EQ(Adlar().size(), 11);
+    FazlalıklarıSil(son);
+    EXPECT_EQ(Adlar().size(), 10);
+    EXPECT_FALSE(QFile::exists(elle.Yol));
+    // Raw ones, of which none is sound; with its journal goes the one that goes.
+    DosyaYaz(VeriDosyası(), QByteArray(5000, 'x'));
+    DosyaYaz(VeriDosyası() + "-journal", "günlük");
+    const QString ilk = HamınıSakla(YedekKlasörü(), VeriDosyası());
+    for (int i = 0; i < 10; ++i) son = HamınıSakla(YedekKlasörü(), VeriDosyası());
+    FazlalıklarıSil(son);
+    EXPECT_EQ(QDir(QFileInfo(son).path()).entryList({"*ham.ydk*"}).size(), 20);
+    EXPECT_FALSE(QFile::exists(ilk));
+    EXPECT_EQ(Adlar().size(), 20);
+}
+
+TEST_F(Kopyalar, AccessBiçimindekiYedek) {
+    AccessÜreteci dosya;
+    dosya.SatırlarıKoy("MalzemeTablosu", {{AccessÜreteci::Metin(u"Çıta"), std::nullopt}});
+    const QString yol = Klasör() + QStringLiteral("eski.vtb");
+    dosya.Yaz(yol.toStdString());
+    QDir().mkpath(YedekKlasörü());
+    DosyaYaz(Klasör() + "eski.ldb", {});
+    const YedekBilgisi açıkken = AçılmışYedek(yol, YedekKlasörü()).Denetle();
+    EXPECT_EQ(açıkken.Durum, YedekDurumu::Okunamadı);
+    EXPECT_TRUE(açıkken.Neden.contains("yanında eski.ldb var")) << açıkken.Neden.toStdString();
+    QFile::remove(Klasör() + "eski.ldb");
+    AçılmışYedek yedek(yol, YedekKlasörü());
+    EXPECT_EQ(yedek.Denetle().Durum, YedekDurumu::Sağlam);
+    EXPECT_EQ(yedek.Değişenler(), "1 değer olduğu gibi alınamadı (1 boş değer)");
+    DosyaYaz(VeriDosyası() + ".access.txt", "başka bir liste");
+    const QString liste = yedek.DeğişenleriSakla(VeriDosyası());
+    EXPECT_EQ(liste, VeriDosyası() + ".access-2.txt");
+    EXPECT_TRUE(Baytlar(liste).contains("Çıta"));
+    EXPECT_EQ(Baytlar(yol).toStdString(), dosya.Baytlar());
 }
 
 TEST_F(Kopyalar, BaşkaDiskteYarımDosyaKalmaz) {
