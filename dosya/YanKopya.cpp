@@ -34,12 +34,11 @@ YanKopya YanaKopyala(const std::string& dosya, const std::string& kök, const st
         GeçiciDosya kopya(ad);
         Sonuç sonuç = kopya.Aç();
         if (sonuç.Tamam()) sonuç = kopya.Doldur(dosya);
+        if (sonuç.Tamam() && !İçerikleriAynı(dosya, kopya.Yol(), bak)) sonuç = {Sonuç::Tür::Yapılamadı, EIO};
         if (!sonuç.Tamam()) return {sonuç, ad, false};
         kopya.İzinleriAl(dosya);
         sonuç = kopya.Yerleştir(Yerleştirme::Yeni);
-        if (sonuç.Ne == Sonuç::Tür::Var) continue;
-        if (sonuç.Tamam() && !İçerikleriAynı(dosya, ad, bak)) sonuç = {Sonuç::Tür::Yapılamadı, EIO};
-        return {sonuç, ad, true};
+        if (sonuç.Ne != Sonuç::Tür::Var) return {sonuç, ad, true};
     }
 }
 

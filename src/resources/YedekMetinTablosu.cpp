@@ -78,9 +78,9 @@ constexpr MetinSatırı Tablo[] = {
     {YedekMetni::ZatenSaklı,
      "Veriler, elle alınan son yedekten beri değişmemiş; yeni bir yedek gerekmedi. Bu durum şurada saklı:\n%1"},
     {YedekMetni::TabloAçıklaması, "%1\n%2"},
-    {YedekMetni::ErişimdenDeğişenler, "Yedek bir Access dosyası. %1\nListe:\n%2"},
+    {YedekMetni::ErişimdenDeğişenler, "Yedek bir Access dosyası; %1.\nListesi:\n%2"},
     {YedekMetni::ErişimdenDeğişenlerListesiz,
-     "Yedek bir Access dosyası. %1\nBunların listesi veri dosyasının yanına yazılamadı."},
+     "Yedek bir Access dosyası; %1.\nBunların listesi veri dosyasının yanına yazılamadı."},
 };
 
 static_assert(Sıralı(Tablo));

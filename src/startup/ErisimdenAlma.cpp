@@ -75,5 +75,5 @@ bool YedekErişimDosyası(const VeriYolları& yollar) {
 bool ErişimYedeğiniSakla(const VeriYolları& yollar) {
     return !YedekErişimDosyası(yollar) ||
            Dosya::YanaKopyala(Yol(yollar.GerçekYedek), Yol(yollar.GerçekDosya + QStringLiteral(".access")), {})
-               .Ne.Yapıldı();
+               .Ne.Tamam();
 }

@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QFileInfo>
+#include <utility>
 
 #include "ApilerModulu.h"
 #include "OrtakFonksiyonlarModulu.h"
@@ -85,13 +86,25 @@ void Yedekle(const VeriYolları& yollar, bool yedekKlasörüVar) {
     }
 }
 
+// Offers the dated copies where there are some, and not again to whom they were offered already.
+class Sunum {
+  public:
+    Sunum(const YedekSunumu& sun, const VeriYolları& yollar) : m_sun(sun), m_var(sun && KopyaVar(yollar)) {}
+    bool Var() const { return m_var; }
+    bool Yap() { return std::exchange(m_var, false) && m_sun(); }
+
+  private:
+    const YedekSunumu& m_sun;
+    bool m_var;
+};
+
 // Puts a data file that is missing or one of Access into its place; where that cannot be, the user may choose a dated
 // copy.
-bool YerineGetir(const VeriYolları& yollar, const YedekSunumu& sun) {
+bool YerineGetir(const VeriYolları& yollar, Sunum& sunum) {
     const bool eksik = !DosyaVar(yollar.Dosya);
-    if (eksik && !YedekErişimDosyası(yollar)) return EksikDosyayıGeriYükle(yollar);
+    if (eksik && !YedekErişimDosyası(yollar)) return EksikDosyayıGeriYükle(yollar) || sunum.Yap();
     const ErişimSonu son = eksik ? ErişimYedeğiniGeriYükle(yollar) : ErişimDosyasınıAl(yollar);
-    return son == ErişimSonu::Alındı || (son == ErişimSonu::Alınamadı && sun && KopyaVar(yollar) && sun());
+    return son == ErişimSonu::Alındı || (son == ErişimSonu::Alınamadı && sunum.Yap());
 }
 
 // What has to be right before the data file is touched.
@@ -121,12 +134,13 @@ bool VeritabanınıHazırla(const YedekSunumu& sun) {
     YarımAçılmışlarıSil(yollar.YedekKlasörü);
     // An Access file is taken over first, with progress: looking at it would do so without.
     const bool erişim = DosyaVar(yollar.Dosya) ? DosyaErişimDosyası(yollar) : YedekErişimDosyası(yollar);
-    if (sun && KopyaVar(yollar) && !erişim && BaşlangıçBiter(yollar)) sun();
+    Sunum sunum(sun, yollar);
+    if (sunum.Var() && !erişim && BaşlangıçBiter(yollar)) sunum.Yap();
     if (!YerlerUygun(yollar)) return false;
     YarımKalanlarıSil(yollar);
     // Without the driver nothing can be said about the files; connecting then shows what is wrong.
     if (!SürücüKayıtlı()) return ODBCBağlan();
-    if (!YerineGetir(yollar, sun)) return false;
+    if (!YerineGetir(yollar, sunum)) return false;
     QString neden;
     switch (BoşDosyayıGözet(yollar, neden)) {
         case BoşDosyaSonucu::Sorunsuz:

@@ -122,10 +122,12 @@ void FazlalıklarıSil(const QString& klasör, int yeni) {
         kopyalar[kopya.Ad.Sıra] = kopya;
         adlar.push_back(kopya.Ad);
     }
+    const auto yazılan = kopyalar.find(yeni);
+    const bool günlük = yazılan != kopyalar.end() && yazılan->second.Ad.Tür == KopyaTürü::Günlük;
     std::map<int, bool> sağlam{{yeni, true}};
     for (const Fazlalık& fazlalık : Seyrelt(adlar)) {
         const auto yerineKalan = kopyalar.find(fazlalık.YerineKalan);
-        if (yerineKalan == kopyalar.end()) continue;
+        if (yerineKalan == kopyalar.end() || günlük != (yerineKalan->second.Ad.Tür == KopyaTürü::Günlük)) continue;
         const auto [kalan, ilk] = sağlam.try_emplace(fazlalık.YerineKalan, false);
         if (ilk) kalan->second = VeriDosyasıSağlam(yerineKalan->second.Yol);
         const Kopya& giden = kopyalar[fazlalık.Sıra];

@@ -35,7 +35,8 @@ struct KopyaSonucu {
 // A copy is written only if the data file's size stays free on the disk afterwards.
 KopyaSonucu KopyaYaz(const Kopyaİşi& iş);
 
-// What thinning leaves after a sound copy with this number was written.
+// What thinning leaves after a sound copy with this number was written: of the daily ones after a daily one, else of
+// the others.
 void FazlalıklarıSil(const QString& klasör, int yeni);
 
 // The same after that was done for which this copy, perhaps a raw one, was kept.

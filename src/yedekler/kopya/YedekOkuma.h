@@ -38,7 +38,8 @@ class AçılmışYedek {
     // Counts and checks; may be stopped by a file named `dur`.
     YedekBilgisi Denetle(const QString& dur = {});
 
-    const QString& Yol() const { return m_yol; }  // the copy
+    const QString& Yol() const { return m_yol; }           // the copy
+    bool Kopyalandı() const { return m_neden.isEmpty(); }  // otherwise nothing is known of it
 
     // Of one in Access format, once it was opened: how much was stored otherwise than it stands there; "" when nothing.
     QString Değişenler() const;
