@@ -1,10 +1,10 @@
 #include <QCoreApplication>
-#include <clocale>
 #include <csignal>
 
 #include "ErisimKomutu.h"
 #include "Komut.h"
 #include "OdbcSurucu.h"
+#include "SayiYereli.h"
 #include "Uc.h"
 #include "VeriDosyasi.h"
 
@@ -65,7 +65,7 @@ int Yürüt(const QStringList& sözler) {
 
 int main(int argc, char** argv) {
     const QCoreApplication uygulama(argc, argv);
-    std::setlocale(LC_NUMERIC, "C");
+    SayıYereliniSabitle();
     for (int sinyal : {SIGINT, SIGTERM, SIGHUP}) std::signal(sinyal, [](int) { YarıdaKes(); });
     std::signal(SIGPIPE, SIG_IGN);  // a reader that is gone is a failure to write, after which things are put away
     SürücüKlasörünüAyarla(QCoreApplication::applicationDirPath());

@@ -5,6 +5,7 @@
 #include "Cift.h"
 #include "OdbcModulu.h"
 #include "OlcumFormOrtami.h"
+#include "SayiYereli.h"
 
 using namespace Qt::StringLiterals;
 
@@ -79,6 +80,7 @@ void ÇıplakArşivleme(benchmark::State& durum) {
 
 int main(int argc, char** argv) {
     const QCoreApplication uygulama(argc, argv);
+    SayıYereliniSabitle();
     ÖlçümOrtamı::Kur();
     ÇiftEkle("archive of 1,000 products / bare", 2.0, Arşivleme, ÇıplakArşivleme);
     return ÇiftleriÖlç(argc, argv);

@@ -12,6 +12,7 @@
 #include "Cift.h"
 #include "CizelgeOkuyucu.h"
 #include "CizelgeYazici.h"
+#include "SayiYereli.h"
 
 using namespace Qt::StringLiterals;
 
@@ -136,6 +137,7 @@ void ÇıplakYaz(benchmark::State& durum, const QByteArray& yol) {
 
 int main(int argc, char** argv) {
     QCoreApplication uygulama(argc, argv);
+    SayıYereliniSabitle();
     const QTemporaryDir klasör;
     const QByteArray yol = ListeYap(klasör);
     ÇiftEkle(

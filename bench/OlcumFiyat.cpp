@@ -9,6 +9,7 @@
 #include "MaliyetTablosu.h"
 #include "OdbcModulu.h"
 #include "OlcumFormOrtami.h"
+#include "SayiYereli.h"
 
 using namespace Qt::StringLiterals;
 
@@ -136,6 +137,7 @@ void ÇıplakUygulama(benchmark::State& durum) {
 
 int main(int argc, char** argv) {
     const QCoreApplication uygulama(argc, argv);
+    SayıYereliniSabitle();
     ÖlçümOrtamı::Kur();
     ÇiftEkle("preview of 1,000,000 rows / bare", 2.0, Önizleme, ÇıplakÖnizleme);
     ÇiftEkle("cost table of 1,000,000 rows / bare", 2.0, Tablo, ÇıplakTablo);

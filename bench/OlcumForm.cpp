@@ -9,6 +9,7 @@
 #include "Cift.h"
 #include "Deyimler.h"
 #include "OlcumFormOrtami.h"
+#include "SayiYereli.h"
 #include "Yukleyiciler.h"
 
 using namespace Qt::StringLiterals;
@@ -191,6 +192,7 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     ÖlçümOrtamı::Kur();
     QApplication uygulama(argc, argv);
+    SayıYereliniSabitle();
     ÇiftEkle("select product: 1,000,000 / 1,000 rows", 1.2, ÜrünSeçimi(ÇokSatır), ÜrünSeçimi(AzSatır));
     ÇiftEkle("fill tree: 50,000 products / bare", 1.5, AğacıYükle, ÇıplakAğaç);
     ÇiftEkle("product of 1,700 materials / bare", 1.5, KalabalıkÜrün, ÇıplakKalabalık);

@@ -18,6 +18,7 @@
 #include "MalzemeListesiOlusturFormu.h"
 #include "MesajKutusu.h"
 #include "OlcumFormOrtami.h"
+#include "SayiYereli.h"
 
 using namespace Qt::StringLiterals;
 
@@ -217,6 +218,7 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     ÖlçümOrtamı::Kur();
     QApplication uygulama(argc, argv);
+    SayıYereliniSabitle();
     MesajKutusu::GöstericiyiAyarla([](const MesajKutusu::İstek&) { return MesajKutusu::Yanıt::Evet; });
     ÇiftEkle("open material form: 100,000 / bare", 1.5, FormAçılışı, ÇıplakAçılış);
     ÇiftEkle("find box keystroke: 100,000 / 1,000", 3.0, AramaTuşu(ÇokSatır), AramaTuşu(AzSatır));

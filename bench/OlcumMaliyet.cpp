@@ -7,6 +7,7 @@
 #include "MaliyetSatirlari.h"
 #include "OdbcModulu.h"
 #include "OlcumFormOrtami.h"
+#include "SayiYereli.h"
 #include "TurkceSira.h"
 
 using namespace Qt::StringLiterals;
@@ -71,6 +72,7 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     ÖlçümOrtamı::Kur();
     const QApplication uygulama(argc, argv);
+    SayıYereliniSabitle();
     ÇiftEkle("sort the cost table: 50,000 products / bare", 3.0, Diz, ÇıplakDiz);
     ÇiftEkle("filter key in the cost table: 50,000 / bare sort", 3.0, Süz, ÇıplakDiz);
     return ÇiftleriÖlç(argc, argv);

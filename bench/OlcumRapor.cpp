@@ -13,6 +13,7 @@
 #include "OrtakFonksiyonlarModulu.h"
 #include "RaporCiktilari.h"
 #include "Saat.h"
+#include "SayiYereli.h"
 #include "Yazdirma.h"
 
 using namespace Qt::StringLiterals;
@@ -154,6 +155,7 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     ÖlçümOrtamı::Kur();
     QApplication uygulama(argc, argv);
+    SayıYereliniSabitle();
     ÇiftEkle("movements of a day, 10,000 / bare", 2.0, Hareketler, ÇıplakHareketler);
     ÇiftEkle("catalogue of 10,000 to PDF / bare", 2.0, KatalogPdf, ÇıplakKatalogPdf);
     return ÇiftleriÖlç(argc, argv);

@@ -5,6 +5,7 @@
 #include "Deyimler.h"
 #include "OdbcModulu.h"
 #include "OlcumFormOrtami.h"
+#include "SayiYereli.h"
 #include "YariMamulYayilimi.h"
 
 using namespace Qt::StringLiterals;
@@ -92,6 +93,7 @@ void ÇıplakYayılma(benchmark::State& durum) {
 
 int main(int argc, char** argv) {
     const QCoreApplication uygulama(argc, argv);
+    SayıYereliniSabitle();
     ÖlçümOrtamı::Kur();
     ÇiftEkle("price below 6 levels and 10,000 products / bare", 2.0, Yayılma, ÇıplakYayılma);
     return ÇiftleriÖlç(argc, argv);

@@ -7,6 +7,7 @@
 #include "KopyaYazma.h"
 #include "OlcumFormOrtami.h"
 #include "OrtakFonksiyonlarModulu.h"
+#include "SayiYereli.h"
 
 namespace {
 
@@ -43,6 +44,7 @@ void SonYedek(benchmark::State& durum) {
 
 int main(int argc, char** argv) {
     const QCoreApplication uygulama(argc, argv);
+    SayıYereliniSabitle();
     if (const int sayı = argc > 1 ? QByteArray(argv[argc - 1]).toInt() : 0; sayı > 0) {
         satırSayısı = sayı;
         --argc;

@@ -12,6 +12,7 @@
 #include "ApilerModulu.h"
 #include "BaslatModulu.h"
 #include "KapanisModulu.h"
+#include "SayiYereli.h"
 #include "Simge.h"
 #include "SurumKaydi.h"
 #include "TekKopya.h"
@@ -42,6 +43,7 @@ void AraçTakımınıÇevir() {
 
 int main(int argc, char** argv) {
     QApplication uygulama(argc, argv);
+    SayıYereliniSabitle();
     UygulamayıTanıt();
     AraçTakımınıÇevir();
     const YardımTuşu yardım(nullptr);

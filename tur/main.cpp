@@ -10,6 +10,7 @@
 #include "BaslatModulu.h"
 #include "KapanisModulu.h"
 #include "Sahneler.h"
+#include "SayiYereli.h"
 #include "SurumKaydi.h"
 #include "TekKopya.h"
 
@@ -47,6 +48,7 @@ const Sahne karşılamaSahnesi{u"karsilama"_s, [](Tur& tur, QWidget&) {
 // through its forms.
 int main(int argc, char** argv) {
     QApplication uygulama(argc, argv);
+    SayıYereliniSabitle();
     if (argc != 3) {
         Yaz(u"varnek-tur PROGRAM PICTURES"_s);
         return 2;

@@ -5,6 +5,7 @@
 #include "AnaForm.h"
 #include "CizelgeKaydi.h"
 #include "DegiskenModulu.h"
+#include "FisCizelgesi.h"
 #include "FormParcalari.h"
 #include "KullanilanMalzemeler.h"
 #include "MaliyetAlani.h"
@@ -58,22 +59,13 @@ void AnaForm::YazdırmayaİzinVer(bool izin) {
         komut->setEnabled(izin);
 }
 
-// The printout's summary stands below the rows, its captions under the names, its figures under the amounts.
+// The printout's summary stands below the rows.
 void AnaForm::FişiAktar() {
     const MaliyetFişi fiş = Fiş();
-    QList<QList<ÇizelgeDeğeri>> özet;
-    özet.emplaceBack();
-    for (const FişÖzeti& satır : FişinÖzeti(fiş)) {
-        QList<ÇizelgeDeğeri>& değerler = özet.emplaceBack();
-        for (int boş = 0; boş < 2; ++boş) değerler.emplaceBack();
-        değerler.emplaceBack(satır.Etiket);
-        değerler.emplaceBack();
-        değerler.append(GösterilenDeğer(satır.Değer));
-    }
     ÇizelgeyeKaydet(*this, fiş.Ürün, [&](const QString& yol) {
         return ListeyiÇizelgeyeYaz(yol, fiş.Ürün, *m_liste,
                                    {ListeSütunu::Miktar, ListeSütunu::Metin, ListeSütunu::Fiyat, ListeSütunu::Tutar},
-                                   özet);
+                                   FişÖzetininSatırları(fiş));
     });
 }
 

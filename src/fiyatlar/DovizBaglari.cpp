@@ -11,7 +11,6 @@
 #include "FiyatYazimi.h"
 #include "FormParcalari.h"
 #include "GirisKutusu.h"
-#include "ListeCizelgesi.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "OdbcModulu.h"
@@ -74,11 +73,7 @@ QWidget* DövizBağları::BağBölümü() {
     düzen->setContentsMargins(0, 0, 0, 0);
     düzen->addWidget(VurgulananEtiket(6, MetinNo::BağlıMalzemelerEtiketi, m_bağlar));
     düzen->addWidget(m_bağlar, 1);
-    auto* aktar = DüğmeOluştur(QStringLiteral("TabloyaAktarButonu"), ÇizelgeMetni::DövizTablosunuAktar, [this] {
-        const QString ad = window()->windowTitle();
-        ÇizelgeyeKaydet(*window(), ad,
-                        [this, &ad](const QString& yol) { return TabloyuÇizelgeyeYaz(yol, ad, m_bağModeli); });
-    });
+    auto* aktar = TabloyaAktarDüğmesi(ÇizelgeMetni::TabloyaAktarY, m_bağModeli);
     düzen->addLayout(DüğmeSırası({m_çöz, aktar, nullptr}));
     return bölüm;
 }

@@ -7,6 +7,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "CizelgeKaydi.h"
+#include "CizelgeMetinleri.h"
 #include "DovizBaglari.h"
 #include "FiyatMetinleri.h"
 #include "FormParcalari.h"
@@ -98,7 +100,9 @@ QWidget* DövizKurlarıFormu::DövizBölümü() {
     düzen->setContentsMargins(0, 0, 0, 0);
     düzen->addWidget(VurgulananEtiket(0, MetinNo::DövizlerEtiketi, m_tablo));
     düzen->addWidget(m_tablo, 1);
-    düzen->addLayout(DüğmeSırası({m_sil, nullptr}));
+    auto* aktar =
+        TabloyaAktarDüğmesi(ÇizelgeMetni::TabloyaAktarR, m_model, QStringLiteral("DövizTablosunuAktarButonu"));
+    düzen->addLayout(DüğmeSırası({m_sil, aktar, nullptr}));
     return bölüm;
 }
 

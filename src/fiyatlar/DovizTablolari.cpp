@@ -29,7 +29,7 @@ using Deyimler::Döviz::Bağ;
 QList<TabloSütunu> DövizKaynağı::Sütunlar() {
     return {{MetinNo::DövizKoduSütunu, 8},
             {MetinNo::KurSütunu, 12, true},
-            {MetinNo::KurGünüSütunu, 11},
+            {MetinNo::KurGünüSütunu, 11, false, ÇizelgedeSütun::Tarih},
             {MetinNo::BağlıSayısıSütunu, 6, true}};
 }
 

@@ -9,6 +9,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "CizelgeKaydi.h"
+#include "CizelgeMetinleri.h"
 #include "FiyatMetinleri.h"
 #include "FormParcalari.h"
 #include "GirisKutusu.h"
@@ -26,8 +28,9 @@ namespace {
 
 enum Sütunlar { AdSütunu, FiyatSütunu, SonDeğişimSütunu };
 
-const QList<TabloSütunu> SÜTUNLAR{
-    {MetinNo::MalzemeSütunu, 30}, {MetinNo::FiyatıSütunu, 14, true}, {MetinNo::SonDeğişimSütunu, 12}};
+const QList<TabloSütunu> SÜTUNLAR{{MetinNo::MalzemeSütunu, 30},
+                                  {MetinNo::FiyatıSütunu, 14, true},
+                                  {MetinNo::SonDeğişimSütunu, 12, false, ÇizelgedeSütun::Tarih}};
 
 }  // namespace
 
@@ -175,7 +178,8 @@ void TopluFiyatFormu::Yerleştir() {
     auto* kapat = DüğmeOluştur(QStringLiteral("KapatButonu"), MetinNo::Kapat, [this] { reject(); });
     auto* düzen = new QVBoxLayout(this);
     düzen->addLayout(üst, 1);
-    düzen->addLayout(DüğmeSırası({m_önizle, nullptr, kapat}));
+    auto* aktar = TabloyaAktarDüğmesi(ÇizelgeMetni::TabloyaAktarY, *m_model);
+    düzen->addLayout(DüğmeSırası({m_önizle, aktar, nullptr, kapat}));
     m_tablo->setFocus();
     BoyVer(*this, {860, 560});
 }

@@ -75,6 +75,7 @@ MaliyetDağılımı MaliyetiDağıt(const DağılımGirdisi& girdi, int basamak)
         DağılımMalzemesi& malzeme = dağılım.Malzemeler.emplace_back();
         malzeme.Ad = satır.Malzeme;
         malzeme.Miktar = gösterilen.Miktar;
+        malzeme.SaklananMiktar = satır.Miktar;
         malzeme.Sayıldı = gösterilen.Sayıldı;
         if (malzeme.Sayıldı) malzeme.Parça.Tutar = Okunan(gösterilen.Tutar, basamak);
     }

@@ -19,6 +19,7 @@ struct DağılımParçası {
 struct DağılımMalzemesi {
     QString Ad;
     QString Miktar;  // as shown
+    QString SaklananMiktar;
     DağılımParçası Parça;
     std::optional<double> BirikimliPay;  // with all that stand before it
     bool Sayıldı = true;                 // false: unreadable or beyond money, no part of the cost

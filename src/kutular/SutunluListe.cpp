@@ -47,10 +47,14 @@ QString SütunluListe::SeçiliMetin(int sütun) const {
 void SütunluListe::keyPressEvent(QKeyEvent* olay) {
     const QTreeWidgetItem* seçili = SeçiliÖğe();
     if (!olay->matches(QKeySequence::Copy) || !seçili) return TekSeçimli::keyPressEvent(olay);
+    SatırıPanoyaKoy(*seçili, m_sayılar);
+}
+
+void SatırıPanoyaKoy(const QTreeWidgetItem& satır, const QList<bool>& sayılar) {
     QStringList hücreler;
-    for (int sütun = 0; sütun < columnCount(); ++sütun) {
-        const QString hücre = seçili->text(sütun);
-        hücreler.append(TekSatır(m_sayılar.at(sütun) ? hücre : TabloMetni(hücre)));
+    for (int sütun = 0; sütun < sayılar.size(); ++sütun) {
+        const QString hücre = satır.text(sütun);
+        hücreler.append(TekSatır(sayılar.at(sütun) ? TabloRakamı(hücre) : TabloMetni(hücre)));
     }
     QGuiApplication::clipboard()->setText(hücreler.join(QLatin1Char('\t')));
 }

@@ -36,3 +36,7 @@ class SütunluListe : public TekSeçimli<QTreeWidget> {
     QList<double> m_bölenler;
     QList<bool> m_sayılar;  // the columns of figures
 };
+
+// A row on the clipboard as a spreadsheet pastes it, tab between cells; `sayılar`: of each column whether it holds
+// figures.
+void SatırıPanoyaKoy(const QTreeWidgetItem& satır, const QList<bool>& sayılar);

@@ -5,7 +5,12 @@ namespace {
 
 constexpr MetinSatırı Tablo[] = {
     {ÇizelgeMetni::BirimiSütunu, "Birimi"},
-    {ÇizelgeMetni::DövizTablosunuAktar, "Tablo&ya Aktar..."},
+    {ÇizelgeMetni::TabloyaAktarY, "Tablo&ya Aktar..."},
+    {ÇizelgeMetni::TabloyaAktarO, "Tabl&oya Aktar..."},
+    {ÇizelgeMetni::TabloyaAktarR, "Tabloya Akta&r..."},
+    {ÇizelgeMetni::İşaretSütunu, "İşareti"},
+    {ÇizelgeMetni::İşaretli, "işaretli"},
+    {ÇizelgeMetni::İşaretsiz, "işaretsiz"},
 };
 
 static_assert(Sıralı(Tablo));

@@ -61,6 +61,7 @@ constexpr MetinSatırı Tablo[] = {
     {GetirmeMetni::BağlarÇözüldü, "Ürünü silinen yarı mamullerin bağı çözüldü: %1"},
     {GetirmeMetni::GelecekMiktar, "Gelecek miktar"},
     {GetirmeMetni::GelecekGün, "Gelecek gün"},
+    {GetirmeMetni::Tümünüİşaretle, "Tümünü İ&şaretle"},
 };
 
 static_assert(Sıralı(Tablo));

@@ -61,5 +61,6 @@ inline constexpr MetinNo Getirildi{3552};
 inline constexpr MetinNo BağlarÇözüldü{3553};
 inline constexpr MetinNo GelecekMiktar{3554};
 inline constexpr MetinNo GelecekGün{3555};
+inline constexpr MetinNo Tümünüİşaretle{3556};
 
 }  // namespace GetirmeMetni

@@ -75,12 +75,15 @@ constexpr MetinSatırı Tablo[] = {
      "Veri dosyasına yeniden bağlanılamadı. Lütfen, programı kapatıp yeniden başlatınız."},
     {YedekMetni::BaşlangıçtaSunum,
      "Veri dosyanız açılamıyor; ama tarihli yedekler var. Bunlardan birini geri yüklemek ister misiniz?"},
-    {YedekMetni::ZatenSaklı,
-     "Veriler, elle alınan son yedekten beri değişmemiş; yeni bir yedek gerekmedi. Bu durum şurada saklı:\n%1"},
+    {YedekMetni::GeriYüklendiDoğrulanamadı,
+     "Yedek veri dosyasının yerine kondu, ama diskte kaldığı doğrulanamadı. Önceki verilerin saklandığı yer aşağıdaki "
+     "son satırda.\n%1\n%2"},
     {YedekMetni::TabloAçıklaması, "%1\n%2"},
     {YedekMetni::ErişimdenDeğişenler, "Yedek bir Access dosyası; %1.\nListesi:\n%2"},
     {YedekMetni::ErişimdenDeğişenlerListesiz,
      "Yedek bir Access dosyası; %1.\nBunların listesi veri dosyasının yanına yazılamadı."},
+    {YedekMetni::ZatenSaklı,
+     "Veriler, elle alınan son yedekten beri değişmemiş; yeni bir yedek gerekmedi. Bu durum şurada saklı:\n%1"},
 };
 
 static_assert(Sıralı(Tablo));

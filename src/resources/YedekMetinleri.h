@@ -62,9 +62,10 @@ inline constexpr MetinNo GeriYüklendi{3254};
 inline constexpr MetinNo GeriYüklendiSaklanansız{3255};
 inline constexpr MetinNo BağlantıKurulamadı{3256};
 inline constexpr MetinNo BaşlangıçtaSunum{3257};
-inline constexpr MetinNo ZatenSaklı{3258};
+inline constexpr MetinNo GeriYüklendiDoğrulanamadı{3258};
 inline constexpr MetinNo TabloAçıklaması{3259};
 inline constexpr MetinNo ErişimdenDeğişenler{3260};
 inline constexpr MetinNo ErişimdenDeğişenlerListesiz{3261};
+inline constexpr MetinNo ZatenSaklı{3262};
 
 }  // namespace YedekMetni

@@ -2,25 +2,14 @@
 
 #include <algorithm>
 
+#include "GundeBir.h"
 #include "KopyaYazma.h"
-#include "MesajKutusu.h"
 #include "OdbcSurucu.h"
 #include "OrtakFonksiyonlarModulu.h"
-#include "Saat.h"
 #include "YedekMetinleri.h"
 #include "YedekOkuma.h"
 
 namespace {
-
-void GündeBirUyar(const QString& metin) {
-    const QString bölüm = QStringLiteral("Ayarlar");
-    const QString anahtar = QStringLiteral("TarihliYedekUyarisi");
-    const QString bugün = AyMetni(Bugün());
-    if (AyarOku(bölüm, anahtar, {}) == bugün) return;
-    AyarYaz(bölüm, anahtar, bugün);
-    MesajKutusuOrtala();
-    MesajKutusu::Göster(MesajKutusu::Simge::Ünlem, MesajKutusu::Düğmeler::Tamam, metin);
-}
 
 // The driver's numbers for damage; the lower eight bits count.
 bool HasarMı(const OdbcHatası& hata) {
@@ -35,8 +24,10 @@ bool HasarMı(const OdbcHatası& hata) {
 void GünlükKopyaAl(const VeriYolları& yollar, const QDateTime& değişme) {
     const KopyaSonucu sonuç =
         KopyaYaz({yollar.YedekKlasörü, yollar.GerçekDosya, değişme, KopyaTürü::Günlük, yollar.GerçekYedek, {}});
-    if (sonuç.Ne == KopyaSonucu::Tür::YerYok) GündeBirUyar(Metin(YedekMetni::YedekYeriYok).arg(sonuç.Neden));
-    if (sonuç.Ne == KopyaSonucu::Tür::Olmadı) GündeBirUyar(Metin(YedekMetni::YedekAlınamadı).arg(sonuç.Neden));
+    if (sonuç.Ne == KopyaSonucu::Tür::YerYok)
+        GündeBirUyar(YER_UYARISI_ANAHTARI, Metin(YedekMetni::YedekYeriYok).arg(sonuç.Neden));
+    if (sonuç.Ne == KopyaSonucu::Tür::Olmadı)
+        GündeBirUyar(QStringLiteral("TarihliYedekUyarisi"), Metin(YedekMetni::YedekAlınamadı).arg(sonuç.Neden));
 }
 
 bool KopyaVar(const VeriYolları& yollar) {

@@ -9,6 +9,8 @@
 #include "DegiskenModulu.h"
 #include "ErisimMetinleri.h"
 #include "ErisimdenAlma.h"
+#include "GundeBir.h"
+#include "KopyaYazma.h"
 #include "MesajKutusu.h"
 #include "MetinTablosu.h"
 #include "OdbcModulu.h"
@@ -31,12 +33,7 @@ void KutuGöster(MesajKutusu::Simge simge, MetinNo metin, const QString& yol) {
 
 // A backup that cannot be made is told once a day.
 void GündeBirUyar(const QString& metin) {
-    const QString bölüm = QStringLiteral("Ayarlar");
-    const QString anahtar = QStringLiteral("YedekUyarisi");
-    const QString bugün = AyMetni(Bugün());
-    if (AyarOku(bölüm, anahtar, {}) == bugün) return;
-    AyarYaz(bölüm, anahtar, bugün);
-    KutuGöster(MesajKutusu::Simge::Ünlem, metin);
+    ::GündeBirUyar(QStringLiteral("YedekUyarisi"), metin);
 }
 
 QString YedekAlınamadıMetni(const VeriYolları& yollar, const QString& neden) {
@@ -132,6 +129,7 @@ bool VeritabanınıHazırla(const YedekSunumu& sun) {
     const bool yedekKlasörüVar = KlasörYap(yollar.YedekKlasörü);
     yollar.GerçekYedek = GerçekYol(yollar.Yedek);
     YarımAçılmışlarıSil(yollar.YedekKlasörü);
+    YarımKopyalarıSil(yollar.YedekKlasörü);
     // An Access file is taken over first, with progress: looking at it would do so without.
     const bool erişim = DosyaVar(yollar.Dosya) ? DosyaErişimDosyası(yollar) : YedekErişimDosyası(yollar);
     Sunum sunum(sun, yollar);

@@ -79,7 +79,9 @@ QString Tablo::SatırMetni(int satır) const {
     QStringList hücreler;
     for (int sütun = 0; sütun < m_model.columnCount(); ++sütun) {
         const QString hücre = m_model.index(satır, sütun).data().toString();
-        hücreler.append(TekSatır(m_model.Sütunlar().at(sütun).Sayı ? hücre : TabloMetni(hücre)));
+        const TabloSütunu& tanım = m_model.Sütunlar().at(sütun);
+        const bool rakam = tanım.Sayı || tanım.Çizelgede == ÇizelgedeSütun::Miktar;
+        hücreler.append(TekSatır(rakam ? TabloRakamı(hücre) : TabloMetni(hücre)));
     }
     return hücreler.join(QLatin1Char('\t'));
 }

@@ -27,6 +27,9 @@ class TabloKaynağı {
     virtual std::size_t SatırSayısı() const = 0;
     virtual QString Hücre(std::size_t satır, int sütun) const = 0;
 
+    // The same for a spreadsheet: the stored text where what is shown hides some of its digits.
+    virtual QString Saklanan(std::size_t satır, int sütun) const { return Hücre(satır, sütun); }
+
     // Below 0, 0 or above 0; texts as the data file orders them, unless a column holds figures.
     virtual int Karşılaştır(std::size_t a, std::size_t b, int sütun) const;
 
@@ -38,10 +41,19 @@ class TabloKaynağı {
     virtual QString Açıklama(std::size_t) const { return {}; }
 };
 
+// What a column's cells become in a spreadsheet.
+enum class ÇizelgedeSütun {
+    Gösterilen,
+    Metin,   // what is shown, a text even where it looks like a figure
+    Miktar,  // a quantity with its unit: two columns
+    Tarih    // a day: where it is none, what is shown
+};
+
 struct TabloSütunu {
     MetinNo Başlık;
     int Harf;           // room for so many letters or digits
     bool Sayı = false;  // figures: right-aligned, the greatest first when sorted
+    ÇizelgedeSütun Çizelgede = ÇizelgedeSütun::Gösterilen;
 };
 
 // Shows the rows that the filter lets through, in the order of a column.

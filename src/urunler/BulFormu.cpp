@@ -2,13 +2,16 @@
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "CizelgeKaydi.h"
 #include "FormParcalari.h"
 #include "IlerlemeKutusu.h"
 #include "KesmesizKutu.h"
+#include "ListeCizelgesi.h"
 #include "MetinTablosu.h"
 #include "FiyatIsi.h"
 #include "OdbcModulu.h"
@@ -70,7 +73,9 @@ void BulFormu::Yerleştir() {
     düzen->addWidget(m_kutu);
     düzen->addLayout(liste);
     düzen->addWidget(m_tablo, 1);
-    düzen->addLayout(DüğmeSırası({m_git, nullptr, kapat}));
+    auto* aktar = DüğmeOluştur(QStringLiteral("TabloyaAktarButonu"), ÜrünMetni::TabloyaAktar, [this] { Çizelgeye(); });
+    DoluykenEtkin(*aktar, m_model);
+    düzen->addLayout(DüğmeSırası({m_git, aktar, nullptr, kapat}));
     m_kutu->setFocus();
     BoyVer(*this, {640, 460});
 }
@@ -126,4 +131,15 @@ bool BulFormu::eventFilter(QObject* hedef, QEvent* olay) {
         default:
             return false;
     }
+}
+
+// All that was found, also what the list has no room for.
+void BulFormu::Çizelgeye() {
+    Kaynak hepsi;
+    hepsi.Bulunanlar = m_arama.Ara(m_kutu->text().simplified(), m_kaynak.Bulunanlar.Sayı);
+    TabloModeli model(hepsi, m_model.Sütunlar());
+    if (const int sütun = m_tablo->horizontalHeader()->sortIndicatorSection(); sütun >= 0)
+        model.sort(sütun, m_tablo->horizontalHeader()->sortIndicatorOrder());
+    ÇizelgeyeKaydet(*this, windowTitle(),
+                    [&](const QString& yol) { return TabloyuÇizelgeyeYaz(yol, windowTitle(), model); });
 }

@@ -39,6 +39,7 @@ class BulFormu : public QDialog {
     void Ara();
     void SeçimDeğişti();
     void Git();
+    void Çizelgeye();
 
     AdArama m_arama;
     Kaynak m_kaynak;

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "ListeCizelgesi.h"
 #include "MetinTablosu.h"
 #include "SayfaDuzeni.h"
 #include "UrunMetinleri.h"
@@ -94,20 +95,20 @@ QImage DağılımResmi(const QString& başlık, const ÜrünDağılımı& dağı
 }
 
 YazmaSonucu DağılımıÇizelgeyeYaz(const QString& yol, const QString& başlık, const ÜrünDağılımı& dağılım, int basamak) {
-    ÇizelgeYazıcı yazıcı(yol, başlık,
-                         {{Metin(MetinNo::TürSütunu), 12},
-                          {Metin(ÜrünMetni::KalemSütunu), 34},
-                          {Metin(MetinNo::MiktarıSütunu), 18},
-                          {Metin(MetinNo::TutarıSütunu), 18, ÇizelgeSütunTürü::Para, basamak},
-                          {Metin(ÜrünMetni::PaySütunu), 12, ÇizelgeSütunTürü::Yüzde, 2},
-                          {Metin(ÜrünMetni::BirikimliPaySütunu), 18, ÇizelgeSütunTürü::Yüzde, 2}});
+    QList<ÇizelgeSütunu> sütunlar{{Metin(MetinNo::TürSütunu), 12}, {Metin(ÜrünMetni::KalemSütunu), 34}};
+    MiktarSütunlarıEkle(sütunlar, Metin(MetinNo::MiktarıSütunu));
+    sütunlar.append({Metin(MetinNo::TutarıSütunu), 18, ÇizelgeSütunTürü::Para, basamak});
+    sütunlar.append({Metin(ÜrünMetni::PaySütunu), 12, ÇizelgeSütunTürü::Yüzde, 2});
+    sütunlar.append({Metin(ÜrünMetni::BirikimliPaySütunu), 18, ÇizelgeSütunTürü::Yüzde, 2});
+    ÇizelgeYazıcı yazıcı(yol, başlık, sütunlar);
     YazmaSonucu sonuç = yazıcı.Aç();
     for (const auto& [tür, kaynak] : {std::pair(ÜrünMetni::ToplamSütunu, &dağılım.Kalemler),
                                       std::pair(MetinNo::MalzemeSütunu, &dağılım.Malzemeler)}) {
         for (const DağılımSatırı& satır : kaynak->Satırlar) {
             if (!sonuç.Tamam()) return sonuç;
             QList<ÇizelgeDeğeri> değerler;
-            for (const QString& metin : {Metin(tür), satır.Ad, satır.Miktar}) değerler.emplaceBack(metin);
+            for (const QString& metin : {Metin(tür), satır.Ad}) değerler.emplaceBack(metin);
+            MiktarEkle(değerler, satır.SaklananMiktar);
             Ekle(değerler, satır.Parça.Tutar);
             Ekle(değerler, GösterilenPay(satır.Parça.Pay));
             Ekle(değerler, GösterilenPay(satır.Birikimli));

@@ -54,7 +54,7 @@ QList<TabloSütunu> KalemSütunları() {
 
 QList<TabloSütunu> PaySütunları() {
     return {{MetinNo::MalzemeSütunu, 16},
-            {MetinNo::MiktarıSütunu, 11},
+            {MetinNo::MiktarıSütunu, 11, false, ÇizelgedeSütun::Miktar},
             {MetinNo::TutarıSütunu, 9, true},
             {ÜrünMetni::PaySütunu, 6, true},
             {ÜrünMetni::BirikimliPaySütunu, 7, true}};
@@ -126,7 +126,7 @@ void ÜrünDağılımı::MalzemeleriKoy(const MaliyetDağılımı& dağılım) {
         } else if (sayılan++ < EN_ÇOK_ÇUBUK) {
             MalzemeGrafiği.Çubuklar.append(ÇubukYap(m.Ad, m.Parça, MalzemeDokusu));
         }
-        Malzemeler.Satırlar.push_back({ad, m.Miktar, m.Parça, m.BirikimliPay});
+        Malzemeler.Satırlar.push_back({ad, m.Miktar, m.Parça, m.BirikimliPay, m.SaklananMiktar});
     }
     if (sayılan > EN_ÇOK_ÇUBUK)
         MalzemeGrafiği.Çubuklar.append(ÇubukYap(Metin(ÜrünMetni::Diğerleri).arg(sayılan - EN_ÇOK_ÇUBUK),

@@ -12,6 +12,7 @@ struct DağılımSatırı {
     QString Miktar;  // of a material
     DağılımParçası Parça;
     std::optional<double> Birikimli;
+    QString SaklananMiktar{};
 };
 
 enum class DağılımSütunu { Ad, Miktar, Tutar, Pay, Birikimli };

@@ -1,10 +1,13 @@
 #include "GeriYukleme.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QLocale>
 #include <optional>
+#include <utility>
 
 #include "ArkaIs.h"
+#include "DosyaKimligi.h"
 #include "KopyaYazma.h"
 #include "MesajKutusu.h"
 #include "OdbcModulu.h"
@@ -62,7 +65,13 @@ bool Onaylanır(const YedekSatırı& satır, const Hazırlık& hazırlık) {
 }
 
 struct Dönüş {
-    enum class Tür { Tamam, Saklanamadı, Olmadı, Durduruldu } Ne = Tür::Tamam;
+    enum class Tür {
+        Tamam,
+        Doğrulanamadı,  // done, but the disk may not keep it
+        Saklanamadı,
+        Olmadı,
+        Durduruldu
+    } Ne = Tür::Tamam;
     QString Saklanan;  // where the former data are; "": there were none
     QString Neden;
 };
@@ -88,8 +97,17 @@ Dönüş Sakla(const VeriYolları& yollar, bool bağlı, const QString& dur) {
 Dönüş YerineKoy(const VeriYolları& yollar, const AçılmışYedek& yedek, bool bağlı, const QString& dur) {
     Dönüş dönüş = Sakla(yollar, bağlı, dur);
     if (dönüş.Ne != Dönüş::Tür::Tamam) return dönüş;
-    if (VeriDosyasınıGeriYükle(yedek.Yol(), yollar.GerçekDosya)) return dönüş;
-    return {Dönüş::Tür::Olmadı, dönüş.Saklanan, SürücüKurulumHataları().value(0)};
+    const auto dosyalar = [yol = QFile::encodeName(yollar.GerçekDosya).toStdString()] {
+        return std::pair(Dosya::KimliğiAl(yol), Dosya::KimliğiAl(yol + "-journal"));
+    };
+    const auto önce = dosyalar();
+    const bool geriYüklendi = VeriDosyasınıGeriYükle(yedek.Yol(), yollar.GerçekDosya);
+    if (!geriYüklendi) dönüş.Neden = SürücüKurulumHataları().value(0);
+    const auto sonra = dosyalar();
+    if (!geriYüklendi) dönüş.Ne = önce.first == sonra.first ? Dönüş::Tür::Olmadı : Dönüş::Tür::Doğrulanamadı;
+    // What was kept goes only if the file and its journal surely are the ones that were there.
+    if (geriYüklendi || önce == sonra) ÖncekiKopyayıBağla(dönüş.Saklanan, geriYüklendi);
+    return dönüş;
 }
 
 bool SonucuGöster(const Dönüş& dönüş) {
@@ -97,6 +115,9 @@ bool SonucuGöster(const Dönüş& dönüş) {
         case Dönüş::Tür::Tamam:
             Bildir(Simge::Bilgi, dönüş.Saklanan.isEmpty() ? Metin(YedekMetni::GeriYüklendiSaklanansız)
                                                           : Metin(YedekMetni::GeriYüklendi).arg(dönüş.Saklanan));
+            return true;
+        case Dönüş::Tür::Doğrulanamadı:
+            Bildir(Simge::Ünlem, Metin(YedekMetni::GeriYüklendiDoğrulanamadı).arg(dönüş.Neden, dönüş.Saklanan));
             return true;
         case Dönüş::Tür::Saklanamadı:
             Bildir(Simge::Kritik, Metin(YedekMetni::Saklanamadı).arg(dönüş.Neden));
@@ -138,10 +159,8 @@ bool YedeğiGeriYükle(const VeriYolları& yollar, const YedekSatırı& satır, 
     if (!Onaylanır(satır, hazırlık)) return false;
     if (bağlı) ODBCBağlantısınıKapat();
     Dönüş dönüş;
-    ArkadaYürüt(YedekMetni::GeriYükleniyor, 0, sahip, [&](ArkaDurum& durum) {
-        dönüş = YerineKoy(yollar, *yedek, bağlı, durum.DurYolu());
-        if (dönüş.Ne == Dönüş::Tür::Tamam) FazlalıklarıSil(dönüş.Saklanan);
-    });
+    ArkadaYürüt(YedekMetni::GeriYükleniyor, 0, sahip,
+                [&](ArkaDurum& durum) { dönüş = YerineKoy(yollar, *yedek, bağlı, durum.DurYolu()); });
     const bool bağlandı = !bağlı || ODBCBağlan();
     const bool geriYüklendi = SonucuGöster(dönüş);
     if (geriYüklendi) ErişimdenDeğişenleriBildir(*yedek, yollar);

@@ -1,6 +1,6 @@
 #include "SecerekGetirFormu.h"
 
-#include <QFile>
+#include <QDateTime>
 #include <QFileInfo>
 #include <QItemSelectionModel>
 #include <QLabel>
@@ -17,7 +17,6 @@
 #include "GetirmeMetinleri.h"
 #include "IlerlemeKutusu.h"
 #include "KopyaYazma.h"
-#include "ListeCizelgesi.h"
 #include "MesajKutusu.h"
 #include "OdbcModulu.h"
 #include "Saat.h"
@@ -83,9 +82,9 @@ void SeçerekGetirFormu::KontrolleriKur() {
 void SeçerekGetirFormu::Yerleştir() {
     m_getir = DüğmeOluştur(QStringLiteral("GetirButonu"), m_istek.Yedek ? GetirmeMetni::Getir : GetirmeMetni::Uygula,
                            [this] { Getir(); });
-    auto* hepsi = DüğmeOluştur(QStringLiteral("TümünüSeçButonu"), MetinNo::GörünenleriİşaretleDüğmesi,
-                               [this] { Görünenleriİşaretle(); });
-    auto* aktar = DüğmeOluştur(QStringLiteral("TabloyaAktarButonu"), ÜrünMetni::TabloyaAktar, [this] { Çizelgeye(); });
+    auto* hepsi =
+        DüğmeOluştur(QStringLiteral("TümünüSeçButonu"), GetirmeMetni::Tümünüİşaretle, [this] { Tümünüİşaretle(); });
+    auto* aktar = TabloyaAktarDüğmesi(ÜrünMetni::TabloyaAktar, m_model);
     auto* iptal = DüğmeOluştur(QStringLiteral("İptalButonu"), MetinNo::Vazgeç, [this] { reject(); });
     auto* bölen = new QSplitter(Qt::Vertical);
     bölen->setObjectName(QStringLiteral("Bölen"));
@@ -162,8 +161,8 @@ void SeçerekGetirFormu::AyrıntıyıYaz() {
     m_ayrıntıModeli.Yenile();
 }
 
-// Ticks the shown rows; once all of them are, takes their ticks away.
-void SeçerekGetirFormu::Görünenleriİşaretle() {
+// Ticks all rows; once all of them are, takes their ticks away.
+void SeçerekGetirFormu::Tümünüİşaretle() {
     bool hepsi = true;
     for (const GetirmeKalemi& kalem : m_plan.Kalemler()) hepsi = hepsi && (kalem.İşaretli || !Uygulanır(kalem.Neden));
     m_model.Görünenleriİşaretle(!hepsi);
@@ -191,18 +190,27 @@ UygulamaSonucu SeçerekGetirFormu::Yürüt(QStringList& çözülenler) {
     return sonuç.Uygulama;
 }
 
+// What was kept goes again where surely nothing was written.
+void SeçerekGetirFormu::SaklananıBağla(const QString& saklanan, bool getirildi, bool yazılmadı) {
+    if (saklanan.isEmpty() || (!getirildi && !yazılmadı)) return;
+    ArkadaYürüt(GetirmeMetni::Getiriliyor, 0, this, [&](ArkaDurum&) { ÖncekiKopyayıBağla(saklanan, getirildi); });
+}
+
 void SeçerekGetirFormu::Getir() {
     QString saklanan;
     if (m_istek.Yedek && !ÖncekiniSakla(m_istek.Yollar, saklanan, this)) return;
     const GetirmeÖzeti özet = m_plan.Özet();
     QStringList çözülenler;
+    const auto dosya = [yol = m_istek.Yollar.GerçekDosya] {
+        const QFileInfo bilgi(yol);
+        return std::pair(bilgi.lastModified(), bilgi.size());
+    };
+    const auto önce = dosya();
     const UygulamaSonucu sonuç = Yürüt(çözülenler);
-    // Nothing was changed, so nothing is kept of it.
-    if (sonuç.Son != UygulamaSonu::Tamam && !saklanan.isEmpty()) QFile::remove(saklanan);
+    SaklananıBağla(saklanan, sonuç.Son == UygulamaSonu::Tamam, dosya() == önce);
     switch (UygulamayıBildir(sonuç, GetirmeMetni::Getirilemedi)) {
         case ÖnizlemeAdımı::Kabul:
             if (m_istek.Yedek) {
-                ArkadaYürüt(GetirmeMetni::Getiriliyor, 0, this, [&](ArkaDurum&) { FazlalıklarıSil(saklanan); });
                 Bildir(MesajKutusu::Simge::Bilgi, Metin(GetirmeMetni::Getirildi).arg(özet.Ürün).arg(özet.Malzeme));
                 ErişimdenDeğişenleriBildir(*m_ortam.Açılan(), m_istek.Yollar);
             }
@@ -219,9 +227,4 @@ void SeçerekGetirFormu::Getir() {
             break;
     }
     reject();
-}
-
-void SeçerekGetirFormu::Çizelgeye() {
-    ÇizelgeyeKaydet(*this, windowTitle(),
-                    [this](const QString& yol) { return TabloyuÇizelgeyeYaz(yol, windowTitle(), m_model); });
 }

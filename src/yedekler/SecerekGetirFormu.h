@@ -26,10 +26,10 @@ class SeçerekGetirFormu : public QDialog {
     void Dene();
     void ÖzetiYaz();
     void AyrıntıyıYaz();
-    void Görünenleriİşaretle();
+    void Tümünüİşaretle();
     void Getir();
     UygulamaSonucu Yürüt(QStringList& çözülenler);
-    void Çizelgeye();
+    void SaklananıBağla(const QString& saklanan, bool getirildi, bool yazılmadı);
 
     Getirmeİsteği m_istek;
     GetirmeOrtamı m_ortam;

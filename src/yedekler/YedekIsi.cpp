@@ -7,6 +7,7 @@
 
 #include "ArkaIs.h"
 #include "DisKopya.h"
+#include "GundeBir.h"
 #include "MesajKutusu.h"
 #include "OdbcSurucu.h"
 #include "OdbcTanitici.h"
@@ -170,7 +171,10 @@ void KapanıştaYedekle() {
     const VeriYolları yollar = VeriYollarınıBul();
     const KopyaSonucu sonuç =
         ArkadaKopyala(İşYap(yollar, KopyaTürü::Günlük), YedekMetni::KapanıştaYedekleniyor, nullptr);
-    if (sonuç.Ne != KopyaSonucu::Tür::Boş) SonucuGöster(sonuç);
+    if (sonuç.Ne == KopyaSonucu::Tür::YerYok)
+        GündeBirUyar(YER_UYARISI_ANAHTARI, Metin(YedekMetni::YedekYeriYok).arg(sonuç.Neden));
+    else if (sonuç.Ne != KopyaSonucu::Tür::Boş)
+        SonucuGöster(sonuç);
 }
 
 bool YedekleriSun() {

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "CizelgeKaydi.h"
 #include "FormParcalari.h"
 #include "GeriYukleme.h"
 #include "GetirmeMetinleri.h"
@@ -14,6 +15,7 @@
 #include "OdbcYedek.h"
 #include "SecerekGetirme.h"
 #include "Tablo.h"
+#include "UrunMetinleri.h"
 #include "YedekIsi.h"
 #include "YedekMetinleri.h"
 
@@ -53,7 +55,8 @@ void YedeklerFormu::Yerleştir() {
     auto* kapat = DüğmeOluştur(QStringLiteral("KapatButonu"), MetinNo::Kapat, [this] { reject(); });
     auto* düzen = new QVBoxLayout(this);
     düzen->addWidget(TabloBölümü(1, YedekMetni::YedeklerEtiketi, m_tablo), 1);
-    düzen->addLayout(DüğmeSırası({şimdi, başka, m_geriYükle, m_seçerekGetir, aç, nullptr, kapat}));
+    auto* aktar = TabloyaAktarDüğmesi(ÜrünMetni::TabloyaAktar, m_model);
+    düzen->addLayout(DüğmeSırası({şimdi, başka, m_geriYükle, m_seçerekGetir, aç, aktar, nullptr, kapat}));
     const bool program = m_açılış == Açılış::Program;
     şimdi->setVisible(program);
     başka->setVisible(program);

@@ -15,6 +15,7 @@
 #include "MesajKutusu.h"
 #include "OdbcModulu.h"
 #include "Saat.h"
+#include "SayiYereli.h"
 #include "SistemBozucu.h"
 #include "TekKopya.h"
 #include "VeritabaniHazirlik.h"
@@ -48,6 +49,7 @@ int main(int argc, char** argv) {
     const bool pencereli = argc > 1 && argv[1] == std::string_view("basla");
     const std::unique_ptr<QCoreApplication> uygulama(pencereli ? new QApplication(argc, argv)
                                                                : new QCoreApplication(argc, argv));
+    SayıYereliniSabitle();
     QApplication::setQuitOnLastWindowClosed(false);
     const QStringList istek = QCoreApplication::arguments();
     MesajKutusu::GöstericiyiAyarla([](const MesajKutusu::İstek& kutu) {

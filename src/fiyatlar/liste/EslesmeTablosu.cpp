@@ -13,7 +13,8 @@ QString HücreMetni(const ÇizelgeHücresi& hücre) {
 }  // namespace
 
 QList<TabloSütunu> EşleşmeninSütunları() {
-    return {{MetinNo::ListedekiAdSütunu, 20},    {MetinNo::ListedekiFiyatSütunu, 11, true},
+    // The list's price stands as its file spells it, which may be otherwise than here.
+    return {{MetinNo::ListedekiAdSütunu, 20},    {MetinNo::ListedekiFiyatSütunu, 11, true, ÇizelgedeSütun::Metin},
             {MetinNo::MalzemeSütunu, 18},        {MetinNo::EskiFiyatSütunu, 9, true},
             {MetinNo::YeniFiyatSütunu, 9, true}, {MetinNo::BölenSütunu, 5, true},
             {MetinNo::SatırSütunu, 5, true},     {MetinNo::DurumSütunu, 30}};

@@ -11,6 +11,8 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include "CizelgeKaydi.h"
+#include "CizelgeMetinleri.h"
 #include "FormParcalari.h"
 #include "GirisKutusu.h"
 #include "MetinTablosu.h"
@@ -194,7 +196,8 @@ void FiyatListesiAlFormu::Yerleştir() {
     auto* kapat = DüğmeOluştur(QStringLiteral("KapatButonu"), MetinNo::Kapat, [this] { reject(); });
     auto* düzen = new QVBoxLayout(this);
     düzen->addWidget(bölen, 1);
-    düzen->addLayout(DüğmeSırası({m_önizle, nullptr, kapat}));
+    auto* aktar = TabloyaAktarDüğmesi(ÇizelgeMetni::TabloyaAktarO, m_model);
+    düzen->addLayout(DüğmeSırası({m_önizle, aktar, nullptr, kapat}));
     m_gözat->setFocus();
     BoyVer(*this, {1000, 700});
 }

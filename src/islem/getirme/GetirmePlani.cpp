@@ -222,14 +222,14 @@ struct GetirmePlanı::Sonrakiler {
 
 GetirmeSonucu GetirmePlanı::Dene(const İlerleme& ilerleme) {
     GetirmeSonucu sonuç{Sonucu(BirlikteGelenler(ilerleme))};
-    Sonrakiler sonrakiler;
-    const auto bak = [&](const GetirmeSonucu&) { return Sonucu(SonrakileriOku(*m_deneme, sonrakiler, ilerleme)); };
+    Sonrakiler sonrakiler{std::vector<std::optional<Para>>(m_kalemler.size()), 0};
     const GetirmeÖzeti özet = Özet();
-    if (sonuç.Tamam() && özet.Ürün + özet.Malzeme == 0)
-        sonuç.Uygulama = bak(sonuç);
-    else if (sonuç.Tamam())
+    if (sonuç.Tamam() && özet.Ürün + özet.Malzeme == 0) {
+        for (std::size_t i = 0; i < m_kalemler.size(); ++i) sonrakiler.Tutarlar[i] = m_kalemler[i].Şimdiki;
+    } else if (sonuç.Tamam()) {
+        const auto bak = [&](const GetirmeSonucu&) { return Sonucu(SonrakileriOku(*m_deneme, sonrakiler, ilerleme)); };
         sonuç = Getir(*m_deneme, İşiYap(), {}, {}, bak, ilerleme);
-    if (!sonuç.Tamam()) sonrakiler = {std::vector<std::optional<Para>>(m_kalemler.size()), 0};
+    }
     m_kalanlar = sonuç.Kalanlar;
     m_diğer = sonrakiler.Diğer;
     for (std::size_t i = 0; i < m_kalemler.size(); ++i) {

@@ -8,8 +8,12 @@
 #include "ArsivCiktilari.h"
 #include "ArsivMetinleri.h"
 #include "ArsivMetni.h"
+#include "CizelgeKaydi.h"
+#include "FisCizelgesi.h"
 #include "FormParcalari.h"
+#include "ListeCizelgesi.h"
 #include "Tablo.h"
+#include "UrunMetinleri.h"
 #include "Yazdirma.h"
 
 ArşivFöyüFormu::ArşivFöyüFormu(Başlık arşiv, OkunanFöy föy, QWidget* sahip)
@@ -78,12 +82,13 @@ void ArşivFöyüFormu::Yerleştir() {
     }
     auto* önizle =
         DüğmeOluştur(QStringLiteral("ÖnizlemeButonu"), MetinNo::Önizleme, [this] { Önizle(*this, Rapor()); });
+    auto* aktar = DüğmeOluştur(QStringLiteral("TabloyaAktarButonu"), ÜrünMetni::TabloyaAktar, [this] { Çizelgeye(); });
     auto* kapat = DüğmeOluştur(QStringLiteral("KapatButonu"), MetinNo::Kapat, [this] { reject(); });
     auto* düzen = new QVBoxLayout(this);
     düzen->addWidget(açıklama);
     düzen->addWidget(TabloBölümü(1, ArşivMetni::FöyünSatırları, m_tablo), 1);
     düzen->addWidget(Özet());
-    düzen->addLayout(DüğmeSırası({m_yazdır, m_pdf, önizle, nullptr, kapat}));
+    düzen->addLayout(DüğmeSırası({m_yazdır, m_pdf, önizle, aktar, nullptr, kapat}));
     m_tablo->setFocus();
     BoyVer(*this, {760, 560});
 }
@@ -91,4 +96,15 @@ void ArşivFöyüFormu::Yerleştir() {
 Yazdırılacak ArşivFöyüFormu::Rapor() const {
     const MaliyetFişi fiş = ArşivFişi(m_arşiv, m_föy);
     return {fiş.Ürün, [fiş](SayfaYüzeyi& yüzey) { MaliyetFişiniYaz(yüzey, fiş); }};
+}
+
+// The title last, as it says where the sheet is not what it was.
+void ArşivFöyüFormu::Çizelgeye() {
+    const MaliyetFişi fiş = ArşivFişi(m_arşiv, m_föy);
+    QList<QList<ÇizelgeDeğeri>> sonra = FişÖzetininSatırları(fiş);
+    QList<ÇizelgeDeğeri>& başlık = sonra.emplaceBack();
+    for (int boş = 0; boş < 2; ++boş) başlık.emplaceBack();
+    başlık.emplaceBack(fiş.Ürün);
+    ÇizelgeyeKaydet(*this, fiş.Ürün,
+                    [&](const QString& yol) { return TabloyuÇizelgeyeYaz(yol, fiş.Ürün, m_model, sonra); });
 }

@@ -19,6 +19,7 @@ class ArşivFöyüFormu : public QDialog {
     QWidget* Özet();
     void Yerleştir();
     Yazdırılacak Rapor() const;
+    void Çizelgeye();
 
     const Başlık m_arşiv;
     const OkunanFöy m_föy;

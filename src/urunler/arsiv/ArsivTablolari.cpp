@@ -2,13 +2,20 @@
 
 #include "ArsivMetinleri.h"
 #include "ArsivMetni.h"
+#include "FiyatYazimi.h"
 #include "MalzemeToplami.h"
 #include "SayiMetni.h"
 #include "UrunMetinleri.h"
 
+namespace {
+
+enum FöyMalzemeSütunları { MMiktar, MAd, MFiyat };
+
+}  // namespace
+
 QList<TabloSütunu> ArşivSütunlarınıVer() {
     return {{ArşivMetni::NoSütunu, 3, true},
-            {ArşivMetni::GünSütunu, 8},
+            {ArşivMetni::GünSütunu, 8, false, ÇizelgedeSütun::Tarih},
             {ArşivMetni::FöySayısıSütunu, 5, true},
             {ArşivMetni::KapsamSütunu, 12},
             {ArşivMetni::NotSütunu, 14}};
@@ -73,7 +80,7 @@ int FöySatırları::Karşılaştır(std::size_t a, std::size_t b, int sütun) c
 }
 
 QList<TabloSütunu> FöyMalzemeSütunlarınıVer() {
-    return {{MetinNo::MiktarıSütunu, 12},
+    return {{MetinNo::MiktarıSütunu, 12, false, ÇizelgedeSütun::Miktar},
             {MetinNo::AdıSütunu, 24},
             {MetinNo::FiyatıSütunu, 10, true},
             {MetinNo::TutarıSütunu, 12, true}};
@@ -85,15 +92,19 @@ QString FöyMalzemeleri::Hücre(std::size_t satır, int sütun) const {
     return *hücreler[sütun];
 }
 
+QString FöyMalzemeleri::Saklanan(std::size_t satır, int sütun) const {
+    const Deyimler::Arşiv::Satır& s = Satırlar[satır];
+    if (sütun == MMiktar) return s.Miktar;
+    // A row that did not count may have held a price that is none: what it showed.
+    return sütun == MFiyat && s.Sayıldı ? SayıYazımı(s.Fiyat) : Hücre(satır, sütun);
+}
+
 int FöyMalzemeleri::Karşılaştır(std::size_t a, std::size_t b, int sütun) const {
-    constexpr int miktar = 0;
-    constexpr int ad = 1;
-    constexpr int fiyat = 2;
     const auto& x = Satırlar[a];
     const auto& y = Satırlar[b];
     const auto adet = [](const Deyimler::Arşiv::Satır& s) { return MiktarSayısı(s.Miktar).value_or(0); };
-    if (sütun == ad) return TabloKaynağı::Karşılaştır(a, b, sütun);
-    if (sütun == miktar) return Sırala(adet(x), adet(y));
-    if (sütun == fiyat) return Sırala(x.Fiyat, y.Fiyat);
+    if (sütun == MAd) return TabloKaynağı::Karşılaştır(a, b, sütun);
+    if (sütun == MMiktar) return Sırala(adet(x), adet(y));
+    if (sütun == MFiyat) return Sırala(x.Fiyat, y.Fiyat);
     return Sırala(x.Fiyat.Double() * adet(x), y.Fiyat.Double() * adet(y));
 }

@@ -38,5 +38,6 @@ class FöyMalzemeleri : public TabloKaynağı {
 
     std::size_t SatırSayısı() const override { return Satırlar.size(); }
     QString Hücre(std::size_t satır, int sütun) const override;
+    QString Saklanan(std::size_t satır, int sütun) const override;
     int Karşılaştır(std::size_t a, std::size_t b, int sütun) const override;
 };

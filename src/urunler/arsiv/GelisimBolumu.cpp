@@ -12,6 +12,7 @@
 #include "ArsivMetinleri.h"
 #include "ArsivMetni.h"
 #include "BasamakGrafigi.h"
+#include "CizelgeKaydi.h"
 #include "DegiskenModulu.h"
 #include "FarkAyrimi.h"
 #include "FiyatDeyimleri.h"
@@ -27,9 +28,12 @@ namespace {
 
 enum Sütunlar { GGün, GArşiv, GToplam, GFark, GYüzde, GDurum };
 
-const QList<TabloSütunu> SÜTUNLAR{{ArşivMetni::GünSütunu, 8},          {ArşivMetni::NoSütunu, 5, true},
-                                  {ÜrünMetni::ToplamSütunu, 11, true}, {ArşivMetni::FarkSütunu, 10, true},
-                                  {ArşivMetni::YüzdeSütunu, 7, true},  {ArşivMetni::DurumSütunu, 16}};
+const QList<TabloSütunu> SÜTUNLAR{{ArşivMetni::GünSütunu, 8, false, ÇizelgedeSütun::Tarih},
+                                  {ArşivMetni::NoSütunu, 5, true},
+                                  {ÜrünMetni::ToplamSütunu, 11, true},
+                                  {ArşivMetni::FarkSütunu, 10, true},
+                                  {ArşivMetni::YüzdeSütunu, 7, true},
+                                  {ArşivMetni::DurumSütunu, 16}};
 
 QDateTime GününBaşı(const QString& gün) {
     return QDate::fromString(gün, Qt::ISODate).startOfDay();
@@ -119,7 +123,9 @@ void GelişimBölümü::Yerleştir() {
     auto* düzen = new QVBoxLayout(this);
     düzen->addLayout(üst);
     düzen->addWidget(bölen, 1);
-    düzen->addLayout(DüğmeSırası({m_kaydet, nullptr}));
+    auto* aktar = TabloyaAktarDüğmesi(ÜrünMetni::TabloyaAktar, *m_model, QStringLiteral("GelişimiAktarButonu"),
+                                      [this] { return KapsamMetni(m_ürün); });
+    düzen->addLayout(DüğmeSırası({m_kaydet, aktar, nullptr}));
 }
 
 void GelişimBölümü::ÜrünüAyarla(const Kapsam& ürün) {

@@ -14,6 +14,8 @@
 #include "ArsivFoyuFormu.h"
 #include "ArsivMetinleri.h"
 #include "ArsivMetni.h"
+#include "CizelgeKaydi.h"
+#include "CizelgeMetinleri.h"
 #include "DegiskenModulu.h"
 #include "FarkBolumu.h"
 #include "FiyatDeyimleri.h"
@@ -154,7 +156,12 @@ void MaliyetArşiviFormu::Yerleştir() {
     auto* düzen = new QVBoxLayout(this);
     düzen->addWidget(Arşivleme());
     düzen->addWidget(bölen, 1);
-    düzen->addLayout(DüğmeSırası({m_göster, m_sil, nullptr, kapat}));
+    auto* aktar =
+        TabloyaAktarDüğmesi(ÇizelgeMetni::TabloyaAktarR, m_föyModeli, QStringLiteral("FöyleriAktarButonu"), [this] {
+            const Başlık* arşiv = SeçiliArşiv();
+            return arşiv ? ArşivAdı(*arşiv) : windowTitle();
+        });
+    düzen->addLayout(DüğmeSırası({m_göster, m_sil, aktar, nullptr, kapat}));
     m_grup->setFocus();  // a list marks its first row as it gets the focus
     BoyVer(*this, {1280, 760});
 }

@@ -4,6 +4,7 @@
 
 #include "DegiskenModulu.h"
 #include "KullanimMetinleri.h"
+#include "ListeCizelgesi.h"
 #include "SayfaDuzeni.h"
 
 namespace {
@@ -75,10 +76,7 @@ void DeğişimiYaz(SayfaYüzeyi& yüzey, const QString& başlık, const Değişi
 
 YazmaSonucu DeğişimiÇizelgeyeYaz(const QString& yol, const QString& başlık, const DeğişimSatırları& satırlar,
                                  const TabloModeli& model) {
-    QList<ÇizelgeSütunu> sütunlar;
-    for (const TabloSütunu& sütun : model.Sütunlar())
-        sütunlar.append({Metin(sütun.Başlık), sütun.Harf * 1.2,
-                         sütun.Sayı ? ÇizelgeSütunTürü::Para : ÇizelgeSütunTürü::Metin, OndalıkBasamak});
+    QList<ÇizelgeSütunu> sütunlar = ÇizelgeSütunları(model, OndalıkBasamak);
     sütunlar[DYüzde].Tür = ÇizelgeSütunTürü::Yüzde;
     sütunlar[DYüzde].Basamak = 2;
     ÇizelgeYazıcı yazıcı(yol, başlık, sütunlar);

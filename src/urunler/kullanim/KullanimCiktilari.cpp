@@ -2,6 +2,7 @@
 
 #include "DegiskenModulu.h"
 #include "KullanimMetinleri.h"
+#include "ListeCizelgesi.h"
 #include "SayfaDuzeni.h"
 
 namespace {
@@ -35,24 +36,23 @@ void KullanımıYaz(SayfaYüzeyi& yüzey, const QString& başlık, const Kullan�
 
 YazmaSonucu KullanımıÇizelgeyeYaz(const QString& yol, const QString& başlık, const KullanımSatırları& satırlar,
                                   const TabloModeli& model) {
-    QList<ÇizelgeSütunu> sütunlar;
-    for (const TabloSütunu& sütun : model.Sütunlar())
-        sütunlar.append({Metin(sütun.Başlık), sütun.Harf * 1.2,
-                         sütun.Sayı ? ÇizelgeSütunTürü::Para : ÇizelgeSütunTürü::Metin, OndalıkBasamak});
-    sütunlar[KPay].Tür = ÇizelgeSütunTürü::Yüzde;
-    sütunlar[KPay].Basamak = KullanımSatırları::PAY_BASAMAĞI;
+    QList<ÇizelgeSütunu> sütunlar = ÇizelgeSütunları(model, OndalıkBasamak);
+    constexpr int pay = KPay + 1;  // the quantity has taken two
+    sütunlar[pay].Tür = ÇizelgeSütunTürü::Yüzde;
+    sütunlar[pay].Basamak = KullanımSatırları::PAY_BASAMAĞI;
     ÇizelgeYazıcı yazıcı(yol, başlık, sütunlar);
     YazmaSonucu sonuç = yazıcı.Aç();
     for (int sıra = 0; sıra < model.rowCount() && sonuç.Tamam(); ++sıra) {
         const std::size_t yer = model.KaynakSatırı(sıra);
         const KullanımSatırları::Satır& satır = satırlar.Satırlar[yer];
         QList<ÇizelgeDeğeri> değerler;
-        for (const QString& metin : {satır.Ürün->Grup, satır.Ürün->Ad, satır.Miktar}) değerler.emplaceBack(metin);
+        for (const QString& metin : {satır.Ürün->Grup, satır.Ürün->Ad}) değerler.emplaceBack(metin);
+        MiktarEkle(değerler, satır.SaklananMiktar);
         Ekle(değerler, satır.FiyatSayısı);
         Ekle(değerler, satır.TutarSayısı);
-        const std::optional<Ondalık> pay = satır.Pay ? OnBeşHaneyle(*satır.Pay) : std::nullopt;
-        Ekle(değerler,
-             pay ? std::optional(Yuvarla(*pay, KullanımSatırları::PAY_BASAMAĞI, Yarım::SıfırdanUzağa)) : std::nullopt);
+        std::optional<Ondalık> oran = satır.Pay ? OnBeşHaneyle(*satır.Pay) : std::nullopt;
+        if (oran) oran = Yuvarla(*oran, KullanımSatırları::PAY_BASAMAĞI, Yarım::SıfırdanUzağa);
+        Ekle(değerler, oran);
         değerler.emplaceBack(satırlar.Açıklama(yer));
         sonuç = yazıcı.SatırEkle(değerler);
     }

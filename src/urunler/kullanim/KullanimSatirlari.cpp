@@ -26,6 +26,7 @@ KullanımSatırları::Satır SatırYap(const MalzemeKullanımı::Ürün& ürün,
     const MalzemeSatırı gösterilen =
         toplam.Ekle(miktar, okunan.Fiyat ? SayıBiçimle(*okunan.Fiyat, 4) : QString(), basamak);
     satır.Miktar = gösterilen.Miktar;
+    satır.SaklananMiktar = miktar;
     satır.Fiyat = gösterilen.Fiyat;
     satır.Tutar = gösterilen.Tutar;
     satır.MiktarSayısı = MiktarSayısı(miktar);
@@ -42,8 +43,12 @@ KullanımSatırları::Satır SatırYap(const MalzemeKullanımı::Ürün& ürün,
 }  // namespace
 
 QList<TabloSütunu> KullanımSütunlarınıVer() {
-    return {{MetinNo::GrubuSütunu, 14},        {MetinNo::ÜrünSütunu, 24},         {MetinNo::MiktarıSütunu, 14},
-            {MetinNo::FiyatıSütunu, 12, true}, {MetinNo::TutarıSütunu, 13, true}, {KullanımMetni::PaySütunu, 8, true},
+    return {{MetinNo::GrubuSütunu, 14},
+            {MetinNo::ÜrünSütunu, 24},
+            {MetinNo::MiktarıSütunu, 14, false, ÇizelgedeSütun::Miktar},
+            {MetinNo::FiyatıSütunu, 12, true},
+            {MetinNo::TutarıSütunu, 13, true},
+            {KullanımMetni::PaySütunu, 8, true},
             {ÜrünMetni::DikkatSütunu, 16}};
 }
 

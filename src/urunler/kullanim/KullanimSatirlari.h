@@ -17,6 +17,7 @@ class KullanımSatırları : public TabloKaynağı {
         QString Miktar;  // as the main form shows them
         QString Fiyat;
         QString Tutar;
+        QString SaklananMiktar;
         std::optional<double> MiktarSayısı;
         std::optional<Ondalık> FiyatSayısı;
         std::optional<Ondalık> TutarSayısı;  // nothing: the row does not count

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
@@ -16,6 +17,7 @@
 #include "OdbcModulu.h"
 #include "SayiKutusu.h"
 #include "SayiMetni.h"
+#include "SutunluListe.h"
 #include "Tablo.h"
 #include "TekSecimli.h"
 #include "UrunMetinleri.h"
@@ -32,6 +34,16 @@ enum ToplamSütunları { TMalzeme, TMiktar, TBirim, TNot };
 // On the node: the product that it stands for, and how many of it one piece of the whole takes.
 constexpr int ÜrünRolü = Qt::UserRole + 10;
 constexpr int KatRolü = Qt::UserRole + 11;
+
+// Ctrl+C copies the marked row.
+class Ağaç : public TekSeçimli<QTreeWidget> {
+  protected:
+    void keyPressEvent(QKeyEvent* olay) override {
+        const QTreeWidgetItem* seçili = SeçiliÖğe();
+        if (!olay->matches(QKeySequence::Copy) || !seçili) return TekSeçimli::keyPressEvent(olay);
+        SatırıPanoyaKoy(*seçili, {false, true, true, false});
+    }
+};
 
 QString Miktar(double miktar, const QString& birim) {
     return birim.isEmpty() ? AçılımMiktarı(miktar) : AçılımMiktarı(miktar) + QLatin1Char(' ') + birim;
@@ -86,7 +98,7 @@ YarıMamulAğacıFormu::~YarıMamulAğacıFormu() {
 }
 
 void YarıMamulAğacıFormu::KontrolleriKur() {
-    m_ağaç = new TekSeçimli<QTreeWidget>;
+    m_ağaç = new Ağaç;
     m_ağaç->setObjectName(QStringLiteral("MalzemeAğacı"));
     m_ağaç->setUniformRowHeights(true);
     m_ağaç->setEditTriggers(QAbstractItemView::NoEditTriggers);

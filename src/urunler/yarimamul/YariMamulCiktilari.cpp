@@ -3,6 +3,7 @@
 #include <QStringList>
 #include <cmath>
 
+#include "ListeCizelgesi.h"
 #include "MetinTablosu.h"
 #include "Ondalik.h"
 #include "SayfaDuzeni.h"
@@ -43,11 +44,7 @@ void BağlarıYaz(SayfaYüzeyi& yüzey, const QString& başlık, const Bağları
 
 YazmaSonucu BağlarıÇizelgeyeYaz(const QString& yol, const QString& başlık, const BağlarınKaynağı& bağlar,
                                 const TabloModeli& model) {
-    QList<ÇizelgeSütunu> sütunlar;
-    for (const TabloSütunu& sütun : model.Sütunlar())
-        sütunlar.append(
-            {Metin(sütun.Başlık), sütun.Harf * 1.2, sütun.Sayı ? ÇizelgeSütunTürü::Para : ÇizelgeSütunTürü::Metin, 4});
-    ÇizelgeYazıcı yazıcı(yol, başlık, sütunlar);
+    ÇizelgeYazıcı yazıcı(yol, başlık, ÇizelgeSütunları(model, 4));
     YazmaSonucu sonuç = yazıcı.Aç();
     for (int sıra = 0; sıra < model.rowCount() && sonuç.Tamam(); ++sıra) {
         const std::size_t yer = model.KaynakSatırı(sıra);
@@ -96,11 +93,10 @@ void AçılımıYaz(SayfaYüzeyi& yüzey, const QString& başlık, const std::ve
 
 YazmaSonucu AçılımıÇizelgeyeYaz(const QString& yol, const QString& sayfaAdı,
                                 const std::vector<AçılımToplamı>& toplamlar) {
-    ÇizelgeYazıcı yazıcı(yol, sayfaAdı,
-                         {{Metin(MetinNo::MalzemeSütunu), 36},
-                          {Metin(YarıMamulMetni::ToplamSütunu), 16, ÇizelgeSütunTürü::Sayı},
-                          {Metin(YarıMamulMetni::BirimSütunu), 14},
-                          {Metin(YarıMamulMetni::NotSütunu), 36}});
+    QList<ÇizelgeSütunu> sütunlar{{Metin(MetinNo::MalzemeSütunu), 36}};
+    MiktarSütunlarıEkle(sütunlar, Metin(MetinNo::MiktarıSütunu));
+    sütunlar.append({Metin(YarıMamulMetni::NotSütunu), 36});
+    ÇizelgeYazıcı yazıcı(yol, sayfaAdı, sütunlar);
     YazmaSonucu sonuç = yazıcı.Aç();
     for (const AçılımToplamı& toplam : toplamlar) {
         if (!sonuç.Tamam()) break;

@@ -20,6 +20,7 @@ namespace {
 using Tür = KopyaSonucu::Tür;
 
 const QString GÜNLÜK_EKİ = QStringLiteral("-journal");
+const QString YARIM_EKİ = QStringLiteral(".yeni");
 
 std::string Bayt(const QString& yol) {
     return QFile::encodeName(yol).toStdString();
@@ -78,8 +79,10 @@ bool HamVeBozuk(const Kopya& kopya) {
 }
 
 void YarımlarıSil(const QString& klasör) {
-    const QFileInfoList yarımlar = QDir(klasör).entryInfoList({QStringLiteral("*.ydk.yeni")}, QDir::Files);
-    for (const QFileInfo& yarım : yarımlar) YarımKopyayıSil(yarım.filePath().chopped(5));
+    const QString kopya = QStringLiteral("*.ydk");
+    const QFileInfoList yarımlar =
+        QDir(klasör).entryInfoList({kopya + YARIM_EKİ, kopya + GÜNLÜK_EKİ + YARIM_EKİ}, QDir::Files);
+    for (const QFileInfo& yarım : yarımlar) YarımKopyayıSil(yarım.filePath().chopped(YARIM_EKİ.size()));
 }
 
 int SonrakiSıra(const std::vector<Kopya>& kopyalar) {
@@ -115,6 +118,11 @@ bool İçerikleriAynı(const QString& a, const QString& b) {
     return ikinci.atEnd();
 }
 
+void YarımKopyalarıSil(const QString& kök) {
+    for (const QFileInfo& klasör : QDir(kök).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot))
+        YarımlarıSil(klasör.filePath());
+}
+
 void FazlalıklarıSil(const QString& klasör, int yeni) {
     std::map<int, Kopya> kopyalar;
     std::vector<KopyaAdı> adlar;
@@ -133,12 +141,6 @@ void FazlalıklarıSil(const QString& klasör, int yeni) {
         const Kopya& giden = kopyalar[fazlalık.Sıra];
         if ((kalan->second || HamVeBozuk(giden)) && QFile::remove(giden.Yol)) QFile::remove(giden.Yol + GÜNLÜK_EKİ);
     }
-}
-
-void FazlalıklarıSil(const QString& kopya) {
-    const QFileInfo dosya(kopya);
-    const std::optional<KopyaAdı> ad = KopyaAdınıOku(dosya.fileName());
-    if (ad) FazlalıklarıSil(dosya.path() + QDir::separator(), ad->Tür == KopyaTürü::Ham ? 0 : ad->Sıra);
 }
 
 KopyaSonucu KopyaYaz(const Kopyaİşi& iş) {
@@ -168,6 +170,19 @@ KopyaSonucu KopyaYaz(const Kopyaİşi& iş) {
     }
     if (iş.Tür == KopyaTürü::Elle || !iş.Hazır.isEmpty()) FazlalıklarıSil(klasör, sıra);
     return sonuç;
+}
+
+void ÖncekiKopyayıBağla(const QString& kopya, bool geriYüklendi) {
+    if (kopya.isEmpty()) return;
+    const QFileInfo dosya(kopya);
+    const std::optional<KopyaAdı> ad = KopyaAdınıOku(dosya.fileName());
+    if (!geriYüklendi) {
+        QFile::remove(kopya);
+        QFile::remove(kopya + GÜNLÜK_EKİ);
+    } else if (ad) {
+        // A raw one is not known to be sound.
+        FazlalıklarıSil(dosya.path() + QDir::separator(), ad->Tür == KopyaTürü::Ham ? 0 : ad->Sıra);
+    }
 }
 
 QString HamınıSakla(const QString& kök, const QString& dosya) {

@@ -53,5 +53,5 @@ class AçılmışYedek {
     QString m_neden;  // why it cannot be used
 };
 
-// Folders that a killed run left behind, after a day.
+// Folders that a killed run left of opened backups and of copies for another disk, after a day.
 void YarımAçılmışlarıSil(const QString& kök);

@@ -25,6 +25,7 @@
 #include "MalzemeListesiFormu.h"
 #include "MesajKutusu.h"
 #include "OdbcModulu.h"
+#include "SayiYereli.h"
 #include "UrunListesiFormu.h"
 #include "Yazdirma.h"
 
@@ -199,6 +200,7 @@ void FişiYazdır(const QString& ürün, const QString& pdfYolu) {
 
 int main(int argc, char** argv) {
     QApplication uygulama(argc, argv);
+    SayıYereliniSabitle();
     if (argc != 5) {
         std::fprintf(stderr, "varnek-baski PROGRAM PDF WIDTH HEIGHT\n");
         return 2;

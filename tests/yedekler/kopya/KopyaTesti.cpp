@@ -1,6 +1,13 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <ctime>
+
 #include "AccessUreteci.h"
+#include "DarDisk.h"
 #include "DisKopya.h"
 #include "DoluDisk.h"
+#include "GeciciDosya.h"
 #include "HazirlikTesti.h"
 #include "KopyaYazma.h"
 #include "OdbcModulu.h"
@@ -215,7 +222,7 @@ TEST_F(Kopyalar, SaklananlarAncakİşBitinceYerAçar) {
     günlük.Hazır = VeriDosyası();
     EXPECT_EQ(KopyaYaz(günlük).Ne, Tür::Yazıldı);
     EXPECT_EQ(Adlar().size(), 12);
-    FazlalıklarıSil(son);
+    ÖncekiKopyayıBağla(son, true);
     EXPECT_EQ(Adlar().size(), 11);
     EXPECT_FALSE(QFile::exists(elle.Yol));
     // Raw ones, of which none is sound; with its journal goes the one that goes.
@@ -223,7 +230,7 @@ TEST_F(Kopyalar, SaklananlarAncakİşBitinceYerAçar) {
     DosyaYaz(VeriDosyası() + "-journal", "günlük");
     const QString ilk = HamınıSakla(YedekKlasörü(), VeriDosyası());
     for (int i = 0; i < 10; ++i) son = HamınıSakla(YedekKlasörü(), VeriDosyası());
-    FazlalıklarıSil(son);
+    ÖncekiKopyayıBağla(son, true);
     EXPECT_EQ(QDir(QFileInfo(son).path()).entryList({"*ham.ydk*"}).size(), 20);
     EXPECT_FALSE(QFile::exists(ilk));
     EXPECT_EQ(Adlar().size(), 21);
@@ -248,6 +255,62 @@ TEST_F(Kopyalar, AccessBiçimindekiYedek) {
     EXPECT_EQ(liste, VeriDosyası() + ".access-2.txt");
     EXPECT_TRUE(Baytlar(liste).contains("Çıta"));
     EXPECT_EQ(Baytlar(yol).toStdString(), dosya.Baytlar());
+}
+
+// The room for the copy, and the data file's size beyond it.
+TEST_F(Kopyalar, YerYetmezseEskilerKalırGündeBirSöylenir) {
+    DosyaYap(VeriDosyası(), QStringLiteral("Eski"), ÖncekiGün);
+    Kopyaİşi iş = İş();
+    iş.Hazır = Klasör() + QStringLiteral("hazır");
+    int saat = 0;
+    const auto yaz = [&](int gün) {
+        MalzemeEkle(QStringLiteral("%1").arg(++saat));
+        QFile::remove(iş.Hazır);
+        EXPECT_TRUE(QFile::copy(VeriDosyası(), iş.Hazır));
+        iş.Değişme = QDateTime(QDate(2026, 11, gün), QTime(saat, 0));
+        return KopyaYaz(iş).Ne;
+    };
+    for (const int gün : {9, 9, 10}) ASSERT_EQ(yaz(gün), Tür::Yazıldı);
+    const QStringList önce = Dosyalar();
+    const qint64 yeter = 2 * QFileInfo(VeriDosyası()).size();
+    {
+        const DarDisk dar(yeter - 1);
+        EXPECT_EQ(yaz(11), Tür::YerYok);
+        EXPECT_EQ(Dosyalar(), önce);
+        // The start goes on, with its one backup, and says so once a day.
+        for (const int gün : {0, 0, 1}) {
+            MalzemeEkle(QStringLiteral("Başlangıç %1").arg(++saat));
+            ZamanVer(VeriDosyası(), ÖncekiGün);
+            if (saat != 6) Kutular().Yanıtla(MesajKutusu::Yanıt::Tamam);
+            EXPECT_TRUE(Başlat(Gün.addDays(gün)));
+            EXPECT_EQ(Oku(Yedek()), Oku(VeriDosyası()));
+        }
+        EXPECT_EQ(Dosyalar(), önce);
+    }
+    const DarDisk dar(QFileInfo(VeriDosyası()).size() * 2);
+    EXPECT_EQ(yaz(11), Tür::Yazıldı);
+    EXPECT_EQ(Adlar().join(' ').count("000001.ydk"), 0) << "thinned now";
+}
+
+TEST_F(Kopyalar, ÖldürülenKopyanınYarısıSonrakiBaşlangıçtaSilinir) {
+    DosyaYap(VeriDosyası(), QStringLiteral("İlk"), ÖncekiGün);
+    ASSERT_TRUE(Başlat(Gün));
+    const QStringList önce = Dosyalar();
+    const QString yarım = Klasörü() + "Varnek 2026-11-22 1803 000002";
+    for (const char* ek : {".ydk.yeni", ".ydk.yeni-journal", " ham.ydk-journal.yeni"}) DosyaYaz(yarım + ek, "yarım");
+    const QString eski = YedekKlasörü() + "gecici-eski";
+    const QString süren = YedekKlasörü() + "gecici-suren";
+    for (const QString& klasör : {eski, süren}) ASSERT_TRUE(QDir().mkpath(klasör));
+    const timespec evvelki[2] = {{time(nullptr) - 90000, 0}, {time(nullptr) - 90000, 0}};
+    ASSERT_EQ(utimensat(AT_FDCWD, QFile::encodeName(eski).constData(), evvelki, 0), 0);
+    // What another program is writing stays.
+    const QString başkasınınAdı = "Varnek 2001-11-22 1804 000003.ydk";
+    Dosya::GeçiciDosya başkasının((Klasörü() + başkasınınAdı).toStdString());
+    ASSERT_TRUE(başkasının.Aç().Tamam());
+    ASSERT_TRUE(Başlat(Gün));  // without a copy: it has been made today
+    EXPECT_EQ(Dosyalar(), QStringList(başkasınınAdı + ".yeni") + önce);
+    EXPECT_FALSE(QFileInfo::exists(eski));
+    EXPECT_TRUE(QFileInfo::exists(süren));
 }
 
 TEST_F(Kopyalar, BaşkaDiskteYarımDosyaKalmaz) {
