@@ -39,6 +39,8 @@ Seçenekler Çöz(const QStringList& sözler) {
                                              : nullptr;
         if (söz == u"--bildir") {
             seçenekler.Bildir = true;
+        } else if (söz == u"--sakla") {
+            seçenekler.İstek.Sakla = true;
         } else if (değer && i + 1 < sözler.size()) {
             *değer = sözler[++i];
         } else if (!değer && seçenekler.İstek.Kaynak.isEmpty() && !söz.startsWith(u"--")) {
@@ -47,8 +49,9 @@ Seçenekler Çöz(const QStringList& sözler) {
             seçenekler.Geçerli = false;
         }
     }
-    seçenekler.Geçerli = seçenekler.Geçerli && !seçenekler.İstek.Kaynak.isEmpty() &&
-                         (seçenekler.İstek.Liste.isEmpty() || !seçenekler.İstek.Hedef.isEmpty());
+    seçenekler.Geçerli =
+        seçenekler.Geçerli && !seçenekler.İstek.Kaynak.isEmpty() &&
+        (!seçenekler.İstek.Hedef.isEmpty() || (seçenekler.İstek.Liste.isEmpty() && !seçenekler.İstek.Sakla));
     return seçenekler;
 }
 

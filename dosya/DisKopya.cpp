@@ -16,25 +16,12 @@ namespace {
 
 constexpr std::size_t PARÇA = 1 << 20;
 
-// As many bytes as there are, up to the buffer's size; -1 when they cannot be read.
-ssize_t Oku(int no, std::vector<char>& tampon) {
-    std::size_t okunan = 0;
-    while (okunan < tampon.size()) {
-        const ssize_t adet = read(no, tampon.data() + okunan, tampon.size() - okunan);
-        if (adet < 0 && errno == EINTR) continue;
-        if (adet < 0) return -1;
-        if (adet == 0) break;
-        okunan += static_cast<std::size_t>(adet);
-    }
-    return static_cast<ssize_t>(okunan);
-}
-
 using İlerle = std::function<bool(std::int64_t)>;
 
 DisKopyaSonucu Yaz(int kaynak, int hedef, std::int64_t& yapılan, const İlerle& ilerle) {
     std::vector<char> tampon(PARÇA);
     for (;;) {
-        const ssize_t okunan = Oku(kaynak, tampon);
+        const ssize_t okunan = DoluncayaDekOku(kaynak, tampon);
         if (okunan < 0) return DisKopyaSonucu::Yazılamadı;
         if (okunan == 0) break;
         if (!HepsiniYaz(hedef, tampon.data(), static_cast<std::size_t>(okunan))) return DisKopyaSonucu::Yazılamadı;
@@ -44,15 +31,16 @@ DisKopyaSonucu Yaz(int kaynak, int hedef, std::int64_t& yapılan, const İlerle&
 }
 
 // From the disk, not from what the system remembers of it.
-DisKopyaSonucu GeriOku(int kaynak, int hedef, std::int64_t& yapılan, const İlerle& ilerle) {
+DisKopyaSonucu GeriDoluncayaDekOku(int kaynak, int hedef, std::int64_t& yapılan, const İlerle& ilerle) {
     posix_fadvise(hedef, 0, 0, POSIX_FADV_DONTNEED);
     if (lseek(kaynak, 0, SEEK_SET) != 0 || lseek(hedef, 0, SEEK_SET) != 0) return DisKopyaSonucu::Yazılamadı;
     std::vector<char> asıl(PARÇA);
     std::vector<char> eş(PARÇA);
     for (;;) {
-        const ssize_t okunan = Oku(kaynak, asıl);
+        const ssize_t okunan = DoluncayaDekOku(kaynak, asıl);
         if (okunan < 0) return DisKopyaSonucu::Yazılamadı;
-        if (Oku(hedef, eş) != okunan || std::memcmp(asıl.data(), eş.data(), static_cast<std::size_t>(okunan)) != 0)
+        if (DoluncayaDekOku(hedef, eş) != okunan ||
+            std::memcmp(asıl.data(), eş.data(), static_cast<std::size_t>(okunan)) != 0)
             return DisKopyaSonucu::Tutmadı;
         if (okunan == 0) return DisKopyaSonucu::Yazıldı;
         if (!ilerle(yapılan += okunan)) return DisKopyaSonucu::Durduruldu;
@@ -77,7 +65,7 @@ DisKopyaSonucu DışarıKopyala(const std::string& kaynak, const std::string& he
     if (!yaz.Açık()) return DisKopyaSonucu::Yazılamadı;
     std::int64_t yapılan = 0;
     DisKopyaSonucu sonuç = Yaz(oku.No(), yaz.No(), yapılan, ilerle);
-    if (sonuç == DisKopyaSonucu::Yazıldı) sonuç = GeriOku(oku.No(), yaz.No(), yapılan, ilerle);
+    if (sonuç == DisKopyaSonucu::Yazıldı) sonuç = GeriDoluncayaDekOku(oku.No(), yaz.No(), yapılan, ilerle);
     if (sonuç == DisKopyaSonucu::Yazıldı) {
         const Sonuç taşındı = Taşı(yarım, hedef, Yerleştirme::Yeni);
         if (taşındı.Tamam()) return sonuç;

@@ -83,6 +83,18 @@ bool KlasörüEşitle(const std::string& dosya) {
     return !no.Açık() || fsync(no.No()) == 0 || (errno != EIO && errno != ENOSPC && errno != EDQUOT);
 }
 
+ssize_t DoluncayaDekOku(int no, std::vector<char>& tampon) {
+    std::size_t okunan = 0;
+    while (okunan < tampon.size()) {
+        const ssize_t adet = read(no, tampon.data() + okunan, tampon.size() - okunan);
+        if (adet < 0 && errno == EINTR) continue;
+        if (adet < 0) return -1;
+        if (adet == 0) break;
+        okunan += static_cast<std::size_t>(adet);
+    }
+    return static_cast<ssize_t>(okunan);
+}
+
 bool HepsiniYaz(int no, const char* veri, std::size_t boy) {
     while (boy > 0) {
         const ssize_t yazılan = write(no, veri, boy);
@@ -92,6 +104,19 @@ bool HepsiniYaz(int no, const char* veri, std::size_t boy) {
         boy -= static_cast<std::size_t>(yazılan);
     }
     return true;
+}
+
+void İzinleriVer(int no, const std::string& örnek) {
+    struct stat istenen;
+    struct stat verilen;
+    if (lstat(örnek.c_str(), &istenen) != 0 || !S_ISREG(istenen.st_mode)) return;
+    mode_t izinler = istenen.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO);
+    const bool verildi = fchown(no, istenen.st_uid, istenen.st_gid) == 0 ||
+                         fchown(no, static_cast<uid_t>(-1), istenen.st_gid) == 0 ||
+                         (fstat(no, &verilen) == 0 && verilen.st_gid == istenen.st_gid);
+    // Another group gets no more than everybody.
+    if (!verildi) izinler = (izinler & ~static_cast<mode_t>(S_IRWXG)) | ((izinler & S_IRWXO) << 3);
+    static_cast<void>(fchmod(no, izinler));
 }
 
 bool Kilitle(int no) {

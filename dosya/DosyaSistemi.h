@@ -1,9 +1,12 @@
 #pragma once
 
+#include <sys/types.h>
+
 #include <cstddef>
 #include <string>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 // What program, engine and data-file tool ask of the file system beyond their libraries; the platform's calls are
 // behind this folder. Paths are UTF-8.
@@ -37,8 +40,15 @@ bool GünlükleriSil(const std::string& dosya);
 // passed over. False when the disk failed.
 bool KlasörüEşitle(const std::string& dosya);
 
+// As many bytes as there are, up to the buffer's size; -1 with errno when they cannot be read.
+ssize_t DoluncayaDekOku(int no, std::vector<char>& tampon);
+
 // False with errno when not all of it could be written.
 bool HepsiniYaz(int no, const char* veri, std::size_t boy);
+
+// Gives an open file the permissions of another one, and its owner and group as far as the user may: whoever could use
+// that one can use what comes into its place. Nothing happens where there is no such file.
+void İzinleriVer(int no, const std::string& örnek);
 
 // Takes an open file's lock, which ends with the process; false when another process holds it.
 bool Kilitle(int no);

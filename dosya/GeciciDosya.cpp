@@ -98,6 +98,7 @@ Sonuç GeçiciDosya::Doldur(const std::string& kaynak) {
 
 Sonuç GeçiciDosya::Yerleştir(Yerleştirme biçim) {
     GünlükleriSil(m_yol);
+    if (biçim == Yerleştirme::Değiştir) İzinleriAl(m_hedef);
     if (fsync(m_dosya.No()) != 0) return Yapılamadı();
     const Sonuç sonuç = Taşı(m_yol, m_hedef, biçim);
     if (sonuç.Yapıldı()) m_bizim = false;

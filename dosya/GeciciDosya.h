@@ -50,7 +50,11 @@ class GeçiciDosya {
     // Fills it with another file's bytes and its time of change: Tamam or Yapılamadı.
     Sonuç Doldur(const std::string& kaynak);
 
-    // Syncs it, gives it the target's name and syncs the folder. Unless Yapıldı, the target is as it was.
+    // Lets in whom the other file lets in.
+    void İzinleriAl(const std::string& örnek) { İzinleriVer(m_dosya.No(), örnek); }
+
+    // Syncs it, gives it the target's name and syncs the folder. What takes a file's place gets its permissions. Unless
+    // Yapıldı, the target is as it was.
     Sonuç Yerleştir(Yerleştirme biçim);
 
     // The name of a target's file in the making.

@@ -26,6 +26,7 @@ int Başlat(const Almaİsteği& istek, int çıkış, pid_t& süreç) {
     std::vector<std::string> sözler{istek.Araç, "erisimden-al", istek.Kaynak, "--bildir"};
     if (!istek.Hedef.empty()) sözler.insert(sözler.end(), {"--hedef", istek.Hedef});
     if (!istek.Liste.empty()) sözler.insert(sözler.end(), {"--liste", istek.Liste});
+    if (istek.Sakla) sözler.emplace_back("--sakla");
     std::vector<char*> dizi;
     for (std::string& söz : sözler) dizi.push_back(söz.data());
     dizi.push_back(nullptr);

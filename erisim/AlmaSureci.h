@@ -9,8 +9,9 @@ namespace Erişim {
 struct Almaİsteği {
     std::string Araç;  // the data-file tool
     std::string Kaynak;
-    std::string Hedef;  // "": in its place
-    std::string Liste;  // with a target; "": beside it
+    std::string Hedef;   // "": in its place
+    std::string Liste;   // with a target; "": beside it
+    bool Sakla = false;  // with a target: the original is kept beside it, for one that is to be replaced
 };
 
 struct AlmaSonucu {

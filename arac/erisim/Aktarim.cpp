@@ -11,6 +11,7 @@
 
 #include "AccessBasligi.h"
 #include "Donusum.h"
+#include "ErisimKilidi.h"
 #include "GeciciDosya.h"
 #include "OdbcSurucu.h"
 #include "Saklama.h"
@@ -70,16 +71,9 @@ class Kaynak {
         if (m_bilgi.st_size % sayfa != 0) throw VeriHatası(u"Access dosyası bozuk: sonu eksik. Dosya değişmedi."_s);
     }
 
-    // Access keeps such a file as long as somebody has the other one open.
     static void KilidiDenetle(const QString& yol) {
-        const QFileInfo bilgi(yol);
-        for (const QString& ek : {u".ldb"_s, u".LDB"_s}) {
-            const QString kilit = bilgi.path() + u'/' + bilgi.completeBaseName() + ek;
-            if (Dosya::YolVar(QFile::encodeName(kilit).toStdString()))
-                throw VeriHatası(
-                    u"Access dosyası açık görünüyor: yanında %1 var. Öbür bilgisayardaki programı kapatın; "
-                    u"açık değilse bu dosyayı silip yeniden deneyin."_s.arg(Ad(kilit)));
-        }
+        const std::string neden = AçıkGörünmeNedeni(QFile::encodeName(yol).toStdString());
+        if (!neden.empty()) throw VeriHatası(QString::fromStdString(neden));
     }
 
     std::string m_yol;
@@ -179,10 +173,11 @@ void YarımıSil(const QString& yol) {
     }
 }
 
-// The file's time of change, on disk with all the rest.
-void ZamanıVer(const std::string& yol, const timespec& zaman) {
+// The file's time of change and whom it lets in, on disk with all the rest.
+void ZamanıVer(const std::string& yol, const timespec& zaman, const std::string& örnek) {
     const Dosya::Tanıtıcı no(open(yol.c_str(), O_RDWR | O_CLOEXEC));
     const timespec zamanlar[2] = {zaman, zaman};
+    if (no.Açık()) Dosya::İzinleriVer(no.No(), örnek);
     if (!no.Açık() || futimens(no.No(), zamanlar) != 0 || fsync(no.No()) != 0)
         throw VeriHatası(u"Alınan veri dosyası diske yazılamadı; diski denetleyin. Dosya değişmedi."_s);
 }
@@ -224,10 +219,10 @@ AktarımSonucu ErişimDosyasınıAl(const Aktarımİsteği& istek) {
         if (Karşılaştır(yeni, akış, sayaç) != yazılan || ikinci.Metin() != liste.Metin()) Uymuyor(KullanımTablosu);
     }
     const std::string yeniYolu = QFile::encodeName(yeni).toStdString();
-    ZamanıVer(yeniYolu, kaynak.DeğişmeZamanı());
+    ZamanıVer(yeniYolu, kaynak.DeğişmeZamanı(), yerinde ? hedefYolu : std::string());
 
-    const Saklanan saklanan = yerinde ? ÖzgünüSakla(yol) : Saklanan();
-    const QString listeYolu = yerinde                 ? saklanan.Yol + u".txt"_s
+    const Saklanan saklanan = yerinde || istek.Sakla ? ÖzgünüSakla(yol, hedef) : Saklanan();
+    const QString listeYolu = !saklanan.Yol.isEmpty() ? saklanan.Yol + u".txt"_s
                               : istek.Liste.isEmpty() ? ListeAdı(hedef + u".access.txt"_s)
                                                       : ListeAdı(istek.Liste);
     const bool listeYeni = !liste.Boş() && !QFileInfo::exists(listeYolu);
@@ -235,7 +230,7 @@ AktarımSonucu ErişimDosyasınıAl(const Aktarımİsteği& istek) {
         if (saklanan.Yeni) QFile::remove(saklanan.Yol);
         if (listeYeni) QFile::remove(listeYolu);
     });
-    if (!liste.Boş()) MetniYaz(listeYolu, liste.Metin());
+    if (!liste.Boş()) MetniYaz(listeYolu, liste.Metin(), kaynak.Yol());
     if (istek.İlerleme) istek.İlerleme(BÜTÜN);
     YarıdaKesildiMi();
     kaynak.DeğişmediMi();

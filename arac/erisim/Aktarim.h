@@ -9,6 +9,7 @@ struct Aktarımİsteği {
     QString Kaynak;
     QString Hedef;                      // empty: the new file takes the Access file's place
     QString Liste;                      // with a target: where the list goes; empty: beside it
+    bool Sakla = false;                 // with a target: the original is kept beside it all the same
     std::function<void(int)> İlerleme;  // thousandths
 };
 

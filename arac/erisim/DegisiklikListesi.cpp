@@ -1,5 +1,7 @@
 #include "DegisiklikListesi.h"
 
+#include "DegisiklikOzeti.h"
+
 namespace Erişim {
 
 namespace {
@@ -64,7 +66,7 @@ std::string DeğişiklikListesi::Özet() const {
 }
 
 std::string DeğişiklikListesi::Metin() const {
-    return "Access dosyasından olduğu gibi alınamayan değerler\n" + Özet() + "\n\n" + m_satırlar;
+    return std::string(LİSTE_BAŞLIĞI) + "\n" + Özet() + "\n\n" + m_satırlar;
 }
 
 }  // namespace Erişim

@@ -2,11 +2,10 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <array>
 #include <cerrno>
 #include <system_error>
 
-#include "GeciciDosya.h"
+#include "YanKopya.h"
 #include "VeriDosyasi.h"
 
 using namespace Qt::StringLiterals;
@@ -26,21 +25,7 @@ std::string Yol(const QString& yol) {
     throw VeriHatası(u"%1 yazılamadı; klasörün yazma iznini ve diski denetleyin. Dosya değişmedi."_s.arg(ad));
 }
 
-bool İçeriğiAynı(const QString& a, const QString& b) {
-    QFile ilk(a);
-    QFile ikinci(b);
-    if (!QFileInfo(b).isFile() || !ilk.open(QIODevice::ReadOnly) || !ikinci.open(QIODevice::ReadOnly)) return false;
-    if (ilk.size() != ikinci.size()) return false;
-    constexpr qint64 parça = 1 << 18;
-    while (!ilk.atEnd()) {
-        YarıdaKesildiMi();
-        const QByteArray baytlar = ilk.read(parça);
-        if (baytlar.isEmpty() || baytlar != ikinci.read(parça)) return false;
-    }
-    return true;
-}
-
-// "Varnek.vtb.access", "Varnek.vtb.access-2", ...
+// "Varnek.vtb.access.txt", "Varnek.vtb.access-2.txt", ...
 QString Numaralı(const QString& kök, const QString& ek, int sıra) {
     return kök + (sıra == 1 ? QString() : u'-' + QString::number(sıra)) + ek;
 }
@@ -51,20 +36,11 @@ bool Var(const QString& yol) {
 
 }  // namespace
 
-Saklanan ÖzgünüSakla(const QString& yol) {
-    for (int sıra = 1;; ++sıra) {
-        const QString ad = Numaralı(yol + u".access"_s, {}, sıra);
-        if (İçeriğiAynı(yol, ad)) return {ad, false};
-        if (Var(ad)) continue;
-        Dosya::GeçiciDosya kopya(Yol(ad));
-        Dosya::Sonuç sonuç = kopya.Aç();
-        if (sonuç.Tamam()) sonuç = kopya.Doldur(Yol(yol));
-        if (!sonuç.Tamam()) Yazılamadı(ad, sonuç.Neden);
-        sonuç = kopya.Yerleştir(Dosya::Yerleştirme::Yeni);
-        if (sonuç.Ne == Dosya::Sonuç::Tür::Var) continue;
-        if (!sonuç.Tamam() || !İçeriğiAynı(yol, ad)) Yazılamadı(ad, sonuç.Neden);
-        return {ad, true};
-    }
+Saklanan ÖzgünüSakla(const QString& yol, const QString& yanına) {
+    const Dosya::YanKopya kopya = Dosya::YanaKopyala(Yol(yol), Yol(yanına + u".access"_s), {}, YarıdaKesildiMi);
+    const QString ad = QFile::decodeName(kopya.Yol.c_str());
+    if (!kopya.Ne.Tamam()) Yazılamadı(ad, kopya.Ne.Neden);
+    return {ad, kopya.Yeni};
 }
 
 QString ListeAdı(const QString& yol) {
@@ -74,7 +50,7 @@ QString ListeAdı(const QString& yol) {
     return Numaralı(kök, u".txt"_s, sıra);
 }
 
-void MetniYaz(const QString& yol, const std::string& metin) {
+void MetniYaz(const QString& yol, const std::string& metin, const std::string& örnek) {
     Dosya::GeçiciDosya dosya(Yol(yol));
     const Dosya::Sonuç açılış = dosya.Aç();
     if (!açılış.Tamam()) Yazılamadı(yol, açılış.Neden);
@@ -84,6 +60,7 @@ void MetniYaz(const QString& yol, const std::string& metin) {
         !yazılan.flush())
         Yazılamadı(yol, errno);
     yazılan.close();
+    dosya.İzinleriAl(örnek);
     const Dosya::Sonuç sonuç = dosya.Yerleştir(Dosya::Yerleştirme::Değiştir);
     if (!sonuç.Tamam()) Yazılamadı(yol, sonuç.Neden);
 }

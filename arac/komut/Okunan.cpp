@@ -1,8 +1,10 @@
 #include "Okunan.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
+#include "DegisiklikOzeti.h"
 #include "OdbcSurucu.h"
 #include "Uc.h"
 #include "VeriDosyasi.h"
@@ -18,6 +20,9 @@ OkunanDosya::OkunanDosya(const QString& dosya) : m_klasör(QDir::tempPath() + u"
             throw VeriHatası(u"%1 okunamadı: %2"_s.arg(dosya, SürücüKurulumHataları().value(0)));
     }
     YarıdaKesildiMi();
+    const std::string değişenler =
+        Erişim::ListeninÖzeti(QFile::encodeName(kopya).toStdString() + std::string(Erişim::LİSTE_EKİ));
+    if (!değişenler.empty()) Bildir(u"Access dosyası: "_s + QString::fromStdString(değişenler));
     Denetle(m_bağlantı.Aç(BağlantıMetni(kopya)));
 }
 

@@ -108,12 +108,13 @@ bool Veritabanı::Taşındı() const {
 }
 
 // After a change: a file that went from its place meanwhile took the change with it.
-void Veritabanı::YerindeMi() const {
-    if (Taşındı())
-        throw Hata(Durum::Genel,
-                   "Bu sırada veri dosyasının yerine başka bir dosya konmuş; değişikliğin yeni dosyada olup olmadığını "
-                   "denetleyin.",
-                   SQLITE_READONLY_DBMOVED);
+void Veritabanı::YerindeMi() {
+    if (!Taşındı()) return;
+    m_taşındığıSöylendi = true;
+    throw Hata(Durum::Genel,
+               "Bu sırada veri dosyasının yerine başka bir dosya konmuş; değişikliğin yeni dosyada olup olmadığını "
+               "denetleyin.",
+               SQLITE_READONLY_DBMOVED);
 }
 
 bool Veritabanı::OkumaSürüyor() const {
@@ -129,12 +130,21 @@ void Veritabanı::Hazırlan() {
                    "Bir hata yüzünden onaylanmamış değişikliklerin tümü geri alındı; önce geri alma (ROLLBACK) "
                    "istenmeli.");
     if (HareketAçık() || !Taşındı()) return;
+    const bool söylendi = std::exchange(m_taşındığıSöylendi, true);
     if (m_elleOnay || OkumaSürüyor()) SqliteHatasıFırlat(SQLITE_READONLY_DBMOVED);
     try {
         Bağlan();
     } catch (const Hata& hata) {
         throw Hata(hata.Durum(), "Veri dosyası değiştirilmiş. " + std::string(hata.Mesaj()), hata.Yerel());
     }
+    m_taşındığıSöylendi = false;
+    if (söylendi) return;
+    // What the client knows is of the other file, so this statement may not mean what it was written for.
+    throw Hata(
+        Durum::Genel,
+        "Veri dosyası değiştirilmiş: bu sırada yerine başka bir dosya konmuş (bir yedek geri yüklenmiş olabilir). "
+        "İşlem yapılmadı; gördükleriniz eski dosyanın verileri, bundan sonraki işlemler yeni dosyada yapılır.",
+        SQLITE_READONLY_DBMOVED);
 }
 
 const DosyaŞeması& Veritabanı::ŞemayıAl() {
@@ -210,7 +220,10 @@ void Veritabanı::Onayla() {
     if (KendiliğindenGeriAlındı()) Hazırlan();
     m_son.reset();
     if (!HareketAçık()) return;
-    if (Taşındı()) SqliteHatasıFırlat(SQLITE_READONLY_DBMOVED);
+    if (Taşındı()) {
+        m_taşındığıSöylendi = true;
+        SqliteHatasıFırlat(SQLITE_READONLY_DBMOVED);
+    }
     SqliteDeyimi onayla(m_vt.get(), "COMMIT");
     Yürüt(onayla);
     m_hareket = false;

@@ -53,8 +53,9 @@ class Sorgu {
 // A connection to a data file. One statement is one transaction, on disk before the call returns, unless manual commit
 // is on.
 //
-// Where another file was put in the data file's place meanwhile, the next statement connects to that one if nothing can
-// be lost: no manual commit, no open transaction, no open query. Otherwise it is refused (S1000) and the client
+// Where another file was put in the data file's place meanwhile (a backup was restored), the client is told once:
+// its next statement or commit is refused with this reason (S1000). Those after it go to the new file if nothing can be
+// lost: no manual commit, no open transaction, no open query. Otherwise they are refused as well, and the client
 // decides.
 //
 // Where SQLite itself undid the open transaction (disk full, read error, no memory), every statement and the commit are
@@ -107,7 +108,7 @@ class Veritabanı : private Şema {
 
     void Bağlan();
     bool Taşındı() const;
-    void YerindeMi() const;
+    void YerindeMi();
     bool OkumaSürüyor() const;
     bool KendiliğindenGeriAlındı() const { return m_hareket && !HareketAçık(); }
 
@@ -122,6 +123,7 @@ class Veritabanı : private Şema {
         SqliteDeyimi Deyim;
     };
     std::optional<SonDeyim> m_son;
+    bool m_taşındığıSöylendi = false;  // the client knows that there is another file in its place
     bool m_elleOnay = false;
     bool m_hareket = false;  // begun, and neither committed nor rolled back by the client
 };

@@ -9,5 +9,6 @@ inline constexpr MetinNo Alınıyor{3400};
 inline constexpr MetinNo Alınamadı{3401};
 inline constexpr MetinNo Vazgeçildi{3402};
 inline constexpr MetinNo Değiştirilenler{3403};
+inline constexpr MetinNo YedekSaklanamadı{3404};
 
 }  // namespace ErişimMetni

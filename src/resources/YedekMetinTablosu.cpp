@@ -79,6 +79,11 @@ constexpr MetinSatırı Tablo[] = {
      "Yedek veri dosyasının yerine kondu, ama diskte kaldığı doğrulanamadı. Önceki verilerin saklandığı yer aşağıdaki "
      "son satırda.\n%1\n%2"},
     {YedekMetni::TabloAçıklaması, "%1\n%2"},
+    {YedekMetni::ErişimdenDeğişenler, "Yedek bir Access dosyası; %1.\nListesi:\n%2"},
+    {YedekMetni::ErişimdenDeğişenlerListesiz,
+     "Yedek bir Access dosyası; %1.\nBunların listesi veri dosyasının yanına yazılamadı."},
+    {YedekMetni::ZatenSaklı,
+     "Veriler, elle alınan son yedekten beri değişmemiş; yeni bir yedek gerekmedi. Bu durum şurada saklı:\n%1"},
 };
 
 static_assert(Sıralı(Tablo));

@@ -64,5 +64,8 @@ inline constexpr MetinNo BağlantıKurulamadı{3256};
 inline constexpr MetinNo BaşlangıçtaSunum{3257};
 inline constexpr MetinNo GeriYüklendiDoğrulanamadı{3258};
 inline constexpr MetinNo TabloAçıklaması{3259};
+inline constexpr MetinNo ErişimdenDeğişenler{3260};
+inline constexpr MetinNo ErişimdenDeğişenlerListesiz{3261};
+inline constexpr MetinNo ZatenSaklı{3262};
 
 }  // namespace YedekMetni

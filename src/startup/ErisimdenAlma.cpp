@@ -5,8 +5,10 @@
 
 #include "AccessBasligi.h"
 #include "AlmaSureci.h"
+#include "ErisimKilidi.h"
 #include "ErisimMetinleri.h"
 #include "MesajKutusu.h"
+#include "YanKopya.h"
 #include "YuklemeGosterFormu.h"
 
 namespace {
@@ -26,9 +28,9 @@ void Bildir(MesajKutusu::Simge simge, const QString& metin) {
     MesajKutusu::Göster(simge, MesajKutusu::Düğmeler::Tamam, metin);
 }
 
-bool Al(const QString& kaynak, const QString& hedef) {
-    const std::string araç = Yol(QCoreApplication::applicationDirPath() + QStringLiteral("/varnek-veri"));
-    const Erişim::Almaİsteği istek{araç, Yol(kaynak), Yol(hedef), {}};
+ErişimSonu Al(Erişim::Almaİsteği istek) {
+    istek.Araç = Yol(QCoreApplication::applicationDirPath() + QStringLiteral("/varnek-veri"));
+    const QString kaynak = QFile::decodeName(istek.Kaynak.c_str());
     AlmaSonucu sonuç;
     YüklemeGösterFormu::ÇalıştırVazgeçilebilir(
         Metin(ErişimMetni::Alınıyor),
@@ -37,31 +39,41 @@ bool Al(const QString& kaynak, const QString& hedef) {
     switch (sonuç.Ne) {
         case AlmaSonucu::Tür::Alındı:
             if (!metin.isEmpty()) Bildir(MesajKutusu::Simge::Bilgi, Metin(ErişimMetni::Değiştirilenler).arg(metin));
-            return true;
+            return ErişimSonu::Alındı;
         case AlmaSonucu::Tür::Vazgeçildi:
             Bildir(MesajKutusu::Simge::Bilgi, Metin(ErişimMetni::Vazgeçildi).arg(kaynak));
-            return false;
+            return ErişimSonu::Vazgeçildi;
         case AlmaSonucu::Tür::Alınamadı:
             break;
     }
     Bildir(MesajKutusu::Simge::Kritik, Metin(ErişimMetni::Alınamadı).arg(metin, kaynak));
-    return false;
+    return Erişim::AçıkGörünmeNedeni(istek.Kaynak).empty() ? ErişimSonu::Alınamadı : ErişimSonu::AçıkGörünüyor;
 }
 
 }  // namespace
 
-bool ErişimDosyasınıAl(const VeriYolları& yollar) {
-    return !ErişimDosyası(yollar.GerçekDosya) || Al(yollar.Dosya, {});
+ErişimSonu ErişimDosyasınıAl(const VeriYolları& yollar) {
+    return DosyaErişimDosyası(yollar) ? Al({{}, Yol(yollar.Dosya), {}, {}}) : ErişimSonu::Alındı;
+}
+
+ErişimSonu ErişimYedeğiniGeriYükle(const VeriYolları& yollar) {
+    return Al({{}, Yol(yollar.Yedek), Yol(yollar.GerçekDosya), {}, true});
+}
+
+ErişimSonu ErişimYedeğiniAl(const VeriYolları& yollar) {
+    return YedekErişimDosyası(yollar) ? Al({{}, Yol(yollar.Yedek), {}, {}}) : ErişimSonu::Alındı;
+}
+
+bool DosyaErişimDosyası(const VeriYolları& yollar) {
+    return ErişimDosyası(yollar.GerçekDosya);
 }
 
 bool YedekErişimDosyası(const VeriYolları& yollar) {
     return ErişimDosyası(yollar.GerçekYedek);
 }
 
-bool ErişimDosyasıVar(const VeriYolları& yollar) {
-    return ErişimDosyası(yollar.GerçekDosya) || YedekErişimDosyası(yollar);
-}
-
-bool ErişimYedeğiniGeriYükle(const VeriYolları& yollar) {
-    return Al(yollar.Yedek, yollar.GerçekDosya);
+bool ErişimYedeğiniSakla(const VeriYolları& yollar) {
+    return !YedekErişimDosyası(yollar) ||
+           Dosya::YanaKopyala(Yol(yollar.GerçekYedek), Yol(yollar.GerçekDosya + QStringLiteral(".access")), {})
+               .Ne.Tamam();
 }

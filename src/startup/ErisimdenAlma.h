@@ -2,13 +2,27 @@
 
 #include "VeriYollari.h"
 
-// Takes the data file over where it is one of Access; any other is left alone. The loading form shows how far it has
-// come and lets the user give up. False: the program is to end; why has been shown, and the file is as it was.
-bool ErişimDosyasınıAl(const VeriYolları& yollar);
+// Unless Alındı, why has been shown, and all files are as they were.
+enum class ErişimSonu {
+    Alındı,
+    Alınamadı,
+    AçıkGörünüyor,  // on another computer
+    Vazgeçildi
+};
 
-// Puts what a backup in Access format holds in the place of a data file that is missing; the backup stays as it is.
+// Takes the data file over where it is one of Access; any other is left alone. The loading form shows how far it has
+// come and lets the user give up.
+ErişimSonu ErişimDosyasınıAl(const VeriYolları& yollar);
+
+// Puts what a backup in Access format holds in the place of a data file that is missing. The backup stays as it is, and
+// is kept beside the data file as well, since the next compaction replaces it.
+ErişimSonu ErişimYedeğiniGeriYükle(const VeriYolları& yollar);
+
+// The same of one that is looked at where it stands: it is taken over there.
+ErişimSonu ErişimYedeğiniAl(const VeriYolları& yollar);
+
+bool DosyaErişimDosyası(const VeriYolları& yollar);
 bool YedekErişimDosyası(const VeriYolları& yollar);
 
-// Whether data file or backup is one.
-bool ErişimDosyasıVar(const VeriYolları& yollar);
-bool ErişimYedeğiniGeriYükle(const VeriYolları& yollar);
+// Keeps a backup in Access format beside the data file before something replaces it. False: it could not be kept.
+bool ErişimYedeğiniSakla(const VeriYolları& yollar);

@@ -41,6 +41,7 @@ bool BaşlangıçBiter(const VeriYolları& yollar) {
         const OdbcSonucu sonuç = bağlantı.Aç(BağlantıMetni(yollar.Dosya));
         return std::any_of(sonuç.Hatalar.begin(), sonuç.Hatalar.end(), HasarMı);
     }
-    return !DosyaVar(yollar.Yedek) ||
-           AçılmışYedek(yollar.GerçekYedek, yollar.YedekKlasörü).Denetle().Durum == YedekDurumu::Bozuk;
+    if (!DosyaVar(yollar.Yedek)) return true;
+    AçılmışYedek yedek(yollar.GerçekYedek, yollar.YedekKlasörü);
+    return yedek.Kopyalandı() && yedek.Denetle().Durum != YedekDurumu::Sağlam;
 }

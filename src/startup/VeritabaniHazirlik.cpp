@@ -2,10 +2,12 @@
 
 #include <QDateTime>
 #include <QFileInfo>
+#include <utility>
 
 #include "ApilerModulu.h"
 #include "OrtakFonksiyonlarModulu.h"
 #include "DegiskenModulu.h"
+#include "ErisimMetinleri.h"
 #include "ErisimdenAlma.h"
 #include "GundeBir.h"
 #include "KopyaYazma.h"
@@ -58,6 +60,10 @@ void Sıkıştır(const VeriYolları& yollar) {
         YedekAlınamadı(yollar, Metin(MetinNo::YedekYoluUzun));
         return;
     }
+    if (!ErişimYedeğiniSakla(yollar)) {
+        YedekAlınamadı(yollar, Metin(ErişimMetni::YedekSaklanamadı));
+        return;
+    }
     const QString dosya = KısaYolAl(yollar.GerçekDosya);
     const QDateTime değişme = QFileInfo(yollar.GerçekDosya).lastModified();
     SonDönüşKodu = VeritabanınıSıkıştır(dosya, KısaYolAl(yollar.GerçekYedek));
@@ -75,6 +81,27 @@ void Yedekle(const VeriYolları& yollar, bool yedekKlasörüVar) {
     } else if (SıkıştırmaGünü(yollar)) {
         Sıkıştır(yollar);
     }
+}
+
+// Offers the dated copies where there are some, and not again to whom they were offered already.
+class Sunum {
+  public:
+    Sunum(const YedekSunumu& sun, const VeriYolları& yollar) : m_sun(sun), m_var(sun && KopyaVar(yollar)) {}
+    bool Var() const { return m_var; }
+    bool Yap() { return std::exchange(m_var, false) && m_sun(); }
+
+  private:
+    const YedekSunumu& m_sun;
+    bool m_var;
+};
+
+// Puts a data file that is missing or one of Access into its place; where that cannot be, the user may choose a dated
+// copy.
+bool YerineGetir(const VeriYolları& yollar, Sunum& sunum) {
+    const bool eksik = !DosyaVar(yollar.Dosya);
+    if (eksik && !YedekErişimDosyası(yollar)) return EksikDosyayıGeriYükle(yollar) || sunum.Yap();
+    const ErişimSonu son = eksik ? ErişimYedeğiniGeriYükle(yollar) : ErişimDosyasınıAl(yollar);
+    return son == ErişimSonu::Alındı || (son == ErişimSonu::Alınamadı && sunum.Yap());
 }
 
 // What has to be right before the data file is touched.
@@ -104,13 +131,14 @@ bool VeritabanınıHazırla(const YedekSunumu& sun) {
     YarımAçılmışlarıSil(yollar.YedekKlasörü);
     YarımKopyalarıSil(yollar.YedekKlasörü);
     // An Access file is taken over first, with progress: looking at it would do so without.
-    if (sun && KopyaVar(yollar) && !ErişimDosyasıVar(yollar) && BaşlangıçBiter(yollar)) sun();
+    const bool erişim = DosyaVar(yollar.Dosya) ? DosyaErişimDosyası(yollar) : YedekErişimDosyası(yollar);
+    Sunum sunum(sun, yollar);
+    if (sunum.Var() && !erişim && BaşlangıçBiter(yollar)) sunum.Yap();
     if (!YerlerUygun(yollar)) return false;
     YarımKalanlarıSil(yollar);
     // Without the driver nothing can be said about the files; connecting then shows what is wrong.
     if (!SürücüKayıtlı()) return ODBCBağlan();
-    if (!DosyaVar(yollar.Dosya) && !EksikDosyayıGeriYükle(yollar)) return false;
-    if (!ErişimDosyasınıAl(yollar)) return false;
+    if (!YerineGetir(yollar, sunum)) return false;
     QString neden;
     switch (BoşDosyayıGözet(yollar, neden)) {
         case BoşDosyaSonucu::Sorunsuz:

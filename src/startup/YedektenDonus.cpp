@@ -49,7 +49,9 @@ Sağlamlık HerSayfasınıOku(const VeriYolları& yollar) {
 bool YedekGeriYüklenebilir(const VeriYolları& yollar, const Metinler& metinler) {
     const DosyaDenetimi yedek = VeriDosyasınıDenetle(yollar.Yedek);
     if (yedek.Durum == DosyaDurumu::Okunamadı) {
-        HatalarıGöster(yedek.Hatalar.isEmpty() ? QStringList{QString()} : yedek.Hatalar);
+        QStringList hatalar = yedek.Hatalar.isEmpty() ? QStringList{QString()} : yedek.Hatalar;
+        if (!hatalar.last().isEmpty()) hatalar.last() += QLatin1Char('\n') + yollar.Yedek;  // the driver names no file
+        HatalarıGöster(hatalar);
         return false;
     }
     const Sağlamlık sağlamlık = yedek.Durum == DosyaDurumu::Bozuk ? Sağlamlık::Bozuk : HerSayfasınıOku(yollar);
@@ -118,7 +120,6 @@ void YarımKalanlarıSil(const VeriYolları& yollar) {
 }
 
 bool EksikDosyayıGeriYükle(const VeriYolları& yollar) {
-    if (YedekErişimDosyası(yollar)) return ErişimYedeğiniGeriYükle(yollar);
     return YedekGeriYüklenebilir(yollar, EKSİKTE) && YedeğiKopyala(yollar, EKSİKTE);
 }
 
@@ -130,6 +131,7 @@ BoşDosyaSonucu BoşDosyayıGözet(const VeriYolları& yollar, QString& neden) {
         neden = dosya.Hatalar.value(0);  // perhaps gone by the connecting that follows: another client's lock
         return BoşDosyaSonucu::YedekKorunur;
     }
+    if (ErişimYedeğiniAl(yollar) != ErişimSonu::Alındı) return BoşDosyaSonucu::YedekKorunur;
     const DosyaDenetimi yedek = VeriDosyasınıDenetle(yollar.Yedek);
     if (yedek.Durum == DosyaDurumu::Boş) return BoşDosyaSonucu::Sorunsuz;
     if (yedek.Durum != DosyaDurumu::Dolu) {

@@ -133,6 +133,14 @@ bool SonucuGöster(const Dönüş& dönüş) {
 
 }  // namespace
 
+void ErişimdenDeğişenleriBildir(const AçılmışYedek& yedek, const VeriYolları& yollar) {
+    const QString değişenler = yedek.Değişenler();
+    if (değişenler.isEmpty()) return;
+    const QString liste = yedek.DeğişenleriSakla(yollar.GerçekDosya);
+    Bildir(Simge::Bilgi, liste.isEmpty() ? Metin(YedekMetni::ErişimdenDeğişenlerListesiz).arg(değişenler)
+                                         : Metin(YedekMetni::ErişimdenDeğişenler).arg(değişenler, liste));
+}
+
 bool YedeğiGeriYükle(const VeriYolları& yollar, const YedekSatırı& satır, bool bağlı, QWidget* sahip) {
     std::optional<AçılmışYedek> yedek;
     Hazırlık hazırlık;
@@ -155,6 +163,7 @@ bool YedeğiGeriYükle(const VeriYolları& yollar, const YedekSatırı& satır, 
                 [&](ArkaDurum& durum) { dönüş = YerineKoy(yollar, *yedek, bağlı, durum.DurYolu()); });
     const bool bağlandı = !bağlı || ODBCBağlan();
     const bool geriYüklendi = SonucuGöster(dönüş);
+    if (geriYüklendi) ErişimdenDeğişenleriBildir(*yedek, yollar);
     if (!bağlandı) Bildir(Simge::Kritik, Metin(YedekMetni::BağlantıKurulamadı));
     return geriYüklendi;
 }

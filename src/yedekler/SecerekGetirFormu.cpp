@@ -13,6 +13,7 @@
 #include "FiyatIsi.h"
 #include "FiyatMetinleri.h"
 #include "FormParcalari.h"
+#include "GeriYukleme.h"
 #include "GetirmeMetinleri.h"
 #include "IlerlemeKutusu.h"
 #include "KopyaYazma.h"
@@ -212,8 +213,10 @@ void SeçerekGetirFormu::Getir() {
     SaklananıBağla(saklanan, sonuç.Son == UygulamaSonu::Tamam, dosya() == önce);
     switch (UygulamayıBildir(sonuç, GetirmeMetni::Getirilemedi)) {
         case ÖnizlemeAdımı::Kabul:
-            if (m_istek.Yedek)
+            if (m_istek.Yedek) {
                 Bildir(MesajKutusu::Simge::Bilgi, Metin(GetirmeMetni::Getirildi).arg(özet.Ürün).arg(özet.Malzeme));
+                ErişimdenDeğişenleriBildir(*m_ortam.Açılan(), m_istek.Yollar);
+            }
             if (!çözülenler.isEmpty())
                 Bildir(MesajKutusu::Simge::Bilgi, Metin(GetirmeMetni::BağlarÇözüldü).arg(AdlarınBaşı(çözülenler)));
             accept();

@@ -28,6 +28,7 @@ class GetirmeOrtamı {
 
     OdbcBağlantısı& Deneme() { return m_deneme; }  // a copy of the data
     OdbcBağlantısı& Yedek() { return m_yedek; }    // of the backup
+    const AçılmışYedek* Açılan() const { return m_açılan.get(); }
 
   private:
     std::unique_ptr<QTemporaryDir> m_klasör;

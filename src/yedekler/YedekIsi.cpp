@@ -129,7 +129,8 @@ DışSonuç DışarıYaz(const VeriYolları& yollar, const QString& hedef, ArkaD
 bool ŞimdiYedekle(const VeriYolları& yollar, QWidget* sahip) {
     const KopyaSonucu sonuç = ArkadaKopyala(İşYap(yollar, KopyaTürü::Elle), YedekMetni::Yedekleniyor, sahip);
     if (!SonucuGöster(sonuç)) return false;
-    Bildir(Simge::Bilgi, Metin(YedekMetni::YedekAlındı).arg(sonuç.Yol));
+    const bool aynı = sonuç.Ne == KopyaSonucu::Tür::Aynı;
+    Bildir(Simge::Bilgi, Metin(aynı ? YedekMetni::ZatenSaklı : YedekMetni::YedekAlındı).arg(sonuç.Yol));
     return true;
 }
 

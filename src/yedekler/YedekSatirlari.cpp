@@ -131,12 +131,15 @@ QString YedekSatırları::Açıklama(std::size_t satır) const {
 std::vector<YedekSatırı> YedekleriBul(const VeriYolları& yollar, const QString& damga) {
     std::vector<YedekSatırı> satırlar;
     const QString kendisi = KopyaKlasörü(yollar.YedekKlasörü, yollar.GerçekDosya, damga);
+    // Raw copies are not opened for a mark and stand by the path alone.
+    const QString hamlar = KopyaKlasörü(yollar.YedekKlasörü, yollar.GerçekDosya, {});
     const auto bununMu = [&](const KopyaYeri& yer) {
-        return yer.Klasör == kendisi || (damga.isEmpty() && yer.Dosya == yollar.GerçekDosya);
+        return yer.Klasör == kendisi || yer.Klasör == hamlar || (damga.isEmpty() && yer.Dosya == yollar.GerçekDosya);
     };
     const std::vector<KopyaYeri> yerler = KopyaYerleri(yollar.YedekKlasörü);
     for (const KopyaYeri& yer : yerler)
-        if (bununMu(yer)) KopyalarıEkle(satırlar, yer.Klasör, {});
+        if (bununMu(yer) && yer.Klasör != hamlar) KopyalarıEkle(satırlar, yer.Klasör, {});
+    KopyalarıEkle(satırlar, hamlar, {});
     if (QFileInfo::exists(yollar.Yedek)) satırlar.push_back(TekDosya(yollar.Yedek, YedekSatırı::Cins::SonYedek));
     for (const KopyaYeri& yer : yerler)
         if (!bununMu(yer))

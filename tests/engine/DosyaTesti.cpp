@@ -201,7 +201,7 @@ TEST_F(MotorTesti, YerindeSıkıştırma) {
     EXPECT_EQ(TestVerisi(m_dosya).Oku(HerMalzeme), (Satırlar{{"Işık", "1.5"}, {"İpek", "2"}}));
 }
 
-// Another file in the data file's place: a client goes on with it where nothing can be lost and is told otherwise.
+// Another file in the data file's place: a client is told once, and goes on with it where nothing can be lost.
 TEST_F(MotorTesti, YerineBaşkaDosyaKonursa) {
     const auto değiştir = [&] {
         ASSERT_EQ(Sıkıştır(m_dosya, Yol("yeni")), std::nullopt);
@@ -211,6 +211,8 @@ TEST_F(MotorTesti, YerineBaşkaDosyaKonursa) {
     TestVerisi bağ(m_dosya);
     KullanılanEkle(bağ, 500);
     değiştir();
+    EXPECT_TRUE(değişmiş(bağ.Dene(MalzemeEkle("a", "1"))));
+    EXPECT_TRUE(TestVerisi(m_dosya).Oku(HerMalzeme).empty());
     bağ.Çalıştır(MalzemeEkle("a", "1"));
     EXPECT_EQ(TestVerisi(m_dosya).Oku(HerMalzeme).size(), 1u);
     {

@@ -29,13 +29,54 @@ TEST_F(HazırlıkTesti, AccessBiçimindekiYedektenDöner) {
     AccessÜreteci dosya;
     dosya.SatırlarıKoy("MalzemeTablosu", {{AccessÜreteci::Metin(u"Çıta"), std::nullopt}});
     ErişimDosyasıYap(dosya, Yedek());
-    ZamanVer(Yedek(), QDateTime::currentDateTime());
+    ZamanVer(Yedek(), ÖncekiGün);
     Söyler(true, Simge::Bilgi,
            Metin(ErişimMetni::Değiştirilenler)
                .arg(QStringLiteral("1 değer olduğu gibi alınamadı (1 boş değer). Liste: Varnek.vtb.access.txt")));
     ODBCBağlantısınıKapat();
-    EXPECT_EQ(Baytlar(Yedek()).toStdString(), dosya.Baytlar());
+    // The same start's compaction has replaced the backup: its original is kept, as is any other that it replaces.
+    EXPECT_EQ(Baytlar(VeriDosyası() + QStringLiteral(".access")).toStdString(), dosya.Baytlar());
     EXPECT_EQ(Oku(VeriDosyası()).size(), 4 + 1 + 6);
+    EXPECT_EQ(Oku(Yedek()), Oku(VeriDosyası()));
+    ErişimDosyasıYap(AccessÜreteci(), Yedek());
+    ZamanVer(VeriDosyası(), ÖncekiGün);
+    ASSERT_TRUE(VeritabanınıHazırla());
+    ODBCBağlantısınıKapat();
+    EXPECT_EQ(Baytlar(VeriDosyası() + QStringLiteral(".access-2")).toStdString(), AccessÜreteci().Baytlar());
+    EXPECT_EQ(Oku(Yedek()), Oku(VeriDosyası()));
+}
+
+// Where taking over fails, the dated copies are offered; not for a file that is merely open elsewhere.
+TEST_F(HazırlıkTesti, BozukAccessDosyasındaKopyalarSunulur) {
+    const QString kopyalar = YedekKlasörü() + QStringLiteral("Varnek 12345678/");
+    QDir().mkpath(kopyalar);
+    DosyaYaz(kopyalar + QStringLiteral("Varnek 2026-11-22 1803 000001.ydk"), {});
+    DosyaYaz(kopyalar + QStringLiteral("yer.txt"), "/");
+    const QByteArray kesik = QByteArray::fromStdString(AccessÜreteci().Baytlar()).left(32 * 4096);
+    int sunulan = 0;
+    const auto hazırla = [&](bool geriYüklenir) {
+        Kutular().Yanıtla(MesajKutusu::Yanıt::Tamam);
+        const bool tamam = VeritabanınıHazırla([&] {
+            ++sunulan;
+            if (geriYüklenir) DosyaYap(VeriDosyası(), QStringLiteral("Çıta"), ÖncekiGün);
+            return geriYüklenir;
+        });
+        ODBCBağlantısınıKapat();
+        return tamam;
+    };
+    DosyaYaz(VeriDosyası(), kesik);
+    EXPECT_FALSE(hazırla(false));
+    EXPECT_EQ(sunulan, 1);
+    EXPECT_TRUE(hazırla(true));
+    EXPECT_EQ(sunulan, 2);
+    QFile::remove(VeriDosyası());
+    DosyaYaz(Yedek(), kesik);
+    EXPECT_TRUE(hazırla(true));
+    EXPECT_EQ(sunulan, 3);
+    DosyaYaz(VeriDosyası(), kesik);
+    DosyaYaz(ProgramKlasörü() + QStringLiteral("Varnek.ldb"), {});
+    EXPECT_FALSE(hazırla(false));
+    EXPECT_EQ(sunulan, 3);
 }
 
 TEST_F(HazırlıkTesti, AlınamayanAccessDosyasınıOlduğuGibiBırakır) {

@@ -6,6 +6,7 @@
 #include <QStorageInfo>
 #include <algorithm>
 #include <map>
+#include <optional>
 
 #include "ApilerModulu.h"
 #include "GeciciDosya.h"
@@ -63,10 +64,18 @@ KopyaSonucu Sıkıştırarak(const Kopyaİşi& iş, const QString& hedef) {
     return {!iş.Dur.isEmpty() && QFileInfo::exists(iş.Dur) ? Tür::Durduruldu : Tür::Olmadı, {}, neden};
 }
 
-const Kopya* SonGünlük(const std::vector<Kopya>& kopyalar) {
-    const auto yer = std::find_if(kopyalar.begin(), kopyalar.end(),
-                                  [](const Kopya& kopya) { return kopya.Ad.Tür == KopyaTürü::Günlük; });
+// The newest of its kind; what is kept before a restore is kept in any case.
+const Kopya* Sonuncu(const std::vector<Kopya>& kopyalar, KopyaTürü tür) {
+    if (tür == KopyaTürü::Önce) return nullptr;
+    const auto yer =
+        std::find_if(kopyalar.begin(), kopyalar.end(), [tür](const Kopya& kopya) { return kopya.Ad.Tür == tür; });
     return yer == kopyalar.end() ? nullptr : &*yer;
+}
+
+// As raw ones are as a rule: nothing sound is lost with it. Its folder stands in the backups'.
+bool HamVeBozuk(const Kopya& kopya) {
+    const QString kök = QFileInfo(QFileInfo(kopya.Yol).path()).path() + QDir::separator();
+    return kopya.Ad.Tür == KopyaTürü::Ham && AçılmışYedek(kopya.Yol, kök).Denetle().Durum == YedekDurumu::Bozuk;
 }
 
 void YarımlarıSil(const QString& klasör) {
@@ -115,17 +124,22 @@ void YarımKopyalarıSil(const QString& kök) {
 }
 
 void FazlalıklarıSil(const QString& klasör, int yeni) {
-    std::map<int, QString> yollar;
+    std::map<int, Kopya> kopyalar;
     std::vector<KopyaAdı> adlar;
     for (const Kopya& kopya : KopyalarıOku(klasör)) {
-        yollar[kopya.Ad.Sıra] = kopya.Yol;
+        kopyalar[kopya.Ad.Sıra] = kopya;
         adlar.push_back(kopya.Ad);
     }
+    const auto yazılan = kopyalar.find(yeni);
+    const bool günlük = yazılan != kopyalar.end() && yazılan->second.Ad.Tür == KopyaTürü::Günlük;
     std::map<int, bool> sağlam{{yeni, true}};
     for (const Fazlalık& fazlalık : Seyrelt(adlar)) {
+        const auto yerineKalan = kopyalar.find(fazlalık.YerineKalan);
+        if (yerineKalan == kopyalar.end() || günlük != (yerineKalan->second.Ad.Tür == KopyaTürü::Günlük)) continue;
         const auto [kalan, ilk] = sağlam.try_emplace(fazlalık.YerineKalan, false);
-        if (ilk) kalan->second = VeriDosyasıSağlam(yollar[fazlalık.YerineKalan]);
-        if (kalan->second) QFile::remove(yollar[fazlalık.Sıra]);
+        if (ilk) kalan->second = VeriDosyasıSağlam(yerineKalan->second.Yol);
+        const Kopya& giden = kopyalar[fazlalık.Sıra];
+        if ((kalan->second || HamVeBozuk(giden)) && QFile::remove(giden.Yol)) QFile::remove(giden.Yol + GÜNLÜK_EKİ);
     }
 }
 
@@ -137,7 +151,7 @@ KopyaSonucu KopyaYaz(const Kopyaİşi& iş) {
     if (!KopyaKlasörünüYap(klasör, iş.Dosya)) return {Tür::Olmadı, {}, klasör};
     YarımlarıSil(klasör);
     const std::vector<Kopya> kopyalar = KopyalarıOku(klasör);
-    const Kopya* önceki = iş.Tür == KopyaTürü::Günlük ? SonGünlük(kopyalar) : nullptr;
+    const Kopya* önceki = Sonuncu(kopyalar, iş.Tür);
     if (!iş.Hazır.isEmpty() && önceki && İçerikleriAynı(iş.Hazır, önceki->Yol)) {
         FazlalıklarıSil(klasör, önceki->Ad.Sıra);  // its bytes are those of a file that was checked just now
         return {Tür::Aynı, önceki->Yol, {}};
@@ -165,8 +179,9 @@ void ÖncekiKopyayıBağla(const QString& kopya, bool geriYüklendi) {
     if (!geriYüklendi) {
         QFile::remove(kopya);
         QFile::remove(kopya + GÜNLÜK_EKİ);
-    } else if (ad && ad->Tür == KopyaTürü::Önce) {
-        FazlalıklarıSil(dosya.path() + QDir::separator(), ad->Sıra);
+    } else if (ad) {
+        // A raw one is not known to be sound.
+        FazlalıklarıSil(dosya.path() + QDir::separator(), ad->Tür == KopyaTürü::Ham ? 0 : ad->Sıra);
     }
 }
 

@@ -17,7 +17,7 @@ struct Kopyaİşi {
 struct KopyaSonucu {
     enum class Tür {
         Yazıldı,
-        Aynı,  // nothing has changed since the newest daily copy
+        Aynı,  // nothing has changed since the newest copy of this kind, which `Yol` names
         Boş,   // neither products nor materials: nothing to keep
         YerYok,
         Durduruldu,
@@ -46,7 +46,8 @@ void ÖncekiKopyayıBağla(const QString& kopya, bool geriYüklendi);
 // writes just now stays.
 void YarımKopyalarıSil(const QString& kök);
 
-// What thinning leaves after a sound copy with this number was written.
+// What thinning leaves after a sound copy with this number was written: of the daily ones after a daily one, else of
+// the others.
 void FazlalıklarıSil(const QString& klasör, int yeni);
 
 // The data file's bytes as they stand, and its journal's. "": neither could be kept.

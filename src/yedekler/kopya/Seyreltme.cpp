@@ -28,7 +28,6 @@ class Kalanlar {
   public:
     // From the newest copy on.
     bool Kalır(const KopyaAdı& kopya) {
-        if (kopya.Tür == KopyaTürü::Ham) return true;
         if (kopya.Tür != KopyaTürü::Günlük) return ++m_elle <= ELLE;
         const QDate gün = kopya.Değişme.date();
         int yıl = 0;
@@ -54,12 +53,15 @@ std::vector<Fazlalık> Seyrelt(std::vector<KopyaAdı> kopyalar) {
     Kalanlar kalanlar;
     int günlük = 0;
     int elle = 0;
+    int ham = 0;  // in a raw one's place any marked one stays
     for (const KopyaAdı& kopya : kopyalar) {
-        int& sonKalan = kopya.Tür == KopyaTürü::Günlük ? günlük : elle;
-        if (kalanlar.Kalır(kopya))
-            sonKalan = kopya.Tür == KopyaTürü::Ham ? sonKalan : kopya.Sıra;
-        else
+        int& sonKalan = kopya.Tür == KopyaTürü::Günlük ? günlük : kopya.Tür == KopyaTürü::Ham ? ham : elle;
+        if (!kalanlar.Kalır(kopya)) {
             fazlalıklar.push_back({kopya.Sıra, sonKalan});
+            continue;
+        }
+        sonKalan = kopya.Sıra;
+        if (kopya.Tür == KopyaTürü::Elle || kopya.Tür == KopyaTürü::Önce) ham = kopya.Sıra;
     }
     return fazlalıklar;
 }

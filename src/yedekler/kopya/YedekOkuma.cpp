@@ -6,10 +6,14 @@
 #include <QFileInfo>
 #include <algorithm>
 
+#include "AccessBasligi.h"
 #include "ApilerModulu.h"
+#include "DegisiklikOzeti.h"
 #include "Deyimler.h"
+#include "ErisimKilidi.h"
 #include "OdbcSurucu.h"
 #include "OdbcYedek.h"
+#include "YanKopya.h"
 
 namespace {
 
@@ -18,6 +22,10 @@ constexpr int BOZUK = 11;
 constexpr int VERİ_DOSYASI_DEĞİL = 26;
 const QString TABLO_YOK = QStringLiteral("S0002");
 const QString GEÇİCİ = QStringLiteral("gecici-");
+
+std::string Bayt(const QString& yol) {
+    return QFile::encodeName(yol).toStdString();
+}
 
 OdbcSonucu Say(OdbcBağlantısı& bağlantı, const QString& sayma, std::int64_t& sayı) {
     OdbcSonucu sonuç = bağlantı.Oku(sayma, [&sayı](OdbcSatırı& satır) {
@@ -64,6 +72,19 @@ AçılmışYedek::AçılmışYedek(const QString& yol, const QString& kök) : m_
     const bool kopyalandı = m_klasör.isValid() && DosyaKopyala(yol, m_yol) &&
                             (!QFileInfo::exists(yol + ek) || DosyaKopyala(yol + ek, m_yol + ek));
     if (!kopyalandı) m_neden = yol;
+    // What another program is writing to may be half written; the lock lies beside the file, not beside its copy.
+    if (kopyalandı && Erişim::AccessTürünüOku(Bayt(m_yol)) != Erişim::AccessTürü::Değil)
+        m_neden = QString::fromStdString(Erişim::AçıkGörünmeNedeni(Bayt(yol)));
+}
+
+QString AçılmışYedek::Değişenler() const {
+    return QString::fromStdString(Erişim::ListeninÖzeti(Bayt(m_yol) + std::string(Erişim::LİSTE_EKİ)));
+}
+
+QString AçılmışYedek::DeğişenleriSakla(const QString& dosya) const {
+    const Dosya::YanKopya liste =
+        Dosya::YanaKopyala(Bayt(m_yol) + std::string(Erişim::LİSTE_EKİ), Bayt(dosya) + ".access", ".txt");
+    return liste.Ne.Yapıldı() ? QFile::decodeName(liste.Yol.c_str()) : QString();
 }
 
 YedekBilgisi AçılmışYedek::Denetle(const QString& dur) {

@@ -38,12 +38,19 @@ class AçılmışYedek {
     // Counts and checks; may be stopped by a file named `dur`.
     YedekBilgisi Denetle(const QString& dur = {});
 
-    const QString& Yol() const { return m_yol; }  // the copy
+    const QString& Yol() const { return m_yol; }           // the copy
+    bool Kopyalandı() const { return m_neden.isEmpty(); }  // otherwise nothing is known of it
+
+    // Of one in Access format, once it was opened: how much was stored otherwise than it stands there; "" when nothing.
+    QString Değişenler() const;
+
+    // Keeps the list of that beside the data file, replacing nothing; its path, "" when it could not be written.
+    QString DeğişenleriSakla(const QString& dosya) const;
 
   private:
     QTemporaryDir m_klasör;
     QString m_yol;
-    QString m_neden;  // why it could not be copied
+    QString m_neden;  // why it cannot be used
 };
 
 // Folders that a killed run left of opened backups and of copies for another disk, after a day.

@@ -3,6 +3,7 @@
 
 #include <ctime>
 
+#include "AccessUreteci.h"
 #include "DarDisk.h"
 #include "DisKopya.h"
 #include "DoluDisk.h"
@@ -61,10 +62,12 @@ TEST(Seyreltme, GünHaftaVeAySonlarıKalır) {
              {QStringList{"2026-11-22 0900", "2026-11-22 1000", "2020-01-01 0900", "2020-01-02 0900",
                           "2020-01-02 1000"},
               "1>2"},
-             // Those asked for stand apart, the newest ten of them; a damaged file's bytes stay.
+             // Those asked for stand apart, the newest ten of them, a damaged file's bytes included; such bytes alone
+             // push nothing else out.
              {QStringList{"2026-11-22 0900 ham"} + QStringList(11, "2026-11-22 0900 elle") +
                   QStringList{"2026-11-22 0900 once", "2026-11-22 0900"},
-              "2>4 3>4"},
+              "1>4 2>4 3>4"},
+             {QStringList{"2026-11-22 0900 elle"} + QStringList(11, "2026-11-22 0900 ham"), "1>0 2>3"},
          })
         EXPECT_EQ(Gidenler(kopyalar), gidenler) << kopyalar.join(", ").toStdString();
     for (const char* yabancı : {"Varnek 2026-11-31 1803 000001.ydk", "Varnek 2026-11-22 2503 000001.ydk",
@@ -204,6 +207,56 @@ TEST_F(Kopyalar, YerineKalanBozuksaSilinmez) {
     EXPECT_EQ(Adlar().size(), 4);
 }
 
+// What is kept before a restore makes room only when that was done; what was asked for twice is one copy.
+TEST_F(Kopyalar, SaklananlarAncakİşBitinceYerAçar) {
+    DosyaYap(VeriDosyası(), QStringLiteral("İlk"), ÖncekiGün);
+    const KopyaSonucu elle = KopyaYaz(İş(KopyaTürü::Elle));
+    ASSERT_EQ(elle.Ne, Tür::Yazıldı);
+    QString son;
+    for (int i = 0; i < 10; ++i) son = KopyaYaz(İş(KopyaTürü::Önce)).Yol;
+    const KopyaSonucu yine = KopyaYaz(İş(KopyaTürü::Elle));
+    EXPECT_EQ(yine.Ne, Tür::Aynı);
+    EXPECT_EQ(yine.Yol, elle.Yol);
+    // Nor does a daily one.
+    Kopyaİşi günlük = İş();
+    günlük.Hazır = VeriDosyası();
+    EXPECT_EQ(KopyaYaz(günlük).Ne, Tür::Yazıldı);
+    EXPECT_EQ(Adlar().size(), 12);
+    ÖncekiKopyayıBağla(son, true);
+    EXPECT_EQ(Adlar().size(), 11);
+    EXPECT_FALSE(QFile::exists(elle.Yol));
+    // Raw ones, of which none is sound; with its journal goes the one that goes.
+    DosyaYaz(VeriDosyası(), QByteArray(5000, 'x'));
+    DosyaYaz(VeriDosyası() + "-journal", "günlük");
+    const QString ilk = HamınıSakla(YedekKlasörü(), VeriDosyası());
+    for (int i = 0; i < 10; ++i) son = HamınıSakla(YedekKlasörü(), VeriDosyası());
+    ÖncekiKopyayıBağla(son, true);
+    EXPECT_EQ(QDir(QFileInfo(son).path()).entryList({"*ham.ydk*"}).size(), 20);
+    EXPECT_FALSE(QFile::exists(ilk));
+    EXPECT_EQ(Adlar().size(), 21);
+}
+
+TEST_F(Kopyalar, AccessBiçimindekiYedek) {
+    AccessÜreteci dosya;
+    dosya.SatırlarıKoy("MalzemeTablosu", {{AccessÜreteci::Metin(u"Çıta"), std::nullopt}});
+    const QString yol = Klasör() + QStringLiteral("eski.vtb");
+    dosya.Yaz(yol.toStdString());
+    QDir().mkpath(YedekKlasörü());
+    DosyaYaz(Klasör() + "eski.ldb", {});
+    const YedekBilgisi açıkken = AçılmışYedek(yol, YedekKlasörü()).Denetle();
+    EXPECT_EQ(açıkken.Durum, YedekDurumu::Okunamadı);
+    EXPECT_TRUE(açıkken.Neden.contains("yanında eski.ldb var")) << açıkken.Neden.toStdString();
+    QFile::remove(Klasör() + "eski.ldb");
+    AçılmışYedek yedek(yol, YedekKlasörü());
+    EXPECT_EQ(yedek.Denetle().Durum, YedekDurumu::Sağlam);
+    EXPECT_EQ(yedek.Değişenler(), "1 değer olduğu gibi alınamadı (1 boş değer)");
+    DosyaYaz(VeriDosyası() + ".access.txt", "başka bir liste");
+    const QString liste = yedek.DeğişenleriSakla(VeriDosyası());
+    EXPECT_EQ(liste, VeriDosyası() + ".access-2.txt");
+    EXPECT_TRUE(Baytlar(liste).contains("Çıta"));
+    EXPECT_EQ(Baytlar(yol).toStdString(), dosya.Baytlar());
+}
+
 // The room for the copy, and the data file's size beyond it.
 TEST_F(Kopyalar, YerYetmezseEskilerKalırGündeBirSöylenir) {
     DosyaYap(VeriDosyası(), QStringLiteral("Eski"), ÖncekiGün);
@@ -318,11 +371,16 @@ TEST_F(Kopyalar, GeriYüklemeBaşkasınınİşiniEzmez) {
     }
     EXPECT_EQ(Baytlar(VeriDosyası()), önce);
     EXPECT_EQ(QDir(ProgramKlasörü()).entryList(QDir::Files), QStringList("Varnek.vtb"));
-    // An idle client goes on with what is there now; one with an open transaction of reading alone is told.
+    // An idle client is told, and then goes on with what is there now. Whom the former file let in, the new one does.
+    ASSERT_TRUE(QFile::setPermissions(VeriDosyası(), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup));
+    const auto izinler = QFileInfo(VeriDosyası()).permissions();
     TestVerisi boşta(VeriDosyası());
     boşta.Oku("SELECT MalzemeAdi FROM MalzemeTablosu");
     ASSERT_TRUE(VeriDosyasınıGeriYükle(yedek, VeriDosyası())) << SürücüKurulumHatası().toStdString();
+    EXPECT_TRUE(QString::fromStdString(boşta.Dene("SELECT MalzemeAdi FROM MalzemeTablosu").Mesaj)
+                    .contains("bir yedek geri yüklenmiş olabilir"));
     EXPECT_EQ(boşta.HerSatır(), yedekteki);
+    EXPECT_EQ(QFileInfo(VeriDosyası()).permissions(), izinler);
     EXPECT_EQ(DeğişmeZamanı(VeriDosyası()), ÖncekiGün);
     // What is too damaged to be opened is replaced as well.
     DosyaYaz(VeriDosyası(), QByteArray(5000, 'x'));
