@@ -104,9 +104,8 @@ TEST_F(YedeklerFormuTesti, GeriYüklenenFormdaGörünürEskisiSaklanır) {
 }
 
 TEST_F(YedeklerFormuTesti, SeçilenGelirAğaçtaGörünürGeriAlınır) {
-    ÜrünEkle("MASA", "Kitaplık");
+    ÜrünEkle("MASA", "Kitaplık", {"5", "50", "0", "0"});
     Aç();
-    Seç("MASA", "Kitaplık");
     Modal("YedeklerMenüsü", "YedeklerFormu", [this] {
         Kutular().Yanıtla(Yanıt::Tamam);
         Tıkla("ŞimdiYedekleButonu");
@@ -150,6 +149,22 @@ TEST_F(YedeklerFormuTesti, SeçilenGelirAğaçtaGörünürGeriAlınır) {
     Modal("GeriAlMenüsü", "SeçerekGetirFormu", [this] { Tıkla("GetirButonu"); });
     EXPECT_EQ(Satırlar(Ağaç), "MASA; -Kitaplık");
     EXPECT_EQ(Oku("SELECT MalzemeAdi FROM MalzemeTablosu"), "");
+
+    // A percentage that is typed and not stored stays typed; the others are those that came.
+    Çalıştır(Deyimler::YüzdeleriKaydet("5", "0", "0", "0", "MASA", "Kitaplık"));
+    m_veri.reset();
+    Seç("MASA", "Kitaplık");
+    Yaz("İşçilikYüzdesiKutusu", "33");
+    Kutular().Yanıtla(Yanıt::Hayır);
+    Modal("YedeklerMenüsü", "YedeklerFormu", [this] {
+        Modal("SeçerekGetirButonu", "SeçerekGetirFormu", [this] {
+            auto& model = *Bul<QAbstractItemView>("FarkTablosu").model();
+            EXPECT_TRUE(model.setData(model.index(0, 0), Qt::Checked, Qt::CheckStateRole));
+            Kutular().Yanıtla(Yanıt::Tamam);
+            Tıkla("GetirButonu");
+        });
+    });
+    EXPECT_EQ(Yazı("İşçilikYüzdesiKutusu") + '|' + Yazı("KarYüzdesiKutusu"), "33|50,00");
 }
 
 TEST_F(YedeklerFormuTesti, KapanıştaDeğişenYedeklenir) {
