@@ -47,5 +47,22 @@ void VeriDosyasınıDoldur(const QString& dosya, const QStringList& tablolar,
 // Ends the work at the next statement, as a failure. May be called from a signal handler.
 void YarıdaKes() noexcept;
 
+// While it lives, YarıdaKes also makes this file, which is not there yet: work of the driver's that looks for it ends.
+// One at a time.
+class DurmaDosyası {
+  public:
+    // Throws VeriHatası after YarıdaKes.
+    explicit DurmaDosyası(const QString& yol);
+    ~DurmaDosyası();
+    DurmaDosyası(const DurmaDosyası&) = delete;
+    DurmaDosyası& operator=(const DurmaDosyası&) = delete;
+
+  private:
+    QByteArray m_yol;
+};
+
+// Gives the finished file its name, `hedef`, which nothing may bear yet. Throws VeriHatası.
+void VeriDosyasınıYerleştir(const QString& geçici, const QString& hedef);
+
 // To be called by a long `doldur` now and then: throws VeriHatası after YarıdaKes.
 void YarıdaKesildiMi();

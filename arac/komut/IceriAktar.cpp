@@ -9,6 +9,7 @@
 #include "Komut.h"
 #include "SayiCozumu.h"
 #include "Tablolar.h"
+#include "TurkceMetin.h"
 #include "Uc.h"
 #include "VeriDosyasi.h"
 
@@ -17,10 +18,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::size_t PARA_BASAMAĞI = 4;
-
-QString Metin(const std::string& baytlar) {
-    return QString::fromUtf8(baytlar.data(), static_cast<qsizetype>(baytlar.size()));
-}
 
 // One table's file: its columns are found by their names in the first row.
 class TabloAlıcı {
@@ -51,7 +48,7 @@ class TabloAlıcı {
         if (!m_csv.Sıradaki(m_alanlar)) m_csv.Hata(u"dosya boş; ilk satırında sütun adları olmalı"_s);
         QStringList adlar;
         for (const std::string& alan : m_alanlar) {
-            const QString ad = Metin(alan);
+            const QString ad = Utf8Metni(alan);
             const auto tanım = std::find_if(tanımlar.begin(), tanımlar.end(),
                                             [&ad](const OdbcSütunu& sütun) { return sütun.Ad == ad; });
             if (tanım == tanımlar.end())
@@ -69,24 +66,24 @@ class TabloAlıcı {
         if (sütun.Tür == OdbcSütunTürü::Tarih) return Tarih(sütun, alan);
         if (sütun.Tür != OdbcSütunTürü::Metin) SayıyıDenetle(sütun, alan);
         if (alan.find('\'') != std::string::npos) m_csv.Hata(u"%1: kesme işareti (') kullanılamaz"_s.arg(sütun.Ad));
-        return u'\'' + Metin(alan) + u'\'';
+        return u'\'' + Utf8Metni(alan) + u'\'';
     }
 
     void SayıyıDenetle(const OdbcSütunu& sütun, const std::string& alan) const {
         const auto sayı = SayıÇöz(std::string_view(alan), NoktaKuralı::Yerinde, [](char) { return false; });
-        if (!sayı) m_csv.Hata(u"%1: \"%2\" bir sayı değil"_s.arg(sütun.Ad, Metin(alan)));
+        if (!sayı) m_csv.Hata(u"%1: \"%2\" bir sayı değil"_s.arg(sütun.Ad, Utf8Metni(alan)));
         const std::string_view kesir = sayı->Kesir();
         if (sütun.Tür == OdbcSütunTürü::Para && kesir.find_last_not_of('0') != std::string_view::npos &&
             kesir.find_last_not_of('0') >= PARA_BASAMAĞI)
-            m_csv.Hata(u"%1: \"%2\" dörtten çok ondalık basamak taşıyor"_s.arg(sütun.Ad, Metin(alan)));
+            m_csv.Hata(u"%1: \"%2\" dörtten çok ondalık basamak taşıyor"_s.arg(sütun.Ad, Utf8Metni(alan)));
     }
 
     QString Tarih(const OdbcSütunu& sütun, const std::string& alan) const {
-        const QDate tarih = QDate::fromString(Metin(alan), u"dd.MM.yyyy"_s);
+        const QDate tarih = QDate::fromString(Utf8Metni(alan), u"dd.MM.yyyy"_s);
         if (alan.size() != 10 || !tarih.isValid())
-            m_csv.Hata(u"%1: \"%2\" gg.aa.yyyy biçiminde bir tarih değil"_s.arg(sütun.Ad, Metin(alan)));
+            m_csv.Hata(u"%1: \"%2\" gg.aa.yyyy biçiminde bir tarih değil"_s.arg(sütun.Ad, Utf8Metni(alan)));
         // Taken from the digits: a year below 1000 keeps its zeros.
-        return u"#%1/%2/%3#"_s.arg(tarih.month()).arg(tarih.day()).arg(Metin(alan.substr(6)));
+        return u"#%1/%2/%3#"_s.arg(tarih.month()).arg(tarih.day()).arg(Utf8Metni(alan.substr(6)));
     }
 
     VeriYazıcısı& m_yazıcı;

@@ -18,7 +18,7 @@ constexpr char16_t YARDIM[] =
 
 int Oluştur(const QString& dosya, const std::function<void(VeriYazıcısı&)>& doldur) {
     VeriDosyasıYap(dosya, doldur);
-    ÇıktıSatırı(u"%1 oluşturuldu."_s.arg(dosya));
+    YapılanıBildir(u"%1 oluşturuldu."_s.arg(dosya));
     return Tamam;
 }
 

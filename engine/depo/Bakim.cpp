@@ -6,6 +6,8 @@
 #include "Parola.h"
 #include "Veritabani.h"
 
+#include <unistd.h>
+
 #include <cstdlib>
 #include <filesystem>
 
@@ -76,6 +78,18 @@ void BütünlüğüDenetle(sqlite3* vt) {
     SqliteDeyimi denetle(vt, "PRAGMA integrity_check(1)");
     const bool sağlam = denetle.Adım() && denetle.Metin(0) == "ok";
     if (!sağlam) SqliteHatasıFırlat(SQLITE_CORRUPT);
+}
+
+void DurdurulurYap(sqlite3* vt, const std::string& dur) {
+    constexpr int adım = 100000;  // instructions of SQLite between two looks
+    if (dur.empty()) return;
+    const auto durdu = [](void* yol) -> int { return access(static_cast<const char*>(yol), F_OK) == 0 ? 1 : 0; };
+    sqlite3_progress_handler(vt, adım, durdu, const_cast<char*>(dur.c_str()));
+}
+
+// A check looks each row up in each index. Without memory for them the pages would be read again and again.
+void BellekVer(sqlite3* vt) {
+    SqliteYürüt(vt, "PRAGMA cache_size=-131072");  // at most so many KiB
 }
 
 void VeriDosyasıOluştur(const std::string& yol, std::string_view parola) {

@@ -10,6 +10,12 @@ namespace Motor {
 // Reads every page; throws Hata (native SQLITE_CORRUPT) when something does not agree.
 void BütünlüğüDenetle(sqlite3* vt);
 
+// Lets the connection's long work end (S1008) when the file appears; "": it cannot be ended. `dur` outlives the work.
+void DurdurulurYap(sqlite3* vt, const std::string& dur);
+
+// For work that reads the whole file more than once.
+void BellekVer(sqlite3* vt);
+
 // Creates an empty data file with this password. An existing file is never overwritten. Throws Hata; nothing is left
 // behind then.
 void VeriDosyasıOluştur(const std::string& yol, std::string_view parola);

@@ -43,7 +43,8 @@ bool Sıkıştır(const std::string& yollar, const std::string& parola) {
 
 bool Onar(const std::string& yollar, const Öznitelikler& öznitelikler) {
     const auto [kaynak, hedef] = YolÇifti("REPAIR_DB", yollar);
-    VeriDosyasıOnar(kaynak, hedef, öznitelikler.Değer("PWD"), öznitelikler.Değer("REPAIR_REPORT"));
+    VeriDosyasıOnar({kaynak, hedef, öznitelikler.Değer("PWD"), öznitelikler.Değer("REPAIR_REPORT"),
+                     öznitelikler.Değer("REPAIR_TABLES"), YoluÇöz(öznitelikler.Değer("STOP"))});
     return true;
 }
 

@@ -8,6 +8,7 @@
 #include "OdbcHareketi.h"
 #include "OdbcTanitici.h"
 #include "SayiCozumu.h"
+#include "TurkceMetin.h"
 
 İşSonucu İşSonucuYap(const OdbcSonucu& odbc, bool vazgeçildi) {
     if (!odbc.Başarılı()) return {İşSonu::Olmadı, odbc};
@@ -77,7 +78,7 @@ std::int64_t SayıSütunu(OdbcSatırı& satır, int sütun) {
         const auto yer = static_cast<std::uint32_t>(Malzemeler.size());
         if (Dizin.BulYaDaEkle(ad, yer) == yer)
             Malzemeler.push_back(
-                {QString::fromUtf8(ad.data(), static_cast<qsizetype>(ad.size())), fiyat.value_or(Para())});
+                {Utf8Metni(ad), fiyat.value_or(Para())});
         vazgeçildi = ilerleme && !ilerleme(static_cast<std::int64_t>(Malzemeler.size()));
         return !vazgeçildi;
     });

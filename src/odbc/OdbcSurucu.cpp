@@ -69,11 +69,13 @@ bool VeritabanınıSıkıştır(const QString& kaynak, const QString& hedef) {
                                                 QStringLiteral("COMPACT_DB=") + kaynak + QLatin1Char(' ') + hedef});
 }
 
-bool VeriDosyasınıOnar(const QString& kaynak, const QString& hedef, const QString& rapor) {
+bool VeriDosyasınıOnar(const QString& kaynak, const QString& hedef, const QString& rapor, const QString& bildirimler,
+                       const QString& dur) {
     return SürücüKurulumu(Kurulumİsteği::Ekle,
                           {QStringLiteral("UID=Admin"), ParolaNiteliği(),
                            QStringLiteral("REPAIR_DB=") + SürücüYolu(kaynak) + QLatin1Char(' ') + SürücüYolu(hedef),
-                           QStringLiteral("REPAIR_REPORT=") + rapor});
+                           QStringLiteral("REPAIR_REPORT=") + rapor, QStringLiteral("REPAIR_TABLES=") + bildirimler,
+                           QStringLiteral("STOP=") + SürücüYolu(dur)});
 }
 
 QString SürücüYolu(QString yol) {

@@ -38,8 +38,10 @@ bool BoşVeriDosyasıOluştur(const QString& yol);
 bool VeritabanınıSıkıştır(const QString& kaynak, const QString& hedef);
 
 // Asks the driver to save what can be read of a damaged data file into a new one, and to write into `rapor`, a line for
-// each, what could not be. False: nothing was saved.
-bool VeriDosyasınıOnar(const QString& kaynak, const QString& hedef, const QString& rapor);
+// each, what could not be. `bildirimler` is a data file with all tables that there may be; the work ends when the file
+// `dur` appears. False: nothing was saved.
+bool VeriDosyasınıOnar(const QString& kaynak, const QString& hedef, const QString& rapor, const QString& bildirimler,
+                       const QString& dur);
 
 // A path as the driver takes it in a pair of paths: blanks as %20, percent signs as %25.
 QString SürücüYolu(QString yol);

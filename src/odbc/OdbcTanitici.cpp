@@ -7,6 +7,7 @@
 
 #include <atomic>
 
+#include "TurkceMetin.h"
 #include "Utf8.h"
 
 namespace {
@@ -36,7 +37,7 @@ QList<OdbcHatası> HataKayıtlarınıAl(void* bağlantı, void* deyim) {
         const auto boy = static_cast<std::size_t>(qBound(0, int{uzunluk}, static_cast<int>(ileti.size()) - 1));
         const std::string_view metin = YarımKarakteriAt({reinterpret_cast<const char*>(ileti.data()), boy});
         hatalar.append({QString::fromLatin1(reinterpret_cast<const char*>(durum.data())), yerelHata,
-                        QString::fromUtf8(metin.data(), static_cast<qsizetype>(metin.size()))});
+                        Utf8Metni(metin)});
     }
 }
 
@@ -220,7 +221,7 @@ std::int16_t OdbcDeyimi::Oku(int sütun, std::span<char> tampon, std::optional<s
 std::int16_t OdbcDeyimi::Oku(int sütun, QString& metin) {
     std::optional<std::string_view> değer;
     const std::int16_t sonuç = Oku(sütun, değer);
-    metin = değer ? QString::fromUtf8(değer->data(), static_cast<qsizetype>(değer->size())) : QString();
+    metin = değer ? Utf8Metni(*değer) : QString();
     return sonuç;
 }
 
@@ -258,5 +259,5 @@ std::optional<std::string_view> OdbcSatırı::İlkKez(int sütun) {
 
 QString OdbcSatırı::Metin(int sütun) {
     const std::optional<std::string_view> değer = Baytlar(sütun);
-    return değer ? QString::fromUtf8(değer->data(), static_cast<qsizetype>(değer->size())) : QString();
+    return değer ? Utf8Metni(*değer) : QString();
 }
