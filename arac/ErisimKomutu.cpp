@@ -8,6 +8,7 @@
 
 #include "Aktarim.h"
 #include "OdbcSurucu.h"
+#include "Uc.h"
 #include "VeriDosyasi.h"
 
 using namespace Qt::StringLiterals;
@@ -69,7 +70,7 @@ int Al(const QStringList& sözler) {
         SürücüKlasörünüAyarla(QCoreApplication::applicationDirPath());
         const Erişim::AktarımSonucu sonuç = Erişim::ErişimDosyasınıAl(seçenekler.İstek);
         if (uçbirim) Yaz(stderr, {});
-        if (!bildir) Yaz(stdout, sonuç.Özet);
+        if (!bildir) YapılanıBildir(sonuç.Özet);
         if (!sonuç.Not.isEmpty()) bildir ? Bildir(QLatin1String("not"), sonuç.Not) : Yaz(stderr, sonuç.Not);
         if (bildir) Yaz(stdout, u"tamam"_s);
     } catch (const VeriHatası& hata) {

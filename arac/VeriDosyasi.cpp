@@ -126,10 +126,8 @@ void VeriDosyasınıYerleştir(const QString& geçici, const QString& hedef) {
     YarıdaKesildiMi();
     const std::string yol = QFile::encodeName(hedef).toStdString();
     if (Dosya::GünlükVar(yol))
-        throw VeriHatası(
-            u"%1 adında eski bir günlük var; onu kaldırın ya da dosyaya başka bir ad verin."_s.arg(hedef));
-    const Dosya::Sonuç taşıma =
-        Dosya::Taşı(QFile::encodeName(geçici).toStdString(), yol, Dosya::Yerleştirme::Yeni);
+        throw VeriHatası(u"%1 adında eski bir günlük var; onu kaldırın ya da dosyaya başka bir ad verin."_s.arg(hedef));
+    const Dosya::Sonuç taşıma = Dosya::Taşı(QFile::encodeName(geçici).toStdString(), yol, Dosya::Yerleştirme::Yeni);
     if (!taşıma.Yapıldı())
         throw VeriHatası(
             u"%1 adı verilemedi (sistem hatası %2); klasörü ve diski denetleyin."_s.arg(hedef).arg(taşıma.Neden));

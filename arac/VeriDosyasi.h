@@ -29,6 +29,11 @@ class VeriYazıcısı {
     OdbcDeyimi m_deyim;
 };
 
+// What the program can go on with: the characters that it reads of a name, and a percentage that it still computes
+// with.
+inline constexpr std::size_t EN_UZUN_METİN = 254;
+inline constexpr double EN_BÜYÜK_YÜZDE = 1e15;
+
 // Makes a data file in one piece: it is built in a folder of its own beside the target, and gets its name only when
 // all is written and on disk. An existing file is never overwritten; a failure, an interrupt or a killed process
 // leaves nothing under the target's name. Throws VeriHatası.

@@ -2,7 +2,8 @@
 #include <QDate>
 #include <QDir>
 #include <QFileInfo>
-#include <optional>
+#include <algorithm>
+#include <cmath>
 
 #include "Csv.h"
 #include "Deyimler.h"
@@ -11,6 +12,7 @@
 #include "Tablolar.h"
 #include "TurkceMetin.h"
 #include "Uc.h"
+#include "Utf8.h"
 #include "VeriDosyasi.h"
 
 using namespace Qt::StringLiterals;
@@ -19,11 +21,18 @@ namespace {
 
 constexpr std::size_t PARA_BASAMAĞI = 4;
 
+// One of those that the forms write, and not only the program's records.
+bool AnaTablo(const QString& tablo) {
+    const QStringList bildirimler = Deyimler::TabloTakımları().constFirst();
+    return std::any_of(bildirimler.begin(), bildirimler.end(),
+                       [&tablo](const QString& bildirim) { return Deyimler::BildirilenTablo(bildirim) == tablo; });
+}
+
 // One table's file: its columns are found by their names in the first row.
 class TabloAlıcı {
   public:
     TabloAlıcı(VeriYazıcısı& yazıcı, const QString& tablo, const QString& yol)
-        : m_yazıcı(yazıcı), m_tablo(tablo), m_csv(yol) {}
+        : m_yazıcı(yazıcı), m_tablo(tablo), m_anaTablo(AnaTablo(tablo)), m_csv(yol) {}
 
     std::int64_t Al() {
         BaşlığıOku();
@@ -64,9 +73,16 @@ class TabloAlıcı {
 
     QString Yazım(const OdbcSütunu& sütun, const std::string& alan) const {
         if (sütun.Tür == OdbcSütunTürü::Tarih) return Tarih(sütun, alan);
-        if (sütun.Tür != OdbcSütunTürü::Metin) SayıyıDenetle(sütun, alan);
+        sütun.Tür == OdbcSütunTürü::Metin ? AdıDenetle(sütun, alan) : SayıyıDenetle(sütun, alan);
         if (alan.find('\'') != std::string::npos) m_csv.Hata(u"%1: kesme işareti (') kullanılamaz"_s.arg(sütun.Ad));
         return u'\'' + Utf8Metni(alan) + u'\'';
+    }
+
+    // Names are shorter than their columns: of the last character the program would not know.
+    void AdıDenetle(const OdbcSütunu& sütun, const std::string& alan) const {
+        if (m_anaTablo && sütun.Ad != u"KullanilanMalzemeMiktari" && alan.size() > EN_UZUN_METİN &&
+            Utf16Uzunluğu(alan) > EN_UZUN_METİN)
+            m_csv.Hata(u"%1: ad %2 karakterden uzun"_s.arg(sütun.Ad).arg(EN_UZUN_METİN));
     }
 
     void SayıyıDenetle(const OdbcSütunu& sütun, const std::string& alan) const {
@@ -76,6 +92,9 @@ class TabloAlıcı {
         if (sütun.Tür == OdbcSütunTürü::Para && kesir.find_last_not_of('0') != std::string_view::npos &&
             kesir.find_last_not_of('0') >= PARA_BASAMAĞI)
             m_csv.Hata(u"%1: \"%2\" dörtten çok ondalık basamak taşıyor"_s.arg(sütun.Ad, Utf8Metni(alan)));
+        if (m_anaTablo && sütun.Tür == OdbcSütunTürü::Ondalık &&
+            std::abs(EnYakınDouble(*sayı).value_or(HUGE_VAL)) > EN_BÜYÜK_YÜZDE)
+            m_csv.Hata(u"%1: \"%2\" bir yüzde için çok büyük"_s.arg(sütun.Ad, Utf8Metni(alan)));
     }
 
     QString Tarih(const OdbcSütunu& sütun, const std::string& alan) const {
@@ -88,6 +107,7 @@ class TabloAlıcı {
 
     VeriYazıcısı& m_yazıcı;
     QString m_tablo;
+    bool m_anaTablo;
     CsvDosyası m_csv;
     std::vector<std::string> m_alanlar;
     QList<OdbcSütunu> m_sütunlar;  // in the file's order

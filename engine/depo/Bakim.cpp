@@ -108,14 +108,15 @@ void VeriDosyasıOluştur(const std::string& yol, std::string_view parola) {
     geçici.Yerleştir(Dosya::Yerleştirme::Yeni);
 }
 
-void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hedefYolu, std::string_view parola) {
+void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hedefYolu, std::string_view parola,
+                         const std::string& dur) {
     if (ErişimDosyası(kaynak) && !Dosya::AynıDosya(kaynak, hedefYolu)) {
         const std::string hedef = GerçekYol(hedefYolu);
         const AraKlasör ara(hedef);
-        ErişimdenAl(GerçekYol(kaynak), ara.Dosya(), ara.Liste());
+        ErişimdenAl(GerçekYol(kaynak), ara.Dosya(), ara.Liste(), dur);
         const std::string liste = ListeyiKoy(ara.Liste(), hedef);
         try {
-            return VeriDosyasıSıkıştır(ara.Dosya(), hedef, parola);
+            return VeriDosyasıSıkıştır(ara.Dosya(), hedef, parola, dur);
         } catch (...) {
             if (!liste.empty()) Dosya::Sil(liste);
             throw;
@@ -123,6 +124,7 @@ void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hede
     }
     const AçıkDosya dosya = VeriDosyasıAç(kaynak, parola);
     sqlite3* vt = dosya.Vt.get();
+    DurdurulurYap(vt, dur);
     BütünlüğüDenetle(vt);
     if (Dosya::AynıDosya(kaynak, hedefYolu)) return YerindeSıkıştır(vt);
     const std::string hedef = GerçekYol(hedefYolu);

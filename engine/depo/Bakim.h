@@ -27,8 +27,11 @@ void VeriDosyasıOluştur(const std::string& yol, std::string_view parola);
 // Where both lead to one file, it is compacted in place, in one transaction: other clients stay connected, mode and
 // owner stay, and a crash leaves the old content or the new.
 //
+// The work ends when the file `dur` appears; "": it cannot be ended.
+//
 // A source of Access is left as it is where the target is another file; what could not be stored as it stands is then
 // listed beside the target.
-void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hedef, std::string_view parola);
+void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hedef, std::string_view parola,
+                         const std::string& dur = {});
 
 }  // namespace Motor

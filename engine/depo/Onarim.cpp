@@ -52,8 +52,9 @@ class Onarım {
         for (const ŞemaÖğesi& öğe : m_şema->Öğeler())
             if (!öğe.Dizin() && öğe.Ad != DosyaŞeması::GizliTablo) TabloyuAktar(öğe);
         if (!m_sağlam && m_rapor.empty())
-            m_rapor = "Dosya bütünlük denetiminden geçmedi; bozukluğun hangi tabloda olduğu bulunamadı, alınanların "
-                      "eksiksiz olduğu doğrulanamıyor\n";
+            m_rapor =
+                "Dosya bütünlük denetiminden geçmedi; bozukluğun hangi tabloda olduğu bulunamadı, alınanların "
+                "eksiksiz olduğu doğrulanamıyor\n";
         DizinleriKur();
         SqliteYürüt(m_hedef.get(), "COMMIT");
         if (m_kurtarılan == 0 && !m_rapor.empty())
@@ -119,10 +120,11 @@ class Onarım {
         KayıpAdları adlar(m_dosya->Vt.get(), m_hedef.get(), *tablo, m_şema->Öğeler());
         for (const SatırAralığı& aralık : kayıplar) KaybıYaz(öğe.Ad, aralık, kurtarma.Sınır(), adlar.Al(aralık));
         if (adlar.Sayı() > 0)
-            m_rapor += öğe.Ad + ": dizinlerin bildiği " + std::to_string(adlar.Sayı()) + " satır okunamadı\n" +
-                       adlar.Hepsi();
+            m_rapor +=
+                öğe.Ad + ": dizinlerin bildiği " + std::to_string(adlar.Sayı()) + " satır okunamadı\n" + adlar.Hepsi();
         if (kuşkulu)
-            m_rapor += öğe.Ad + ": bütünlük denetiminden geçmedi; alınanların eksiksiz ve doğru olduğu doğrulanamıyor\n";
+            m_rapor +=
+                öğe.Ad + ": bütünlük denetiminden geçmedi; alınanların eksiksiz ve doğru olduğu doğrulanamıyor\n";
     }
 
     void KaybıYaz(const std::string& tablo, SatırAralığı aralık, std::int64_t sınır, const std::string& adlar) {

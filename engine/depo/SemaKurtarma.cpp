@@ -76,7 +76,8 @@ OkunanŞema ŞemayıOku(sqlite3* vt) {
         if (!kimlik.Adım() || kimlik.TamSayı(0) != DosyaKimliği) SqliteHatasıFırlat(SQLITE_NOTADB);
         SqliteDeyimi sürüm(vt.get(), "PRAGMA user_version");
         if (!sürüm.Adım() || sürüm.TamSayı(0) != DosyaSürümü)
-            throw Hata(Durum::Bağlanamadı, "Veri dosyasını programın başka bir sürümü yazmış; bu sürüm onu okuyamıyor.");
+            throw Hata(Durum::Bağlanamadı,
+                       "Veri dosyasını programın başka bir sürümü yazmış; bu sürüm onu okuyamıyor.");
         okunan = ŞemayıOku(vt.get());
     }
     m_değişti = m_eksikOlabilir = !okunan.Tam;
@@ -138,8 +139,8 @@ void ŞemaKurtarma::EksikleriBul() {
     std::vector<const ŞemaÖğesi*> aranan;
     std::vector<TabloTanımı> tanımlar;
     for (const ŞemaÖğesi& bilinen : m_bilinenler) {
-        std::optional<TabloTanımı> tanım = bilinen.Dizin() || Var(bilinen.Ad) ? std::nullopt
-                                                                            : SaklananTabloyuOku(bilinen.Sql);
+        std::optional<TabloTanımı> tanım =
+            bilinen.Dizin() || Var(bilinen.Ad) ? std::nullopt : SaklananTabloyuOku(bilinen.Sql);
         if (!tanım) continue;
         aranan.push_back(&bilinen);
         tanımlar.push_back(std::move(*tanım));

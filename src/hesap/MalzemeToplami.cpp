@@ -29,8 +29,7 @@ std::optional<double> MiktarSayısı(std::string_view miktar) {
             kesir = 0;
             continue;
         }
-        if (harf < '0' || harf > '9' || ++rakam > sınır)
-            return MiktarSayısı(QStringView(Utf8Metni(miktar)));
+        if (harf < '0' || harf > '9' || ++rakam > sınır) return MiktarSayısı(QStringView(Utf8Metni(miktar)));
         sayı = sayı * 10 + (harf - '0');
         if (kesir >= 0) ++kesir;
     }

@@ -58,8 +58,7 @@ class MalzemeKullanımı::Okuyucu {
     std::uint32_t MalzemeyiBul(std::string_view ad) {
         const auto yeni = static_cast<std::uint32_t>(m_kullanım.m_malzemeler.size());
         const std::uint32_t yer = m_adlar.BulYaDaEkle(ad, yeni);
-        if (yer == yeni)
-            m_kullanım.m_malzemeler.push_back({Utf8Metni(ad), false});
+        if (yer == yeni) m_kullanım.m_malzemeler.push_back({Utf8Metni(ad), false});
         return yer;
     }
 

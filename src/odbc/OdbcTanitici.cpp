@@ -36,8 +36,7 @@ QList<OdbcHatası> HataKayıtlarınıAl(void* bağlantı, void* deyim) {
         if (!SQL_SUCCEEDED(sonuç)) return hatalar;
         const auto boy = static_cast<std::size_t>(qBound(0, int{uzunluk}, static_cast<int>(ileti.size()) - 1));
         const std::string_view metin = YarımKarakteriAt({reinterpret_cast<const char*>(ileti.data()), boy});
-        hatalar.append({QString::fromLatin1(reinterpret_cast<const char*>(durum.data())), yerelHata,
-                        Utf8Metni(metin)});
+        hatalar.append({QString::fromLatin1(reinterpret_cast<const char*>(durum.data())), yerelHata, Utf8Metni(metin)});
     }
 }
 

@@ -7,8 +7,8 @@
 // line, and what cannot be seen in them must not tell two names apart.
 QString TekSatır(const QString& metin);
 
-// The text without marks that cannot be seen (byte order, direction, zero width), as copied text brings them along. What
-// holds the parts of a sign together (U+200C, U+200D) stays.
+// The text without marks that cannot be seen (byte order, direction, zero width), as copied text brings them along.
+// What holds the parts of a sign together (U+200C, U+200D) stays.
 QString GörünmezleriAt(QString metin);
 
 // Stored text, byte for byte: a U+FEFF at its start is a character of the text and stays one.
