@@ -41,6 +41,8 @@ class Onarım {
         KopyayıAç(kaynak);
         for (sqlite3* vt : {m_dosya->Vt.get(), m_hedef.get()}) DurdurulurYap(vt, istek.Dur);
         BellekVer(m_dosya->Vt.get());
+        // Locked once: each of the many looks into what cannot be read would take and give back the lock.
+        SqliteYürüt(m_dosya->Vt.get(), "BEGIN; SELECT 1 FROM sqlite_schema");
     }
 
     void Yürüt() {
