@@ -89,5 +89,5 @@ const Komut ErişimdenAlKomutu = {
     u"DOSYA.access olarak saklanır; olduğu gibi alınamayan değerler DOSYA.access.txt içinde\n"
     u"listelenir.\n"
     u"--hedef ile DOSYA olduğu gibi kalır, çevrilen veriler YENI adıyla yazılır.\n\n"
-    u"Çıkış kodu: 0 alındı, 1 alınamadı (dosya değişmedi), 2 yanlış kullanım",
+    u"Çıkış kodu: 0 alındı, 1 alınamadı ya da yarıda kesildi (dosya değişmedi), 2 yanlış kullanım",
     Al};

@@ -164,7 +164,8 @@ int İçeriAktar(const QStringList& sözler) {
 const Komut İçeriAktarKomutu{
     u"iceri-aktar", u"KLASOR DOSYA", u"disari-aktar ile yazılan tablolardan yeni bir veri dosyası oluşturur",
     u"Sütunlar, ilk satırdaki adlarıyla bulunur; sıraları önemli değildir. Bilinmeyen bir dosya ya da sütun, eksik\n"
-    u"bir tablo ve saklanamayan bir değer, dosya ve satır numarasıyla bildirilir; o zaman hiçbir şey oluşturulmaz.\n"
+    u"bir tablo ve programın saklamadığı bir değer (254 karakterden uzun bir ad, 10^15'ten büyük bir yüzde gibi),\n"
+    u"dosya ve satır numarasıyla bildirilir; o zaman hiçbir şey oluşturulmaz.\n"
     u"Var olan bir dosyanın üzerine yazılmaz.\n\n"
     u"Çıkış kodu: 0 başarılı, 1 okunamadı ya da oluşturulamadı (geride bir şey kalmaz), 2 yanlış kullanım",
     İçeriAktar};

@@ -156,16 +156,21 @@ bool SayfaTarama::Uyuyor(const std::string& yaprak, const TabloTanımı& tablo) 
     return true;
 }
 
-std::vector<std::int64_t> SayfaTarama::KökleriBul(const std::vector<TabloTanımı>& tablolar,
-                                                  const std::vector<std::int64_t>& dolu) {
-    std::vector<bool> çocuk(m_sayı + 1);
+std::vector<std::uint32_t> SayfaTarama::Ağaçlar(const std::vector<std::int64_t>& dolu) {
+    std::vector<bool> altta(m_sayı + 1);
     std::vector<std::uint32_t> ağaçlar;
     for (std::uint32_t no = 2; no <= m_sayı; ++no) {
         const std::string sayfa = Oku(no);
-        for (const std::uint32_t alt : Çocuklar(sayfa)) çocuk[alt] = true;
+        for (const std::uint32_t çocuk : Çocuklar(sayfa)) altta[çocuk] = true;
         const bool ağaç = sayfa[0] == TabloDüğümü || sayfa[0] == TabloYaprağı;
         if (ağaç && std::find(dolu.begin(), dolu.end(), no) == dolu.end()) ağaçlar.push_back(no);
     }
+    std::erase_if(ağaçlar, [&altta](std::uint32_t no) { return altta[no]; });
+    return ağaçlar;
+}
+
+std::vector<std::int64_t> SayfaTarama::KökleriBul(const std::vector<TabloTanımı>& tablolar,
+                                                  const std::vector<std::int64_t>& dolu) {
     // The more a tree holds, the sooner it is a table's and no piece that is left of one.
     struct Aday {
         std::int64_t Kök;
@@ -173,8 +178,8 @@ std::vector<std::int64_t> SayfaTarama::KökleriBul(const std::vector<TabloTanım
         std::vector<std::size_t> Uyanlar;
     };
     std::vector<Aday> adaylar;
-    for (const std::uint32_t no : ağaçlar) {
-        const std::string yaprak = çocuk[no] ? std::string() : İlkYaprak(no);
+    for (const std::uint32_t no : Ağaçlar(dolu)) {
+        const std::string yaprak = İlkYaprak(no);
         if (yaprak.empty()) continue;
         Aday aday{no, AltSayfalar(no), {}};
         for (std::size_t i = 0; i < tablolar.size(); ++i)

@@ -28,6 +28,8 @@ class SayfaTarama {
   private:
     std::string Oku(std::uint32_t sayfa);
     std::vector<std::uint32_t> Çocuklar(const std::string& sayfa) const;
+    // Pages of tables that are in no other's list.
+    std::vector<std::uint32_t> Ağaçlar(const std::vector<std::int64_t>& dolu);
     std::string İlkYaprak(std::uint32_t kök);
     std::size_t AltSayfalar(std::uint32_t kök);
     bool Uyuyor(const std::string& yaprak, const TabloTanımı& tablo) const;
