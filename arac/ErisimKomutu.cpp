@@ -8,6 +8,7 @@
 
 #include "Aktarim.h"
 #include "OdbcSurucu.h"
+#include "Uc.h"
 #include "VeriDosyasi.h"
 
 using namespace Qt::StringLiterals;
@@ -72,7 +73,7 @@ int Al(const QStringList& sözler) {
         SürücüKlasörünüAyarla(QCoreApplication::applicationDirPath());
         const Erişim::AktarımSonucu sonuç = Erişim::ErişimDosyasınıAl(seçenekler.İstek);
         if (uçbirim) Yaz(stderr, {});
-        if (!bildir) Yaz(stdout, sonuç.Özet);
+        if (!bildir) YapılanıBildir(sonuç.Özet);
         if (!sonuç.Not.isEmpty()) bildir ? Bildir(QLatin1String("not"), sonuç.Not) : Yaz(stderr, sonuç.Not);
         if (bildir) Yaz(stdout, u"tamam"_s);
     } catch (const VeriHatası& hata) {
@@ -91,5 +92,5 @@ const Komut ErişimdenAlKomutu = {
     u"DOSYA.access olarak saklanır; olduğu gibi alınamayan değerler DOSYA.access.txt içinde\n"
     u"listelenir.\n"
     u"--hedef ile DOSYA olduğu gibi kalır, çevrilen veriler YENI adıyla yazılır.\n\n"
-    u"Çıkış kodu: 0 alındı, 1 alınamadı (dosya değişmedi), 2 yanlış kullanım",
+    u"Çıkış kodu: 0 alındı, 1 alınamadı ya da yarıda kesildi (dosya değişmedi), 2 yanlış kullanım",
     Al};

@@ -4,7 +4,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <atomic>
+#include <cerrno>
 #include <csignal>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "GeciciDosya.h"
 #include "OdbcHareketi.h"
@@ -16,6 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 volatile std::sig_atomic_t yarıdaKesildi = 0;
+std::atomic<const char*> durmaDosyası = nullptr;
 
 QString Neden(const QList<OdbcHatası>& hatalar) {
     return OdbcİletileriniAl(hatalar).value(0);
@@ -74,6 +80,22 @@ QList<OdbcSütunu> VeriYazıcısı::Sütunlar(const QString& tablo) {
 
 void YarıdaKes() noexcept {
     yarıdaKesildi = 1;
+    const char* yol = durmaDosyası;
+    if (!yol) return;
+    const int hata = errno;
+    if (const int dosya = open(yol, O_CREAT | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR); dosya >= 0) close(dosya);
+    errno = hata;
+}
+
+DurmaDosyası::DurmaDosyası(const QString& yol) : m_yol(QFile::encodeName(yol)) {
+    durmaDosyası = m_yol.constData();
+    if (!yarıdaKesildi) return;
+    durmaDosyası = nullptr;
+    YarıdaKesildiMi();
+}
+
+DurmaDosyası::~DurmaDosyası() {
+    durmaDosyası = nullptr;
 }
 
 void YarıdaKesildiMi() {
@@ -97,10 +119,16 @@ void VeriDosyasıYap(const QString& hedef, const QStringList& tablolar,
     }
     const QString geçici = klasör.filePath(u"Yeni.vtb"_s);
     VeriDosyasınıDoldur(geçici, tablolar, doldur);
+    VeriDosyasınıYerleştir(geçici, yol);
+}
+
+void VeriDosyasınıYerleştir(const QString& geçici, const QString& hedef) {
     YarıdaKesildiMi();
-    const Dosya::Sonuç taşıma = Dosya::Taşı(QFile::encodeName(geçici).toStdString(),
-                                            QFile::encodeName(yol).toStdString(), Dosya::Yerleştirme::Yeni);
+    const std::string yol = QFile::encodeName(hedef).toStdString();
+    if (Dosya::GünlükVar(yol))
+        throw VeriHatası(u"%1 adında eski bir günlük var; onu kaldırın ya da dosyaya başka bir ad verin."_s.arg(hedef));
+    const Dosya::Sonuç taşıma = Dosya::Taşı(QFile::encodeName(geçici).toStdString(), yol, Dosya::Yerleştirme::Yeni);
     if (!taşıma.Yapıldı())
         throw VeriHatası(
-            u"%1 adı verilemedi (sistem hatası %2); klasörü ve diski denetleyin."_s.arg(yol).arg(taşıma.Neden));
+            u"%1 adı verilemedi (sistem hatası %2); klasörü ve diski denetleyin."_s.arg(hedef).arg(taşıma.Neden));
 }

@@ -29,6 +29,11 @@ class VeriYazıcısı {
     OdbcDeyimi m_deyim;
 };
 
+// What the program can go on with: the characters that it reads of a name, and a percentage that it still computes
+// with.
+inline constexpr std::size_t EN_UZUN_METİN = 254;
+inline constexpr double EN_BÜYÜK_YÜZDE = 1e15;
+
 // Makes a data file in one piece: it is built in a folder of its own beside the target, and gets its name only when
 // all is written and on disk. An existing file is never overwritten; a failure, an interrupt or a killed process
 // leaves nothing under the target's name. Throws VeriHatası.
@@ -46,6 +51,23 @@ void VeriDosyasınıDoldur(const QString& dosya, const QStringList& tablolar,
 
 // Ends the work at the next statement, as a failure. May be called from a signal handler.
 void YarıdaKes() noexcept;
+
+// While it lives, YarıdaKes also makes this file, which is not there yet: work of the driver's that looks for it ends.
+// One at a time.
+class DurmaDosyası {
+  public:
+    // Throws VeriHatası after YarıdaKes.
+    explicit DurmaDosyası(const QString& yol);
+    ~DurmaDosyası();
+    DurmaDosyası(const DurmaDosyası&) = delete;
+    DurmaDosyası& operator=(const DurmaDosyası&) = delete;
+
+  private:
+    QByteArray m_yol;
+};
+
+// Gives the finished file its name, `hedef`, which nothing may bear yet. Throws VeriHatası.
+void VeriDosyasınıYerleştir(const QString& geçici, const QString& hedef);
 
 // To be called by a long `doldur` now and then: throws VeriHatası after YarıdaKes.
 void YarıdaKesildiMi();

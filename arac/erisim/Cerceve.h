@@ -19,7 +19,7 @@ inline constexpr std::uint16_t BOŞ_HÜCRE = 0xFFFF;
 // Bytes of a text that are sent: no whole text that is longer can be stored.
 inline constexpr std::uint16_t EN_UZUN_HÜCRE = 8192;
 
-enum class OkumaHatası : std::uint8_t { Açılamadı, TabloYok, SütunYok, SütunTürü, Bozuk, SatırEksik };
+enum class OkumaHatası : std::uint8_t { Açılamadı, TabloYok, SütunYok, SütunTürü, Bozuk, SatırEksik, ListeEksik };
 
 // The kinds of columns, as the file names them.
 enum class HücreTürü : std::uint8_t {

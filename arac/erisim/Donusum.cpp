@@ -14,8 +14,6 @@ namespace Erişim {
 
 namespace {
 
-constexpr std::size_t EN_UZUN_METİN = 254;  // characters that the program reads of a text
-constexpr double EN_BÜYÜK_YÜZDE = 1e15;
 constexpr std::int64_t YOK_TARİH = 19000101;
 
 std::string_view Kısalt(std::string_view metin) {

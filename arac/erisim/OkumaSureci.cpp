@@ -171,6 +171,9 @@ void OkumaSüreci::HatayıBildir(std::string_view içerik) {
         case OkumaHatası::SatırEksik:
             throw VeriHatası(
                 u"Access dosyası bozuk: %1 tablosunda olması gerekenden az satır bulundu. Dosya değişmedi."_s.arg(ne));
+        case OkumaHatası::ListeEksik:
+            throw VeriHatası(
+                u"Access dosyası kesilmiş ya da bozuk: tablolarının listesinden bir bölüm okunamıyor. Dosya değişmedi."_s);
         case OkumaHatası::Açılamadı:
             break;
     }

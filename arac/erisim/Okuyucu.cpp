@@ -154,9 +154,32 @@ class Okuyucu {
             açık.Tablo = mdb_read_table(öğe);
             if (!açık.Tablo || !mdb_read_columns(açık.Tablo) || m_uyarılar.Var()) Bozuk(kaynak);
         }
-        if (!açık.Tablo) m_gönderici.Hata(OkumaHatası::TabloYok, kaynak.Ad);
+        if (!açık.Tablo) m_gönderici.Hata(ListeTam() ? OkumaHatası::TabloYok : OkumaHatası::ListeEksik, kaynak.Ad);
         for (const KaynakSütunu& sütun : kaynak.Sütunlar) SütunBul(kaynak, sütun, açık);
         return açık;
+    }
+
+    // Whether the list of the file's tables has as many rows as it should: of a file that was cut the rest may be gone.
+    bool ListeTam() {
+        constexpr unsigned long listeSayfası = 2;
+        MdbCatalogEntry öğe{};
+        öğe.mdb = m_mdb;
+        öğe.object_type = MDB_TABLE;
+        öğe.table_pg = listeSayfası;
+        MdbTableDef* liste = mdb_read_table(&öğe);
+        if (!liste || !mdb_read_columns(liste)) return false;
+        std::uint64_t satır = 0;
+        mdb_rewind_table(liste);
+        while (mdb_read_next_dpg(liste)) {
+            const int sayfadaki = mdb_get_int16(m_mdb->pg_buf, m_mdb->fmt->row_count_offset);
+            for (int i = 0; i < sayfadaki; ++i) {
+                int yer = 0;
+                std::size_t boy = 0;
+                const bool bulundu = mdb_find_row(m_mdb, i, &yer, &boy) == 0;
+                if (bulundu && !(yer & GEÇİLEN_SATIR)) ++satır;
+            }
+        }
+        return satır >= liste->num_rows;
     }
 
     void SütunBul(const KaynakTablosu& kaynak, const KaynakSütunu& aranan, AçıkTablo& açık) {

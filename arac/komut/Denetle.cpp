@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString Yazı(std::string_view baytlar) {
-    return TekSatır(QString::fromUtf8(baytlar.data(), static_cast<qsizetype>(baytlar.size())));
+    return TekSatır(Utf8Metni(baytlar));
 }
 
 class Denetçi {

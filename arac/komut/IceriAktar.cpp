@@ -2,14 +2,17 @@
 #include <QDate>
 #include <QDir>
 #include <QFileInfo>
-#include <optional>
+#include <algorithm>
+#include <cmath>
 
 #include "Csv.h"
 #include "Deyimler.h"
 #include "Komut.h"
 #include "SayiCozumu.h"
 #include "Tablolar.h"
+#include "TurkceMetin.h"
 #include "Uc.h"
+#include "Utf8.h"
 #include "VeriDosyasi.h"
 
 using namespace Qt::StringLiterals;
@@ -18,15 +21,18 @@ namespace {
 
 constexpr std::size_t PARA_BASAMAĞI = 4;
 
-QString Metin(const std::string& baytlar) {
-    return QString::fromUtf8(baytlar.data(), static_cast<qsizetype>(baytlar.size()));
+// One of those that the forms write, and not only the program's records.
+bool AnaTablo(const QString& tablo) {
+    const QStringList bildirimler = Deyimler::TabloTakımları().constFirst();
+    return std::any_of(bildirimler.begin(), bildirimler.end(),
+                       [&tablo](const QString& bildirim) { return Deyimler::BildirilenTablo(bildirim) == tablo; });
 }
 
 // One table's file: its columns are found by their names in the first row.
 class TabloAlıcı {
   public:
     TabloAlıcı(VeriYazıcısı& yazıcı, const QString& tablo, const QString& yol)
-        : m_yazıcı(yazıcı), m_tablo(tablo), m_csv(yol) {}
+        : m_yazıcı(yazıcı), m_tablo(tablo), m_anaTablo(AnaTablo(tablo)), m_csv(yol) {}
 
     std::int64_t Al() {
         BaşlığıOku();
@@ -51,7 +57,7 @@ class TabloAlıcı {
         if (!m_csv.Sıradaki(m_alanlar)) m_csv.Hata(u"dosya boş; ilk satırında sütun adları olmalı"_s);
         QStringList adlar;
         for (const std::string& alan : m_alanlar) {
-            const QString ad = Metin(alan);
+            const QString ad = Utf8Metni(alan);
             const auto tanım = std::find_if(tanımlar.begin(), tanımlar.end(),
                                             [&ad](const OdbcSütunu& sütun) { return sütun.Ad == ad; });
             if (tanım == tanımlar.end())
@@ -67,30 +73,41 @@ class TabloAlıcı {
 
     QString Yazım(const OdbcSütunu& sütun, const std::string& alan) const {
         if (sütun.Tür == OdbcSütunTürü::Tarih) return Tarih(sütun, alan);
-        if (sütun.Tür != OdbcSütunTürü::Metin) SayıyıDenetle(sütun, alan);
+        sütun.Tür == OdbcSütunTürü::Metin ? AdıDenetle(sütun, alan) : SayıyıDenetle(sütun, alan);
         if (alan.find('\'') != std::string::npos) m_csv.Hata(u"%1: kesme işareti (') kullanılamaz"_s.arg(sütun.Ad));
-        return u'\'' + Metin(alan) + u'\'';
+        return u'\'' + Utf8Metni(alan) + u'\'';
+    }
+
+    // Names are shorter than their columns: of the last character the program would not know.
+    void AdıDenetle(const OdbcSütunu& sütun, const std::string& alan) const {
+        if (m_anaTablo && sütun.Ad != u"KullanilanMalzemeMiktari" && alan.size() > EN_UZUN_METİN &&
+            Utf16Uzunluğu(alan) > EN_UZUN_METİN)
+            m_csv.Hata(u"%1: ad %2 karakterden uzun"_s.arg(sütun.Ad).arg(EN_UZUN_METİN));
     }
 
     void SayıyıDenetle(const OdbcSütunu& sütun, const std::string& alan) const {
         const auto sayı = SayıÇöz(std::string_view(alan), NoktaKuralı::Yerinde, [](char) { return false; });
-        if (!sayı) m_csv.Hata(u"%1: \"%2\" bir sayı değil"_s.arg(sütun.Ad, Metin(alan)));
+        if (!sayı) m_csv.Hata(u"%1: \"%2\" bir sayı değil"_s.arg(sütun.Ad, Utf8Metni(alan)));
         const std::string_view kesir = sayı->Kesir();
         if (sütun.Tür == OdbcSütunTürü::Para && kesir.find_last_not_of('0') != std::string_view::npos &&
             kesir.find_last_not_of('0') >= PARA_BASAMAĞI)
-            m_csv.Hata(u"%1: \"%2\" dörtten çok ondalık basamak taşıyor"_s.arg(sütun.Ad, Metin(alan)));
+            m_csv.Hata(u"%1: \"%2\" dörtten çok ondalık basamak taşıyor"_s.arg(sütun.Ad, Utf8Metni(alan)));
+        if (m_anaTablo && sütun.Tür == OdbcSütunTürü::Ondalık &&
+            std::abs(EnYakınDouble(*sayı).value_or(HUGE_VAL)) > EN_BÜYÜK_YÜZDE)
+            m_csv.Hata(u"%1: \"%2\" bir yüzde için çok büyük"_s.arg(sütun.Ad, Utf8Metni(alan)));
     }
 
     QString Tarih(const OdbcSütunu& sütun, const std::string& alan) const {
-        const QDate tarih = QDate::fromString(Metin(alan), u"dd.MM.yyyy"_s);
+        const QDate tarih = QDate::fromString(Utf8Metni(alan), u"dd.MM.yyyy"_s);
         if (alan.size() != 10 || !tarih.isValid())
-            m_csv.Hata(u"%1: \"%2\" gg.aa.yyyy biçiminde bir tarih değil"_s.arg(sütun.Ad, Metin(alan)));
+            m_csv.Hata(u"%1: \"%2\" gg.aa.yyyy biçiminde bir tarih değil"_s.arg(sütun.Ad, Utf8Metni(alan)));
         // Taken from the digits: a year below 1000 keeps its zeros.
-        return u"#%1/%2/%3#"_s.arg(tarih.month()).arg(tarih.day()).arg(Metin(alan.substr(6)));
+        return u"#%1/%2/%3#"_s.arg(tarih.month()).arg(tarih.day()).arg(Utf8Metni(alan.substr(6)));
     }
 
     VeriYazıcısı& m_yazıcı;
     QString m_tablo;
+    bool m_anaTablo;
     CsvDosyası m_csv;
     std::vector<std::string> m_alanlar;
     QList<OdbcSütunu> m_sütunlar;  // in the file's order
@@ -147,7 +164,8 @@ int İçeriAktar(const QStringList& sözler) {
 const Komut İçeriAktarKomutu{
     u"iceri-aktar", u"KLASOR DOSYA", u"disari-aktar ile yazılan tablolardan yeni bir veri dosyası oluşturur",
     u"Sütunlar, ilk satırdaki adlarıyla bulunur; sıraları önemli değildir. Bilinmeyen bir dosya ya da sütun, eksik\n"
-    u"bir tablo ve saklanamayan bir değer, dosya ve satır numarasıyla bildirilir; o zaman hiçbir şey oluşturulmaz.\n"
+    u"bir tablo ve programın saklamadığı bir değer (254 karakterden uzun bir ad, 10^15'ten büyük bir yüzde gibi),\n"
+    u"dosya ve satır numarasıyla bildirilir; o zaman hiçbir şey oluşturulmaz.\n"
     u"Var olan bir dosyanın üzerine yazılmaz.\n\n"
     u"Çıkış kodu: 0 başarılı, 1 okunamadı ya da oluşturulamadı (geride bir şey kalmaz), 2 yanlış kullanım",
     İçeriAktar};

@@ -16,8 +16,12 @@ OkunanDosya::OkunanDosya(const QString& dosya) : m_klasör(QDir::tempPath() + u"
     const QString kopya = m_klasör.filePath(u"Okunan.vtb"_s);
     {
         const İlerlemeSatırı ilerleme(u"Veri dosyası denetlenip kopyalanıyor"_s);
-        if (!VeritabanınıSıkıştır(SürücüYolu(QFileInfo(dosya).absoluteFilePath()), SürücüYolu(kopya)))
+        const QString durYolu = m_klasör.filePath(u"dur"_s);
+        const DurmaDosyası dur(durYolu);
+        if (!VeritabanınıSıkıştır(SürücüYolu(QFileInfo(dosya).absoluteFilePath()), SürücüYolu(kopya), durYolu)) {
+            YarıdaKesildiMi();
             throw VeriHatası(u"%1 okunamadı: %2"_s.arg(dosya, SürücüKurulumHataları().value(0)));
+        }
     }
     YarıdaKesildiMi();
     const std::string değişenler =

@@ -14,11 +14,11 @@ namespace {
 constexpr int EN_ÇOK_SATIR = 100'000'000;
 constexpr char16_t YARDIM[] =
     u"Var olan bir dosyanın üzerine yazılmaz.\n\n"
-    u"Çıkış kodu: 0 başarılı, 1 dosya oluşturulamadı, 2 yanlış kullanım";
+    u"Çıkış kodu: 0 başarılı, 1 dosya oluşturulamadı (geride bir şey kalmaz), 2 yanlış kullanım";
 
 int Oluştur(const QString& dosya, const std::function<void(VeriYazıcısı&)>& doldur) {
     VeriDosyasıYap(dosya, doldur);
-    ÇıktıSatırı(u"%1 oluşturuldu."_s.arg(dosya));
+    YapılanıBildir(u"%1 oluşturuldu."_s.arg(dosya));
     return Tamam;
 }
 

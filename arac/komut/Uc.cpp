@@ -33,6 +33,16 @@ void ÇıktıyıBitir() {
     if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) throw VeriHatası(u"Çıktı yazılamadı."_s);
 }
 
+void YapılanıBildir(const QString& satır) {
+    try {
+        ÇıktıSatırı(satır);
+        ÇıktıyıBitir();
+    } catch (const VeriHatası& hata) {
+        std::clearerr(stdout);
+        Bildir(satır + u" ("_s + hata.Metin() + u')');
+    }
+}
+
 void Bildir(const QString& satır) {
     HataYaz(satır + u'\n');
 }

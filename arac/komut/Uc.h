@@ -12,6 +12,9 @@ void ÇıktıYaz(std::string_view baytlar);
 void ÇıktıSatırı(const QString& satır);
 void ÇıktıyıBitir();
 
+// What was made, on stdout. It is made, so that a failure to say so is none of the work: then it goes to stderr.
+void YapılanıBildir(const QString& satır);
+
 // A message, to stderr.
 void Bildir(const QString& satır);
 

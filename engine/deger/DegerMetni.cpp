@@ -57,4 +57,10 @@ std::int64_t TarihOluştur(int yıl, int ay, int gün) noexcept {
     return std::int64_t{yıl} * 10000 + ay * 100 + gün;
 }
 
+bool TarihGeçerli(std::int64_t tarih) noexcept {
+    return tarih > 0 && tarih <= 99991231 &&
+           TarihOluştur(static_cast<int>(tarih / 10000), static_cast<int>(tarih / 100 % 100),
+                        static_cast<int>(tarih % 100)) == tarih;
+}
+
 }  // namespace Motor

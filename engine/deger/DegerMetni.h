@@ -21,4 +21,7 @@ std::string_view TarihYaz(std::int64_t tarih, DeğerTamponu tampon) noexcept;
 // yyyymmdd of a day that the calendar has (years 100 to 9999), otherwise 0.
 std::int64_t TarihOluştur(int yıl, int ay, int gün) noexcept;
 
+// Whether it is such a number.
+bool TarihGeçerli(std::int64_t tarih) noexcept;
+
 }  // namespace Motor

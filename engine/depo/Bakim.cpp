@@ -6,6 +6,8 @@
 #include "Parola.h"
 #include "Veritabani.h"
 
+#include <unistd.h>
+
 #include <cstdlib>
 #include <filesystem>
 
@@ -78,6 +80,18 @@ void BütünlüğüDenetle(sqlite3* vt) {
     if (!sağlam) SqliteHatasıFırlat(SQLITE_CORRUPT);
 }
 
+void DurdurulurYap(sqlite3* vt, const std::string& dur) {
+    constexpr int adım = 100000;  // instructions of SQLite between two looks
+    if (dur.empty()) return;
+    const auto durdu = [](void* yol) -> int { return access(static_cast<const char*>(yol), F_OK) == 0 ? 1 : 0; };
+    sqlite3_progress_handler(vt, adım, durdu, const_cast<char*>(dur.c_str()));
+}
+
+// A check looks each row up in each index. Without memory for them the pages would be read again and again.
+void BellekVer(sqlite3* vt) {
+    SqliteYürüt(vt, "PRAGMA cache_size=-131072");  // at most so many KiB
+}
+
 void VeriDosyasıOluştur(const std::string& yol, std::string_view parola) {
     if (Dosya::YolVar(yol)) throw Hata(Durum::Genel, "Bu adda bir dosya zaten var; üzerine yazılmadı: " + yol);
     const std::string hedef = GerçekYol(yol);
@@ -94,14 +108,15 @@ void VeriDosyasıOluştur(const std::string& yol, std::string_view parola) {
     geçici.Yerleştir(Dosya::Yerleştirme::Yeni);
 }
 
-void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hedefYolu, std::string_view parola) {
+void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hedefYolu, std::string_view parola,
+                         const std::string& dur) {
     if (ErişimDosyası(kaynak) && !Dosya::AynıDosya(kaynak, hedefYolu)) {
         const std::string hedef = GerçekYol(hedefYolu);
         const AraKlasör ara(hedef);
-        ErişimdenAl(GerçekYol(kaynak), ara.Dosya(), ara.Liste());
+        ErişimdenAl(GerçekYol(kaynak), ara.Dosya(), ara.Liste(), dur);
         const std::string liste = ListeyiKoy(ara.Liste(), hedef);
         try {
-            return VeriDosyasıSıkıştır(ara.Dosya(), hedef, parola);
+            return VeriDosyasıSıkıştır(ara.Dosya(), hedef, parola, dur);
         } catch (...) {
             if (!liste.empty()) Dosya::Sil(liste);
             throw;
@@ -109,6 +124,7 @@ void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hede
     }
     const AçıkDosya dosya = VeriDosyasıAç(kaynak, parola);
     sqlite3* vt = dosya.Vt.get();
+    DurdurulurYap(vt, dur);
     BütünlüğüDenetle(vt);
     if (Dosya::AynıDosya(kaynak, hedefYolu)) return YerindeSıkıştır(vt);
     const std::string hedef = GerçekYol(hedefYolu);

@@ -10,6 +10,12 @@ namespace Motor {
 // Reads every page; throws Hata (native SQLITE_CORRUPT) when something does not agree.
 void BütünlüğüDenetle(sqlite3* vt);
 
+// Lets the connection's long work end (S1008) when the file appears; "": it cannot be ended. `dur` outlives the work.
+void DurdurulurYap(sqlite3* vt, const std::string& dur);
+
+// For work that reads the whole file more than once.
+void BellekVer(sqlite3* vt);
+
 // Creates an empty data file with this password. An existing file is never overwritten. Throws Hata; nothing is left
 // behind then.
 void VeriDosyasıOluştur(const std::string& yol, std::string_view parola);
@@ -21,8 +27,11 @@ void VeriDosyasıOluştur(const std::string& yol, std::string_view parola);
 // Where both lead to one file, it is compacted in place, in one transaction: other clients stay connected, mode and
 // owner stay, and a crash leaves the old content or the new.
 //
+// The work ends when the file `dur` appears; "": it cannot be ended.
+//
 // A source of Access is left as it is where the target is another file; what could not be stored as it stands is then
 // listed beside the target.
-void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hedef, std::string_view parola);
+void VeriDosyasıSıkıştır(const std::string& kaynak, const std::string& hedef, std::string_view parola,
+                         const std::string& dur = {});
 
 }  // namespace Motor

@@ -42,8 +42,9 @@ std::string AraçYolu() {
     return (kitaplık.parent_path() / "varnek-veri").string();
 }
 
-void Al(const Erişim::Almaİsteği& istek) {
-    const Erişim::AlmaSonucu sonuç = Erişim::ErişimdenAl(istek, [](int) { return true; });
+void Al(const Erişim::Almaİsteği& istek, const std::string& dur = {}) {
+    const Erişim::AlmaSonucu sonuç =
+        Erişim::ErişimdenAl(istek, [&dur](int) { return dur.empty() || !Dosya::YolVar(dur); });
     // Another client may have had the same file taken over just before.
     if (sonuç.Ne != Erişim::AlmaSonucu::Tür::Alındı && ErişimDosyası(istek.Kaynak))
         throw Hata(Durum::Bağlanamadı, sonuç.Metin);
@@ -55,8 +56,9 @@ void ErişimdenAl(const std::string& kaynak) {
     Al({AraçYolu(), kaynak, {}, {}});
 }
 
-void ErişimdenAl(const std::string& kaynak, const std::string& hedef, const std::string& liste) {
-    Al({AraçYolu(), kaynak, hedef, liste});
+void ErişimdenAl(const std::string& kaynak, const std::string& hedef, const std::string& liste,
+                 const std::string& dur) {
+    Al({AraçYolu(), kaynak, hedef, liste}, dur);
 }
 
 }  // namespace Motor

@@ -11,6 +11,6 @@ bool ErişimDosyası(const std::string& yol);
 // Has the data-file tool take it over, in its place or into a new file: the engine knows no tables. The tool is the one
 // beside the engine. Throws Hata (08001); the files are then as they were.
 void ErişimdenAl(const std::string& kaynak);
-void ErişimdenAl(const std::string& kaynak, const std::string& hedef, const std::string& liste);
+void ErişimdenAl(const std::string& kaynak, const std::string& hedef, const std::string& liste, const std::string& dur);
 
 }  // namespace Motor

@@ -77,7 +77,8 @@ void SqliteHatasıFırlat(int kod) {
 
 namespace {
 
-SqliteBağlantısı Aç(const std::string& yol, const std::string& ad, int biçim) {
+// As far as the file is not asked about yet.
+SqliteBağlantısı BaşlıksızAç(const std::string& yol, const std::string& ad, int biçim) {
     // SQLite's own limit, whose breach it would report as a matter of permissions.
     const auto enUzun = static_cast<std::size_t>(sqlite3_vfs_find(nullptr)->mxPathname);
     if (yol.size() + GünlükEki > enUzun)
@@ -91,11 +92,16 @@ SqliteBağlantısı Aç(const std::string& yol, const std::string& ad, int biçi
     Denetle(sonuç);
     Denetle(sqlite3_busy_timeout(ham, KilitBekleme));
     Denetle(sqlite3_create_collation_v2(ham, "TURKCE", SQLITE_UTF8, nullptr, TürkçeSıra, nullptr));
-    Denetle(sqlite3_db_config(ham, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr));
     Denetle(sqlite3_db_config(ham, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr));
+    return vt;
+}
+
+SqliteBağlantısı Aç(const std::string& yol, const std::string& ad, int biçim) {
+    SqliteBağlantısı vt = BaşlıksızAç(yol, ad, biçim);
+    Denetle(sqlite3_db_config(vt.get(), SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr));
     // EXTRA also syncs the folder after the journal is deleted, without which a power cut could bring the journal back
     // and undo a confirmed statement.
-    SqliteYürüt(ham, "PRAGMA synchronous=EXTRA; PRAGMA temp_store=MEMORY; PRAGMA cell_size_check=ON");
+    SqliteYürüt(vt.get(), "PRAGMA synchronous=EXTRA; PRAGMA temp_store=MEMORY; PRAGMA cell_size_check=ON");
     return vt;
 }
 
@@ -103,6 +109,12 @@ SqliteBağlantısı Aç(const std::string& yol, const std::string& ad, int biçi
 
 SqliteBağlantısı SqliteAç(const std::string& yol) {
     return Aç(yol, yol, SQLITE_OPEN_READWRITE);
+}
+
+SqliteBağlantısı SqliteOnarmayaAç(const std::string& yol) {
+    SqliteBağlantısı vt = BaşlıksızAç(yol, yol, SQLITE_OPEN_READWRITE);
+    SqliteYürüt(vt.get(), "PRAGMA writable_schema=ON");
+    return vt;
 }
 
 SqliteBağlantısı SqliteOkumayaAç(const std::string& yol) {

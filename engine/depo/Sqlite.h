@@ -28,6 +28,9 @@ SqliteBağlantısı SqliteAç(const std::string& yol);
 // The same for reading alone: nothing beside the file is looked at either. Nobody may write to it meanwhile.
 SqliteBağlantısı SqliteOkumayaAç(const std::string& yol);
 
+// For putting a damaged file's schema right: it opens whatever state the schema is in, and lets it be written.
+SqliteBağlantısı SqliteOnarmayaAç(const std::string& yol);
+
 // A name of the file as SQL takes it.
 std::string Tırnakla(std::string_view ad);
 

@@ -40,13 +40,8 @@ bool MetinGeçerli(sqlite3_value* değer, int uzunluk) {
            Utf16Uzunluğu(metin) <= static_cast<std::size_t>(uzunluk);
 }
 
-bool TarihGeçerli(std::int64_t tarih) {
-    return tarih > 0 && tarih <= 99991231 &&
-           TarihOluştur(static_cast<int>(tarih / 10000), static_cast<int>(tarih / 100 % 100),
-                        static_cast<int>(tarih % 100)) == tarih;
-}
+}  // namespace
 
-// Whether the engine could have written it.
 bool DeğerGeçerli(const SütunTanımı& sütun, sqlite3_value* değer) {
     const int tür = sqlite3_value_type(değer);
     if (tür == SQLITE_NULL) return !sütun.BoşOlamaz;
@@ -64,20 +59,18 @@ bool DeğerGeçerli(const SütunTanımı& sütun, sqlite3_value* değer) {
     return tür == SQLITE_INTEGER;
 }
 
-// What a damaged page says of itself; everything else (no memory, a full disk) ends the work.
 bool Hasar(const Hata& hata) {
     const int kod = hata.Yerel() & 0xFF;
     return kod == SQLITE_CORRUPT || kod == SQLITE_NOTADB || kod == SQLITE_IOERR;
 }
-
-}  // namespace
 
 TabloKurtarma::TabloKurtarma(sqlite3* kaynak, sqlite3* hedef, const TabloTanımı& tablo, std::int64_t sınır)
     : m_tablo(tablo),
       m_sınır(sınır),
       m_ileri(kaynak, SeçimSql(tablo, "")),
       m_geri(kaynak, SeçimSql(tablo, " DESC")),
-      m_ekle(hedef, EklemeSql(tablo)) {}
+      m_ekle(hedef, EklemeSql(tablo)),
+      m_alınanlar(hedef, "SELECT rowid FROM " + Tırnakla(tablo.Ad) + " WHERE rowid>?1 AND rowid<?2 ORDER BY rowid") {}
 
 bool TabloKurtarma::Geçerli(const SqliteDeyimi& deyim) const {
     for (std::size_t i = 0; i < m_tablo.Sütunlar.size(); ++i)
@@ -113,6 +106,7 @@ TabloKurtarma::Okunan TabloKurtarma::Oku(SqliteDeyimi& deyim, SatırAralığı a
         const bool sırada = geri ? no < okunan.Son && no > aralık.Alt : no > okunan.Son && no < aralık.Üst;
         if (!sırada) {
             deyim.Bırak();
+            m_sırasız = true;
             return okunan;
         }
         Al(deyim, no);
@@ -143,10 +137,17 @@ void TabloKurtarma::Yürü() {
     const Okunan baştan = Oku(m_ileri, {EnKüçük, EnBüyük}, false);
     if (baştan.Tamam) return;
     const Okunan sondan = Oku(m_geri, {baştan.Son, EnBüyük}, true);
-    if (sondan.Tamam) return;
+    // What could not be passed forwards was not there backwards: a page bears the numbers of another place.
+    m_sırasız |= sondan.Tamam;
     const std::int64_t alt = std::max<std::int64_t>(baştan.Son, 0);
     m_sınır = std::max(m_sınır, alt + 2);
-    std::vector<SatırAralığı> bilinmeyenler{{alt, sondan.Son == EnBüyük ? m_sınır : sondan.Son}};
+    const SatırAralığı bilinmeyen{alt, sondan.Son == EnBüyük ? m_sınır : sondan.Son};
+    Ara(bilinmeyen);
+    if (m_sırasız) AlınmayanlarıEkle(bilinmeyen);
+}
+
+void TabloKurtarma::Ara(SatırAralığı bilinmeyen) {
+    std::vector<SatırAralığı> bilinmeyenler{bilinmeyen};
     for (int deneme = 0; !bilinmeyenler.empty() && deneme < AzamiDeneme; ++deneme) {
         std::pop_heap(bilinmeyenler.begin(), bilinmeyenler.end(),
                       [](const SatırAralığı& a, const SatırAralığı& b) { return a.Üst - a.Alt < b.Üst - b.Alt; });
@@ -155,6 +156,19 @@ void TabloKurtarma::Yürü() {
         if (aralık.Üst - aralık.Alt > 1) Böl(bilinmeyenler, aralık);
     }
     m_kayıplar.insert(m_kayıplar.end(), bilinmeyenler.begin(), bilinmeyenler.end());
+}
+
+// Where pages lie in the wrong place nothing tells a row that is lost from a number that never was.
+void TabloKurtarma::AlınmayanlarıEkle(SatırAralığı aralık) {
+    m_alınanlar.Bağla(1, aralık.Alt);
+    m_alınanlar.Bağla(2, aralık.Üst);
+    std::int64_t önceki = aralık.Alt;
+    const auto ekle = [&](std::int64_t sonraki) {
+        if (sonraki - önceki > 1) m_kayıplar.push_back({önceki, sonraki});
+        önceki = sonraki;
+    };
+    while (m_alınanlar.Adım()) ekle(m_alınanlar.TamSayı(0));
+    ekle(aralık.Üst);
 }
 
 std::vector<SatırAralığı> TabloKurtarma::Kayıplar() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DosyaSemasi.h"
+#include "Hata.h"
 #include "Sqlite.h"
 
 #include <cstdint>
@@ -14,6 +15,12 @@ struct SatırAralığı {
     std::int64_t Alt;
     std::int64_t Üst;
 };
+
+// Whether the engine could have written the value into the column.
+bool DeğerGeçerli(const SütunTanımı& sütun, sqlite3_value* değer);
+
+// What a damaged page says of itself; everything else (no memory, a full disk) ends the work.
+bool Hasar(const Hata& hata);
 
 // Reads the rows of a table of which pages may be damaged, and writes them under their own numbers into the same table
 // of another file.
@@ -38,6 +45,8 @@ class TabloKurtarma {
     Okunan Oku(SqliteDeyimi& deyim, SatırAralığı aralık, bool geri);
     void Al(SqliteDeyimi& deyim, std::int64_t no);
     bool Geçerli(const SqliteDeyimi& deyim) const;
+    void Ara(SatırAralığı bilinmeyen);
+    void AlınmayanlarıEkle(SatırAralığı aralık);
     void Böl(std::vector<SatırAralığı>& bilinmeyenler, SatırAralığı aralık);
 
     const TabloTanımı& m_tablo;
@@ -45,7 +54,9 @@ class TabloKurtarma {
     SqliteDeyimi m_ileri;
     SqliteDeyimi m_geri;
     SqliteDeyimi m_ekle;
+    SqliteDeyimi m_alınanlar;
     std::int64_t m_kurtarılan = 0;
+    bool m_sırasız = false;  // a row bore a number that does not belong where it stood
     std::vector<SatırAralığı> m_kayıplar;
 };
 

@@ -1,7 +1,5 @@
 #include "Yedekleme.h"
 
-#include <unistd.h>
-
 #include "Bakim.h"
 #include "DosyaIslemleri.h"
 #include "Hata.h"
@@ -11,19 +9,6 @@
 namespace Motor {
 
 namespace {
-
-// Lets the connection's long work end when the file appears. `dur` outlives the work.
-void DurdurulurYap(sqlite3* vt, const std::string& dur) {
-    constexpr int adım = 100000;  // instructions of SQLite between two looks
-    if (dur.empty()) return;
-    const auto durdu = [](void* yol) -> int { return access(static_cast<const char*>(yol), F_OK) == 0 ? 1 : 0; };
-    sqlite3_progress_handler(vt, adım, durdu, const_cast<char*>(dur.c_str()));
-}
-
-// A check looks each row up in each index. Without memory for them the pages would be read again and again.
-void BellekVer(sqlite3* vt) {
-    SqliteYürüt(vt, "PRAGMA cache_size=-131072");  // at most so many KiB
-}
 
 void OkuyarakDenetle(const std::string& yol, std::string_view parola, const std::string& dur) {
     const AçıkDosya dosya = DosyayıTanı(SqliteOkumayaAç(yol), parola);

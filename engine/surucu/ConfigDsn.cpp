@@ -35,15 +35,16 @@ std::pair<std::string, std::string> YolÇifti(const std::string& istek, const st
     return {YoluÇöz(görünüm.substr(0, boşluk)), YoluÇöz(görünüm.substr(boşluk + 1))};
 }
 
-bool Sıkıştır(const std::string& yollar, const std::string& parola) {
+bool Sıkıştır(const std::string& yollar, const Öznitelikler& öznitelikler) {
     const auto [kaynak, hedef] = YolÇifti("COMPACT_DB", yollar);
-    VeriDosyasıSıkıştır(kaynak, hedef, parola);
+    VeriDosyasıSıkıştır(kaynak, hedef, öznitelikler.Değer("PWD"), YoluÇöz(öznitelikler.Değer("STOP")));
     return true;
 }
 
 bool Onar(const std::string& yollar, const Öznitelikler& öznitelikler) {
     const auto [kaynak, hedef] = YolÇifti("REPAIR_DB", yollar);
-    VeriDosyasıOnar(kaynak, hedef, öznitelikler.Değer("PWD"), öznitelikler.Değer("REPAIR_REPORT"));
+    VeriDosyasıOnar({kaynak, hedef, öznitelikler.Değer("PWD"), öznitelikler.Değer("REPAIR_REPORT"),
+                     öznitelikler.Değer("REPAIR_TABLES"), YoluÇöz(öznitelikler.Değer("STOP"))});
     return true;
 }
 
@@ -80,7 +81,7 @@ bool VeriKaynağınıYaz(const Öznitelikler& öznitelikler, const char* sürüc
 bool İsteğiYürüt(WORD istek, const char* sürücü, const Öznitelikler& öznitelikler) {
     if (istek == ODBC_REMOVE_DSN) return SQLRemoveDSNFromIni(öznitelikler.Değer("DSN").c_str());
     if (YedekİsteğiniYürüt(öznitelikler)) return true;
-    if (const std::string* yollar = öznitelikler.Bul("COMPACT_DB")) return Sıkıştır(*yollar, öznitelikler.Değer("PWD"));
+    if (const std::string* yollar = öznitelikler.Bul("COMPACT_DB")) return Sıkıştır(*yollar, öznitelikler);
     if (const std::string* yollar = öznitelikler.Bul("REPAIR_DB")) return Onar(*yollar, öznitelikler);
     if (const std::string* yol = öznitelikler.Bul("CREATE_DB")) {
         VeriDosyasıOluştur(*yol, öznitelikler.Değer("PWD"));

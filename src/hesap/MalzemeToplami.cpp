@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "SayiMetni.h"
+#include "TurkceMetin.h"
 
 MiktarParçaları MiktarıAyır(QStringView miktar) {
     const qsizetype ilk = miktar.indexOf(u' ');
@@ -28,8 +29,7 @@ std::optional<double> MiktarSayısı(std::string_view miktar) {
             kesir = 0;
             continue;
         }
-        if (harf < '0' || harf > '9' || ++rakam > sınır)
-            return MiktarSayısı(QStringView(QString::fromUtf8(miktar.data(), static_cast<qsizetype>(miktar.size()))));
+        if (harf < '0' || harf > '9' || ++rakam > sınır) return MiktarSayısı(QStringView(Utf8Metni(miktar)));
         sayı = sayı * 10 + (harf - '0');
         if (kesir >= 0) ++kesir;
     }

@@ -8,6 +8,7 @@
 #include "OdbcHareketi.h"
 #include "OdbcTanitici.h"
 #include "SayiCozumu.h"
+#include "TurkceMetin.h"
 
 İşSonucu İşSonucuYap(const OdbcSonucu& odbc, bool vazgeçildi) {
     if (!odbc.Başarılı()) return {İşSonu::Olmadı, odbc};
@@ -75,9 +76,7 @@ std::int64_t SayıSütunu(OdbcSatırı& satır, int sütun) {
         const std::string ad(satır.Baytlar(1).value_or(std::string_view()));
         const std::optional<Para> fiyat = SaklananPara(satır.Baytlar(2).value_or(std::string_view()));
         const auto yer = static_cast<std::uint32_t>(Malzemeler.size());
-        if (Dizin.BulYaDaEkle(ad, yer) == yer)
-            Malzemeler.push_back(
-                {QString::fromUtf8(ad.data(), static_cast<qsizetype>(ad.size())), fiyat.value_or(Para())});
+        if (Dizin.BulYaDaEkle(ad, yer) == yer) Malzemeler.push_back({Utf8Metni(ad), fiyat.value_or(Para())});
         vazgeçildi = ilerleme && !ilerleme(static_cast<std::int64_t>(Malzemeler.size()));
         return !vazgeçildi;
     });

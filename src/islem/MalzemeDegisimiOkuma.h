@@ -7,6 +7,7 @@
 #include "MalzemeDegisimi.h"
 #include "MalzemeToplami.h"
 #include "OdbcTanitici.h"
+#include "TurkceMetin.h"
 #include "UrunToplamlari.h"
 
 // The reading pass of DeğişimPlanı, for its own sources alone.
@@ -142,8 +143,8 @@ class DeğişimPlanı::Okuyucu {
         if (bulunan != yeni) return bulunan;
         Ürün& ürün = Ürünler.emplace_back();
         ürün.Listede = false;
-        ürün.Grup = QString::fromUtf8(grup.data(), static_cast<qsizetype>(grup.size()));
-        ürün.Ad = QString::fromUtf8(ad.data(), static_cast<qsizetype>(ad.size()));
+        ürün.Grup = Utf8Metni(grup);
+        ürün.Ad = Utf8Metni(ad);
         return bulunan;
     }
 

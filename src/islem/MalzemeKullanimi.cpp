@@ -7,6 +7,7 @@
 #include "MaliyetHesabi.h"
 #include "MalzemeToplami.h"
 #include "OdbcTanitici.h"
+#include "TurkceMetin.h"
 #include "TurkceSira.h"
 #include "UrunToplamlari.h"
 
@@ -57,8 +58,7 @@ class MalzemeKullanımı::Okuyucu {
     std::uint32_t MalzemeyiBul(std::string_view ad) {
         const auto yeni = static_cast<std::uint32_t>(m_kullanım.m_malzemeler.size());
         const std::uint32_t yer = m_adlar.BulYaDaEkle(ad, yeni);
-        if (yer == yeni)
-            m_kullanım.m_malzemeler.push_back({QString::fromUtf8(ad.data(), static_cast<qsizetype>(ad.size())), false});
+        if (yer == yeni) m_kullanım.m_malzemeler.push_back({Utf8Metni(ad), false});
         return yer;
     }
 

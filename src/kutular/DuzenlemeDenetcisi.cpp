@@ -49,8 +49,9 @@ void DüzenlemeDenetçisi::YinelemeyiOnar() {
 }
 
 void TekSatıraİndir(QString& metin, int& imleç) {
-    imleç = static_cast<int>(TekSatır(metin.left(imleç)).size());
-    metin = TekSatır(metin);
+    const auto temiz = [](const QString& ham) { return TekSatır(GörünmezleriAt(ham)); };
+    imleç = static_cast<int>(temiz(metin.left(imleç)).size());
+    metin = temiz(metin);
 }
 
 void AdYazılsın(QLineEdit* satır) {

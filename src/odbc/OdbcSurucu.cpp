@@ -64,16 +64,20 @@ bool BoşVeriDosyasıOluştur(const QString& yol) {
                           {QStringLiteral("UID=Admin"), ParolaNiteliği(), QStringLiteral("CREATE_DB=") + yol});
 }
 
-bool VeritabanınıSıkıştır(const QString& kaynak, const QString& hedef) {
-    return SürücüKurulumu(Kurulumİsteği::Ekle, {QStringLiteral("UID=Admin"), ParolaNiteliği(),
-                                                QStringLiteral("COMPACT_DB=") + kaynak + QLatin1Char(' ') + hedef});
+bool VeritabanınıSıkıştır(const QString& kaynak, const QString& hedef, const QString& dur) {
+    QStringList nitelikler{QStringLiteral("UID=Admin"), ParolaNiteliği(),
+                           QStringLiteral("COMPACT_DB=") + kaynak + QLatin1Char(' ') + hedef};
+    if (!dur.isEmpty()) nitelikler.append(QStringLiteral("STOP=") + SürücüYolu(dur));
+    return SürücüKurulumu(Kurulumİsteği::Ekle, nitelikler);
 }
 
-bool VeriDosyasınıOnar(const QString& kaynak, const QString& hedef, const QString& rapor) {
+bool VeriDosyasınıOnar(const QString& kaynak, const QString& hedef, const QString& rapor, const QString& bildirimler,
+                       const QString& dur) {
     return SürücüKurulumu(Kurulumİsteği::Ekle,
                           {QStringLiteral("UID=Admin"), ParolaNiteliği(),
                            QStringLiteral("REPAIR_DB=") + SürücüYolu(kaynak) + QLatin1Char(' ') + SürücüYolu(hedef),
-                           QStringLiteral("REPAIR_REPORT=") + rapor});
+                           QStringLiteral("REPAIR_REPORT=") + rapor, QStringLiteral("REPAIR_TABLES=") + bildirimler,
+                           QStringLiteral("STOP=") + SürücüYolu(dur)});
 }
 
 QString SürücüYolu(QString yol) {

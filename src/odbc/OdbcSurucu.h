@@ -34,12 +34,14 @@ bool BoşVeriDosyasıOluştur(const QString& yol);
 
 // Asks the driver to write a compacted copy of one data file to another place (both in the form of KısaYolAl); a file
 // and itself: to compact it where it is, while others may go on using it. The driver reads the whole source first and
-// refuses a damaged one. False: the target is as it was.
-bool VeritabanınıSıkıştır(const QString& kaynak, const QString& hedef);
+// refuses a damaged one. The work ends when the file `dur` appears. False: the target is as it was.
+bool VeritabanınıSıkıştır(const QString& kaynak, const QString& hedef, const QString& dur = {});
 
 // Asks the driver to save what can be read of a damaged data file into a new one, and to write into `rapor`, a line for
-// each, what could not be. False: nothing was saved.
-bool VeriDosyasınıOnar(const QString& kaynak, const QString& hedef, const QString& rapor);
+// each, what could not be. `bildirimler` is a data file with all tables that there may be; the work ends when the file
+// `dur` appears. False: nothing was saved.
+bool VeriDosyasınıOnar(const QString& kaynak, const QString& hedef, const QString& rapor, const QString& bildirimler,
+                       const QString& dur);
 
 // A path as the driver takes it in a pair of paths: blanks as %20, percent signs as %25.
 QString SürücüYolu(QString yol);

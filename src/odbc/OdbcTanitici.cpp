@@ -7,6 +7,7 @@
 
 #include <atomic>
 
+#include "TurkceMetin.h"
 #include "Utf8.h"
 
 namespace {
@@ -35,8 +36,7 @@ QList<OdbcHatası> HataKayıtlarınıAl(void* bağlantı, void* deyim) {
         if (!SQL_SUCCEEDED(sonuç)) return hatalar;
         const auto boy = static_cast<std::size_t>(qBound(0, int{uzunluk}, static_cast<int>(ileti.size()) - 1));
         const std::string_view metin = YarımKarakteriAt({reinterpret_cast<const char*>(ileti.data()), boy});
-        hatalar.append({QString::fromLatin1(reinterpret_cast<const char*>(durum.data())), yerelHata,
-                        QString::fromUtf8(metin.data(), static_cast<qsizetype>(metin.size()))});
+        hatalar.append({QString::fromLatin1(reinterpret_cast<const char*>(durum.data())), yerelHata, Utf8Metni(metin)});
     }
 }
 
@@ -220,7 +220,7 @@ std::int16_t OdbcDeyimi::Oku(int sütun, std::span<char> tampon, std::optional<s
 std::int16_t OdbcDeyimi::Oku(int sütun, QString& metin) {
     std::optional<std::string_view> değer;
     const std::int16_t sonuç = Oku(sütun, değer);
-    metin = değer ? QString::fromUtf8(değer->data(), static_cast<qsizetype>(değer->size())) : QString();
+    metin = değer ? Utf8Metni(*değer) : QString();
     return sonuç;
 }
 
@@ -258,5 +258,5 @@ std::optional<std::string_view> OdbcSatırı::İlkKez(int sütun) {
 
 QString OdbcSatırı::Metin(int sütun) {
     const std::optional<std::string_view> değer = Baytlar(sütun);
-    return değer ? QString::fromUtf8(değer->data(), static_cast<qsizetype>(değer->size())) : QString();
+    return değer ? Utf8Metni(*değer) : QString();
 }

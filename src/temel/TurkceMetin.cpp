@@ -1,5 +1,8 @@
 #include "TurkceMetin.h"
 
+#include <QStringDecoder>
+#include <algorithm>
+
 #include "TurkceSira.h"
 
 namespace {
@@ -22,6 +25,20 @@ QString TekSatır(const QString& metin) {
         öncekiKeser = keser;
     }
     return sonuç;
+}
+
+QString GörünmezleriAt(QString metin) {
+    return metin.removeIf([](QChar harf) {
+        const char16_t kod = harf.unicode();
+        return kod == 0xFEFF || kod == 0x200B || kod == 0x200E || kod == 0x200F || (kod >= 0x202A && kod <= 0x202E) ||
+               (kod >= 0x2060 && kod <= 0x2069);
+    });
+}
+
+QString Utf8Metni(std::string_view baytlar) {
+    const QByteArrayView görünüm(baytlar.data(), static_cast<qsizetype>(baytlar.size()));
+    if (!baytlar.starts_with("\xEF\xBB\xBF")) return QString::fromUtf8(görünüm);
+    return QStringDecoder(QStringDecoder::Utf8, QStringConverter::Flag::ConvertInitialBom)(görünüm);
 }
 
 QString TürkçeBaşHarfBüyüt(const QString& metin) {

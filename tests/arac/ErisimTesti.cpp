@@ -190,6 +190,7 @@ TEST_F(ErişimTesti, WhatCannotBeTakenOverWholeStaysAsItIs) {
             u"MalzemeTablosu tablosunun MalzemeAdi sütununda 254 karakterden uzun bir metin var: \"Uzun x"_s);
     Alınmaz(örnek.Baytlar().substr(0, 100'000), u"sonu eksik"_s);
     Alınmaz(örnek.Baytlar().substr(0, 30 * 4096), u"bozuk"_s);
+    Alınmaz(örnek.Baytlar().substr(0, 10 * 4096), u"kesilmiş ya da bozuk"_s);
     Alınmaz(bozuk(26, 16, 11), u"MalzemeTablosu tablosunda olması gerekenden az satır"_s);
     Alınmaz(bozuk(34, 4, 99), u"UrunMalzemeTablosu tablosu okunamıyor"_s);
     Alınmaz(bozuk(24, 55, 0x7F), u"bozuk"_s);  // the library crashes

@@ -115,6 +115,29 @@ TEST_F(VeriAracıTesti, KilledOrInterruptedRunLeavesNoFileUnderTheName) {
     EXPECT_EQ(Klasördekiler(), QStringList());
 }
 
+// The work of the driver's ends as well.
+TEST_F(VeriAracıTesti, InterruptedRepairAndReadingLeaveNothing) {
+    ASSERT_EQ(Çalıştır({u"buyuk"_s, Yol(u"Bir.vtb"_s), u"300000"_s}).kod, 0);
+    const QString geçici = Yol(u"gecici"_s);
+    ASSERT_TRUE(QDir().mkdir(geçici));
+    const QStringList önce = Klasördekiler();
+    for (const QString& komut : {u"onar"_s, u"disari-aktar"_s}) {
+        QProcess kesilen;
+        QProcessEnvironment ortam = QProcessEnvironment::systemEnvironment();
+        ortam.insert(u"TMPDIR"_s, geçici);
+        kesilen.setProcessEnvironment(ortam);
+        kesilen.start(QStringLiteral(VARNEK_BIN "/varnek-veri"), {komut, Yol(u"Bir.vtb"_s), Yol(u"Yeni"_s)});
+        ASSERT_TRUE(kesilen.waitForStarted());
+        while (QDir(geçici).isEmpty() && kesilen.state() == QProcess::Running) QThread::msleep(1);
+        QThread::msleep(20);
+        ::kill(pid_t(kesilen.processId()), SIGINT);
+        ASSERT_TRUE(kesilen.waitForFinished());
+        EXPECT_EQ(kesilen.exitCode(), 1) << komut.toStdString();
+        EXPECT_EQ(Klasördekiler(), önce) << komut.toStdString();
+        EXPECT_TRUE(QDir(geçici).isEmpty()) << komut.toStdString();
+    }
+}
+
 TEST_F(VeriAracıTesti, FailureLeavesNothingBehind) {
     // A disk that takes no more: no file may grow beyond 200,000 bytes.
     QProcess süreç;

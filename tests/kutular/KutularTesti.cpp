@@ -184,7 +184,7 @@ TEST_F(GirişKutuları, ÇıkıştaBiçimlenir) {
         EXPECT_EQ(kutu.text(), satır[3]) << satır[1].toStdString();
     }
     Form.Ad.setFocus();
-    Yapıştır(Form.Ad, "ısparta\r\n\tkapı\n");
+    Yapıştır(Form.Ad, "\uFEFFıspar\u200Bta\r\n\tkapı\n");
     EXPECT_EQ(Durum(Form.Ad), "ısparta kapı ^");
 }
 

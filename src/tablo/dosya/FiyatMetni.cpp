@@ -4,6 +4,7 @@
 
 #include "ParaIsareti.h"
 #include "SayiMetni.h"
+#include "TurkceMetin.h"
 
 namespace {
 
@@ -74,7 +75,7 @@ OkunanFiyat FiyatMetniOku(QStringView metin, Ondalıkİmi im) {
 }
 
 QString ListeAdı(const QString& metin) {
-    QString ad = metin.normalized(QString::NormalizationForm_C).simplified();
+    QString ad = GörünmezleriAt(metin).normalized(QString::NormalizationForm_C).simplified();
     ad.replace(u'\'', u'’');
     return ad;
 }

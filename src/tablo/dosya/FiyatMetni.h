@@ -24,6 +24,6 @@ OkunanFiyat FiyatOku(const ÇizelgeHücresi& hücre, Ondalıkİmi im = Ondalık�
 // ₺, TL or TRY before or behind is dropped; blanks within, any other sign or word, a negative number: Okunamaz.
 OkunanFiyat FiyatMetniOku(QStringView metin, Ondalıkİmi im = Ondalıkİmi::Seçilmedi);
 
-// A name as the catalogue keeps it: NFC, each run of blanks of any kind, tabs and line breaks one blank, none at the
-// ends, ' as ’.
+// A name as the catalogue keeps it: NFC, without marks that cannot be seen, each run of blanks of any kind, tabs and
+// line breaks one blank, none at the ends, ' as ’.
 QString ListeAdı(const QString& metin);

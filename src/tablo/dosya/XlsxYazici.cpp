@@ -12,6 +12,7 @@
 #include <xlsxwriter.h>
 
 #include "SayiMetni.h"
+#include "TurkceMetin.h"
 #include "ZipArsivi.h"
 
 using namespace Qt::StringLiterals;
@@ -54,8 +55,8 @@ QByteArray XmlMetni(const QString& ham) {
     static const QRegularExpression kaçış(u"_(?=x[0-9A-Fa-f]{4}_)"_s);
     const auto özel = [](QChar harf) { return harf == u'_' || harf.isSurrogate() || harf >= QChar(0xFFFE); };
     if (std::none_of(ham.begin(), ham.end(), özel)) return ham.toUtf8();
-    QString metin =
-        QString::fromUtf8(ham.toUtf8());  // without half characters, in which the pattern would find nothing
+    // Without half characters, in which the pattern would find nothing.
+    QString metin = Utf8Metni(ham.toStdString());
     metin.replace(kaçış, u"_x005F_"_s);
     metin.replace(QChar(0xFFFE), QChar::ReplacementCharacter).replace(QChar(0xFFFF), QChar::ReplacementCharacter);
     return metin.toUtf8();
