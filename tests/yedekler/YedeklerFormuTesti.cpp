@@ -105,6 +105,7 @@ TEST_F(YedeklerFormuTesti, GeriYüklenenFormdaGörünürEskisiSaklanır) {
 
 TEST_F(YedeklerFormuTesti, SeçilenGelirAğaçtaGörünürGeriAlınır) {
     ÜrünEkle("MASA", "Kitaplık", {"5", "50", "0", "0"});
+    KullanımEkle("MASA", "Kitaplık", "Tutkal", "1 Adet", "1");
     Aç();
     Modal("YedeklerMenüsü", "YedeklerFormu", [this] {
         Kutular().Yanıtla(Yanıt::Tamam);
@@ -143,7 +144,8 @@ TEST_F(YedeklerFormuTesti, SeçilenGelirAğaçtaGörünürGeriAlınır) {
         });
     });
     EXPECT_EQ(Satırlar(Ağaç), "MASA; -Kitaplık; -Sehpa");
-    EXPECT_EQ(Oku("SELECT UrunAdi, KullanilanMalzemeAdi FROM UrunMalzemeTablosu"), "Sehpa|Çam Kereste");
+    EXPECT_EQ(Oku("SELECT UrunAdi, KullanilanMalzemeAdi FROM UrunMalzemeTablosu WHERE UrunAdi= 'Sehpa'"),
+              "Sehpa|Çam Kereste");
     EXPECT_EQ(KopyaAdları().filter("once").size(), 1);
     m_veri.reset();
     Modal("GeriAlMenüsü", "SeçerekGetirFormu", [this] { Tıkla("GetirButonu"); });
