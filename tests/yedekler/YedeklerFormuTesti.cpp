@@ -166,7 +166,7 @@ TEST_F(YedeklerFormuTesti, SeçilenGelirAğaçtaGörünürGeriAlınır) {
             Tıkla("GetirButonu");
         });
     });
-    EXPECT_EQ(Yazı("İşçilikYüzdesiKutusu") + '|' + Yazı("KarYüzdesiKutusu"), "33|50,00");
+    EXPECT_EQ(Yazı("İşçilikYüzdesiKutusu") + '|' + Yazı("KarYüzdesiKutusu"), "33,00|50,00");
 }
 
 TEST_F(YedeklerFormuTesti, KapanıştaDeğişenYedeklenir) {
