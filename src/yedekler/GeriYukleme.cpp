@@ -8,6 +8,7 @@
 
 #include "ArkaIs.h"
 #include "DosyaKimligi.h"
+#include "GetirmeMetinleri.h"
 #include "KopyaYazma.h"
 #include "MesajKutusu.h"
 #include "OdbcModulu.h"
@@ -89,7 +90,8 @@ Dönüş Sakla(const VeriYolları& yollar, bool bağlı, const QString& dur) {
                           dur});
     if (kopya.Ne == KopyaSonucu::Tür::Yazıldı) return {Dönüş::Tür::Tamam, kopya.Yol, {}};
     if (kopya.Ne == KopyaSonucu::Tür::Durduruldu) return {Dönüş::Tür::Durduruldu, {}, {}};
-    if (kopya.Ne == KopyaSonucu::Tür::YerYok) return {Dönüş::Tür::Saklanamadı, {}, kopya.Neden};
+    if (kopya.Ne == KopyaSonucu::Tür::YerYok)
+        return {Dönüş::Tür::Saklanamadı, {}, Metin(GetirmeMetni::YerYok).arg(kopya.Neden)};
     const QString ham = HamınıSakla(yollar.YedekKlasörü, yollar.GerçekDosya);
     return {ham.isEmpty() ? Dönüş::Tür::Saklanamadı : Dönüş::Tür::Tamam, ham, kopya.Neden};
 }
