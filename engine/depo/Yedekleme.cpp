@@ -1,5 +1,8 @@
 #include "Yedekleme.h"
 
+#include <exception>
+#include <thread>
+
 #include "Bakim.h"
 #include "DosyaIslemleri.h"
 #include "Hata.h"
@@ -16,6 +19,38 @@ void OkuyarakDenetle(const std::string& yol, std::string_view parola, const std:
     DurdurulurYap(dosya.Vt.get(), dur);
     BütünlüğüDenetle(dosya.Vt.get());
 }
+
+// The check of a file while another connection copies it: both take long, and neither waits for the other.
+class ArkadaDenetim {
+  public:
+    explicit ArkadaDenetim(sqlite3* vt) : m_vt(vt), m_işçi([this] { Denetle(); }) {}
+    ~ArkadaDenetim() {
+        if (!m_işçi.joinable()) return;
+        sqlite3_interrupt(m_vt);  // the copy has failed: nobody asks any more
+        m_işçi.join();
+    }
+    ArkadaDenetim(const ArkadaDenetim&) = delete;
+    ArkadaDenetim& operator=(const ArkadaDenetim&) = delete;
+
+    // Throws what the check found.
+    void Bekle() {
+        m_işçi.join();
+        if (m_hata) std::rethrow_exception(m_hata);
+    }
+
+  private:
+    void Denetle() {
+        try {
+            BütünlüğüDenetle(m_vt);
+        } catch (...) {
+            m_hata = std::current_exception();
+        }
+    }
+
+    sqlite3* m_vt;
+    std::exception_ptr m_hata;
+    std::thread m_işçi;  // the last to be made
+};
 
 // A file too damaged to be locked is in no client's transaction either.
 SqliteBağlantısı HedefiKilitle(const std::string& hedef) {
@@ -45,10 +80,14 @@ void VeriDosyasıYedekle(const std::string& kaynak, const std::string& hedefYolu
                         const std::string& dur) {
     if (Dosya::YolVar(hedefYolu))
         throw Hata(Durum::Genel, "Bu adda bir dosya zaten var; üzerine yazılmadı: " + hedefYolu);
+    const AçıkDosya denetlenen = VeriDosyasıAç(kaynak, parola);
+    BellekVer(denetlenen.Vt.get());
+    DurdurulurYap(denetlenen.Vt.get(), dur);
+    // Nobody writes from here on, so that what is checked is what is copied.
+    SqliteYürüt(denetlenen.Vt.get(), "BEGIN; SELECT Count(*) FROM sqlite_schema");
     const AçıkDosya dosya = VeriDosyasıAç(kaynak, parola);
     DurdurulurYap(dosya.Vt.get(), dur);
-    BellekVer(dosya.Vt.get());
-    BütünlüğüDenetle(dosya.Vt.get());
+    ArkadaDenetim denetim(denetlenen.Vt.get());
     GeçiciDosya geçici(GerçekYol(hedefYolu));
     {
         SqliteDeyimi sıkıştır(dosya.Vt.get(), "VACUUM INTO ?1");
@@ -56,6 +95,7 @@ void VeriDosyasıYedekle(const std::string& kaynak, const std::string& hedefYolu
         sıkıştır.Adım();
     }
     OkuyarakDenetle(geçici.Yol(), parola, dur);
+    denetim.Bekle();
     geçici.Yerleştir(Dosya::Yerleştirme::Yeni);
 }
 
