@@ -8,7 +8,7 @@
 
 namespace {
 
-KopyaSonucu Yazılamadı(const OdbcSonucu& odbc) {
+ÜrünKopyaSonucu Yazılamadı(const OdbcSonucu& odbc) {
     return {KopyaSonu::Yazılamadı, odbc};
 }
 
@@ -19,7 +19,7 @@ class Kopyalayıcı {
         : m_bağlantı(bağlantı), m_yeni(yeni), m_tarih(Deyimler::Tarih(gün)) {}
 
     // The product's row comes first: from then on nobody else writes, and what is read stays so.
-    KopyaSonucu Yaz(const ÜrünAdı& eski, const SaklananÜrün& saklanan) {
+    ÜrünKopyaSonucu Yaz(const ÜrünAdı& eski, const SaklananÜrün& saklanan) {
         static_cast<void>(Değiştir(Deyimler::ÜrünEkle(m_yeni.Grup, m_yeni.Ad)) &&
                           Say(Deyimler::ÜrünVarMı(m_yeni.Grup, m_yeni.Ad), 1, KopyaSonu::AdVar) &&
                           Say(Deyimler::KullanılanMalzemeler(m_yeni.Grup, m_yeni.Ad), 0, KopyaSonu::KalanVar) &&
@@ -72,7 +72,7 @@ class Kopyalayıcı {
     OdbcBağlantısı& m_bağlantı;
     const ÜrünAdı& m_yeni;
     const QString m_tarih;
-    KopyaSonucu m_sonuç;
+    ÜrünKopyaSonucu m_sonuç;
 };
 
 }  // namespace
@@ -93,8 +93,8 @@ class Kopyalayıcı {
     return İşSonucuYap(odbc);
 }
 
-KopyaSonucu ÜrünüKopyala(OdbcBağlantısı& bağlantı, const ÜrünAdı& eski, const SaklananÜrün& saklanan,
-                         const ÜrünAdı& yeni, QDate gün) {
+ÜrünKopyaSonucu ÜrünüKopyala(OdbcBağlantısı& bağlantı, const ÜrünAdı& eski, const SaklananÜrün& saklanan,
+                             const ÜrünAdı& yeni, QDate gün) {
     const YarıMamulBağları* bağlar = nullptr;
     if (const İşSonucu s = YarıMamulleriAl(bağlantı, bağlar); !s.Tamam()) return Yazılamadı(s.Odbc);
     QStringList malzemeler;
@@ -104,7 +104,8 @@ KopyaSonucu ÜrünüKopyala(OdbcBağlantısı& bağlantı, const ÜrünAdı& esk
         return {KopyaSonu::Döngü, {}, zincir};
     OdbcHareketi hareket(bağlantı);  // rolls back on every way out but the commit's success
     if (const OdbcSonucu s = hareket.Başla(); !s.Başarılı()) return Yazılamadı(s);
-    if (const KopyaSonucu s = Kopyalayıcı(bağlantı, yeni, gün).Yaz(eski, saklanan); s.Son != KopyaSonu::Tamam) return s;
+    if (const ÜrünKopyaSonucu s = Kopyalayıcı(bağlantı, yeni, gün).Yaz(eski, saklanan); s.Son != KopyaSonu::Tamam)
+        return s;
     if (const Yayılım y = YarıMamulleriYay(bağlantı, {.Ürünler = {yeni}}); !y.Sonuç.Tamam())
         return Yazılamadı(y.Sonuç.Odbc);
     if (const OdbcSonucu s = hareket.Onayla(); !s.Başarılı()) {

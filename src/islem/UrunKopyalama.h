@@ -33,7 +33,7 @@ enum class KopyaSonu {
     Değişmiş,   // the product is not what is to be copied any more
     Yazılamadı  // a statement failed
 };
-struct [[nodiscard]] KopyaSonucu {
+struct [[nodiscard]] ÜrünKopyaSonucu {
     KopyaSonu Son = KopyaSonu::Tamam;
     OdbcSonucu Odbc;       // of what failed
     QStringList Zincir{};  // the names along the circle
@@ -41,5 +41,5 @@ struct [[nodiscard]] KopyaSonucu {
 
 // Adds the product `yeni` with what `saklanan` holds; its rows bear `gün` as their day of use. All of it in one
 // transaction, or nothing.
-KopyaSonucu ÜrünüKopyala(OdbcBağlantısı& bağlantı, const ÜrünAdı& eski, const SaklananÜrün& saklanan,
-                         const ÜrünAdı& yeni, QDate gün);
+ÜrünKopyaSonucu ÜrünüKopyala(OdbcBağlantısı& bağlantı, const ÜrünAdı& eski, const SaklananÜrün& saklanan,
+                             const ÜrünAdı& yeni, QDate gün);

@@ -83,7 +83,7 @@ bool ÜrünKopyalaFormu::ÜrünüOku() {
 void ÜrünKopyalaFormu::Kopyala() {
     if (!YeniÜrünUygun(*m_grup, *m_ad)) return;
     m_yeni = {KayıtlıGrup(*m_grup), m_ad->text()};
-    const KopyaSonucu sonuç = ÜrünüKopyala(ODBCBağlantısı(), m_eski, m_saklanan, m_yeni, Bugün());
+    const ÜrünKopyaSonucu sonuç = ÜrünüKopyala(ODBCBağlantısı(), m_eski, m_saklanan, m_yeni, Bugün());
     switch (sonuç.Son) {
         case KopyaSonu::Tamam:
             accept();
