@@ -126,7 +126,7 @@ rm -rf "$(dirname "$veri")"
 ac_kapat varnek # the backup is the first start's: empty
 olmali test -s "$veri"
 for kayip in "$veri" "$ev/.local/share/Tovrek"; do # the file alone, then the whole folder
-    rm -rf "$kayip" "$yedek"
+    rm -rf "$kayip" "$(dirname "$yedek")" # with the dated copies, which the start would offer
     kullanici varnek &
     surec=$!
     olmali pencere 'Varnek'
